@@ -1,0 +1,83 @@
+#pragma once
+
+#include "song/xls/FormatError.h"
+#include "song/xls/Value.h"
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace zvonika::xls {
+
+using Bytes = std::vector<std::uint8_t>;
+
+constexpr int maxRows = 65536; ///< rows of a sheet in BIFF8
+constexpr int maxColumns = 256; ///< columns of a sheet in BIFF8
+
+/// Cell position, counted from 0: row 0..65535, column 0..255.
+struct CellRef {
+    int row = 0;
+    int column = 0;
+    friend bool operator==(const CellRef&, const CellRef&) = default;
+};
+
+/// An .xls workbook as an editor sees it: everything that was in the file stays in it, records and streams
+/// alike; only what is changed here (and what must follow it) is written anew.
+///
+/// Sheets are counted from 0 in workbook order and are worksheets only; chart and macro sheets stay in the
+/// file but are not counted. An index or cell outside the range is a programming error (std::out_of_range).
+class Workbook {
+public:
+    /// A new BIFF8 workbook with one empty worksheet. `sheetName`: 1 to 31 UTF-16 units.
+    static Workbook create(const std::u16string& sheetName);
+
+    /// Reads a file's bytes. Throws FormatError.
+    static Workbook open(Bytes file);
+
+    Workbook(Workbook&&) noexcept;
+    Workbook& operator=(Workbook&&) noexcept;
+    ~Workbook();
+
+    /// The file's bytes. Without a change since `open`, exactly the bytes that were read.
+    Bytes save() const;
+
+    int sheetCount() const;
+    std::u16string sheetName(int sheet) const;
+    /// Throws std::invalid_argument when the name is empty, longer than 31 units, contains one of : \ / ? * [ ]
+    /// or is already another sheet's name (compared without regard to ASCII case).
+    void renameSheet(int sheet, const std::u16string& name);
+
+    Value value(int sheet, CellRef cell) const;
+    /// Replaces the cell's contents; std::monostate empties it (the cell's format stays). A formula there is
+    /// replaced. A text may have up to 32,767 UTF-16 units (std::invalid_argument beyond).
+    void setValue(int sheet, CellRef cell, const Value& value);
+    bool isFormula(int sheet, CellRef cell) const;
+
+    /// One past the last row/column that holds a value; 0 in an empty sheet.
+    int usedRows(int sheet) const;
+    int usedColumns(int sheet) const;
+
+    /// Column width in units of 1/256 of a character of the default font; the sheet's default where none is set.
+    int columnWidth(int sheet, int column) const;
+    void setColumnWidth(int sheet, int column, int width);
+
+    int activeSheet() const;
+    void setActiveSheet(int sheet);
+    /// The cell the cursor stood on when the sheet was last saved.
+    CellRef activeCell(int sheet) const;
+    void setActiveCell(int sheet, CellRef cell);
+
+    /// True when `save` would give other bytes than were read (always for a created workbook).
+    bool isModified() const;
+    /// True when the file is of an older BIFF version that `save` writes back as BIFF8.
+    bool isConverted() const;
+
+private:
+    struct Impl;
+    explicit Workbook(std::unique_ptr<Impl> impl);
+    std::unique_ptr<Impl> impl_;
+};
+
+} // namespace zvonika::xls
