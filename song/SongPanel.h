@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+#include <array>
+
+namespace zvonika {
+
+/// Background of the two stepping buttons, by what it tells. Two different colours for push, on purpose.
+enum class BarvaKroku {
+    Neznamy,     ///< system colour 11: direction unknown, or no song
+    Tah,         ///< &HFF8080 light blue
+    Tlak,        ///< &HC000C0 purple, while stepping
+    TlakPoZapisu ///< 8421631 light red, after recording
+};
+
+/// The texts of the main window that speak of the open song.
+class SongPanel : public QObject {
+    Q_OBJECT
+public:
+    using QObject::QObject;
+
+    QString titulek = QStringLiteral("Zvonika"); ///< caption of the main window
+    QString lblTon = QStringLiteral("1");        ///< grip counter: row number
+    QString lblStupnice;                         ///< key of the current row
+    QString lblLadeni = QStringLiteral("Tonavox12"); ///< tuning: name of the sheet
+    QStringList listy;                           ///< entries of Combo1
+    QString Combo1;                              ///< text of Combo1
+    /// Syllables around the current row: two before, the row itself, two after.
+    std::array<QString, 5> lblSlabika;
+    bool popisyViditelne = false;                ///< lblPopisD and lblPopisB
+    QString lblTony, lblBasy;
+    BarvaKroku barvaKroku = BarvaKroku::Neznamy;
+    QString stav;                                ///< status line: what to do next, warnings
+    int zapsanychHmatu = 0;                      ///< grips recorded in this run
+
+    void oznamZmenu() { Q_EMIT zmeneno(); }
+
+Q_SIGNALS:
+    void zmeneno();
+};
+
+} // namespace zvonika
