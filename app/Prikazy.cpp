@@ -1,0 +1,116 @@
+#include "app/Prikazy.h"
+
+namespace zvonika {
+
+using Druh = DruhTlacitka;
+
+const QVector<TlacitkoPrikazu>& tlacitkaPrikazu() {
+    static const QVector<TlacitkoPrikazu> tabulka = {
+        // the song
+        {"cmdNovaSkladba", "Nová píseň", "", {60, 60, 1200, 400}, Druh::Hlavni, "Ctrl+N"},
+        {"cmdEdit", "Otevřít", "", {1290, 60, 1170, 400}, Druh::Hlavni, "Ctrl+O"},
+        {"cmdEndEdit", "Konec písničky", "", {2490, 60, 1290, 400}, Druh::Hlavni, "Ctrl+E"},
+        // its key
+        {"cmdStupnice",
+         "Vyberte tóninu",
+         "Zapsaná stupnice: volba tóniny",
+         {13920, 5870, 2020, 390},
+         Druh::Bezne,
+         "Ctrl+T"},
+        // recording
+        {"cmdTahNoty", "< Tah", "Zapsat noty z osnovy na tah", {14330, 5350, 780, 430}, Druh::Tah, "Ctrl+F7"},
+        {"cmdTlakNoty",
+         "> Tlak",
+         "Zapsat noty z osnovy na tlak",
+         {15150, 5350, 790, 430},
+         Druh::Tlak,
+         "Ctrl+F8"},
+        {"cmdTah", "< Tah", "Zapsat hmat na tah", {12060, 6350, 1920, 600}, Druh::Tah, "F7"},
+        {"cmdTlak", "> Tlak", "Zapsat hmat na tlak", {14020, 6350, 1920, 600}, Druh::Tlak, "F8"},
+        // moving through the song
+        {"cmdPrvni", "První", "První hmat", {12060, 7060, 940, 390}, Druh::Bezne, "Ctrl+Home"},
+        {"cmdPredchozi", "Předchozí", "Předchozí hmat", {13040, 7060, 940, 390}, Druh::Bezne, "Ctrl+Up"},
+        {"cmdDalsi", "Další", "Další hmat", {14020, 7060, 940, 390}, Druh::Bezne, "Ctrl+Down"},
+        {"cmdPosledni", "Poslední", "Poslední hmat", {15000, 7060, 940, 390}, Druh::Bezne, "Ctrl+End"},
+        {"cmdPredTah", "Před- chozí tah", "Předchozí hmat na tah", {12060, 7490, 940, 560}, Druh::Tah},
+        {"cmdPredTlak", "Před- chozí tlak", "Předchozí hmat na tlak", {13040, 7490, 940, 560}, Druh::Tlak},
+        {"cmdDalsiTah", "Další tah", "Další hmat na tah", {14020, 7490, 940, 560}, Druh::Tah},
+        {"cmdDalsiTlak", "Další tlak", "Další hmat na tlak", {15000, 7490, 940, 560}, Druh::Tlak},
+        {"cmdReadTah", "Tah", "Ukázat hmat na tah", {12060, 8090, 940, 390}, Druh::Tah, "Ctrl+Left"},
+        {"cmdReadTlak", "Tlak", "Ukázat hmat na tlak", {13040, 8090, 940, 390}, Druh::Tlak, "Ctrl+Right"},
+        {"cmdJakDalZpet", "Zpět", "Zpět o hmat podle měchu (PageUp)", {12060, 8540, 1260, 700}},
+        {"cmdJakDal", "", "Dál o hmat podle měchu (PageDown)", {13360, 8540, 2580, 700}},
+        {"cmdTimer", "Automat", "Automatické krokování", {12060, 9330, 1260, 420}, Druh::Bezne, "F9"},
+        {"cmdZvuk(0)", "", "Přehrát mp3", {12060, 9940, 1260, 390}},
+        {"cmdZvuk(1)", "Midi", "Přehrát Midi", {13370, 9940, 1260, 390}},
+        {"cmdZvuk(2)", "Wav", "Přehrát Wav", {14680, 9940, 1260, 390}},
+        // releasing
+        {"cmdUvolDiskant", "Uvolnit diskant", "", {7560, 5290, 1620, 370}},
+        {"cmdUvolBasy", "Uvolnit basy", "", {7560, 5690, 1620, 370}},
+        {"cmdUvolNoty", "Uvolnit noty", "", {7560, 6090, 1620, 370}},
+        {"cmdUvolniPultony", "b", "Uvolnit půltóny", {7560, 6490, 480, 370}},
+        {"cmdUvolOdrazky", "Uvolnit odrážky", "", {8070, 6490, 1110, 370}},
+        {"cmdUvolKnofl", "Uvolnit vše", "", {7560, 6890, 1620, 420}, Druh::Hlavni, "F4"},
+        // intervals
+        {"cmdInterval", "Vrchní interval", "Interval nad zvoleným tónem", {7560, 7560, 1620, 400}},
+        {"cmdSpodInterval", "Spodní interval", "Interval pod zvoleným tónem", {7560, 8000, 1620, 400}},
+        {"cmdIntervalOdNejnizsiho",
+         "Od nejnižšího tónu",
+         "Interval od nejnižšího tónu hmatu",
+         {7560, 8440, 1620, 400}},
+        {"cmdOPrg", "O programu", "", {7560, 9940, 1620, 390}},
+    };
+    return tabulka;
+}
+
+const QVector<Menu>& menuPrikazu() {
+    static const QVector<Menu> tabulka = {
+        {"Soubor",
+         {{"mnuNovaPisen", "Nová píseň", "cmdNovaSkladba"},
+          {"mnuOtevrit", "Otevřít", "cmdEdit"},
+          {"mnuKonecPisne", "Konec písničky", "cmdEndEdit"},
+          {},
+          {"mnuNastavCestu", "Změna implicitní cesty pro Excel", "mnuNastavCestu"},
+          {},
+          {"mnuKonec", "Konec", "mnuKonec", false, "Ctrl+Q"}}},
+        {"Úpravy",
+         {{"mnuKonverze", "Konverze", "mnuKonverze"},
+          {},
+          {"mnuUvolnitDiskant", "Uvolnit diskant", "cmdUvolDiskant"},
+          {"mnuUvolnitBasy", "Uvolnit basy", "cmdUvolBasy"},
+          {"mnuUvolnitNoty", "Uvolnit noty", "cmdUvolNoty"},
+          {"mnuUvolnitPultony", "Uvolnit půltóny", "cmdUvolniPultony"},
+          {"mnuUvolnitOdrazky", "Uvolnit odrážky", "cmdUvolOdrazky"},
+          {"mnuUvolnitVse", "Uvolnit vše", "cmdUvolKnofl"}}},
+        {"Nastavení",
+         {{"mnuPrekrytRady", "Překrýt řady", "mnuPrekrytRady"},
+          {"mnuOtocitHmatnik", "Otočit hmatník", "mnuOtocitHmatnik"},
+          {},
+          {"mnu2Rady", "Názvy na knoflíkách", "mnu2Rady", true},
+          {"mnuCislovat", "Pomocné číslování", "mnuCislovat", true}}},
+        {"Pošta", {{"mnuMailAutorovi", "Poslat zprávu autorovi", "mnuMailAutorovi"}}},
+        {"Nápověda", {{"mnuhtm", "Ovládání Tamíka", "mnuhtm"}, {"mnuOProgramu", "O programu", "cmdOPrg"}}},
+    };
+    return tabulka;
+}
+
+const QStringList& dosudNedostupne() {
+    static const QStringList tabulka = {
+        "mnuNastavCestu",
+        "mnuKonverze",
+        "mnuPrekrytRady",
+        "mnuOtocitHmatnik",
+        "mnu2Rady",
+        "mnuCislovat",
+        "mnuhtm",
+        "cmdInterval",
+        "cmdSpodInterval",
+        "cmdTimer",
+        "Slider1",
+        "lblTempo",
+        "cmdIntervalOdNejnizsiho",
+    };
+    return tabulka;
+}
+
+} // namespace zvonika

@@ -1,0 +1,104 @@
+#include "app/ui/PrikazoveTlacitko.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+namespace zvonika {
+
+namespace {
+
+QColor zakladniBarva(PrikazoveTlacitko::Vyznam vyznam) {
+    switch (vyznam) {
+    case PrikazoveTlacitko::Vyznam::Tah:
+        return QColor(0xD6, 0xE2, 0xFF);
+    case PrikazoveTlacitko::Vyznam::Tlak:
+        return QColor(0xF1, 0xD9, 0xF3);
+    case PrikazoveTlacitko::Vyznam::Hlavni:
+        return QColor(0xFB, 0xEE, 0xD2);
+    case PrikazoveTlacitko::Vyznam::Bezny:
+        break;
+    }
+    return QColor(0xFB, 0xFA, 0xF7);
+}
+
+bool jeTmava(const QColor& barva) {
+    return qGray(barva.rgb()) < 128;
+}
+
+} // namespace
+
+PrikazoveTlacitko::PrikazoveTlacitko(const QString& popisek, Vyznam vyznam, QWidget* parent)
+    : QPushButton(popisek, parent), vyznam_(vyznam) {
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_Hover);
+}
+
+void PrikazoveTlacitko::nastavBarvu(std::optional<QColor> barva) {
+    if (barva_ == barva) return;
+    barva_ = barva;
+    update();
+}
+
+void PrikazoveTlacitko::nastavSipku(char sipka) {
+    sipka_ = sipka;
+    update();
+}
+
+QColor PrikazoveTlacitko::plocha() const {
+    QColor barva = isEnabled() ? barva_.value_or(zakladniBarva(vyznam_)) : QColor(0xEC, 0xEA, 0xE4);
+    if (isDown() || isChecked()) return barva.darker(115);
+    return isEnabled() && underMouse() ? barva.lighter(barva_ ? 112 : 103) : barva;
+}
+
+void PrikazoveTlacitko::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF telo = QRectF(rect()).adjusted(0.75, 0.75, -0.75, -1.25);
+    const double polomer = std::min(6.0, telo.height() / 5);
+    const QColor barva = plocha();
+    QLinearGradient stin(telo.topLeft(), telo.bottomLeft());
+    stin.setColorAt(0, barva.lighter(104));
+    stin.setColorAt(1, barva.darker(isDown() ? 100 : 106));
+    painter.setPen(QPen(isEnabled() ? QColor(0xA8, 0x9F, 0x8E) : QColor(0xCF, 0xCA, 0xC0), 1));
+    painter.setBrush(stin);
+    painter.drawRoundedRect(telo, polomer, polomer);
+    if (hasFocus()) {
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(QColor(0x2B, 0x5F, 0xB8), 2));
+        painter.drawRoundedRect(telo.adjusted(1.5, 1.5, -1.5, -1.5), polomer - 1, polomer - 1);
+    }
+    QColor pismo = jeTmava(barva) ? QColor(Qt::white) : QColor(0x22, 0x1E, 0x18);
+    if (!isEnabled()) pismo = QColor(0x9A, 0x94, 0x88);
+    const QRect misto = rect().adjusted(3, 2, -3, -3);
+    if (!text().isEmpty())
+        kresliPopisek(painter, misto, pismo);
+    else if (sipka_ != 0)
+        kresliSipku(painter, misto, pismo);
+}
+
+void PrikazoveTlacitko::kresliPopisek(QPainter& painter, const QRect& misto, const QColor& barva) const {
+    constexpr int vlajky = Qt::AlignCenter | Qt::TextWordWrap;
+    QFont pismo = font();
+    for (int velikost = pismo.pixelSize(); velikost > 7; --velikost) {
+        pismo.setPixelSize(velikost);
+        const QRect potreba = QFontMetrics(pismo).boundingRect(misto, vlajky, text());
+        if (potreba.width() <= misto.width() && potreba.height() <= misto.height()) break;
+    }
+    painter.setFont(pismo);
+    painter.setPen(barva);
+    painter.drawText(misto, vlajky, text());
+}
+
+void PrikazoveTlacitko::kresliSipku(QPainter& painter, const QRect& misto, const QColor& barva) const {
+    const double vyska = misto.height() * 0.52;
+    const double smer = sipka_ == '>' ? 1 : -1;
+    const QPointF stred = QRectF(misto).center();
+    QPainterPath sipka;
+    sipka.moveTo(stred + QPointF(-smer * vyska * 0.5, -vyska / 2));
+    sipka.lineTo(stred + QPointF(smer * vyska * 0.5, 0));
+    sipka.lineTo(stred + QPointF(-smer * vyska * 0.5, vyska / 2));
+    sipka.closeSubpath();
+    painter.fillPath(sipka, barva);
+}
+
+} // namespace zvonika

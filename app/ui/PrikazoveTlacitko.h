@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QColor>
+#include <QPushButton>
+
+#include <optional>
+
+namespace zvonika {
+
+/// A command button of the main window: its caption wraps at blanks and shrinks before it would be clipped,
+/// its face may carry a colour.
+class PrikazoveTlacitko : public QPushButton {
+public:
+    enum class Vyznam { Bezny, Tah, Tlak, Hlavni };
+
+    PrikazoveTlacitko(const QString& popisek, Vyznam vyznam, QWidget* parent = nullptr);
+
+    /// Face colour; nothing for the usual one.
+    void nastavBarvu(std::optional<QColor> barva);
+    /// A drawn mark for buttons without text: '>' or '<', or 0.
+    void nastavSipku(char sipka);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    QSize sizeHint() const override { return {20, 16}; }
+    QSize minimumSizeHint() const override { return {8, 8}; }
+
+private:
+    QColor plocha() const;
+    void kresliPopisek(QPainter& painter, const QRect& misto, const QColor& barva) const;
+    void kresliSipku(QPainter& painter, const QRect& misto, const QColor& barva) const;
+
+    Vyznam vyznam_;
+    std::optional<QColor> barva_;
+    char sipka_ = 0;
+};
+
+} // namespace zvonika
