@@ -1,0 +1,97 @@
+#include "platform/IniSettingsStore.h"
+#include "platform/UserSettings.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace zvonika {
+namespace {
+
+const QString section = QStringLiteral("Zabrany");
+
+class SettingsFile : public ::testing::Test {
+protected:
+    void write(const QByteArray& text) const
+    {
+        QFile out(file);
+        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+        out.write(text);
+    }
+    QByteArray contents() const
+    {
+        QFile in(file);
+        return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
+    }
+
+    QTemporaryDir folder;
+    QString file = folder.filePath(QStringLiteral("Tonavox12.ini"));
+};
+
+TEST_F(SettingsFile, KeepsTextsBySectionAndKey)
+{
+    const QString texts[] = {QStringLiteral("1"),     QStringLiteral("Příčná, řada; \"x\" = @ \\ %"),
+                             QStringLiteral("@zvuk"), QStringLiteral(" mezery "),
+                             QString(QLatin1String(""))};
+    int number = 0;
+    for (const auto& text : texts)
+        IniSettingsStore(file).save(section, QString::number(++number), text);
+
+    const IniSettingsStore store(file);
+    number = 0;
+    for (const auto& text : texts)
+        EXPECT_EQ(store.get(section, QString::number(++number)), text) << text.toStdString();
+    EXPECT_FALSE(store.get(section, QStringLiteral("9")));
+    EXPECT_FALSE(store.get(QStringLiteral("Znaceni"), QStringLiteral("1")));
+    EXPECT_EQ(store.getOr(section, QStringLiteral("9"), QStringLiteral("0")), QStringLiteral("0"));
+}
+
+TEST_F(SettingsFile, IsAnIniFileThatAUserCanWrite)
+{
+    IniSettingsStore(file).save(section, QStringLiteral("1"), QStringLiteral("True"));
+    EXPECT_TRUE(contents().contains("[Zabrany]")) << contents().toStdString();
+    EXPECT_TRUE(contents().contains("1=True")) << contents().toStdString();
+
+    write("[PopisKnof]\nIndex=žluťoučký, kůň\n");
+    EXPECT_EQ(IniSettingsStore(file).get(QStringLiteral("PopisKnof"), QStringLiteral("Index")),
+              QStringLiteral("žluťoučký, kůň"));
+}
+
+TEST_F(SettingsFile, DamagedCountsAsEmptyAndIsPutAside)
+{
+    const QByteArray rubbish = "[Zabrany]\n1=True\nrubbish without a sign\n\x01\x02";
+    write(rubbish);
+    IniSettingsStore store(file);
+    EXPECT_FALSE(store.get(section, QStringLiteral("1")));
+
+    store.save(section, QStringLiteral("2"), QStringLiteral("True"));
+    EXPECT_EQ(store.get(section, QStringLiteral("2")), QStringLiteral("True"));
+    EXPECT_EQ(IniSettingsStore(file).get(section, QStringLiteral("2")), QStringLiteral("True"));
+    EXPECT_FALSE(IniSettingsStore(file).get(section, QStringLiteral("1")));
+    QFile aside(file + QStringLiteral(".bak"));
+    ASSERT_TRUE(aside.open(QIODevice::ReadOnly));
+    EXPECT_EQ(aside.readAll(), rubbish);
+}
+
+TEST_F(SettingsFile, ThatCannotBeWrittenKeepsTheValueForTheRun)
+{
+    write("a plain file where a folder is needed");
+    IniSettingsStore store(file + QStringLiteral("/x.ini"));
+    store.save(section, QStringLiteral("1"), QStringLiteral("True"));
+    EXPECT_EQ(store.get(section, QStringLiteral("1")), QStringLiteral("True"));
+}
+
+#ifndef Q_OS_WIN
+TEST_F(SettingsFile, LiesInTheUsersConfigurationFolder)
+{
+    const QByteArray before = qgetenv("XDG_CONFIG_HOME");
+    qputenv("XDG_CONFIG_HOME", folder.path().toUtf8());
+    userSettings(QStringLiteral("Tonavox12"))->save(section, QStringLiteral("1"), QStringLiteral("True"));
+    before.isNull() ? qunsetenv("XDG_CONFIG_HOME") : qputenv("XDG_CONFIG_HOME", before);
+    EXPECT_TRUE(contents().contains("1=True"));
+}
+#endif
+
+} // namespace
+} // namespace zvonika
