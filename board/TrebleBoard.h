@@ -69,6 +69,7 @@ Q_SIGNALS:
     void klavesaZmenena(int n); ///< colour or label of key n
     void zabranyZmeneny();
     void cislovaniZmeneno();
+    void nazvyZmeneny(); ///< nastavNazvy was called
 
 private:
     struct Knoflik {

@@ -1,0 +1,235 @@
+#include "app/ui/Form1.h"
+
+#include "app/Prikazy.h"
+#include "app/ui/PrikazoveTlacitko.h"
+#include "app/ui/TwipsScene.h"
+#include "board/TrebleBoard.h"
+#include "song/CommandStates.h"
+#include "song/SongPanel.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QLabel>
+#include <QMenuBar>
+#include <QSignalBlocker>
+#include <QSlider>
+#include <QStatusBar>
+
+#include <optional>
+
+namespace zvonika {
+
+namespace {
+
+PrikazoveTlacitko::Vyznam vyznam(DruhTlacitka druh)
+{
+    switch (druh) {
+    case DruhTlacitka::Tah:
+        return PrikazoveTlacitko::Vyznam::Tah;
+    case DruhTlacitka::Tlak:
+        return PrikazoveTlacitko::Vyznam::Tlak;
+    case DruhTlacitka::Hlavni:
+        return PrikazoveTlacitko::Vyznam::Hlavni;
+    case DruhTlacitka::Bezne:
+        break;
+    }
+    return PrikazoveTlacitko::Vyznam::Bezny;
+}
+
+/// A colour written blue-green-red.
+QColor zBgr(unsigned bgr)
+{
+    return QColor(int(bgr & 0xFF), int(bgr >> 8 & 0xFF), int(bgr >> 16 & 0xFF));
+}
+
+std::optional<QColor> barva(BarvaKroku krok)
+{
+    switch (krok) {
+    case BarvaKroku::Tah:
+        return zBgr(0xFF8080);
+    case BarvaKroku::Tlak:
+        return zBgr(0xC000C0);
+    case BarvaKroku::TlakPoZapisu:
+        return zBgr(8421631);
+    case BarvaKroku::Neznamy:
+        break;
+    }
+    return std::nullopt;
+}
+
+QLabel* popisek(const QString& jmeno, const QString& text, QWidget* rodic)
+{
+    auto* label = new QLabel(text, rodic);
+    label->setObjectName(jmeno);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+} // namespace
+
+Form1::Form1(SongPanel& panel, CommandStates& stavy, TrebleBoard& hmatnik)
+    : panel_(panel), stavy_(stavy), hmatnik_(hmatnik), scena_(new TwipsScene({sirkaSceny, vyskaSceny}, this))
+{
+    setObjectName(QStringLiteral("Form1"));
+    setCentralWidget(scena_);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    postavTlacitka();
+    postavPopisky();
+    postavMenu();
+    stav_ = popisek(QStringLiteral("lblStav"), {}, this);
+    statusBar()->addWidget(stav_, 1);
+    statusBar()->setSizeGripEnabled(false);
+    connect(&panel_, &SongPanel::zmeneno, this, &Form1::ukazPanel);
+    connect(&stavy_, &CommandStates::zmeneno, this, &Form1::povol);
+    connect(&hmatnik_, &TrebleBoard::cislovaniZmeneno, this, &Form1::ukazZaskrtnuti);
+    connect(&hmatnik_, &TrebleBoard::nazvyZmeneny, this, &Form1::ukazZaskrtnuti);
+    ukazPanel();
+}
+
+void Form1::umisti(QWidget* prvek, const QRect& twips)
+{
+    scena_->place(prvek, twips);
+}
+
+void Form1::nastavVzdyNahore()
+{
+    setWindowFlag(Qt::WindowStaysOnTopHint, true);
+}
+
+void Form1::nastavPoradi(const QList<QWidget*>& poradi)
+{
+    for (qsizetype i = 1; i < poradi.size(); ++i)
+        setTabOrder(poradi[i - 1], poradi[i]);
+}
+
+QWidget* Form1::prvek(const QString& jmeno) const
+{
+    return findChild<QWidget*>(jmeno);
+}
+
+void Form1::postavTlacitka()
+{
+    for (const TlacitkoPrikazu& radek : tlacitkaPrikazu()) {
+        auto* tlacitko = new PrikazoveTlacitko(radek.popisek, vyznam(radek.druh), scena_);
+        tlacitko->setObjectName(radek.jmeno);
+        const QString nazev = radek.pristupne.isEmpty() ? radek.popisek : radek.pristupne;
+        tlacitko->setAccessibleName(nazev);
+        if (!radek.zkratka.isEmpty())
+            tlacitko->setShortcut(QKeySequence(radek.zkratka));
+        tlacitko->setToolTip(radek.zkratka.isEmpty() ? nazev : nazev + QStringLiteral(" (%1)").arg(radek.zkratka));
+        connect(tlacitko, &QPushButton::clicked, this, [this, jmeno = radek.jmeno] { Q_EMIT prikaz(jmeno); });
+        tlacitka_.insert(radek.jmeno, tlacitko);
+        umisti(tlacitko, radek.twips);
+        tlacitko->setEnabled(stavy_.povolen(radek.jmeno));
+    }
+    tlacitka_[QStringLiteral("cmdJakDal")]->nastavSipku('>');
+}
+
+void Form1::postavPopisky()
+{
+    combo_ = new QComboBox(scena_);
+    combo_->setObjectName(QStringLiteral("Combo1"));
+    combo_->setAccessibleName(QStringLiteral("Listy písničky (ladění)"));
+    combo_->setToolTip(combo_->accessibleName());
+    umisti(combo_, {60, 530, 2380, 380});
+    // activated, not currentTextChanged: only the user's choice counts
+    connect(combo_, &QComboBox::textActivated, this, &Form1::listVybran);
+
+    lblLadeni_ = popisek(QStringLiteral("lblLadeni"), {}, scena_);
+    lblLadeni_->setToolTip(QStringLiteral("Ladění"));
+    umisti(lblLadeni_, {2520, 530, 1260, 380});
+    umisti(popisek(QStringLiteral("lblPopisStupnice"), QStringLiteral("Zapsaná stupnice:"), scena_),
+           {12060, 5870, 1830, 390});
+    lblTon_ = popisek(QStringLiteral("lblTon"), {}, scena_);
+    lblTon_->setAlignment(Qt::AlignCenter);
+    lblTon_->setAccessibleName(QStringLiteral("Číslo hmatu"));
+    lblTon_->setToolTip(lblTon_->accessibleName());
+    umisti(lblTon_, {15000, 8090, 940, 390});
+    auto* popisHmatu = popisek(QStringLiteral("lblPopisHmatu"), QStringLiteral("Hmat:"), scena_);
+    popisHmatu->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    umisti(popisHmatu, {14020, 8090, 900, 390});
+
+    auto* posuvnik = new QSlider(Qt::Horizontal, scena_);
+    posuvnik->setObjectName(QStringLiteral("Slider1"));
+    posuvnik->setRange(-5, 5);
+    posuvnik->setAccessibleName(QStringLiteral("Tempo automatického krokování"));
+    umisti(posuvnik, {13360, 9330, 2580, 300});
+    auto* tempo = popisek(QStringLiteral("lblTempo"), QStringLiteral("<--- Tempo --->"), scena_);
+    tempo->setAlignment(Qt::AlignCenter);
+    umisti(tempo, {13360, 9620, 2580, 240});
+    for (QWidget* prvek : {static_cast<QWidget*>(combo_), static_cast<QWidget*>(posuvnik), static_cast<QWidget*>(tempo)})
+        prvek->setEnabled(stavy_.povolen(prvek->objectName()));
+}
+
+void Form1::postavMenu()
+{
+    for (const Menu& menu : menuPrikazu()) {
+        QMenu* rolovaci = menuBar()->addMenu(menu.popisek);
+        for (const PolozkaMenu& polozka : menu.polozky) {
+            if (polozka.jmeno.isEmpty()) {
+                rolovaci->addSeparator();
+                continue;
+            }
+            QAction* akce = rolovaci->addAction(polozka.popisek);
+            akce->setObjectName(polozka.jmeno);
+            akce->setCheckable(polozka.zaskrtavaci);
+            akce->setShortcut(QKeySequence(polozka.zkratka));
+            akce->setEnabled(stavy_.povolen(polozka.jmeno));
+            connect(akce, &QAction::triggered, this, [this, p = polozka.prikaz] { Q_EMIT prikaz(p); });
+            akce_.insert(polozka.jmeno, akce);
+        }
+    }
+}
+
+void Form1::povol(const QString& jmeno, bool povolit)
+{
+    if (QAction* akce = akce_.value(jmeno))
+        akce->setEnabled(povolit);
+    else if (QWidget* nalezeny = prvek(jmeno))
+        nalezeny->setEnabled(povolit);
+}
+
+void Form1::ukazPanel()
+{
+    setWindowTitle(panel_.titulek);
+    lblTon_->setText(panel_.lblTon);
+    lblLadeni_->setText(panel_.lblLadeni);
+    stav_->setText(panel_.stav);
+    ukazListy();
+    ukazBarvuKroku();
+}
+
+void Form1::ukazListy()
+{
+    const QSignalBlocker ticho(combo_); // a text set by the program is no choice
+    QStringList ukazane;
+    for (int i = 0; i < combo_->count(); ++i)
+        ukazane << combo_->itemText(i);
+    if (ukazane != panel_.listy) {
+        combo_->clear();
+        combo_->addItems(panel_.listy);
+    }
+    combo_->setCurrentIndex(combo_->findText(panel_.Combo1));
+}
+
+void Form1::ukazBarvuKroku()
+{
+    tlacitka_[QStringLiteral("cmdJakDal")]->nastavBarvu(barva(panel_.barvaKroku));
+    tlacitka_[QStringLiteral("cmdJakDalZpet")]->nastavBarvu(barva(panel_.barvaKroku));
+}
+
+void Form1::ukazZaskrtnuti()
+{
+    akce_[QStringLiteral("mnu2Rady")]->setChecked(hmatnik_.nazvyZapnuty());
+    akce_[QStringLiteral("mnuCislovat")]->setChecked(hmatnik_.cislovani());
+}
+
+void Form1::closeEvent(QCloseEvent* event)
+{
+    event->accept();
+    if (const auto zavreni = std::exchange(priZavreni, nullptr))
+        zavreni();
+}
+
+} // namespace zvonika

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <QHash>
+#include <QMainWindow>
+
+#include <functional>
+
+class QAction;
+class QComboBox;
+class QLabel;
+class QSlider;
+
+namespace zvonika {
+
+class CommandStates;
+class PrikazoveTlacitko;
+class SongPanel;
+class TrebleBoard;
+class TwipsScene;
+
+/// The main window: one scene with everything of a grip, menus and command buttons. It forwards clicks by control
+/// name and shows what the models say; it decides nothing.
+class Form1 : public QMainWindow {
+    Q_OBJECT
+public:
+    Form1(SongPanel& panel, CommandStates& stavy, TrebleBoard& hmatnik);
+
+    /// Places a control of another folder in the scene.
+    void umisti(QWidget* prvek, const QRect& twips);
+    /// Keeps the window above all others.
+    void nastavVzdyNahore();
+    /// Tab order of the scene: the controls in the order of the work.
+    void nastavPoradi(const QList<QWidget*>& poradi);
+    QWidget* prvek(const QString& jmeno) const;
+
+    /// Called by `closeEvent`, once; the window closes in any case.
+    std::function<void()> priZavreni;
+
+Q_SIGNALS:
+    void prikaz(const QString& jmeno); ///< a button or menu entry was chosen
+    void listVybran(const QString& nazev); ///< the user chose a sheet in Combo1
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void postavTlacitka();
+    void postavPopisky();
+    void postavMenu();
+    void ukazPanel();
+    void ukazListy();
+    void ukazBarvuKroku();
+    void ukazZaskrtnuti();
+    void povol(const QString& jmeno, bool povolit);
+
+    SongPanel& panel_;
+    CommandStates& stavy_;
+    TrebleBoard& hmatnik_;
+    TwipsScene* scena_;
+    QHash<QString, PrikazoveTlacitko*> tlacitka_;
+    QHash<QString, QAction*> akce_;
+    QComboBox* combo_ = nullptr;
+    QLabel* lblTon_ = nullptr;
+    QLabel* lblLadeni_ = nullptr;
+    QLabel* stav_ = nullptr;
+};
+
+/// Extent of the main window's scene in twips.
+inline constexpr int sirkaSceny = 16000;
+inline constexpr int vyskaSceny = 10400;
+
+} // namespace zvonika
