@@ -21,6 +21,7 @@ struct Grip {
     QString tonina;    ///< W: key in which the row was written
 
     bool prazdny() const { return tony.isEmpty() && basy.isEmpty(); }
+    friend bool operator==(const Grip&, const Grip&) = default;
 };
 
 } // namespace zvonika

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "platform/Drive.h"
+#include "song/Navigace.h"
+#include "song/Zvuk.h"
+
+namespace zvonika {
+
+/// The life of a song: creating, opening, choosing one of its sheets, ending. At most one song is open at a time.
+/// Whatever fails, no song is ever left half open.
+class ZivotPisne {
+public:
+    /// The parts of the program that a song brings to life and that fall silent with it.
+    struct Spolupracovnici {
+        ZobrazeniHmatu& zobrazeni;
+        PasPisne& pas;
+        Navigace& navigace;
+        Zvuk& zvuk;
+        std::function<void()> uvolniVse; ///< releases the whole board
+    };
+
+    ZivotPisne(const OkoliPisne& okoli, Drive& drive, const Spolupracovnici& spolupracovnici);
+
+    /// New song. Failures of the spreadsheet application are reported here; their cause stands in
+    /// `panel.upozorneni`.
+    void cmdNovaSkladba();
+    /// Open song. Throws AutomationError; no song is open then and the commands are as before.
+    void cmdEdit();
+    /// The user has chosen a sheet in Combo1. Throws AutomationError.
+    void Combo1Click(const QString& list);
+    /// End of song. The song is forgotten in any case; failures of saving are reported here.
+    void cmdEndEdit();
+
+    /// Fills the list of Combo1 with the names of all sheets, in workbook order. Throws AutomationError.
+    void NaplnListy();
+
+    /// The state without a song, as after its end: also the state in which the program starts.
+    void stavBezPisne();
+
+private:
+    void zalozSesit(const QString& jmeno);
+    void ozivNovouPisen();
+    void ukazOtevrenouPisen();
+    void ulozAZavri();
+    void opustRozdelane();
+    void ohlasZalozeni(const AutomationError& chyba);
+    void ohlasUlozeni(const AutomationError& chyba);
+    void vyprazdniTexty();
+
+    OkoliPisne okoli_;
+    Drive& drive_;
+    Spolupracovnici s_;
+    SongSheet list_;
+};
+
+} // namespace zvonika

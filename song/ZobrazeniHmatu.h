@@ -1,0 +1,75 @@
+#pragma once
+
+#include "song/SongPanel.h"
+#include "song/SongSheet.h"
+
+#include <functional>
+
+namespace zvonika {
+
+class BassBoard;
+class BassTable;
+class TrebleBoard;
+class ZobrazovaciOsnova;
+
+/// What a stored grip is shown on.
+struct PlochyHmatu {
+    TrebleBoard& diskant;
+    BassBoard& basy;
+    const BassTable& tabulkaBasu;
+    ZobrazovaciOsnova& osnova;
+    SongPanel& panel;
+};
+
+/// Shows the grip of the current row: pull or push pictures of its treble and bass buttons, fingering, display staff
+/// and the text panel. Marks of the grip being recorded and the red piano keys stay as they are; a marked button that
+/// the shown grip lets go shows its red picture again. Calls that read the sheet make one block read and may throw
+/// AutomationError.
+class ZobrazeniHmatu {
+public:
+    /// Puts the fingering of column V on the buttons, with its own messages.
+    using UkazPrstoklad = std::function<void(const QString& zaznam)>;
+
+    ZobrazeniHmatu(const Pisen& pisen, const PlochyHmatu& plochy, UkazPrstoklad ukazPrstoklad);
+
+    /// True when the board shows the push side.
+    bool zobrazenTlak() const { return zobrazenTlak_; }
+
+    /// The grip of the current row on the side of `zobrazenTlak`. What it cannot show (foreign tones, unknown
+    /// basses) stands in `panel.upozorneni`, which it always sets.
+    void ZobrazHmat();
+    void cmdReadTah();  ///< pull side, then the cursor to column B
+    void cmdReadTlak(); ///< push side, then the cursor to column B
+
+    /// The grip of the current row on the side that its column I names (a missing direction keeps the side), without
+    /// a box and without moving the cursor; a faulty fingering is told in `panel.upozorneni`. Returns the direction.
+    SmerMechu ZobrazHmatPotichu();
+
+    /// Only the text panel and the counter of the current row.
+    void ZobrazTexty();
+    /// Lets go what is shown of a grip: pictures, finger digits and staff. Does not read the sheet.
+    void odeberHmat();
+
+private:
+    struct OkoliRadku {
+        int radek = 1;
+        QVector<Grip> hmaty; ///< the row with its neighbours
+        int index = 0;       ///< of the row in `hmaty`
+        const Grip& hmat() const { return hmaty.at(index); }
+    };
+
+    OkoliRadku prectiOkoli() const;
+    void ukazHmat(const OkoliRadku& okoli);
+    void ukazTexty(const OkoliRadku& okoli);
+    void uvolniObrazky();
+    QStringList ukazTony(const QStringList& tony);
+    QStringList ukazBasy(const QStringList& basy);
+    QString upozorneni(const QStringList& ciziTony, const QStringList& ciziBasy) const;
+
+    SongSheet list_;
+    PlochyHmatu plochy_;
+    UkazPrstoklad ukazPrstoklad_;
+    bool zobrazenTlak_ = false;
+};
+
+} // namespace zvonika

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/Drive.h"
+#include "song/OkoliPisne.h"
+
+namespace zvonika {
+
+/// The sound files of the song.
+class Zvuk {
+public:
+    Zvuk(const OkoliPisne& okoli, const Drive& drive) : okoli_(okoli), drive_(drive) {}
+
+    /// Called when a song has been created or opened: switches off the commands that start another one, enables the
+    /// sheet list, shows the active sheet's name, and enables cmdZvuk(0) for the song's mp3, (1) for its mid and (2)
+    /// for its wav file where the working folder has it. May throw AutomationError.
+    void NajdiZvuk();
+
+    /// Click on a sound button: fails with error 9 at once. Nothing traps it, so the click ends the program.
+    [[noreturn]] void cmdZvuk(int index) const;
+
+private:
+    OkoliPisne okoli_;
+    const Drive& drive_;
+};
+
+} // namespace zvonika
