@@ -4,11 +4,10 @@
 
 namespace zvonika {
 
-QString desktopLink(const QString& link)
-{
+QString desktopLink(const QString& link) {
     const QString bare = link.startsWith(QLatin1Char('"')) ? link.mid(1) : link;
-    // The characters that structure a link, and the percent sign of what is encoded already.
-    return QString::fromLatin1(QUrl::toPercentEncoding(bare, ":/?#[]@!$&'()*+,;=%"));
+    // The tolerant reading leaves encoded characters alone and encodes a stray percent sign.
+    return QString::fromLatin1(QUrl(bare, QUrl::TolerantMode).toEncoded());
 }
 
 } // namespace zvonika

@@ -8,13 +8,11 @@ namespace zvonika {
 namespace {
 
 #ifndef Q_OS_WIN
-bool hasDrive(const QString& path)
-{
+bool hasDrive(const QString& path) {
     return path.size() >= 2 && path.at(1) == QLatin1Char(':') && path.at(0).isLetter();
 }
 
-QString withSlashes(QString path)
-{
+QString withSlashes(QString path) {
     return path.replace(QLatin1Char('\\'), QLatin1Char('/'));
 }
 #endif
@@ -22,12 +20,9 @@ QString withSlashes(QString path)
 } // namespace
 
 HomeDrive::HomeDrive(const QString& root, const QString& programFolder)
-    : root_(root), programFolder_(programFolder)
-{
-}
+    : root_(root), programFolder_(programFolder) {}
 
-QString HomeDrive::nativePath(const QString& path) const
-{
+QString HomeDrive::nativePath(const QString& path) const {
 #ifdef Q_OS_WIN
     return path;
 #else
@@ -37,24 +32,20 @@ QString HomeDrive::nativePath(const QString& path) const
 #endif
 }
 
-bool HomeDrive::fileExists(const QString& path) const
-{
+bool HomeDrive::fileExists(const QString& path) const {
     return QFileInfo(nativePath(path)).isFile();
 }
 
-bool HomeDrive::folderExists(const QString& path) const
-{
+bool HomeDrive::folderExists(const QString& path) const {
     return QFileInfo(nativePath(path)).isDir();
 }
 
-bool HomeDrive::createFolder(const QString& path)
-{
+bool HomeDrive::createFolder(const QString& path) {
     const QString native = nativePath(path);
     return !native.isEmpty() && QDir().mkdir(native);
 }
 
-bool HomeDrive::deleteFile(const QString& path)
-{
+bool HomeDrive::deleteFile(const QString& path) {
     return QFile::remove(nativePath(path));
 }
 

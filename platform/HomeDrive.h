@@ -4,9 +4,9 @@
 
 namespace zvonika {
 
-/// Drive C: is one native folder, the user's home as a rule; there are no other drives. On Windows, where drives
-/// exist, paths are passed on as they are. Slashes and backslashes are both accepted after a drive; a path without
-/// a drive is native already.
+/// Drive C: is one native folder, the user's home as a rule; there are no other drives. On Windows, where
+/// drives exist, paths are passed on as they are. Slashes and backslashes are both accepted after a drive; a
+/// path without a drive is native already.
 class HomeDrive : public Drive {
 public:
     /// `root`: the native folder that is C:; `programFolder`: where tables and manual live, native.

@@ -8,58 +8,50 @@ namespace zvonika {
 
 namespace {
 
-QString entry(const QString& section, const QString& key)
-{
+QString entry(const QString& section, const QString& key) {
     return section + QLatin1Char('/') + key;
 }
 
 // A value with commas that was written by hand is read as a list; to this program it is one text.
-QString asText(const QVariant& value)
-{
+QString asText(const QVariant& value) {
     return value.typeId() == QMetaType::QStringList ? value.toStringList().join(QStringLiteral(", "))
                                                     : value.toString();
 }
 
-std::unique_ptr<QSettings> openIni(const QString& file)
-{
-    return std::make_unique<QSettings>(file, QSettings::IniFormat);
+// Sections are parsed when they are first asked for; a fault shows only after all of them have been.
+bool isDamaged(const QSettings& settings) {
+    settings.allKeys();
+    return settings.status() == QSettings::FormatError;
 }
 
 } // namespace
 
 IniSettingsStore::IniSettingsStore(const QString& file)
-    : file_(file), settings_(openIni(file)), damaged_(settings_->status() == QSettings::FormatError)
-{
-}
+    : settings_(file, QSettings::IniFormat), damaged_(isDamaged(settings_)) {}
 
-QString IniSettingsStore::fileFor(const QString& application)
-{
+QString IniSettingsStore::fileFor(const QString& application) {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
     return QDir(folder).filePath(application + QStringLiteral(".ini"));
 }
 
-std::optional<QString> IniSettingsStore::get(const QString& section, const QString& key) const
-{
+std::optional<QString> IniSettingsStore::get(const QString& section, const QString& key) const {
     const QString name = entry(section, key);
-    if (damaged_ || !settings_->contains(name)) return std::nullopt;
-    return asText(settings_->value(name));
+    if (damaged_ || !settings_.contains(name)) return std::nullopt;
+    return asText(settings_.value(name));
 }
 
-void IniSettingsStore::save(const QString& section, const QString& key, const QString& value)
-{
+void IniSettingsStore::save(const QString& section, const QString& key, const QString& value) {
     if (damaged_) putDamagedFileAside();
-    settings_->setValue(entry(section, key), value);
-    settings_->sync();
+    settings_.setValue(entry(section, key), value);
+    settings_.sync();
 }
 
-void IniSettingsStore::putDamagedFileAside()
-{
-    const QString aside = file_ + QStringLiteral(".bak");
-    settings_->clear();
-    settings_.reset();
+void IniSettingsStore::putDamagedFileAside() {
+    const QString file = settings_.fileName();
+    const QString aside = file + QStringLiteral(".bak");
     QFile::remove(aside);
-    QFile::rename(file_, aside);
-    settings_ = openIni(file_);
+    QFile::copy(file, aside);
+    settings_.clear();
     damaged_ = false;
 }
 

@@ -4,12 +4,11 @@
 
 #include <QSettings>
 
-#include <memory>
-
 namespace zvonika {
 
-/// Settings kept in a UTF-8 INI file, grouped [section] key=value. A damaged file counts as empty; it is put aside
-/// as "<name>.bak" when the first value is saved. A file that cannot be written keeps the values for the run.
+/// Settings kept in a UTF-8 INI file, grouped [section] key=value. A damaged file counts as empty; it is put
+/// aside as "<name>.bak" when the first value is saved. A file that cannot be written keeps the values for
+/// the run.
 class IniSettingsStore : public SettingsStore {
 public:
     /// `file`: full native name; need not exist.
@@ -24,8 +23,7 @@ public:
 private:
     void putDamagedFileAside();
 
-    QString file_;
-    std::unique_ptr<QSettings> settings_;
+    QSettings settings_;
     bool damaged_;
 };
 

@@ -12,19 +12,16 @@ namespace {
 class RegistrySettingsStore : public SettingsStore {
 public:
     explicit RegistrySettingsStore(const QString& application)
-        : settings_(QStringLiteral("HKEY_CURRENT_USER\\Software\\VB and VBA Program Settings\\") + application,
-                    QSettings::NativeFormat)
-    {
-    }
+        : settings_(QStringLiteral("HKEY_CURRENT_USER\\Software\\VB and VBA Program Settings\\") +
+                        application,
+                    QSettings::NativeFormat) {}
 
-    std::optional<QString> get(const QString& section, const QString& key) const override
-    {
+    std::optional<QString> get(const QString& section, const QString& key) const override {
         const QVariant value = settings_.value(section + QLatin1Char('/') + key);
         return value.isValid() ? std::optional(value.toString()) : std::nullopt;
     }
 
-    void save(const QString& section, const QString& key, const QString& value) override
-    {
+    void save(const QString& section, const QString& key, const QString& value) override {
         settings_.setValue(section + QLatin1Char('/') + key, value);
         settings_.sync();
     }
@@ -35,15 +32,13 @@ private:
 
 } // namespace
 
-std::unique_ptr<SettingsStore> userSettings(const QString& application)
-{
+std::unique_ptr<SettingsStore> userSettings(const QString& application) {
     return std::make_unique<RegistrySettingsStore>(application);
 }
 
 #else
 
-std::unique_ptr<SettingsStore> userSettings(const QString& application)
-{
+std::unique_ptr<SettingsStore> userSettings(const QString& application) {
     return std::make_unique<IniSettingsStore>(IniSettingsStore::fileFor(application));
 }
 

@@ -7,8 +7,7 @@ namespace zvonika {
 namespace {
 
 // By source text: the same words mean the same in every one of the toolkit's contexts that a user meets here.
-const QHash<QByteArray, QString>& table()
-{
+const QHash<QByteArray, QString>& table() {
     static const QHash<QByteArray, QString> texts{
         {"&Undo", QStringLiteral("&Zpět")},
         {"&Redo", QStringLiteral("Zno&vu")},
@@ -71,15 +70,13 @@ const QHash<QByteArray, QString>& table()
     return texts;
 }
 
-bool isToolkits(const char* context)
-{
+bool isToolkits(const char* context) {
     return context && context[0] == 'Q';
 }
 
 } // namespace
 
-QString CzechTranslator::translate(const char* context, const char* sourceText, const char*, int) const
-{
+QString CzechTranslator::translate(const char* context, const char* sourceText, const char*, int) const {
     if (!isToolkits(context) || !sourceText) return {};
     return table().value(QByteArray::fromRawData(sourceText, qsizetype(qstrlen(sourceText))));
 }

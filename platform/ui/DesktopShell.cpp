@@ -9,13 +9,11 @@
 
 namespace zvonika {
 
-bool DesktopShell::open(const QString& link)
-{
+bool DesktopShell::open(const QString& link) {
     return QDesktopServices::openUrl(QUrl(desktopLink(link)));
 }
 
-void DesktopShell::endProcess(int exitCode)
-{
+void DesktopShell::endProcess(int exitCode) {
     std::_Exit(exitCode);
 }
 

@@ -36,38 +36,43 @@ constexpr std::array<ButtonText, 4> buttonTexts{{
     {Answer::Cancel, QMessageBox::Cancel, "Storno", "Storno"},
 }};
 
-const ButtonText& buttonText(Answer answer)
-{
+const ButtonText& buttonText(Answer answer) {
     for (const auto& entry : buttonTexts)
         if (entry.answer == answer) return entry;
     return buttonTexts.front();
 }
 
-QList<Answer> answersOf(Buttons buttons)
-{
+QList<Answer> answersOf(Buttons buttons) {
     switch (buttons) {
-    case Buttons::OkCancel: return {Answer::Ok, Answer::Cancel};
-    case Buttons::YesNo: return {Answer::Yes, Answer::No};
-    case Buttons::YesNoCancel: return {Answer::Yes, Answer::No, Answer::Cancel};
-    case Buttons::Ok: break;
+    case Buttons::OkCancel:
+        return {Answer::Ok, Answer::Cancel};
+    case Buttons::YesNo:
+        return {Answer::Yes, Answer::No};
+    case Buttons::YesNoCancel:
+        return {Answer::Yes, Answer::No, Answer::Cancel};
+    case Buttons::Ok:
+        break;
     }
     return {Answer::Ok};
 }
 
-QMessageBox::Icon iconOf(Icon icon)
-{
+QMessageBox::Icon iconOf(Icon icon) {
     switch (icon) {
-    case Icon::Critical: return QMessageBox::Critical;
-    case Icon::Exclamation: return QMessageBox::Warning;
-    case Icon::Information: return QMessageBox::Information;
-    case Icon::Question: return QMessageBox::Question;
-    case Icon::None: break;
+    case Icon::Critical:
+        return QMessageBox::Critical;
+    case Icon::Exclamation:
+        return QMessageBox::Warning;
+    case Icon::Information:
+        return QMessageBox::Information;
+    case Icon::Question:
+        return QMessageBox::Question;
+    case Icon::None:
+        break;
     }
     return QMessageBox::NoIcon;
 }
 
-void addButtons(QMessageBox& box, const Message& message)
-{
+void addButtons(QMessageBox& box, const Message& message) {
     const QList<Answer> answers = answersOf(message.buttons);
     for (const Answer answer : answers) {
         const ButtonText& entry = buttonText(answer);
@@ -81,31 +86,27 @@ void addButtons(QMessageBox& box, const Message& message)
 }
 
 // A message box takes its width from its layout, not from a minimum size of its own.
-void widen(QMessageBox& box)
-{
+void widen(QMessageBox& box) {
     auto* grid = qobject_cast<QGridLayout*>(box.layout());
     if (!grid) return;
     auto* spacer = new QSpacerItem(comfortableWidth, 0, QSizePolicy::Minimum, QSizePolicy::Fixed);
     grid->addItem(spacer, grid->rowCount(), 0, 1, grid->columnCount());
 }
 
-Answer answerOf(int button)
-{
+Answer answerOf(int button) {
     for (const auto& entry : buttonTexts)
         if (entry.button == button) return entry.answer;
     return Answer::Cancel;
 }
 
-bool aWindowIsKeptOnTop()
-{
+bool aWindowIsKeptOnTop() {
     const auto windows = QApplication::topLevelWidgets();
     return std::any_of(windows.begin(), windows.end(), [](const QWidget* window) {
         return window->isVisible() && window->windowFlags().testFlag(Qt::WindowStaysOnTopHint);
     });
 }
 
-QString nearestExistingFolder(const QString& folder)
-{
+QString nearestExistingFolder(const QString& folder) {
     QString candidate = QDir::cleanPath(folder);
     while (!candidate.isEmpty() && !QFileInfo(candidate).isDir()) {
         const QString parent = QFileInfo(candidate).path();
@@ -116,15 +117,13 @@ QString nearestExistingFolder(const QString& folder)
 }
 
 // "Excel Files,*.xls" → "Excel Files (*.xls)"
-QString qtFilter(const QString& filter)
-{
+QString qtFilter(const QString& filter) {
     const auto comma = filter.indexOf(QLatin1Char(','));
     if (comma < 0) return filter;
     return filter.left(comma) + QStringLiteral(" (") + filter.mid(comma + 1).trimmed() + QLatin1Char(')');
 }
 
-void nameTheParts(QFileDialog& dialog, const QString& accept)
-{
+void nameTheParts(QFileDialog& dialog, const QString& accept) {
     dialog.setLabelText(QFileDialog::LookIn, QStringLiteral("Oblast hledání:"));
     dialog.setLabelText(QFileDialog::FileName, QStringLiteral("Název souboru:"));
     dialog.setLabelText(QFileDialog::FileType, QStringLiteral("Typ souborů:"));
@@ -134,8 +133,7 @@ void nameTheParts(QFileDialog& dialog, const QString& accept)
         name->setAccessibleName(QStringLiteral("Název souboru"));
 }
 
-void setUp(QFileDialog& dialog, const QString& filter, const QString& folder)
-{
+void setUp(QFileDialog& dialog, const QString& filter, const QString& folder) {
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setNameFilter(qtFilter(filter));
     dialog.setDirectory(nearestExistingFolder(folder));
@@ -143,30 +141,26 @@ void setUp(QFileDialog& dialog, const QString& filter, const QString& folder)
     dialog.resize(720, 460);
 }
 
-std::optional<QString> chosenFile(QFileDialog& dialog)
-{
+std::optional<QString> chosenFile(QFileDialog& dialog) {
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     return dialog.selectedFiles().constFirst();
 }
 
-Message overwriteQuestion(const QString& title, const QString& file)
-{
+Message overwriteQuestion(const QString& title, const QString& file) {
     const QString name = QFileInfo(file).fileName();
-    return {title, QStringLiteral("Soubor „%1“ již existuje. Chcete ho přepsat ?").arg(name), Icon::Exclamation,
-            Buttons::YesNo, Answer::No};
+    return {title, QStringLiteral("Soubor „%1“ již existuje. Chcete ho přepsat ?").arg(name),
+            Icon::Exclamation, Buttons::YesNo, Answer::No};
 }
 
 } // namespace
 
-QWidget* QtDialogs::parentWindow() const
-{
+QWidget* QtDialogs::parentWindow() const {
     QWidget* active = QApplication::activeModalWidget();
     if (!active) active = QApplication::activeWindow();
     return active ? active : mainWindow_.data();
 }
 
-void QtDialogs::prepare(QDialog& dialog, const QString& name, const QString& title) const
-{
+void QtDialogs::prepare(QDialog& dialog, const QString& name, const QString& title) const {
     dialog.setObjectName(name);
     dialog.setWindowTitle(title.isEmpty() ? programName : title);
     dialog.setAccessibleName(dialog.windowTitle());
@@ -174,8 +168,7 @@ void QtDialogs::prepare(QDialog& dialog, const QString& name, const QString& tit
     if (aWindowIsKeptOnTop()) dialog.setWindowFlag(Qt::WindowStaysOnTopHint);
 }
 
-Answer QtDialogs::message(const Message& message)
-{
+Answer QtDialogs::message(const Message& message) {
     QMessageBox box(parentWindow());
     prepare(box, QStringLiteral("zprava"), message.title);
     box.setTextFormat(Qt::PlainText);
@@ -188,8 +181,7 @@ Answer QtDialogs::message(const Message& message)
     return answerOf(box.exec());
 }
 
-QString QtDialogs::input(const QString& title, const QString& prompt)
-{
+QString QtDialogs::input(const QString& title, const QString& prompt) {
     QInputDialog dialog(parentWindow());
     prepare(dialog, QStringLiteral("vstup"), title);
     dialog.setInputMode(QInputDialog::TextInput);
@@ -201,8 +193,8 @@ QString QtDialogs::input(const QString& title, const QString& prompt)
     return dialog.exec() == QDialog::Accepted ? dialog.textValue() : QString();
 }
 
-std::optional<QString> QtDialogs::openFile(const QString& title, const QString& filter, const QString& folder)
-{
+std::optional<QString> QtDialogs::openFile(const QString& title, const QString& filter,
+                                           const QString& folder) {
     QFileDialog dialog(parentWindow());
     prepare(dialog, QStringLiteral("vyberSouboru"), title);
     setUp(dialog, filter, folder);
@@ -211,8 +203,8 @@ std::optional<QString> QtDialogs::openFile(const QString& title, const QString& 
     return chosenFile(dialog);
 }
 
-std::optional<QString> QtDialogs::saveFile(const QString& title, const QString& filter, const QString& suggested)
-{
+std::optional<QString> QtDialogs::saveFile(const QString& title, const QString& filter,
+                                           const QString& suggested) {
     QFileDialog dialog(parentWindow());
     prepare(dialog, QStringLiteral("vyberSouboru"), title);
     setUp(dialog, filter, QFileInfo(suggested).path());

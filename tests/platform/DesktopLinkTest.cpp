@@ -1,8 +1,8 @@
 #include "platform/DesktopLink.h"
 
-#include <gtest/gtest.h>
-
 #include <QUrl>
+
+#include <gtest/gtest.h>
 
 namespace zvonika {
 namespace {
@@ -13,8 +13,7 @@ struct Case {
     QString expected;
 };
 
-TEST(DesktopLink, IsWhatADesktopAccepts)
-{
+TEST(DesktopLink, IsWhatADesktopAccepts) {
     const Case cases[] = {
         {"quotation mark, blanks, accents",
          QStringLiteral("\"mailto:a@b.example?subject=Verze 2.1&body=Dobrý den & attach = "),

@@ -1,16 +1,15 @@
 #include "platform/HomeDrive.h"
 
-#include <gtest/gtest.h>
-
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <gtest/gtest.h>
+
 namespace zvonika {
 namespace {
 
-TEST(HomeDrive, TurnsPathsIntoNativeOnes)
-{
+TEST(HomeDrive, TurnsPathsIntoNativeOnes) {
     const HomeDrive drive(QStringLiteral("/home/eva"), QStringLiteral("/usr/share/zvonika"));
     const std::pair<QString, QString> cases[] = {
         {pracovniAdresar, QStringLiteral("/home/eva/Dokumenty/Heligonka/Zvonika")},
@@ -32,8 +31,7 @@ protected:
     HomeDrive drive{folder.path(), QString()};
 };
 
-TEST_F(HomeDriveOnDisk, CreatesOneFolderAtATime)
-{
+TEST_F(HomeDriveOnDisk, CreatesOneFolderAtATime) {
     EXPECT_FALSE(drive.createFolder(QStringLiteral("C:\\Dokumenty\\Heligonka")));
     EXPECT_TRUE(drive.createFolder(QStringLiteral("C:\\Dokumenty")));
     EXPECT_TRUE(drive.createFolder(QStringLiteral("C:\\Dokumenty\\Heligonka")));
@@ -42,8 +40,7 @@ TEST_F(HomeDriveOnDisk, CreatesOneFolderAtATime)
     EXPECT_TRUE(QDir(folder.filePath(QStringLiteral("Dokumenty/Heligonka"))).exists());
 }
 
-TEST_F(HomeDriveOnDisk, TellsFilesFromFoldersAndDeletesFiles)
-{
+TEST_F(HomeDriveOnDisk, TellsFilesFromFoldersAndDeletesFiles) {
     QFile file(folder.filePath(QStringLiteral("a.xls")));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.close();

@@ -1,10 +1,10 @@
 #include "platform/IniSettingsStore.h"
 #include "platform/UserSettings.h"
 
-#include <gtest/gtest.h>
-
 #include <QFile>
 #include <QTemporaryDir>
+
+#include <gtest/gtest.h>
 
 namespace zvonika {
 namespace {
@@ -13,14 +13,12 @@ const QString section = QStringLiteral("Zabrany");
 
 class SettingsFile : public ::testing::Test {
 protected:
-    void write(const QByteArray& text) const
-    {
+    void write(const QByteArray& text) const {
         QFile out(file);
         ASSERT_TRUE(out.open(QIODevice::WriteOnly));
         out.write(text);
     }
-    QByteArray contents() const
-    {
+    QByteArray contents() const {
         QFile in(file);
         return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
     }
@@ -29,11 +27,9 @@ protected:
     QString file = folder.filePath(QStringLiteral("Tonavox12.ini"));
 };
 
-TEST_F(SettingsFile, KeepsTextsBySectionAndKey)
-{
-    const QString texts[] = {QStringLiteral("1"),     QStringLiteral("Příčná, řada; \"x\" = @ \\ %"),
-                             QStringLiteral("@zvuk"), QStringLiteral(" mezery "),
-                             QString(QLatin1String(""))};
+TEST_F(SettingsFile, KeepsTextsBySectionAndKey) {
+    const QString texts[] = {QStringLiteral("1"), QStringLiteral("Příčná, řada; \"x\" = @ \\ %"),
+                             QStringLiteral("@zvuk"), QStringLiteral(" mezery "), QString(QLatin1String(""))};
     int number = 0;
     for (const auto& text : texts)
         IniSettingsStore(file).save(section, QString::number(++number), text);
@@ -47,8 +43,7 @@ TEST_F(SettingsFile, KeepsTextsBySectionAndKey)
     EXPECT_EQ(store.getOr(section, QStringLiteral("9"), QStringLiteral("0")), QStringLiteral("0"));
 }
 
-TEST_F(SettingsFile, IsAnIniFileThatAUserCanWrite)
-{
+TEST_F(SettingsFile, IsAnIniFileThatAUserCanWrite) {
     IniSettingsStore(file).save(section, QStringLiteral("1"), QStringLiteral("True"));
     EXPECT_TRUE(contents().contains("[Zabrany]")) << contents().toStdString();
     EXPECT_TRUE(contents().contains("1=True")) << contents().toStdString();
@@ -58,8 +53,7 @@ TEST_F(SettingsFile, IsAnIniFileThatAUserCanWrite)
               QStringLiteral("žluťoučký, kůň"));
 }
 
-TEST_F(SettingsFile, DamagedCountsAsEmptyAndIsPutAside)
-{
+TEST_F(SettingsFile, DamagedCountsAsEmptyAndIsPutAside) {
     const QByteArray rubbish = "[Zabrany]\n1=True\nrubbish without a sign\n\x01\x02";
     write(rubbish);
     IniSettingsStore store(file);
@@ -74,8 +68,7 @@ TEST_F(SettingsFile, DamagedCountsAsEmptyAndIsPutAside)
     EXPECT_EQ(aside.readAll(), rubbish);
 }
 
-TEST_F(SettingsFile, ThatCannotBeWrittenKeepsTheValueForTheRun)
-{
+TEST_F(SettingsFile, ThatCannotBeWrittenKeepsTheValueForTheRun) {
     write("a plain file where a folder is needed");
     IniSettingsStore store(file + QStringLiteral("/x.ini"));
     store.save(section, QStringLiteral("1"), QStringLiteral("True"));
@@ -83,8 +76,7 @@ TEST_F(SettingsFile, ThatCannotBeWrittenKeepsTheValueForTheRun)
 }
 
 #ifndef Q_OS_WIN
-TEST_F(SettingsFile, LiesInTheUsersConfigurationFolder)
-{
+TEST_F(SettingsFile, LiesInTheUsersConfigurationFolder) {
     const QByteArray before = qgetenv("XDG_CONFIG_HOME");
     qputenv("XDG_CONFIG_HOME", folder.path().toUtf8());
     userSettings(QStringLiteral("Tonavox12"))->save(section, QStringLiteral("1"), QStringLiteral("True"));
