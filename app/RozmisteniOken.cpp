@@ -9,8 +9,7 @@ constexpr double pomerSceny = 16000.0 / 10400; // of the scene in the main windo
 constexpr int okraje = 84;                     // title bar, menu bar and status line
 } // namespace
 
-RozmisteniOken rozmistiOkna(const QRect& plocha)
-{
+RozmisteniOken rozmistiOkna(const QRect& plocha) {
     const int sirkaPodleVysky = static_cast<int>((plocha.height() - okraje) * pomerSceny);
     const int sirkaVedle = std::min(sirkaPodleVysky, plocha.width() * 70 / 100);
     const int zbytek = plocha.width() - sirkaVedle;

@@ -10,8 +10,8 @@ struct RozmisteniOken {
     QRect tabulka;
 };
 
-/// Shares the free area of a screen: the main window at its best proportions on the left, the sheet beside it; on a
-/// narrow or upright screen the sheet below it, at least `nejmensiVyskaTabulky` tall.
+/// Shares the free area of a screen: the main window at its best proportions on the left, the sheet beside
+/// it; on a narrow or upright screen the sheet below it, at least `nejmensiVyskaTabulky` tall.
 RozmisteniOken rozmistiOkna(const QRect& plocha);
 
 constexpr int nejmensiVyskaTabulky = 230; ///< room for five rows with everything around them

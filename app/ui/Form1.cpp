@@ -22,8 +22,7 @@ namespace zvonika {
 
 namespace {
 
-PrikazoveTlacitko::Vyznam vyznam(DruhTlacitka druh)
-{
+PrikazoveTlacitko::Vyznam vyznam(DruhTlacitka druh) {
     switch (druh) {
     case DruhTlacitka::Tah:
         return PrikazoveTlacitko::Vyznam::Tah;
@@ -38,13 +37,11 @@ PrikazoveTlacitko::Vyznam vyznam(DruhTlacitka druh)
 }
 
 /// A colour written blue-green-red.
-QColor zBgr(unsigned bgr)
-{
+QColor zBgr(unsigned bgr) {
     return QColor(int(bgr & 0xFF), int(bgr >> 8 & 0xFF), int(bgr >> 16 & 0xFF));
 }
 
-std::optional<QColor> barva(BarvaKroku krok)
-{
+std::optional<QColor> barva(BarvaKroku krok) {
     switch (krok) {
     case BarvaKroku::Tah:
         return zBgr(0xFF8080);
@@ -58,8 +55,7 @@ std::optional<QColor> barva(BarvaKroku krok)
     return std::nullopt;
 }
 
-QLabel* popisek(const QString& jmeno, const QString& text, QWidget* rodic)
-{
+QLabel* popisek(const QString& jmeno, const QString& text, QWidget* rodic) {
     auto* label = new QLabel(text, rodic);
     label->setObjectName(jmeno);
     label->setTextFormat(Qt::PlainText);
@@ -69,8 +65,8 @@ QLabel* popisek(const QString& jmeno, const QString& text, QWidget* rodic)
 } // namespace
 
 Form1::Form1(SongPanel& panel, CommandStates& stavy, TrebleBoard& hmatnik)
-    : panel_(panel), stavy_(stavy), hmatnik_(hmatnik), scena_(new TwipsScene({sirkaSceny, vyskaSceny}, this))
-{
+    : panel_(panel), stavy_(stavy), hmatnik_(hmatnik),
+      scena_(new TwipsScene({sirkaSceny, vyskaSceny}, this)) {
     setObjectName(QStringLiteral("Form1"));
     setCentralWidget(scena_);
     setContextMenuPolicy(Qt::NoContextMenu);
@@ -87,37 +83,32 @@ Form1::Form1(SongPanel& panel, CommandStates& stavy, TrebleBoard& hmatnik)
     ukazPanel();
 }
 
-void Form1::umisti(QWidget* prvek, const QRect& twips)
-{
+void Form1::umisti(QWidget* prvek, const QRect& twips) {
     scena_->place(prvek, twips);
 }
 
-void Form1::nastavVzdyNahore()
-{
+void Form1::nastavVzdyNahore() {
     setWindowFlag(Qt::WindowStaysOnTopHint, true);
 }
 
-void Form1::nastavPoradi(const QList<QWidget*>& poradi)
-{
+void Form1::nastavPoradi(const QList<QWidget*>& poradi) {
     for (qsizetype i = 1; i < poradi.size(); ++i)
         setTabOrder(poradi[i - 1], poradi[i]);
 }
 
-QWidget* Form1::prvek(const QString& jmeno) const
-{
+QWidget* Form1::prvek(const QString& jmeno) const {
     return findChild<QWidget*>(jmeno);
 }
 
-void Form1::postavTlacitka()
-{
+void Form1::postavTlacitka() {
     for (const TlacitkoPrikazu& radek : tlacitkaPrikazu()) {
         auto* tlacitko = new PrikazoveTlacitko(radek.popisek, vyznam(radek.druh), scena_);
         tlacitko->setObjectName(radek.jmeno);
         const QString nazev = radek.pristupne.isEmpty() ? radek.popisek : radek.pristupne;
         tlacitko->setAccessibleName(nazev);
-        if (!radek.zkratka.isEmpty())
-            tlacitko->setShortcut(QKeySequence(radek.zkratka));
-        tlacitko->setToolTip(radek.zkratka.isEmpty() ? nazev : nazev + QStringLiteral(" (%1)").arg(radek.zkratka));
+        if (!radek.zkratka.isEmpty()) tlacitko->setShortcut(QKeySequence(radek.zkratka));
+        tlacitko->setToolTip(radek.zkratka.isEmpty() ? nazev
+                                                     : nazev + QStringLiteral(" (%1)").arg(radek.zkratka));
         connect(tlacitko, &QPushButton::clicked, this, [this, jmeno = radek.jmeno] { Q_EMIT prikaz(jmeno); });
         tlacitka_.insert(radek.jmeno, tlacitko);
         umisti(tlacitko, radek.twips);
@@ -126,8 +117,7 @@ void Form1::postavTlacitka()
     tlacitka_[QStringLiteral("cmdJakDal")]->nastavSipku('>');
 }
 
-void Form1::postavPopisky()
-{
+void Form1::postavPopisky() {
     combo_ = new QComboBox(scena_);
     combo_->setObjectName(QStringLiteral("Combo1"));
     combo_->setAccessibleName(QStringLiteral("Listy písničky (ladění)"));
@@ -158,12 +148,12 @@ void Form1::postavPopisky()
     auto* tempo = popisek(QStringLiteral("lblTempo"), QStringLiteral("<--- Tempo --->"), scena_);
     tempo->setAlignment(Qt::AlignCenter);
     umisti(tempo, {13360, 9620, 2580, 240});
-    for (QWidget* prvek : {static_cast<QWidget*>(combo_), static_cast<QWidget*>(posuvnik), static_cast<QWidget*>(tempo)})
+    for (QWidget* prvek :
+         {static_cast<QWidget*>(combo_), static_cast<QWidget*>(posuvnik), static_cast<QWidget*>(tempo)})
         prvek->setEnabled(stavy_.povolen(prvek->objectName()));
 }
 
-void Form1::postavMenu()
-{
+void Form1::postavMenu() {
     for (const Menu& menu : menuPrikazu()) {
         QMenu* rolovaci = menuBar()->addMenu(menu.popisek);
         for (const PolozkaMenu& polozka : menu.polozky) {
@@ -182,16 +172,14 @@ void Form1::postavMenu()
     }
 }
 
-void Form1::povol(const QString& jmeno, bool povolit)
-{
+void Form1::povol(const QString& jmeno, bool povolit) {
     if (QAction* akce = akce_.value(jmeno))
         akce->setEnabled(povolit);
     else if (QWidget* nalezeny = prvek(jmeno))
         nalezeny->setEnabled(povolit);
 }
 
-void Form1::ukazPanel()
-{
+void Form1::ukazPanel() {
     setWindowTitle(panel_.titulek);
     lblTon_->setText(panel_.lblTon);
     lblLadeni_->setText(panel_.lblLadeni);
@@ -200,8 +188,7 @@ void Form1::ukazPanel()
     ukazBarvuKroku();
 }
 
-void Form1::ukazListy()
-{
+void Form1::ukazListy() {
     const QSignalBlocker ticho(combo_); // a text set by the program is no choice
     QStringList ukazane;
     for (int i = 0; i < combo_->count(); ++i)
@@ -213,23 +200,19 @@ void Form1::ukazListy()
     combo_->setCurrentIndex(combo_->findText(panel_.Combo1));
 }
 
-void Form1::ukazBarvuKroku()
-{
+void Form1::ukazBarvuKroku() {
     tlacitka_[QStringLiteral("cmdJakDal")]->nastavBarvu(barva(panel_.barvaKroku));
     tlacitka_[QStringLiteral("cmdJakDalZpet")]->nastavBarvu(barva(panel_.barvaKroku));
 }
 
-void Form1::ukazZaskrtnuti()
-{
+void Form1::ukazZaskrtnuti() {
     akce_[QStringLiteral("mnu2Rady")]->setChecked(hmatnik_.nazvyZapnuty());
     akce_[QStringLiteral("mnuCislovat")]->setChecked(hmatnik_.cislovani());
 }
 
-void Form1::closeEvent(QCloseEvent* event)
-{
+void Form1::closeEvent(QCloseEvent* event) {
     event->accept();
-    if (const auto zavreni = std::exchange(priZavreni, nullptr))
-        zavreni();
+    if (const auto zavreni = std::exchange(priZavreni, nullptr)) zavreni();
 }
 
 } // namespace zvonika

@@ -18,8 +18,8 @@ class SongPanel;
 class TrebleBoard;
 class TwipsScene;
 
-/// The main window: one scene with everything of a grip, menus and command buttons. It forwards clicks by control
-/// name and shows what the models say; it decides nothing.
+/// The main window: one scene with everything of a grip, menus and command buttons. It forwards clicks by
+/// control name and shows what the models say; it decides nothing.
 class Form1 : public QMainWindow {
     Q_OBJECT
 public:
@@ -37,7 +37,7 @@ public:
     std::function<void()> priZavreni;
 
 Q_SIGNALS:
-    void prikaz(const QString& jmeno); ///< a button or menu entry was chosen
+    void prikaz(const QString& jmeno);     ///< a button or menu entry was chosen
     void listVybran(const QString& nazev); ///< the user chose a sheet in Combo1
 
 protected:

@@ -1,0 +1,212 @@
+#include "app/ukazka/Ukazka.h"
+
+#include "app/Program.h"
+#include "app/ui/Form1.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QDir>
+#include <QLineEdit>
+#include <QPainter>
+#include <QScreen>
+#include <QTest>
+#include <QTimer>
+
+#include <stdexcept>
+
+namespace zvonika {
+
+namespace {
+constexpr int trpelivost = 10000; // ms until a stage counts as failed
+const QString nazevPisne = QStringLiteral("Kočka leze dírou");
+
+void napis(QWidget* kam, const QString& text) {
+    for (const QChar znak : text)
+        QTest::sendKeyEvent(QTest::Click, kam, Qt::Key_unknown, QString(znak), Qt::NoModifier);
+}
+
+} // namespace
+
+Ukazka::Ukazka(Program& program, const QString& slozkaObrazku)
+    : program_(program), slozka_(slozkaObrazku), hmaty_(kockaLezeDirou()) {}
+
+void Ukazka::prehraj() {
+    cekej([this] { return program_.okno().isActiveWindow() || program_.okno().isVisible(); }, "hlavní okno");
+    obrazek("spusteno");
+    zvolToninu();
+    zalozPisen();
+    for (qsizetype i = 0; i < hmaty_.size(); ++i) {
+        zapisHmat(hmaty_[i]);
+        if (i == 5) obrazek("zapsano-sest-hmatu");
+    }
+    obrazek("zapsana-cela-pisen");
+    napisSlabiky();
+    ukonciPisen();
+    otevriPisen();
+    prejdiPisen();
+    ukonciPisen();
+}
+
+void Ukazka::zvolToninu() {
+    sOknem([this] { klikni("cmdStupnice"); },
+           [this](QWidget* dialog) {
+               QTest::mouseClick(dialog->findChild<QWidget*>("optStupnice(0)"), Qt::LeftButton, {},
+                                 QPoint(8, dialog->findChild<QWidget*>("optStupnice(0)")->height() / 2));
+               obrazek("volba-toniny");
+               QTest::mouseClick(dialog->findChild<QWidget*>("cmdOK"), Qt::LeftButton);
+           });
+    cekej([this] { return program_.tonina() == QStringLiteral("C dur"); }, "tónina C dur");
+}
+
+void Ukazka::zalozPisen() {
+    sOknem([this] { klikni("cmdNovaSkladba"); },
+           [this](QWidget* okno) {
+               if (!okno->findChild<QLineEdit*>()) { // the folder is missing and will be created
+                   sOknem([okno] { QTest::keyClick(okno, Qt::Key_Return); },
+                          [this](QWidget* vstup) {
+                              napis(vstup->findChild<QLineEdit*>(), nazevPisne);
+                              obrazek("nazev-pisne");
+                              QTest::keyClick(vstup->findChild<QLineEdit*>(), Qt::Key_Return);
+                          });
+                   return;
+               }
+               napis(okno->findChild<QLineEdit*>(), nazevPisne);
+               obrazek("nazev-pisne");
+               QTest::keyClick(okno->findChild<QLineEdit*>(), Qt::Key_Return);
+           });
+    cekej([this] { return program_.okno().windowTitle() == nazevPisne + ".xls"; }, "založená píseň");
+    soubor_ = program_.pracovniSlozka() + QDir::separator() + nazevPisne + ".xls";
+}
+
+void Ukazka::zapisHmat(const HmatUkazky& hmat) {
+    const int radek = program_.aktualniRadek();
+    // The double click's first click marks the button, the second one asks for the finger.
+    sOknem([&] { dvojklikni(QStringLiteral("lbl(%1)").arg(hmat.knoflik)); },
+           [&](QWidget* vstup) {
+               napis(vstup->findChild<QLineEdit*>(), QString::number(hmat.prst));
+               QTest::keyClick(vstup->findChild<QLineEdit*>(), Qt::Key_Return);
+           });
+    klikni(QStringLiteral("ImgBas(%1)").arg(hmat.bas));
+    klikni(hmat.tlak ? "cmdTlak" : "cmdTah");
+    cekej([&] { return program_.aktualniRadek() == radek + 1; },
+          QStringLiteral("zapsaný hmat %1").arg(radek));
+    klikni("cmdUvolKnofl");
+}
+
+void Ukazka::napisSlabiky() {
+    klikni("cmdPrvni");
+    QTest::keyClick(&program_.okno(), Qt::Key_F6);
+    auto* mrizka = tabulka()->findChild<QAbstractItemView*>();
+    mrizka->setFocus();
+    QTest::keyClick(mrizka, Qt::Key_Left); // from the grip's column B to the syllables in A
+    for (const HmatUkazky& hmat : hmaty_) {
+        napis(mrizka, hmat.slabika.left(1)); // opens the cell's editor
+        QWidget* editor = QApplication::focusWidget();
+        napis(editor, hmat.slabika.mid(1));
+        QTest::keyClick(editor, Qt::Key_Return);
+    }
+    obrazek("slabiky-v-tabulce");
+    QTest::keyClick(mrizka, Qt::Key_F6);
+}
+
+void Ukazka::ukonciPisen() {
+    klikni("cmdEndEdit");
+    cekej([this] { return program_.okno().windowTitle() == "Zvonika"; }, "konec písničky");
+    obrazek("konec-pisnicky");
+}
+
+void Ukazka::otevriPisen() {
+    sOknem([this] { klikni("cmdEdit"); },
+           [this](QWidget* vyber) {
+               obrazek("vyber-souboru");
+               auto* jmeno = vyber->findChild<QLineEdit*>();
+               jmeno->selectAll();
+               napis(jmeno, nazevPisne + ".xls");
+               QTest::keyClick(jmeno, Qt::Key_Return);
+           });
+    cekej([this] { return program_.okno().windowTitle() == nazevPisne + ".xls"; }, "otevřená píseň");
+    klikni("cmdPrvni");
+    klikni(hmaty_[0].tlak ? "cmdReadTlak" : "cmdReadTah");
+    obrazek("znovu-otevreno");
+}
+
+void Ukazka::prejdiPisen() {
+    for (int radek = 2; radek <= hmaty_.size(); ++radek) {
+        klikni("cmdJakDal");
+        cekej([&] { return program_.aktualniRadek() == radek; },
+              QStringLiteral("krok na hmat %1").arg(radek));
+        if (radek == 8) obrazek("krok-osmy-hmat");
+    }
+    obrazek("posledni-hmat");
+    for (int radek = int(hmaty_.size()) - 1; radek >= 1; --radek) {
+        klikni("cmdJakDalZpet");
+        cekej([&] { return program_.aktualniRadek() == radek; },
+              QStringLiteral("krok zpět na hmat %1").arg(radek));
+    }
+    obrazek("zpet-na-zacatku");
+}
+
+QWidget* Ukazka::prvek(const QString& jmeno) const {
+    QWidget* nalezeny = program_.okno().prvek(jmeno);
+    if (!nalezeny || !nalezeny->isEnabled() || !nalezeny->isVisible())
+        throw std::runtime_error("nelze použít: " + jmeno.toStdString());
+    return nalezeny;
+}
+
+QWidget* Ukazka::tabulka() const {
+    for (QWidget* okno : QApplication::topLevelWidgets())
+        if (okno != &program_.okno() && okno->isVisible() && okno->findChild<QAbstractItemView*>() &&
+            okno->isWindow() && !okno->inherits("QDialog"))
+            return okno;
+    throw std::runtime_error("okno tabulky není vidět");
+}
+
+void Ukazka::klikni(const QString& jmeno) {
+    QTest::mouseClick(prvek(jmeno), Qt::LeftButton);
+}
+
+void Ukazka::dvojklikni(const QString& jmeno) {
+    QTest::mouseDClick(prvek(jmeno), Qt::LeftButton);
+}
+
+void Ukazka::sOknem(const std::function<void()>& akce, const std::function<void(QWidget*)>& obsluha) {
+    QWidget* predchozi = QApplication::activeModalWidget();
+    bool obslouzeno = false;
+    std::exception_ptr chyba;
+    QTimer hlidka;
+    QObject::connect(&hlidka, &QTimer::timeout, [&] {
+        QWidget* okno = QApplication::activeModalWidget();
+        if (!okno || okno == predchozi || obslouzeno) return;
+        obslouzeno = true;
+        hlidka.stop();
+        try {
+            obsluha(okno);
+        } catch (...) {
+            chyba = std::current_exception();
+            okno->close();
+        }
+    });
+    hlidka.start(5);
+    akce();
+    if (chyba) std::rethrow_exception(chyba);
+    if (!obslouzeno) throw std::runtime_error("očekávané okno se neobjevilo");
+}
+
+void Ukazka::cekej(const std::function<bool()>& podminka, const QString& nac) {
+    if (!QTest::qWaitFor(podminka, trpelivost)) throw std::runtime_error("nedočkáno: " + nac.toStdString());
+}
+
+void Ukazka::obrazek(const QString& nazev) {
+    QTest::qWait(0); // let pending paints through
+    QCoreApplication::processEvents();
+    ++obrazku_;
+    const QString soubor =
+        QStringLiteral("%1/%2-%3.png").arg(slozka_).arg(obrazku_, 2, 10, QLatin1Char('0')).arg(nazev);
+    QScreen* obrazovka = program_.okno().screen();
+    QPixmap snimek = obrazovka->grabWindow(0); // the whole screen: both windows as the player sees them
+    if (snimek.isNull()) snimek = program_.okno().grab();
+    if (!snimek.save(soubor)) throw std::runtime_error("obrázek nelze uložit: " + soubor.toStdString());
+}
+
+} // namespace zvonika

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "app/ukazka/Pisnicka.h"
+
+#include <QString>
+
+#include <functional>
+
+class QWidget;
+
+namespace zvonika {
+
+class Program;
+
+/// The demonstration: a player's first evening with the program, played through the real windows with mouse
+/// and keyboard events. Records the song, types its syllables, ends it, opens it again, steps to its end and
+/// back, and leaves a picture of each stage. Throws std::runtime_error with the stage when something does not
+/// happen.
+class Ukazka {
+public:
+    /// `slozkaObrazku`: existing native folder for the pictures.
+    Ukazka(Program& program, const QString& slozkaObrazku);
+
+    void prehraj();
+    /// Native full name of the song that was recorded.
+    const QString& souborPisne() const { return soubor_; }
+    int obrazku() const { return obrazku_; }
+
+private:
+    void zvolToninu();
+    void zalozPisen();
+    void zapisHmat(const HmatUkazky& hmat);
+    void napisSlabiky();
+    void ukonciPisen();
+    void otevriPisen();
+    void prejdiPisen();
+
+    void klikni(const QString& jmeno);
+    void dvojklikni(const QString& jmeno);
+    QWidget* prvek(const QString& jmeno) const;
+    QWidget* tabulka() const;
+    /// Runs `akce`, during which a modal window comes up; `obsluha` is what the player does with it.
+    void sOknem(const std::function<void()>& akce, const std::function<void(QWidget*)>& obsluha);
+    void cekej(const std::function<bool()>& podminka, const QString& nac);
+    void obrazek(const QString& nazev);
+
+    Program& program_;
+    QString slozka_;
+    QString soubor_;
+    QVector<HmatUkazky> hmaty_;
+    int obrazku_ = 0;
+};
+
+} // namespace zvonika
