@@ -7,8 +7,8 @@
 
 namespace zvonika {
 
-/// Which commands can be used now, by control name ("cmdTah", "cmdZvuk(0)", "mnuOtevrit"). A control that nobody
-/// has switched is enabled.
+/// Which commands can be used now, by control name ("cmdTah", "cmdZvuk(0)", "mnuOtevrit"). A control that
+/// nobody has switched is enabled.
 class CommandStates : public QObject {
     Q_OBJECT
 public:

@@ -13,9 +13,10 @@ QString textSmeru(SmerMechu smer);
 
 /// One grip as it stands in its row of the sheet; nothing is corrected on the way through.
 struct Grip {
-    QString slabika;   ///< A: syllable
-    QStringList tony;  ///< B..H: treble tones from B up to the first empty cell, at most 7; may be foreign text
-    QString smer;      ///< I: "Tah", "Tlak" or whatever stands there
+    QString slabika; ///< A: syllable
+    QStringList
+        tony;     ///< B..H: treble tones from B up to the first empty cell, at most 7; may be foreign text
+    QString smer; ///< I: "Tah", "Tlak" or whatever stands there
     QStringList basy;  ///< M..S: bass names up to the first empty cell, at most 7
     QString prstoklad; ///< V: fingering entries
     QString tonina;    ///< W: key in which the row was written

@@ -6,8 +6,7 @@
 namespace zvonika {
 
 /// The box for an error that has no text of its own.
-inline Message neocekavanaChyba(int cislo)
-{
+inline Message neocekavanaChyba(int cislo) {
     return {QStringLiteral("Neočekávaná chyba !"),
             QStringLiteral("Kontaktujte firmu ") + kontakt + QStringLiteral(" a sdělte číslo chyby ") +
                 QString::number(cislo),

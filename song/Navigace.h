@@ -5,13 +5,14 @@
 #include "song/ZobrazeniHmatu.h"
 
 #include <functional>
+#include <utility>
 
 namespace zvonika {
 
 class TrebleBoard;
 
-/// Walks through the grips of the song. The cursor is the spreadsheet's active cell in column B. Every command may
-/// throw AutomationError; the board is released then already.
+/// Walks through the grips of the song. The cursor is the spreadsheet's active cell in column B. Every
+/// command may throw AutomationError; the board is released then already.
 class Navigace {
 public:
     /// `uvolniVse`: releases the whole board (treble, keys, basses, notes and their signs).
@@ -19,15 +20,17 @@ public:
              std::function<void()> uvolniVse);
 
     /// What stops automatic stepping; nothing until it is set.
-    void nastavZastaveniCasovace(std::function<void()> zastavTimer1) { zastavTimer1_ = std::move(zastavTimer1); }
+    void nastavZastaveniCasovace(std::function<void()> zastavTimer1) {
+        zastavTimer1_ = std::move(zastavTimer1);
+    }
 
     void cmdPrvni();
     /// On row 1 only disables the backward commands; arriving there leaves them enabled.
     void cmdPredchozi();
     /// Has no stop at the end of the song.
     void cmdDalsi();
-    /// The row above the first empty cell of B1:B500. A song that fills all of it keeps the cursor where it is and
-    /// says so in `panel.upozorneni`.
+    /// The row above the first empty cell of B1:B500. A song that fills all of it keeps the cursor where it
+    /// is and says so in `panel.upozorneni`.
     void cmdPosledni();
     void cmdPredTah();
     void cmdPredTlak();
@@ -38,19 +41,20 @@ public:
     void cmdJakDal();
     void cmdJakDalZpet();
 
-    /// Shows the current row on the side of its column I and colours the stepping buttons. A missing direction stops
-    /// automatic stepping with the message "Neprovedeno.".
+    /// Shows the current row on the side of its column I and colours the stepping buttons. A missing
+    /// direction stops automatic stepping with the message "Neprovedeno.".
     void UrciSmerMechu();
 
-    /// The user has moved the cursor or edited cells in the spreadsheet's window: everything that is shown of the
-    /// song follows, without boxes and without touching cursor or marks. Never throws; does nothing while another
-    /// workbook than the song is in front.
+    /// The user has moved the cursor or edited cells in the spreadsheet's window: everything that is shown of
+    /// the song follows, without boxes and without touching cursor or marks. Never throws; does nothing while
+    /// another workbook than the song is in front.
     void sledujKurzor();
 
 private:
     void uvolniAVyberBunkuB();
-    void ukazNaRadku(int radek);
-    void zapisPosledniRadek();
+    void zustanNaPrvnim();
+    void zustanNaRadku(int radek);
+    void ohlasChybejiciSmer();
     void obarvi(BarvaKroku barva);
     void sledujList();
     void sledujRadek();

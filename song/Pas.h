@@ -16,8 +16,8 @@ class Pas : public QObject {
     Q_OBJECT
 public:
     struct Pozice {
-        QString slabika;      ///< caption of lblSlabika2(i)
-        QStringList tony;     ///< tone names to be drawn; empty after the first grip that yields nothing
+        QString slabika;  ///< caption of lblSlabika2(i)
+        QStringList tony; ///< tone names to be drawn; empty after the first grip that yields nothing
         SmerMechu smer = SmerMechu::Neuveden;
     };
 

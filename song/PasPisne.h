@@ -13,8 +13,8 @@ public:
 
     /// Redraws the strip from the cursor: its row becomes position 1.
     void ZobrazPas();
-    /// The cursor went `oKolik` rows down (up where negative): the highlight goes with it, and the strip is redrawn
-    /// from the cursor when the highlight leaves it.
+    /// The cursor went `oKolik` rows down (up where negative): the highlight goes with it, and the strip is
+    /// redrawn from the cursor when the highlight leaves it.
     void posun(int oKolik);
     /// The cursor or the cells have changed by other ways: reads the strip's rows afresh and highlights the
     /// cursor's row; redraws from the cursor when that row is outside.

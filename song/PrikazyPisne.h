@@ -8,8 +8,8 @@ namespace zvonika {
 void ZakazZpet(CommandStates& prikazy);
 void PovolZpet(CommandStates& prikazy);
 
-/// Switches the commands of an open song on (a song was created or opened) and off (end of song, and before the
-/// first one). Off includes the three sound buttons; on leaves these to `Zvuk::NajdiZvuk`.
+/// Switches the commands of an open song on (a song was created or opened) and off (end of song, and before
+/// the first one). Off includes the three sound buttons; on leaves these to `Zvuk::NajdiZvuk`.
 void PovolPrikazyPisne(CommandStates& prikazy);
 void ZakazPrikazyPisne(CommandStates& prikazy);
 

@@ -22,20 +22,20 @@ class SongPanel : public QObject {
 public:
     using QObject::QObject;
 
-    QString titulek = QStringLiteral("Zvonika"); ///< caption of the main window
-    QString lblTon = QStringLiteral("1");        ///< grip counter: row number
-    QString lblStupnice;                         ///< key of the current row
+    QString titulek = QStringLiteral("Zvonika");     ///< caption of the main window
+    QString lblTon = QStringLiteral("1");            ///< grip counter: row number
+    QString lblStupnice;                             ///< key of the current row
     QString lblLadeni = QStringLiteral("Tonavox12"); ///< tuning: name of the sheet
-    QStringList listy;                           ///< entries of Combo1
-    QString Combo1;                              ///< text of Combo1
+    QStringList listy;                               ///< entries of Combo1
+    QString Combo1;                                  ///< text of Combo1
     /// Syllables around the current row: two before, the row itself, two after.
     std::array<QString, 5> lblSlabika;
-    bool popisyViditelne = false;                ///< lblPopisD and lblPopisB
+    bool popisyViditelne = false; ///< lblPopisD and lblPopisB
     QString lblTony, lblBasy;
     BarvaKroku barvaKroku = BarvaKroku::Neznamy;
-    QString upozorneni;                          ///< what the last command has to tell besides its boxes
-    QString stav;                                ///< status line: what to do next, warnings
-    int zapsanychHmatu = 0;                      ///< grips recorded in this run
+    QString upozorneni;     ///< what the last command has to tell besides its boxes
+    QString stav;           ///< status line: what to do next, warnings
+    int zapsanychHmatu = 0; ///< grips recorded in this run
 
     void oznamZmenu() { Q_EMIT zmeneno(); }
 

@@ -33,8 +33,8 @@ public:
     explicit SongSheet(const Pisen& pisen) : pisen_(pisen) {}
 
     Grip grip(int radek) const;
-    /// `pocet` consecutive rows from `prvni` in one call to the application; rows beyond the edge of the sheet are
-    /// empty grips.
+    /// `pocet` consecutive rows from `prvni` in one call to the application; rows beyond the edge of the
+    /// sheet are empty grips.
     QVector<Grip> gripy(int prvni, int pocet) const;
     QString slabika(int radek) const;
 

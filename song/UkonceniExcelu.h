@@ -9,8 +9,8 @@
 namespace zvonika {
 
 /// The shutdown: saves the current song, quits the spreadsheet application and gives its default folder back.
-/// One error trap covers it; after a message it resumes at quitting, so what fails there is reported as well, each
-/// error number once. It always comes to its end and leaves `aplikaceExcel` released.
+/// One error trap covers it; after a message it resumes at quitting, so what fails there is reported as well,
+/// each error number once. It always comes to its end and leaves `aplikaceExcel` released.
 class UkonceniExcelu {
 public:
     UkonceniExcelu(Pisen& pisen, Dialogs& dialogs) : pisen_(pisen), dialogs_(dialogs) {}

@@ -6,8 +6,8 @@
 
 namespace zvonika {
 
-/// The life of a song: creating, opening, choosing one of its sheets, ending. At most one song is open at a time.
-/// Whatever fails, no song is ever left half open.
+/// The life of a song: creating, opening, choosing one of its sheets, ending. At most one song is open at a
+/// time. Whatever fails, no song is ever left half open.
 class ZivotPisne {
 public:
     /// The parts of the program that a song brings to life and that fall silent with it.
@@ -34,17 +34,18 @@ public:
     /// Fills the list of Combo1 with the names of all sheets, in workbook order. Throws AutomationError.
     void NaplnListy();
 
-    /// The state without a song, as after its end: also the state in which the program starts.
+    /// The state without a song, as after its end (the board is left as it is): also the state in which the
+    /// program starts.
     void stavBezPisne();
 
 private:
-    void zalozSesit(const QString& jmeno);
+    void zalozPisen(const QString& plneJmeno);
+    void zalozSesit(const QString& plneJmeno);
     void ozivNovouPisen();
     void ukazOtevrenouPisen();
+    void ukazList(const QString& list);
     void ulozAZavri();
-    void opustRozdelane();
-    void ohlasZalozeni(const AutomationError& chyba);
-    void ohlasUlozeni(const AutomationError& chyba);
+    void zahodRozdelanou();
     void vyprazdniTexty();
 
     OkoliPisne okoli_;

@@ -21,10 +21,10 @@ struct PlochyHmatu {
     SongPanel& panel;
 };
 
-/// Shows the grip of the current row: pull or push pictures of its treble and bass buttons, fingering, display staff
-/// and the text panel. Marks of the grip being recorded and the red piano keys stay as they are; a marked button that
-/// the shown grip lets go shows its red picture again. Calls that read the sheet make one block read and may throw
-/// AutomationError.
+/// Shows the grip of the current row: pull or push pictures of its treble and bass buttons, fingering,
+/// display staff and the text panel. Marks of the grip being recorded and the red piano keys stay as they
+/// are; a marked button that the shown grip lets go shows its red picture again. Calls that read the sheet
+/// make one block read and may throw AutomationError.
 class ZobrazeniHmatu {
 public:
     /// Puts the fingering of column V on the buttons, with its own messages.
@@ -41,8 +41,9 @@ public:
     void cmdReadTah();  ///< pull side, then the cursor to column B
     void cmdReadTlak(); ///< push side, then the cursor to column B
 
-    /// The grip of the current row on the side that its column I names (a missing direction keeps the side), without
-    /// a box and without moving the cursor; a faulty fingering is told in `panel.upozorneni`. Returns the direction.
+    /// The grip of the current row on the side that its column I names (a missing direction keeps the side),
+    /// without a box and without moving the cursor; a faulty fingering is told in `panel.upozorneni`. Returns
+    /// the direction.
     SmerMechu ZobrazHmatPotichu();
 
     /// Only the text panel and the counter of the current row.

@@ -10,9 +10,9 @@ class Zvuk {
 public:
     Zvuk(const OkoliPisne& okoli, const Drive& drive) : okoli_(okoli), drive_(drive) {}
 
-    /// Called when a song has been created or opened: switches off the commands that start another one, enables the
-    /// sheet list, shows the active sheet's name, and enables cmdZvuk(0) for the song's mp3, (1) for its mid and (2)
-    /// for its wav file where the working folder has it. May throw AutomationError.
+    /// Called when a song has been created or opened: switches off the commands that start another one,
+    /// enables the sheet list, shows the active sheet's name, and enables cmdZvuk(0) for the song's mp3, (1)
+    /// for its mid and (2) for its wav file where the working folder has it. May throw AutomationError.
     void NajdiZvuk();
 
     /// Click on a sound button: fails with error 9 at once. Nothing traps it, so the click ends the program.

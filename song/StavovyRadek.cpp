@@ -1,0 +1,28 @@
+#include "song/StavovyRadek.h"
+
+namespace zvonika {
+
+namespace {
+
+QString coDal(const StavProgramu& stav) {
+    if (!stav.pisenOtevrena)
+        return QStringLiteral("Začněte tlačítkem Nová píseň, nebo otevřete hotovou tlačítkem Otevřít.");
+    if (!stav.neniCoZapsat) return QStringLiteral("Zapište hmat tlačítkem < Tah nebo > Tlak.");
+    if (stav.radekPrazdny)
+        return QStringLiteral(
+            "Označte knoflíky dalšího hmatu. Slabiky pište v tabulce do sloupce A (klávesa F6).");
+    return QStringLiteral("Další hmat ukáže klávesa PageDown, předchozí PageUp. Slabiky pište v tabulce do "
+                          "sloupce A (klávesa F6).");
+}
+
+} // namespace
+
+QString stavovyRadek(const StavProgramu& stav) {
+    if (!stav.upozorneni.isEmpty()) return stav.upozorneni;
+    const bool bezToniny = stav.stupnice == QLatin1String("Vyberte tóninu") || stav.stupnice.isEmpty();
+    // A key matters for what is written next, not for reading.
+    const bool piseSe = stav.pisenOtevrena && (stav.radekPrazdny || !stav.neniCoZapsat);
+    return bezToniny && piseSe ? QStringLiteral("Tónina není zvolena. ") + coDal(stav) : coDal(stav);
+}
+
+} // namespace zvonika

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+namespace zvonika {
+
+/// What the status line speaks of.
+struct StavProgramu {
+    bool pisenOtevrena = false;
+    QString stupnice;         ///< caption of the key button
+    bool neniCoZapsat = true; ///< no treble or bass button is marked and no note entered
+    bool radekPrazdny = true; ///< the current row holds no grip
+    QString upozorneni;       ///< what the last command has to tell
+};
+
+/// The text of the status line: what the last command has to tell, otherwise what to do next, with a warning
+/// while no key is chosen. Never empty.
+QString stavovyRadek(const StavProgramu& stav);
+
+} // namespace zvonika

@@ -1,0 +1,58 @@
+#include "song/UkonceniExcelu.h"
+
+#include "song/Hlaseni.h"
+
+namespace zvonika {
+
+namespace {
+
+// An application that is gone for good fails at every attempt; the program must end nevertheless.
+constexpr int pokusuOUkonceni = 3;
+
+QString textUkonceni(int cislo) {
+    if (cislo == error::objectNotSet)
+        return QStringLiteral("Nezavírejte příště prosím Excel ručně !\nAplikace si ho ovládá sama.");
+    return QStringLiteral("Chyba při ukládání souboru !\nData v písni mohou být ztracena.");
+}
+
+} // namespace
+
+void UkonceniExcelu::UkonciExcel() {
+    if (!pisen_.aplikaceExcel) return;
+    ohlasene_.clear();
+    pokus([this] { ulozPisen(); });
+    bool hotovo = false;
+    for (int i = 0; i < pokusuOUkonceni && !hotovo; ++i)
+        hotovo = pokus([this] { ukonciAVratCestu(); });
+    pisen_.aplikaceExcel.reset();
+}
+
+bool UkonceniExcelu::pokus(const std::function<void()>& kroky) {
+    try {
+        kroky();
+        return true;
+    } catch (const RuntimeError& chyba) {
+        ohlas(chyba.number());
+        return false;
+    }
+}
+
+void UkonceniExcelu::ulozPisen() const {
+    if (pisen_.AktivujPisen()) pisen_.excel().saveActiveWorkbook();
+}
+
+// The folder is given back after quitting, not before: quitting would store the program's own folder.
+void UkonceniExcelu::ukonciAVratCestu() const {
+    pisen_.excel().quit();
+    pisen_.excel().setDefaultFilePath(pisen_.puvodniCestaExcelu);
+}
+
+void UkonceniExcelu::ohlas(int cislo) {
+    if (!ohlasene_.insert(cislo).second) return;
+    if (cislo == error::objectNotSet || cislo == error::applicationDefined)
+        dialogs_.message({QStringLiteral("Nestandardní ukončení."), textUkonceni(cislo), Icon::Exclamation});
+    else
+        dialogs_.message(neocekavanaChyba(cislo));
+}
+
+} // namespace zvonika

@@ -1,0 +1,182 @@
+#include "song/ZobrazeniHmatu.h"
+
+#include "board/BassBoard.h"
+#include "board/BassTable.h"
+#include "board/TrebleBoard.h"
+#include "song/ZobrazovaciOsnova.h"
+#include "theory/Tonavox12.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <utility>
+
+namespace zvonika {
+
+namespace {
+
+// Syllables shown on each side of the current row.
+constexpr int sousedu = 2;
+
+template <typename Stav>
+bool zHmatu(Stav stav) {
+    return stav == Stav::Tah || stav == Stav::Tlak;
+}
+
+/// What a button shows when the grip lets it go: the mark outlives the picture.
+template <typename Stav>
+Stav stavPodleZnacky(bool oznacen) {
+    return oznacen ? Stav::Cerveny : Stav::Volny;
+}
+
+/// True when every entry names a button that exists.
+bool platnyPrstoklad(const QString& zaznam) {
+    static const QRegularExpression tvar(QStringLiteral(R"(^(?:[ls][0-9]{1,2};[^\\]*\\)*$)"));
+    static const QRegularExpression polozka(QStringLiteral(R"(([ls])([0-9]{1,2});[^\\]*\\)"));
+    if (!tvar.match(zaznam).hasMatch()) return false;
+    for (auto nalez = polozka.globalMatch(zaznam); nalez.hasNext();) {
+        const auto jedna = nalez.next();
+        const int knoflik = jedna.captured(2).toInt();
+        if (knoflik < 1 || knoflik > pocetKnofliku) return false;
+        if (jedna.captured(1) == u's' && !maPomocny(knoflik)) return false;
+    }
+    return true;
+}
+
+CisloTonu cisloTonu(const QString& nazev) {
+    Tonavox12 ladeni;
+    ladeni.DejCisloTonu(ToneName(nazev));
+    return ladeni.cisloTonu();
+}
+
+} // namespace
+
+ZobrazeniHmatu::ZobrazeniHmatu(const Pisen& pisen, const PlochyHmatu& plochy, UkazPrstoklad ukazPrstoklad)
+    : list_(pisen), plochy_(plochy), ukazPrstoklad_(std::move(ukazPrstoklad)) {}
+
+void ZobrazeniHmatu::ZobrazHmat() {
+    const OkoliRadku okoli = prectiOkoli();
+    ukazHmat(okoli);
+    plochy_.panel.oznamZmenu();
+    // Last, because it may show a box: everything else of the grip is visible behind it.
+    ukazPrstoklad_(okoli.hmat().prstoklad);
+}
+
+void ZobrazeniHmatu::cmdReadTah() {
+    zobrazenTlak_ = false;
+    ZobrazHmat();
+    list_.VyberBunkuB();
+}
+
+void ZobrazeniHmatu::cmdReadTlak() {
+    zobrazenTlak_ = true;
+    ZobrazHmat();
+    list_.VyberBunkuB();
+}
+
+SmerMechu ZobrazeniHmatu::ZobrazHmatPotichu() {
+    const OkoliRadku okoli = prectiOkoli();
+    const SmerMechu smer = smerMechu(okoli.hmat().smer);
+    if (smer != SmerMechu::Neuveden) zobrazenTlak_ = smer == SmerMechu::Tlak;
+    ukazHmat(okoli);
+    if (platnyPrstoklad(okoli.hmat().prstoklad))
+        ukazPrstoklad_(okoli.hmat().prstoklad);
+    else
+        plochy_.panel.upozorneni += QStringLiteral(" Prstoklad ve sloupci V není platný.");
+    plochy_.panel.upozorneni = plochy_.panel.upozorneni.trimmed();
+    plochy_.panel.oznamZmenu();
+    return smer;
+}
+
+void ZobrazeniHmatu::ZobrazTexty() {
+    ukazTexty(prectiOkoli());
+    plochy_.panel.oznamZmenu();
+}
+
+void ZobrazeniHmatu::odeberHmat() {
+    uvolniObrazky();
+    plochy_.diskant.vyprazdniPopisy();
+    plochy_.osnova.vyprazdni();
+}
+
+ZobrazeniHmatu::OkoliRadku ZobrazeniHmatu::prectiOkoli() const {
+    OkoliRadku okoli;
+    okoli.radek = list_.aktualniRadek();
+    const int prvni = std::max(1, okoli.radek - sousedu);
+    okoli.index = okoli.radek - prvni;
+    okoli.hmaty = list_.gripy(prvni, okoli.index + 1 + sousedu);
+    return okoli;
+}
+
+void ZobrazeniHmatu::ukazHmat(const OkoliRadku& okoli) {
+    const Grip& hmat = okoli.hmat();
+    odeberHmat();
+    const QStringList ciziTony = ukazTony(hmat.tony);
+    const QStringList ciziBasy = ukazBasy(hmat.basy);
+    plochy_.osnova.ukaz(hmat.tony);
+    ukazTexty(okoli);
+    plochy_.panel.upozorneni = upozorneni(ciziTony, ciziBasy);
+}
+
+void ZobrazeniHmatu::ukazTexty(const OkoliRadku& okoli) {
+    SongPanel& panel = plochy_.panel;
+    panel.lblTon = QString::number(okoli.radek);
+    for (int i = 0; i < static_cast<int>(panel.lblSlabika.size()); ++i) {
+        const int index = okoli.index - sousedu + i;
+        panel.lblSlabika.at(static_cast<std::size_t>(i)) =
+            index < 0 ? QString() : okoli.hmaty.at(index).slabika;
+    }
+    panel.popisyViditelne = true;
+    panel.lblTony = okoli.hmat().tony.join(u' ');
+    panel.lblBasy = okoli.hmat().basy.join(u' ');
+    panel.lblStupnice = okoli.hmat().tonina;
+}
+
+void ZobrazeniHmatu::uvolniObrazky() {
+    TrebleBoard& diskant = plochy_.diskant;
+    for (int n = 1; n <= pocetKnofliku; ++n) {
+        const auto volny = stavPodleZnacky<StavKnofliku>(diskant.oznacen(n));
+        if (zHmatu(diskant.stav(n))) diskant.ukazHlavni(n, volny);
+        if (zHmatu(diskant.stavPomocneho(n))) diskant.ukazPomocny(n, volny);
+    }
+    BassBoard& basy = plochy_.basy;
+    for (int bas = 1; bas <= pocetBasu; ++bas)
+        if (zHmatu(basy.stav(bas))) basy.ukaz(bas, stavPodleZnacky<StavBasu>(basy.oznacen(bas)));
+}
+
+QStringList ZobrazeniHmatu::ukazTony(const QStringList& tony) {
+    QStringList cizi;
+    for (const QString& ton : tony) {
+        const CisloTonu cislo = cisloTonu(ton);
+        if (cislo.jeVRozsahu())
+            plochy_.diskant.ukaz(cislo.hodnota(), zobrazenTlak_ ? StavKnofliku::Tlak : StavKnofliku::Tah);
+        else
+            cizi.append(ton);
+    }
+    return cizi;
+}
+
+QStringList ZobrazeniHmatu::ukazBasy(const QStringList& basy) {
+    QStringList cizi;
+    for (const QString& nazev : basy) {
+        const int bas = plochy_.tabulkaBasu.cislo(nazev);
+        if (bas > 0)
+            plochy_.basy.ukaz(bas, zobrazenTlak_ ? StavBasu::Tlak : StavBasu::Tah);
+        else
+            cizi.append(nazev);
+    }
+    return cizi;
+}
+
+QString ZobrazeniHmatu::upozorneni(const QStringList& ciziTony, const QStringList& ciziBasy) const {
+    QStringList vety;
+    if (!ciziTony.isEmpty())
+        vety.append(QStringLiteral("Neznámý tón v tabulce: %1.").arg(ciziTony.join(u' ')));
+    if (!ciziBasy.isEmpty()) {
+        vety.append(QStringLiteral("Neznámý bas v tabulce: %1.").arg(ciziBasy.join(u' ')));
+        vety.append(plochy_.tabulkaBasu.chyba());
+    }
+    return vety.join(u' ').trimmed();
+}
+
+} // namespace zvonika
