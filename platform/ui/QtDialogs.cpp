@@ -10,8 +10,9 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSpacerItem>
-#include <QStyle>
+#include <QTreeView>
 
+#include <algorithm>
 #include <array>
 
 namespace zvonika {
@@ -133,11 +134,21 @@ void nameTheParts(QFileDialog& dialog, const QString& accept) {
         name->setAccessibleName(QStringLiteral("Název souboru"));
 }
 
+// Songs are told apart by name and date; their type is the same for all.
+void arrangeColumns(QFileDialog& dialog) {
+    auto* list = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+    if (!list) return;
+    list->setColumnHidden(2, true);
+    list->setColumnWidth(0, 330);
+    list->setColumnWidth(3, 150);
+}
+
 void setUp(QFileDialog& dialog, const QString& filter, const QString& folder) {
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setNameFilter(qtFilter(filter));
     dialog.setDirectory(nearestExistingFolder(folder));
     dialog.setViewMode(QFileDialog::Detail);
+    arrangeColumns(dialog);
     dialog.resize(720, 460);
 }
 
