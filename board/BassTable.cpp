@@ -11,20 +11,18 @@ namespace {
 
 const auto nadpisChyby = QStringLiteral("Tabulka basů tonavox.xml ");
 
-QString textPolozky(const pugi::xml_node& polozka, const char* jmeno)
-{
+QString textPolozky(const pugi::xml_node& polozka, const char* jmeno) {
     return QString::fromUtf8(polozka.child(jmeno).text().get()).trimmed();
 }
 
 } // namespace
 
-BassTable::BassTable(const QString& slozkaProgramu) : soubor_(slozkaProgramu + QStringLiteral("/tonavox.xml"))
-{
+BassTable::BassTable(const QString& slozkaProgramu)
+    : soubor_(slozkaProgramu + QStringLiteral("/tonavox.xml")) {
     nacti();
 }
 
-bool BassTable::nacti()
-{
+bool BassTable::nacti() {
     nazvy_.fill({});
     cisla_.clear();
     QByteArray obsah;
@@ -33,8 +31,7 @@ bool BassTable::nacti()
     return chyba_.isEmpty();
 }
 
-QString BassTable::nactiSoubor(QByteArray& obsah) const
-{
+QString BassTable::nactiSoubor(QByteArray& obsah) const {
     QFile soubor(soubor_);
     if (!soubor.exists()) return nadpisChyby + QStringLiteral("nebyla ve složce programu nalezena.");
     if (!soubor.open(QIODevice::ReadOnly))
@@ -43,8 +40,7 @@ QString BassTable::nactiSoubor(QByteArray& obsah) const
     return {};
 }
 
-QString BassTable::nactiPolozky(const QByteArray& obsah)
-{
+QString BassTable::nactiPolozky(const QByteArray& obsah) {
     pugi::xml_document dokument;
     if (!dokument.load_buffer(obsah.constData(), static_cast<std::size_t>(obsah.size())))
         return nadpisChyby + QStringLiteral("je poškozená a nejde přečíst.");
@@ -60,8 +56,7 @@ QString BassTable::nactiPolozky(const QByteArray& obsah)
     return vady.isEmpty() ? QString() : nadpisChyby + vady.join(QStringLiteral(" a ")) + u'.';
 }
 
-bool BassTable::pridej(int bas, const QString& nazev)
-{
+bool BassTable::pridej(int bas, const QString& nazev) {
     if (bas < 1 || bas > pocetBasu || nazev.isEmpty()) return false;
     QString& misto = nazvy_.at(static_cast<std::size_t>(bas));
     if (!misto.isEmpty() || cisla_.contains(nazev)) return false;
@@ -70,8 +65,7 @@ bool BassTable::pridej(int bas, const QString& nazev)
     return true;
 }
 
-QString BassTable::nazev(int bas) const
-{
+QString BassTable::nazev(int bas) const {
     return bas < 1 || bas > pocetBasu ? QString() : nazvy_.at(static_cast<std::size_t>(bas));
 }
 

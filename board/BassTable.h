@@ -9,9 +9,9 @@
 
 namespace zvonika {
 
-/// The names of the bass buttons as they are written into songs, from the table "tonavox.xml" in the program's
-/// folder. Nothing is ever raised: a table that cannot be read leaves all names unknown, a table with faults keeps
-/// the entries that are good, and `chyba` tells what is wrong.
+/// The names of the bass buttons as they are written into songs, from the table "tonavox.xml" in the
+/// program's folder. Nothing is ever raised: a table that cannot be read leaves all names unknown, a table
+/// with faults keeps the entries that are good, and `chyba` tells what is wrong.
 class BassTable {
 public:
     /// `slozkaProgramu`: native folder of the table. The table is loaded at once.

@@ -16,13 +16,11 @@ struct NeznamyDruh {};
 
 } // namespace
 
-QString Prstoklad::odeber()
-{
+QString Prstoklad::odeber() {
     return std::exchange(prstoklad_, {});
 }
 
-void Prstoklad::pridej(QChar druh, int n)
-{
+void Prstoklad::pridej(QChar druh, int n) {
     const QString prst = dialogs_.input(
         QStringLiteral("Označení prstokladu"),
         QStringLiteral("Zadejte číslo prstu, kterým má být mačkán tento knoflík. 1 = palec až 5 = malíček."));
@@ -30,8 +28,7 @@ void Prstoklad::pridej(QChar druh, int n)
     prstoklad_ += druh + QString::number(n) + u';' + prst + u'\\';
 }
 
-void ZobrazeniPrstokladu::ZobrazPrstoklad()
-{
+void ZobrazeniPrstokladu::ZobrazPrstoklad() {
     QString zaznam;
     try {
         auto& excel = pisen_.excel();
@@ -44,8 +41,7 @@ void ZobrazeniPrstokladu::ZobrazPrstoklad()
     zobraz(zaznam);
 }
 
-void ZobrazeniPrstokladu::zobraz(const QString& zaznam)
-{
+void ZobrazeniPrstokladu::zobraz(const QString& zaznam) {
     try {
         for (qsizetype zacatek = 0; zacatek < zaznam.size();) {
             const auto konec = zaznam.indexOf(u'\\', zacatek);
@@ -54,15 +50,14 @@ void ZobrazeniPrstokladu::zobraz(const QString& zaznam)
             zacatek = konec + 1;
         }
     } catch (const NeznamyDruh&) {
-        dialogs_.message({QStringLiteral("Chyba !"), QStringLiteral("Neočekávaná hodnota ve značení prstokladu."),
-                          Icon::Critical});
+        dialogs_.message({QStringLiteral("Chyba !"),
+                          QStringLiteral("Neočekávaná hodnota ve značení prstokladu."), Icon::Critical});
     } catch (const NeplatnyZaznam&) {
         ohlasNeplatnyZaznam();
     }
 }
 
-void ZobrazeniPrstokladu::vyznacPolozku(const QString& polozka)
-{
+void ZobrazeniPrstokladu::vyznacPolozku(const QString& polozka) {
     const auto strednik = polozka.indexOf(u';');
     if (strednik < 1) throw NeplatnyZaznam();
     const QChar druh = polozka.front();
@@ -79,15 +74,15 @@ void ZobrazeniPrstokladu::vyznacPolozku(const QString& polozka)
         diskant_.nastavPopisPomocneho(n, prst + diskant_.popisPomocneho(n));
 }
 
-void ZobrazeniPrstokladu::ohlasNeplatnyZaznam()
-{
+void ZobrazeniPrstokladu::ohlasNeplatnyZaznam() {
     dialogs_.message(
         {QStringLiteral("Chyba č. 340."),
-         QStringLiteral("Požadavek na vyznačení prstokladu nemohl být proveden, neboť záznam ve sloupci V "
-                        "neobsahuje platnou hodnotu. Knoflík, na který odkazuje tento záznam, neexistuje. Pro "
-                        "odstranění této chyby smažte prosím v Excelu na aktuálním řádku ve sloupci V celý obsah "
-                        "buňky. Data o aktuálním hmatu zůstanou zachována. Prstoklad pak včetně potvrzení hmatu "
-                        "můžete zapsat znovu."),
+         QStringLiteral(
+             "Požadavek na vyznačení prstokladu nemohl být proveden, neboť záznam ve sloupci V "
+             "neobsahuje platnou hodnotu. Knoflík, na který odkazuje tento záznam, neexistuje. Pro "
+             "odstranění této chyby smažte prosím v Excelu na aktuálním řádku ve sloupci V celý obsah "
+             "buňky. Data o aktuálním hmatu zůstanou zachována. Prstoklad pak včetně potvrzení hmatu "
+             "můžete zapsat znovu."),
          Icon::Critical});
 }
 

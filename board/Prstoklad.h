@@ -9,13 +9,13 @@ namespace zvonika {
 struct Pisen;
 class TrebleBoard;
 
-/// Fingering marks collected for the grip being recorded: entries "l12;1\" (main button 12, thumb) and "s14;4\"
-/// (auxiliary button 14, ring finger) in the order of entering. Only `odeber` empties them.
+/// Fingering marks collected for the grip being recorded: entries "l12;1\" (main button 12, thumb) and
+/// "s14;4\" (auxiliary button 14, ring finger) in the order of entering. Only `odeber` empties them.
 class Prstoklad {
 public:
     explicit Prstoklad(Dialogs& dialogs) : dialogs_(dialogs) {}
 
-    void dvojklikLbl(int n) { pridej(u'l', n); }       ///< asks for the finger of main button n
+    void dvojklikLbl(int n) { pridej(u'l', n); }        ///< asks for the finger of main button n
     void dvojklikLblSynchro(int n) { pridej(u's', n); } ///< asks for the finger of auxiliary button n
 
     const QString& prstoklad() const { return prstoklad_; }
@@ -33,12 +33,10 @@ private:
 class ZobrazeniPrstokladu {
 public:
     ZobrazeniPrstokladu(const Pisen& pisen, TrebleBoard& diskant, Dialogs& dialogs)
-        : pisen_(pisen), diskant_(diskant), dialogs_(dialogs)
-    {
-    }
+        : pisen_(pisen), diskant_(diskant), dialogs_(dialogs) {}
 
-    /// Reads column V of the current row and stacks its fingers on the captions of the buttons. Every failure,
-    /// also of the spreadsheet application, is reported to the user here.
+    /// Reads column V of the current row and stacks its fingers on the captions of the buttons. Every
+    /// failure, also of the spreadsheet application, is reported to the user here.
     void ZobrazPrstoklad();
     /// The same for entries that have been read already.
     void zobraz(const QString& zaznam);

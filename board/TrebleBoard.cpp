@@ -8,88 +8,75 @@ namespace zvonika {
 
 namespace {
 
-/// Sets a value and tells whether it was another one before: who watches the board repaints only what changed.
-template <typename T> bool zmen(T& misto, const T& hodnota)
-{
+/// Sets a value and tells whether it was another one before: who watches the board repaints only what
+/// changed.
+template <typename T>
+bool zmen(T& misto, const T& hodnota) {
     if (misto == hodnota) return false;
     misto = hodnota;
     return true;
 }
 
 /// Puts the new name under the fingers that are stacked on the old one.
-QString prejmenuj(const QString& popis, const QString& stary, const QString& novy)
-{
+QString prejmenuj(const QString& popis, const QString& stary, const QString& novy) {
     if (!popis.endsWith(stary)) return novy;
     return popis.chopped(stary.size()) + novy;
 }
 
 } // namespace
 
-TrebleBoard::TrebleBoard(QObject* parent) : QObject(parent)
-{
+TrebleBoard::TrebleBoard(QObject* parent) : QObject(parent) {
     for (int n = 1; n <= pocetKnofliku; ++n)
         vratBarvuKlavesy(n);
     knoflik(28).klavesa = BarvaKlavesy::WindowBackground;
 }
 
-bool TrebleBoard::oznacen(int n) const
-{
+bool TrebleBoard::oznacen(int n) const {
     return knoflik(n).oznacen;
 }
 
-void TrebleBoard::nastavZnacku(int n, bool oznacen)
-{
+void TrebleBoard::nastavZnacku(int n, bool oznacen) {
     if (zmen(knoflik(n).oznacen, oznacen)) Q_EMIT knoflikZmenen(n);
 }
 
-StavKnofliku TrebleBoard::stav(int n) const
-{
+StavKnofliku TrebleBoard::stav(int n) const {
     return knoflik(n).stav;
 }
 
-StavKnofliku TrebleBoard::stavPomocneho(int n) const
-{
+StavKnofliku TrebleBoard::stavPomocneho(int n) const {
     return knoflik(n).stavPomocneho;
 }
 
-void TrebleBoard::ukaz(int n, StavKnofliku stav)
-{
+void TrebleBoard::ukaz(int n, StavKnofliku stav) {
     ukazHlavni(n, stav);
     ukazPomocny(n, stav);
 }
 
-void TrebleBoard::ukazHlavni(int n, StavKnofliku stav)
-{
+void TrebleBoard::ukazHlavni(int n, StavKnofliku stav) {
     if (zmen(knoflik(n).stav, stav)) Q_EMIT knoflikZmenen(n);
 }
 
-void TrebleBoard::ukazPomocny(int n, StavKnofliku stav)
-{
+void TrebleBoard::ukazPomocny(int n, StavKnofliku stav) {
     if (maPomocny(n) && zmen(knoflik(n).stavPomocneho, stav)) Q_EMIT knoflikZmenen(n);
 }
 
-QString TrebleBoard::popis(int n) const
-{
+QString TrebleBoard::popis(int n) const {
     return knoflik(n).popis;
 }
 
-QString TrebleBoard::popisPomocneho(int n) const
-{
+QString TrebleBoard::popisPomocneho(int n) const {
     return knoflik(n).popisPomocneho;
 }
 
-void TrebleBoard::nastavPopis(int n, const QString& popis)
-{
+void TrebleBoard::nastavPopis(int n, const QString& popis) {
     if (zmen(knoflik(n).popis, popis)) Q_EMIT knoflikZmenen(n);
 }
 
-void TrebleBoard::nastavPopisPomocneho(int n, const QString& popis)
-{
+void TrebleBoard::nastavPopisPomocneho(int n, const QString& popis) {
     if (maPomocny(n) && zmen(knoflik(n).popisPomocneho, popis)) Q_EMIT knoflikZmenen(n);
 }
 
-void TrebleBoard::nastavNazvy(bool zapnuto, const QString& stupnice)
-{
+void TrebleBoard::nastavNazvy(bool zapnuto, const QString& stupnice) {
     const bool prepnuto = zmen(nazvy_, zapnuto);
     Tonavox12 ladeni;
     for (int n = 1; n <= pocetKnofliku; ++n) {
@@ -102,75 +89,62 @@ void TrebleBoard::nastavNazvy(bool zapnuto, const QString& stupnice)
     }
 }
 
-void TrebleBoard::vyprazdniPopisy()
-{
+void TrebleBoard::vyprazdniPopisy() {
     for (int n = 1; n <= pocetKnofliku; ++n) {
         nastavPopis(n, knoflik(n).nazev);
         nastavPopisPomocneho(n, knoflik(n).nazev);
     }
 }
 
-BarvaKlavesy TrebleBoard::barvaKlavesy(int n) const
-{
+BarvaKlavesy TrebleBoard::barvaKlavesy(int n) const {
     return knoflik(n).klavesa;
 }
 
-void TrebleBoard::nastavBarvuKlavesy(int n, BarvaKlavesy barva)
-{
+void TrebleBoard::nastavBarvuKlavesy(int n, BarvaKlavesy barva) {
     if (zmen(knoflik(n).klavesa, barva)) Q_EMIT klavesaZmenena(n);
 }
 
-void TrebleBoard::vratBarvuKlavesy(int n)
-{
+void TrebleBoard::vratBarvuKlavesy(int n) {
     nastavBarvuKlavesy(n, jePulton(n) ? BarvaKlavesy::WindowText : BarvaKlavesy::CaptionText);
 }
 
-QString TrebleBoard::tonKlavesy(int n) const
-{
+QString TrebleBoard::tonKlavesy(int n) const {
     return knoflik(n).tonKlavesy;
 }
 
-void TrebleBoard::nastavTonKlavesy(int n, const QString& ton)
-{
+void TrebleBoard::nastavTonKlavesy(int n, const QString& ton) {
     if (zmen(knoflik(n).tonKlavesy, ton)) Q_EMIT klavesaZmenena(n);
 }
 
-void TrebleBoard::vyprazdniTonyKlaves()
-{
+void TrebleBoard::vyprazdniTonyKlaves() {
     for (int n = 1; n <= pocetKnofliku; ++n)
         nastavTonKlavesy(n, {});
 }
 
-void TrebleBoard::nastavZabranu(int rada, bool zakryta)
-{
+void TrebleBoard::nastavZabranu(int rada, bool zakryta) {
     if (zmen(zabrany_.at(static_cast<std::size_t>(rada)), zakryta)) Q_EMIT zabranyZmeneny();
 }
 
-bool TrebleBoard::zakryta(int rada) const
-{
+bool TrebleBoard::zakryta(int rada) const {
     return zabrany_.at(static_cast<std::size_t>(rada));
 }
 
-void TrebleBoard::nastavCislovani(bool viditelne)
-{
+void TrebleBoard::nastavCislovani(bool viditelne) {
     if (zmen(cislovani_, viditelne)) Q_EMIT cislovaniZmeneno();
 }
 
-void TrebleBoard::nastavObraceneCislovani(bool obracene)
-{
+void TrebleBoard::nastavObraceneCislovani(bool obracene) {
     if (zmen(obraceneCislovani_, obracene)) Q_EMIT cislovaniZmeneno();
 }
 
-void TrebleBoard::uvolniDiskant()
-{
+void TrebleBoard::uvolniDiskant() {
     for (int n = 1; n <= pocetKnofliku; ++n) {
         ukaz(n, StavKnofliku::Volny);
         nastavZnacku(n, false);
     }
 }
 
-void TrebleBoard::uvolniKlavesy()
-{
+void TrebleBoard::uvolniKlavesy() {
     for (int n = 1; n <= pocetKnofliku; ++n) {
         vratBarvuKlavesy(n);
         if (jePulton(n)) nastavZnacku(n, false);

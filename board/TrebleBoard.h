@@ -12,30 +12,31 @@ namespace zvonika {
 /// What a button's picture shows.
 enum class StavKnofliku { Volny, Cerveny, Tah, Tlak, Hnedy };
 
-/// Background of a piano key. The names are the system colours that the keys are said to have: caption text is
-/// the white of naturals, window text the black of accidentals; key 28 starts in window background.
+/// Background of a piano key. The names are the system colours that the keys are said to have: caption text
+/// is the white of naturals, window text the black of accidentals; key 28 starts in window background.
 enum class BarvaKlavesy { CaptionText, WindowText, WindowBackground, Cervena, Hneda };
 
-/// The treble board as it is shown and marked: pictures, marks, captions and the piano beside it. Knows nothing of
-/// songs. Buttons are numbered 1..49; any other number is a programming error.
+/// The treble board as it is shown and marked: pictures, marks, captions and the piano beside it. Knows
+/// nothing of songs. Buttons are numbered 1..49; any other number is a programming error.
 class TrebleBoard : public QObject {
     Q_OBJECT
 public:
     explicit TrebleBoard(QObject* parent = nullptr);
 
     // The mark that recording reads; independent of the picture.
-    bool oznacen(int n) const;                  ///< lbl(n).Tag is "1"
+    bool oznacen(int n) const; ///< lbl(n).Tag is "1"
     void nastavZnacku(int n, bool oznacen);
 
-    StavKnofliku stav(int n) const;             ///< picture of the main button
-    StavKnofliku stavPomocneho(int n) const;    ///< picture of the auxiliary button, Volny where there is none
-    void ukaz(int n, StavKnofliku stav);        ///< both pictures
+    StavKnofliku stav(int n) const;          ///< picture of the main button
+    StavKnofliku stavPomocneho(int n) const; ///< picture of the auxiliary button, Volny where there is none
+    void ukaz(int n, StavKnofliku stav);     ///< both pictures
     void ukazHlavni(int n, StavKnofliku stav);
     void ukazPomocny(int n, StavKnofliku stav);
 
-    // Captions of the click areas: the tone's name where names are switched on, finger digits stacked above it.
-    QString popis(int n) const;                 ///< caption of lbl(n)
-    QString popisPomocneho(int n) const;        ///< caption of lblSynchro(n)
+    // Captions of the click areas: the tone's name where names are switched on, finger digits stacked above
+    // it.
+    QString popis(int n) const;          ///< caption of lbl(n)
+    QString popisPomocneho(int n) const; ///< caption of lblSynchro(n)
     void nastavPopis(int n, const QString& popis);
     void nastavPopisPomocneho(int n, const QString& popis);
     /// Switches the tone names on the buttons; `stupnice` is the key they are spelled in.
@@ -48,13 +49,13 @@ public:
     void nastavBarvuKlavesy(int n, BarvaKlavesy barva);
     /// Gives the key the colour of a released key: caption text for a natural, window text for an accidental.
     void vratBarvuKlavesy(int n);
-    QString tonKlavesy(int n) const;            ///< caption of lblTonKlav(n)
+    QString tonKlavesy(int n) const; ///< caption of lblTonKlav(n)
     void nastavTonKlavesy(int n, const QString& ton);
     void vyprazdniTonyKlaves();
 
     void nastavZabranu(int rada, bool zakryta); ///< row cover 1..5
     bool zakryta(int rada) const;
-    void nastavCislovani(bool viditelne);       ///< number labels 0..31
+    void nastavCislovani(bool viditelne); ///< number labels 0..31
     bool cislovani() const { return cislovani_; }
     void nastavObraceneCislovani(bool obracene);
     bool obraceneCislovani() const { return obraceneCislovani_; }

@@ -7,7 +7,7 @@ namespace zvonika {
 
 namespace {
 
-constexpr int roztec = 600;    // between neighbours of a row, rows and number labels alike
+constexpr int roztec = 600; // between neighbours of a row, rows and number labels alike
 constexpr int levyOkrajRad = 4200;
 constexpr int pocetRad = 5;
 constexpr int topRadyC = 9360; // lowest button of row C and of the outer rows
@@ -23,73 +23,63 @@ constexpr int cislicVeSloupci = 16;
 constexpr int basuVRade = 20;
 
 // Accidentals among the twelve tones counted from button 1, which is e.
-constexpr std::array<bool, 12> pultony{false, false, true, false, true, false, true, false, false, true, false, true};
+constexpr std::array<bool, 12> pultony{false, false, true,  false, true,  false,
+                                       true,  false, false, true,  false, true};
 
 // Naturals below each of these twelve tones.
 constexpr std::array<int, 12> prirozenychPod{0, 1, 2, 2, 3, 3, 4, 4, 5, 6, 6, 7};
 
-int prirozenychPodKlavesou(int knoflik)
-{
+int prirozenychPodKlavesou(int knoflik) {
     return (knoflik - 1) / 12 * 7 + prirozenychPod.at(static_cast<std::size_t>((knoflik - 1) % 12));
 }
 
 } // namespace
 
-bool jePulton(int knoflik)
-{
+bool jePulton(int knoflik) {
     return pultony.at(static_cast<std::size_t>((knoflik - 1) % 12));
 }
 
-bool maPomocny(int knoflik)
-{
+bool maPomocny(int knoflik) {
     return knoflik > 1 && knoflik % 3 != 0;
 }
 
-int rada(int knoflik)
-{
+int rada(int knoflik) {
     constexpr std::array<int, 3> rady{3, 2, 4}; // C, A, B
     return rady.at(static_cast<std::size_t>(knoflik % 3));
 }
 
-int radaPomocneho(int knoflik)
-{
+int radaPomocneho(int knoflik) {
     if (!maPomocny(knoflik)) return 0;
     return knoflik % 3 == 1 ? 5 : 1;
 }
 
-Poloha polohaKnofliku(int knoflik)
-{
+Poloha polohaKnofliku(int knoflik) {
     const int nejnizsi = rada(knoflik) == 3 ? topRadyC : topRadAB;
     return {levyOkrajRady(rada(knoflik)), nejnizsi - (knoflik - 1) / 3 * roztec};
 }
 
-Poloha polohaPomocneho(int knoflik)
-{
+Poloha polohaPomocneho(int knoflik) {
     const int prvni = knoflik % 3 == 1 ? 4 : 2;
     return {levyOkrajRady(radaPomocneho(knoflik)), topRadyC - (knoflik - prvni) / 3 * roztec};
 }
 
-int levyOkrajRady(int rada)
-{
+int levyOkrajRady(int rada) {
     return levyOkrajRad + (pocetRad - rada) * roztec;
 }
 
-Poloha polohaCisla(int index, bool obracene)
-{
+Poloha polohaCisla(int index, bool obracene) {
     const int left = index < cislicVeSloupci ? 7200 : 3840;
     if (obracene && index <= 12) return {left, 7440 - index * roztec};
     if (obracene && index <= 24) return {left, 6840 - (index - 13) * roztec};
     return {left, 9480 - index % cislicVeSloupci * roztec};
 }
 
-int textCisla(int index)
-{
+int textCisla(int index) {
     const int poradi = index % cislicVeSloupci;
     return std::min(poradi + 1, cislicVeSloupci - poradi);
 }
 
-Poloha polohaKlavesy(int knoflik)
-{
+Poloha polohaKlavesy(int knoflik) {
     const int top = topPrvniKlavesy - prirozenychPodKlavesou(knoflik) * roztecKlaves;
     if (!jePulton(knoflik)) return {levyOkrajKlaves, top};
     // An accidental straddles the border of its two naturals; the upper one is the next not below it.
@@ -97,29 +87,24 @@ Poloha polohaKlavesy(int knoflik)
     return {levyOkrajKlaves, top + hranice - vyskaPultonu / 2};
 }
 
-int sirkaKlavesy(int knoflik)
-{
+int sirkaKlavesy(int knoflik) {
     return jePulton(knoflik) ? 975 : 1575;
 }
 
-int vyskaKlavesy(int knoflik)
-{
+int vyskaKlavesy(int knoflik) {
     return jePulton(knoflik) ? vyskaPultonu : vyskaPrirozene;
 }
 
-Poloha polohaTonuKlavesy(int knoflik)
-{
+Poloha polohaTonuKlavesy(int knoflik) {
     return {jePulton(knoflik) ? 9240 : 11400, polohaKlavesy(knoflik).top};
 }
 
-Poloha polohaBasu(int bas)
-{
+Poloha polohaBasu(int bas) {
     const int poradi = (bas - 1) % basuVRade;
     return {120 + radaBasu(bas) * roztec, 1260 + radaBasu(bas) * 150 + (basuVRade - 1 - poradi) * 300};
 }
 
-int radaBasu(int bas)
-{
+int radaBasu(int bas) {
     return (bas - 1) / basuVRade;
 }
 

@@ -2,9 +2,11 @@
 
 namespace zvonika {
 
-/// The treble keyboard's geometry. Positions are in twips (1/1440 inch, 15 to a pixel at 96 dpi), Y grows downward.
-constexpr int pocetKnofliku = 49; ///< treble buttons are numbered 1..49, a semitone apart, 1 = e of the small octave
-constexpr int pocetBasu = 120;    ///< bass buttons are numbered 1..120
+/// The treble keyboard's geometry. Positions are in twips (1/1440 inch, 15 to a pixel at 96 dpi), Y grows
+/// downward.
+constexpr int pocetKnofliku =
+    49; ///< treble buttons are numbered 1..49, a semitone apart, 1 = e of the small octave
+constexpr int pocetBasu = 120; ///< bass buttons are numbered 1..120
 
 constexpr int sirkaKnofliku = 600;
 constexpr int vyskaKnofliku = 570;
@@ -32,16 +34,16 @@ Poloha polohaPomocneho(int knoflik); ///< only where maPomocny()
 /// Left edge of row 1..5.
 int levyOkrajRady(int rada);
 
-/// Number labels 0..31 beside the board: 0..15 on the right, 16..31 on the left. With `obracene` the labels 0..12
-/// and 13..24 take the descending positions of the reversed layout, on top of others.
+/// Number labels 0..31 beside the board: 0..15 on the right, 16..31 on the left. With `obracene` the labels
+/// 0..12 and 13..24 take the descending positions of the reversed layout, on top of others.
 Poloha polohaCisla(int index, bool obracene);
 /// What label 0..31 reads: "1" to "8" upward and "8" down to "1".
 int textCisla(int index);
 
 /// Piano key of a tone: left and top edge, and its size.
 Poloha polohaKlavesy(int knoflik);
-int sirkaKlavesy(int knoflik); ///< 1575 for naturals, 975 for accidentals
-int vyskaKlavesy(int knoflik); ///< 255 or 200
+int sirkaKlavesy(int knoflik);         ///< 1575 for naturals, 975 for accidentals
+int vyskaKlavesy(int knoflik);         ///< 255 or 200
 Poloha polohaTonuKlavesy(int knoflik); ///< its label lblTonKlav
 
 /// Top-left of a bass button in its grid of six vertical runs (columns of 20, lowest number at the bottom).

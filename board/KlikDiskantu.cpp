@@ -1,0 +1,79 @@
+#include "board/KlikDiskantu.h"
+
+#include "theory/Tonina.h"
+#include "theory/clsNotyZapis.h"
+
+#include <QScopedValueRollback>
+
+#include <utility>
+
+namespace zvonika {
+
+KlikDiskantu::KlikDiskantu(TrebleBoard& diskant, clsNotyZapis& noty, const Tonina& tonina, Dialogs& dialogs,
+                           Okno okno)
+    : diskant_(diskant), noty_(noty), tonina_(tonina), okno_(std::move(okno)), polohy_(dialogs),
+      overeni_(dialogs, tonavox_, polohy_, tonina, *this) {}
+
+void KlikDiskantu::klik(int n) {
+    if (overujeSe_) return;
+    if (diskant_.oznacen(n))
+        uvolni(n);
+    else
+        oznac(n);
+}
+
+void KlikDiskantu::notaPridana(CisloTonu ton) {
+    if (!overujeSe_ && ton.jeVRozsahu() && !diskant_.oznacen(ton.hodnota())) oznac(ton.hodnota());
+}
+
+void KlikDiskantu::notaOdebrana(CisloTonu ton) {
+    if (!overujeSe_ && ton.jeVRozsahu() && diskant_.oznacen(ton.hodnota())) uvolni(ton.hodnota());
+}
+
+void KlikDiskantu::oznac(int n) {
+    diskant_.ukaz(n, StavKnofliku::Cerveny);
+    diskant_.nastavZnacku(n, true);
+    diskant_.nastavBarvuKlavesy(n, BarvaKlavesy::Cervena);
+    const QScopedValueRollback overeni(overujeSe_, true);
+    overeni_.OverNotuVeStupnici(CisloTonu(n));
+}
+
+void KlikDiskantu::uvolni(int n) {
+    diskant_.ukaz(n, StavKnofliku::Volny);
+    diskant_.nastavZnacku(n, false);
+    diskant_.vratBarvuKlavesy(n);
+    diskant_.nastavTonKlavesy(n, {});
+    noty_.odeberTon(CisloTonu(n));
+}
+
+void KlikDiskantu::nasledujToninu() {
+    diskant_.nastavNazvy(diskant_.nazvyZapnuty(), tonina_.stupnice().text());
+    for (int n = 1; n <= pocetKnofliku; ++n) {
+        if (diskant_.tonKlavesy(n).isEmpty()) continue;
+        QString stupnice = tonina_.stupnice().text();
+        tonavox_.DejTonVeStupnici(CisloTonu(n), stupnice);
+        diskant_.nastavTonKlavesy(n, tonavox_.nazevTonu().text());
+    }
+}
+
+void KlikDiskantu::popisKlavesu(CisloTonu ton, const ToneName& nazev) {
+    diskant_.nastavTonKlavesy(ton.hodnota(), nazev.text());
+}
+
+void KlikDiskantu::zakresliNotu(const KreslenaNota& nota) {
+    if (noty_.zakresliNotu(nota)) return;
+    okno_.oznam(
+        QStringLiteral("Osnova pro zápis má jen pět not. Tón %1 je označen na knoflíku, ale na osnovu se "
+                       "už nevejde.")
+            .arg(nota.nazev.text()));
+}
+
+void KlikDiskantu::vratTlacitko(CisloTonu ton) {
+    uvolni(ton.hodnota()); // the button was marked just now, so pressing it again lets it go
+}
+
+void KlikDiskantu::otevriVyberStupnice() {
+    okno_.otevriVyberStupnice();
+}
+
+} // namespace zvonika

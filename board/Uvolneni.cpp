@@ -1,0 +1,109 @@
+#include "board/Uvolneni.h"
+
+#include "board/BassBoard.h"
+#include "board/TrebleBoard.h"
+#include "song/ZobrazovaciOsnova.h"
+#include "theory/NotovaOsnova.h"
+
+#include <algorithm>
+#include <array>
+
+namespace zvonika {
+
+namespace {
+
+using Krok = KrokUvolneni;
+
+struct ProvedeniKroku {
+    Krok krok;
+    void (Uvolneni::*provedeni)();
+};
+
+constexpr std::array provedeniKroku{
+    ProvedeniKroku{Krok::Diskant, &Uvolneni::UvolniDiskant},
+    ProvedeniKroku{Krok::Klavesy, &Uvolneni::UvolniKlavesy},
+    ProvedeniKroku{Krok::Intervaly, &Uvolneni::UvolniIntervaly},
+    ProvedeniKroku{Krok::Basy, &Uvolneni::UvolniBasy},
+    ProvedeniKroku{Krok::Noty, &Uvolneni::UvolniNoty},
+    ProvedeniKroku{Krok::Pultony, &Uvolneni::UvolniPultony},
+    ProvedeniKroku{Krok::Odrazky, &Uvolneni::UvolniOdrazky},
+};
+
+void zbavHnede(TrebleBoard& diskant, int n) {
+    const bool oznacen = diskant.oznacen(n);
+    const auto stav = oznacen ? StavKnofliku::Cerveny : StavKnofliku::Volny;
+    if (diskant.stav(n) == StavKnofliku::Hnedy) diskant.ukazHlavni(n, stav);
+    if (diskant.stavPomocneho(n) == StavKnofliku::Hnedy) diskant.ukazPomocny(n, stav);
+    if (diskant.barvaKlavesy(n) != BarvaKlavesy::Hneda) return;
+    if (oznacen)
+        diskant.nastavBarvuKlavesy(n, BarvaKlavesy::Cervena);
+    else
+        diskant.vratBarvuKlavesy(n);
+}
+
+} // namespace
+
+const std::vector<PrikazUvolneni>& prikazyUvolneni() {
+    static const std::vector<PrikazUvolneni> prikazy{
+        {QStringLiteral("cmdUvolDiskant"),
+         QStringLiteral("mnuUvolnitDiskant"),
+         {Krok::Diskant, Krok::Klavesy, Krok::Intervaly, Krok::Noty, Krok::Pultony, Krok::Odrazky}},
+        {QStringLiteral("cmdUvolBasy"), QStringLiteral("mnuUvolnitBasy"), {Krok::Basy}},
+        {QStringLiteral("cmdUvolNoty"), QStringLiteral("mnuUvolnitNoty"), {Krok::Noty}},
+        {QStringLiteral("cmdUvolniPultony"), QStringLiteral("mnuUvolnitPultony"), {Krok::Pultony}},
+        {QStringLiteral("cmdUvolOdrazky"), QStringLiteral("mnuUvolnitOdrazky"), {Krok::Odrazky}},
+        {QStringLiteral("cmdUvolKnofl"),
+         QStringLiteral("mnuUvolnitVse"),
+         {Krok::Diskant, Krok::Klavesy, Krok::Intervaly, Krok::Basy, Krok::Noty, Krok::Pultony,
+          Krok::Odrazky}},
+    };
+    return prikazy;
+}
+
+bool Uvolneni::proved(const QString& prikaz) {
+    const auto& prikazy = prikazyUvolneni();
+    const auto nalezeny = std::find_if(prikazy.begin(), prikazy.end(), [&](const PrikazUvolneni& jeden) {
+        return jeden.tlacitko == prikaz || jeden.nabidka == prikaz;
+    });
+    if (nalezeny == prikazy.end()) return false;
+    for (const Krok krok : nalezeny->kroky)
+        (this->*provedeniKroku.at(static_cast<std::size_t>(krok) - 1).provedeni)();
+    return true;
+}
+
+void Uvolneni::uvolniVse() {
+    proved(QStringLiteral("cmdUvolKnofl"));
+}
+
+void Uvolneni::UvolniDiskant() {
+    diskant_.uvolniDiskant();
+    diskant_.vyprazdniPopisy();
+    zobrazovaci_.vyprazdni();
+}
+
+void Uvolneni::UvolniKlavesy() {
+    diskant_.uvolniKlavesy();
+}
+
+void Uvolneni::UvolniIntervaly() {
+    for (int n = 1; n <= pocetKnofliku; ++n)
+        zbavHnede(diskant_, n);
+}
+
+void Uvolneni::UvolniBasy() {
+    basy_.uvolniBasy();
+}
+
+void Uvolneni::UvolniNoty() {
+    osnova_.odeberNoty();
+}
+
+void Uvolneni::UvolniPultony() {
+    osnova_.odeberPultony();
+}
+
+void Uvolneni::UvolniOdrazky() {
+    osnova_.odeberOdrazky();
+}
+
+} // namespace zvonika

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+namespace zvonika {
+
+class BassBoard;
+class NotovaOsnova;
+class TrebleBoard;
+class ZobrazovaciOsnova;
+
+/// One step of a release command.
+enum class KrokUvolneni { Diskant = 1, Klavesy, Intervaly, Basy, Noty, Pultony, Odrazky };
+
+/// A release command: its button, its menu entry and what it does, in this order.
+struct PrikazUvolneni {
+    QString tlacitko;
+    QString nabidka;
+    std::vector<KrokUvolneni> kroky;
+};
+const std::vector<PrikazUvolneni>& prikazyUvolneni();
+
+/// Returns parts of the input board to their idle state. Song, fingering and bellows direction are not
+/// touched.
+class Uvolneni {
+public:
+    Uvolneni(TrebleBoard& diskant, BassBoard& basy, NotovaOsnova& osnova, ZobrazovaciOsnova& zobrazovaci)
+        : diskant_(diskant), basy_(basy), osnova_(osnova), zobrazovaci_(zobrazovaci) {}
+
+    /// Runs the command of this button or menu entry; false when it is no release command.
+    bool proved(const QString& prikaz);
+    void uvolniVse(); ///< cmdUvolKnofl
+
+    void UvolniDiskant();   ///< buttons with their finger digits, and the display staff
+    void UvolniKlavesy();   ///< piano keys and the names beside them
+    void UvolniIntervaly(); ///< what the interval display shows in brown; a marked button is red again
+    void UvolniBasy();
+    void UvolniNoty();
+    void UvolniPultony();
+    void UvolniOdrazky();
+
+private:
+    TrebleBoard& diskant_;
+    BassBoard& basy_;
+    NotovaOsnova& osnova_;
+    ZobrazovaciOsnova& zobrazovaci_;
+};
+
+} // namespace zvonika

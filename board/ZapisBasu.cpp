@@ -1,0 +1,56 @@
+#include "board/ZapisBasu.h"
+
+#include "platform/Contact.h"
+
+#include <utility>
+
+namespace zvonika {
+
+bool ZapisBasu::ZapisBasy(RadekZapisu& radek) {
+    const Jmena jmena = jmenaOznacenych();
+    radek.zapisBasy(jmena.basy);
+    if (jmena.prebyva) ohlasPrebytek();
+    if (jmena.nekteryBezeJmena) ohlasTabulku();
+    return !jmena.basy.isEmpty();
+}
+
+ZapisBasu::Jmena ZapisBasu::jmenaOznacenych() {
+    Jmena jmena;
+    bool nacteno = false;
+    for (int bas = 1; bas <= pocetBasu && !jmena.prebyva; ++bas) {
+        if (!basy_.oznacen(bas)) continue;
+        // Read afresh each time, so that a repaired table counts at once.
+        if (!std::exchange(nacteno, true)) tabulka_.nacti();
+        pridej(jmena, tabulka_.nazev(bas));
+    }
+    return jmena;
+}
+
+void ZapisBasu::pridej(Jmena& jmena, const QString& nazev) {
+    if (jmena.basy.size() == maxBasu)
+        jmena.prebyva = true;
+    else if (nazev.isEmpty())
+        jmena.nekteryBezeJmena = true;
+    else
+        jmena.basy.append(nazev);
+}
+
+void ZapisBasu::ohlasPrebytek() {
+    dialogs_.message(
+        {QStringLiteral("Sdělení pro mutanty."),
+         QStringLiteral("Na levé ruce máte zřejmě více než sedm prstů. Gratulujeme, ale program jich "
+                        "umí zapsat právě sedm, a tak zbylé basy u tohoto hmatu se vší úctou přehlédne. "
+                        "Sťěžovat si můžete u ") +
+             kontakt,
+         Icon::Critical});
+}
+
+void ZapisBasu::ohlasTabulku() {
+    dialogs_.message(
+        {QStringLiteral("Bas nebyl zapsán !"),
+         tabulka_.chyba() + QStringLiteral("\r\nOznačené basy, jejichž jméno tabulka neuvádí, nebyly "
+                                           "zapsány. Ostatní data o hmatu zůstanou zachována."),
+         Icon::Critical});
+}
+
+} // namespace zvonika

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "board/PoZapisu.h"
+#include "board/Prstoklad.h"
+#include "board/TrebleBoard.h"
+#include "board/ZapisBasu.h"
+#include "platform/Dialogs.h"
+#include "theory/Tonina.h"
+
+#include <utility>
+
+namespace zvonika {
+
+/// What both ways of recording share. Held by reference; all of it outlives them.
+struct OkoliZapisu {
+    const Pisen& pisen;
+    Dialogs& dialogs;
+    Prstoklad& prstoklad;
+    ZapisBasu& basy;
+    PoZapisu& poZapisu;
+    const Tonina& tonina; ///< the key, caption of `cmdStupnice`
+};
+
+/// Records the grip that is marked on the board into the current row. May throw AutomationError: what was
+/// written so far then stays.
+class ZapisHmatu {
+public:
+    ZapisHmatu(OkoliZapisu okoli, const TrebleBoard& diskant) : okoli_(std::move(okoli)), diskant_(diskant) {}
+
+    void cmdTah();
+    void cmdTlak();
+    bool mechTlak() const { return mechTlak_; } ///< direction of the last press
+
+private:
+    void ZapisHmat();
+    QStringList oznaceneTony(bool& prebyva);
+    bool zapisTony(RadekZapisu& radek);
+    void ohlasPrebytek();
+
+    OkoliZapisu okoli_;
+    const TrebleBoard& diskant_;
+    bool mechTlak_ = false;
+};
+
+} // namespace zvonika

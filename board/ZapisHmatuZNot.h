@@ -1,0 +1,34 @@
+#pragma once
+
+#include "board/ZapisHmatu.h"
+
+namespace zvonika {
+
+class NotovaOsnova;
+class clsNotyZapis;
+
+/// Records the grip that stands on the entry staff into the current row. May throw AutomationError: what was
+/// written so far then stays.
+class ZapisHmatuZNot {
+public:
+    ZapisHmatuZNot(OkoliZapisu okoli, const NotovaOsnova& osnova, const clsNotyZapis& noty)
+        : okoli_(std::move(okoli)), osnova_(osnova), noty_(noty) {}
+
+    void cmdTahNoty() { ZapisHmatZNot(SmerMechu::Tah); }
+    void cmdTlakNoty() { ZapisHmatZNot(SmerMechu::Tlak); }
+
+    /// Sorts the tones of the row by their number; names that are no tones are not written back.
+    static void SeradTonyHmatu(RadekZapisu& radek);
+
+private:
+    void ZapisHmatZNot(SmerMechu smer);
+    /// False after a note that is no tone.
+    bool zapisTony(RadekZapisu& radek);
+    bool pridejTon(QStringList& tony, int slot);
+
+    OkoliZapisu okoli_;
+    const NotovaOsnova& osnova_;
+    const clsNotyZapis& noty_;
+};
+
+} // namespace zvonika
