@@ -1,0 +1,71 @@
+#include "board/ui/OstrovFokusu.h"
+
+#include <QWidget>
+
+#include <cstdlib>
+#include <limits>
+
+namespace zvonika {
+
+namespace {
+
+QPoint smerKlavesy(int klavesa) {
+    switch (klavesa) {
+    case Qt::Key_Left:
+        return {-1, 0};
+    case Qt::Key_Right:
+        return {1, 0};
+    case Qt::Key_Up:
+        return {0, -1};
+    case Qt::Key_Down:
+        return {0, 1};
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+void OstrovFokusu::pridej(QWidget* clen) {
+    clenove_.push_back(clen);
+    clen->setFocusPolicy(Qt::ClickFocus);
+    if (!zastavka_) vstup(clen);
+}
+
+void OstrovFokusu::vstup(QWidget* clen) {
+    if (clen == zastavka_) return;
+    if (zastavka_) zastavka_->setFocusPolicy(Qt::ClickFocus);
+    zastavka_ = clen;
+    clen->setFocusPolicy(Qt::StrongFocus);
+}
+
+QWidget* OstrovFokusu::soused(const QWidget* od, int klavesa) const {
+    if (klavesa == Qt::Key_Home) return clenove_.front();
+    if (klavesa == Qt::Key_End) return clenove_.back();
+    const QPoint smer = smerKlavesy(klavesa);
+    if (smer.isNull()) return nullptr;
+    return pohyb_ == Pohyb::PodlePoradi ? podlePoradi(od, smer.x() - smer.y()) : podlePolohy(od, smer);
+}
+
+QWidget* OstrovFokusu::podlePoradi(const QWidget* od, int krok) const {
+    const qsizetype kam = clenove_.indexOf(const_cast<QWidget*>(od)) + krok;
+    return kam >= 0 && kam < clenove_.size() ? clenove_[kam] : nullptr;
+}
+
+QWidget* OstrovFokusu::podlePolohy(const QWidget* od, QPoint smer) const {
+    const QPoint odkud = od->geometry().center();
+    QWidget* nejlepsi = nullptr;
+    int nejblize = std::numeric_limits<int>::max();
+    for (QWidget* clen : clenove_) {
+        const QPoint krok = clen->geometry().center() - odkud;
+        const int podel = QPoint::dotProduct(krok, smer);
+        const int napric = std::abs(krok.x() * smer.y()) + std::abs(krok.y() * smer.x());
+        // Only what lies rather ahead than aside, and rather straight ahead than near: rows are staggered.
+        if (podel <= 0 || napric > podel) continue;
+        const int dalka = 2 * podel + 3 * napric;
+        if (dalka < nejblize) nejblize = dalka, nejlepsi = clen;
+    }
+    return nejlepsi;
+}
+
+} // namespace zvonika

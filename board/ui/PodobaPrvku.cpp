@@ -1,0 +1,35 @@
+#include "board/ui/PodobaPrvku.h"
+
+namespace zvonika {
+
+namespace {
+
+struct RadekBarev {
+    BarvyPrvku svetly;
+    BarvyPrvku tmavy;
+};
+
+// In the order of VyznamPrvku. Pull carries a dark mark on a light face, push a light mark on a dark one: the
+// two differ in lightness too. Marks and captions keep a contrast of at least 4.5 to their face.
+constexpr RadekBarev knofliky[] = {
+    {{{246, 239, 224}, {58, 44, 34}}, {{52, 48, 46}, {240, 232, 216}}},
+    {{{218, 42, 36}, {255, 255, 255}}, {{150, 16, 20}, {255, 255, 255}}},
+    {{{140, 148, 255}, {14, 14, 70}}, {{62, 72, 190}, {255, 255, 255}}},
+    {{{186, 20, 186}, {255, 255, 255}}, {{112, 6, 118}, {255, 255, 255}}},
+    {{{190, 132, 74}, {44, 22, 4}}, {{104, 62, 26}, {255, 244, 226}}},
+};
+
+} // namespace
+
+BarvyPrvku barvyKnofliku(VyznamPrvku vyznam, bool tmavy) {
+    const RadekBarev& radek = knofliky[static_cast<int>(vyznam)];
+    return tmavy ? radek.tmavy : radek.svetly;
+}
+
+BarvyPrvku barvyKlavesy(VyznamPrvku vyznam, bool cerna) {
+    if (vyznam == VyznamPrvku::Volny)
+        return cerna ? BarvyPrvku{{30, 28, 27}, Qt::white} : BarvyPrvku{{254, 254, 252}, Qt::black};
+    return barvyKnofliku(vyznam, cerna);
+}
+
+} // namespace zvonika

@@ -1,0 +1,103 @@
+#include "board/ui/StiskaciPrvek.h"
+
+#include "board/ui/ObrazyPrvku.h"
+#include "board/ui/OstrovFokusu.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace zvonika {
+
+QString slovyStav(VyznamPrvku vyznam, bool oznacen) {
+    static const QString slova[] = {QStringLiteral("volný"), QStringLiteral("označený"),
+                                    QStringLiteral("tah"), QStringLiteral("tlak"),
+                                    QStringLiteral("interval")};
+    const QString slovo = slova[static_cast<int>(vyznam)];
+    return oznacen && vyznam != VyznamPrvku::Oznaceny ? slovo + QStringLiteral(", označený") : slovo;
+}
+
+StiskaciPrvek::StiskaciPrvek(int cislo, std::shared_ptr<ObrazyPrvku> obrazy, QWidget* parent)
+    : QAbstractButton(parent), cislo_(cislo), obrazy_(std::move(obrazy)) {
+    setCheckable(true);
+    setAccessibleDescription(slovyStav(VyznamPrvku::Volny, false));
+}
+
+void StiskaciPrvek::vlozDoOstrova(std::shared_ptr<OstrovFokusu> ostrov) {
+    ostrov_ = std::move(ostrov);
+    ostrov_->pridej(this);
+}
+
+void StiskaciPrvek::prevezmi(const PodobaPrvku& podoba, bool oznacen) {
+    if (podoba.vyznam != podoba_.vyznam || oznacen != isChecked())
+        setAccessibleDescription(slovyStav(podoba.vyznam, oznacen));
+    setChecked(oznacen);
+    if (podoba == podoba_) return;
+    podoba_ = podoba;
+    update();
+}
+
+void StiskaciPrvek::kresliObraz(QPainter& painter, const QRect& misto) {
+    PodobaPrvku obraz = podoba_;
+    obraz.velikost = misto.size();
+    obrazy_->kresli(painter, misto.topLeft(), obraz);
+}
+
+void StiskaciPrvek::kresliZamereni(QPainter& painter, const QRectF& obrys, qreal polomer) const {
+    if (!hasFocus()) return;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(QColor(30, 20, 12), 3.4));
+    painter.drawRoundedRect(obrys, polomer, polomer);
+    painter.setPen(QPen(barvy::zamereni, 2));
+    painter.drawRoundedRect(obrys, polomer, polomer);
+}
+
+void StiskaciPrvek::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton)
+        click();
+    else
+        event->ignore();
+}
+
+void StiskaciPrvek::mouseReleaseEvent(QMouseEvent* event) {
+    event->setAccepted(event->button() == Qt::LeftButton);
+}
+
+void StiskaciPrvek::mouseDoubleClickEvent(QMouseEvent* event) {
+    // The second press of a double click is no click of its own: a button must not toggle twice.
+    if (event->button() == Qt::LeftButton) Q_EMIT dvojklik();
+}
+
+void StiskaciPrvek::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Select:
+        if (!event->isAutoRepeat()) click();
+        return;
+    case Qt::Key_F2:
+        Q_EMIT dvojklik();
+        return;
+    default:
+        break;
+    }
+    const bool samotna = !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+    QWidget* soused = ostrov_ && samotna ? ostrov_->soused(this, event->key()) : nullptr;
+    if (soused)
+        soused->setFocus(Qt::OtherFocusReason);
+    else
+        event->ignore();
+}
+
+void StiskaciPrvek::keyReleaseEvent(QKeyEvent* event) {
+    event->ignore();
+}
+
+void StiskaciPrvek::focusInEvent(QFocusEvent* event) {
+    if (ostrov_) ostrov_->vstup(this);
+    QAbstractButton::focusInEvent(event);
+}
+
+} // namespace zvonika
