@@ -1,0 +1,281 @@
+#include "song/xls/Workbook.h"
+
+#include "song/xls/book/BlankWorkbook.h"
+#include "song/xls/book/CellReader.h"
+#include "song/xls/book/SheetSettings.h"
+#include "song/xls/book/SheetUse.h"
+#include "song/xls/book/WorkbookModel.h"
+#include "song/xls/container/CompoundFile.h"
+#include "song/xls/writer/SharedFormulas.h"
+#include "song/xls/writer/WorkbookWriter.h"
+
+#include <algorithm>
+#include <cmath>
+#include <stdexcept>
+#include <utility>
+
+namespace zvonika::xls {
+
+namespace {
+
+constexpr std::size_t maxTextUnits = 32767;
+constexpr std::size_t maxNameUnits = 31;
+constexpr int maxColumnWidth = 65535;
+constexpr std::uint8_t numberError = 0x24; // #NUM!
+
+std::uint32_t requireStream(const CompoundFile& container) {
+    for (const char* name : {"Workbook", "Book"})
+        if (const auto entry = container.findStream(name)) return *entry;
+    const auto has = [&](const char* name) { return container.findStream(name).has_value(); };
+    const Refusal refusal = has("EncryptedPackage")                             ? Refusal::Encrypted
+                            : has("WordDocument") || has("PowerPoint Document") ? Refusal::OtherFormat
+                                                                                : Refusal::NotXls;
+    throw FormatError(refusal, "directory", 0, "a stream named Workbook or Book", "none");
+}
+
+void requireName(const std::u16string& name) {
+    constexpr std::u16string_view forbidden = u":\\/?*[]";
+    if (name.empty() || name.size() > maxNameUnits)
+        throw std::invalid_argument("a sheet name has 1 to 31 characters");
+    if (name.find_first_of(forbidden) != std::u16string::npos)
+        throw std::invalid_argument("a sheet name has none of : \\ / ? * [ ]");
+}
+
+bool sameName(const std::u16string& a, const std::u16string& b) {
+    const auto lower = [](char16_t c) { return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c + 32) : c; };
+    return std::ranges::equal(a, b, {}, lower, lower);
+}
+
+CellKey keyOf(CellRef cell) {
+    if (cell.row < 0 || cell.row >= maxRows || cell.column < 0 || cell.column >= maxColumns)
+        throw std::out_of_range("cell outside the sheet");
+    return cellKey(static_cast<std::uint32_t>(cell.row), static_cast<std::uint32_t>(cell.column));
+}
+
+/// Like ==, but tells -0.0 from 0.0 and knows a NaN again.
+bool sameValue(const Value& a, const Value& b) {
+    const double* x = std::get_if<double>(&a);
+    const double* y = std::get_if<double>(&b);
+    return x && y ? std::bit_cast<std::uint64_t>(*x) == std::bit_cast<std::uint64_t>(*y) : a == b;
+}
+
+CellContent numberContent(double number) {
+    if (std::isfinite(number)) return {CellContent::Kind::Number, 0, 0, number};
+    return {CellContent::Kind::Error, numberError, 0, 0};
+}
+
+} // namespace
+
+struct Workbook::Impl {
+    Impl(CompoundFile file, std::uint32_t entry, std::vector<std::uint8_t> stream, bool isNew)
+        : container(std::move(file)), entry(entry), created(isNew), model(std::move(stream)) {
+        edits.sheets.resize(model.globals.sheets.size());
+        for (std::size_t i = 0; i < model.globals.sheets.size(); ++i)
+            if (model.globals.sheets[i].isWorksheet()) worksheets.push_back(i);
+        uses.resize(model.globals.sheets.size());
+    }
+
+    std::size_t sheet(int index) const {
+        if (index < 0 || static_cast<std::size_t>(index) >= worksheets.size())
+            throw std::out_of_range("no such worksheet");
+        return worksheets[static_cast<std::size_t>(index)];
+    }
+
+    const std::u16string& name(std::size_t sheet) const {
+        const auto& fresh = edits.sheets[sheet].name;
+        return fresh ? *fresh : model.globals.sheets[sheet].name;
+    }
+
+    Value fileValue(std::size_t sheet, CellKey key) const {
+        const CellSlot* slot = model.layouts[sheet].findCell(key);
+        return slot ? readCell(model.stream, model.strings, *slot) : Value();
+    }
+
+    Value contentValue(const CellContent& content) const {
+        switch (content.kind) {
+        case CellContent::Kind::Number:
+            return content.number;
+        case CellContent::Kind::Bool:
+            return content.code != 0;
+        case CellContent::Kind::Error:
+            return ErrorValue{content.code};
+        case CellContent::Kind::Text:
+            return edits.texts.text(content.text);
+        case CellContent::Kind::Blank:
+            break;
+        }
+        return std::monostate();
+    }
+
+    CellContent content(const Value& value) {
+        if (const auto* number = std::get_if<double>(&value)) return numberContent(*number);
+        if (const auto* truth = std::get_if<bool>(&value)) return {CellContent::Kind::Bool, *truth, 0, 0};
+        if (const auto* error = std::get_if<ErrorValue>(&value))
+            return {CellContent::Kind::Error, error->code, 0, 0};
+        if (const auto* text = std::get_if<std::u16string>(&value))
+            return {CellContent::Kind::Text, 0, edits.texts.intern(*text), 0};
+        return {};
+    }
+
+    bool isFileFormula(std::size_t sheet, CellKey key) const {
+        const CellSlot* slot = model.layouts[sheet].findCell(key);
+        return slot && recordAt(model.stream, slot->record).is(RecordType::Formula);
+    }
+
+    std::uint32_t fileActiveSheet() const {
+        if (model.globals.window1 == absent) return 0;
+        return recordAt(model.stream, model.globals.window1).u16(10);
+    }
+
+    const UsedRange& use(std::size_t sheet) const {
+        return uses[sheet].range(model.stream, model.layouts[sheet], edits.sheets[sheet]);
+    }
+
+    CompoundFile container;
+    std::uint32_t entry;
+    bool created;
+    WorkbookModel model;
+    WorkbookEdits edits;
+    std::vector<std::size_t> worksheets; ///< indexes among model.globals.sheets
+    mutable std::vector<SheetUse> uses;
+};
+
+Workbook::Workbook(std::unique_ptr<Impl> impl) : impl_(std::move(impl)) {}
+Workbook::Workbook(Workbook&&) noexcept = default;
+Workbook& Workbook::operator=(Workbook&&) noexcept = default;
+Workbook::~Workbook() = default;
+
+Workbook Workbook::create(const std::u16string& sheetName) {
+    requireName(sheetName);
+    CompoundFile container = CompoundFile::withEmptyStream("Workbook");
+    const std::uint32_t entry = requireStream(container);
+    return Workbook(
+        std::make_unique<Impl>(std::move(container), entry, blankWorkbookStream(sheetName), true));
+}
+
+Workbook Workbook::open(Bytes file) {
+    CompoundFile container(std::move(file));
+    const std::uint32_t entry = requireStream(container);
+    Bytes stream = container.readStream(entry);
+    return Workbook(std::make_unique<Impl>(std::move(container), entry, std::move(stream), false));
+}
+
+Bytes Workbook::save() const {
+    if (!isModified()) return impl_->container.bytes();
+    return impl_->container.withStream(impl_->entry, writeWorkbook(impl_->model, impl_->edits));
+}
+
+int Workbook::sheetCount() const {
+    return static_cast<int>(impl_->worksheets.size());
+}
+
+std::u16string Workbook::sheetName(int sheet) const {
+    return impl_->name(impl_->sheet(sheet));
+}
+
+void Workbook::renameSheet(int sheet, const std::u16string& name) {
+    const std::size_t index = impl_->sheet(sheet);
+    requireName(name);
+    for (std::size_t i = 0; i < impl_->edits.sheets.size(); ++i)
+        if (i != index && sameName(impl_->name(i), name))
+            throw std::invalid_argument("another sheet has this name");
+    auto& fresh = impl_->edits.sheets[index].name;
+    fresh = name;
+    if (name == impl_->model.globals.sheets[index].name) fresh.reset();
+}
+
+Value Workbook::value(int sheet, CellRef cell) const {
+    const std::size_t index = impl_->sheet(sheet);
+    const CellKey key = keyOf(cell);
+    const auto& cells = impl_->edits.sheets[index].cells;
+    const auto changed = cells.find(key);
+    return changed != cells.end() ? impl_->contentValue(changed->second) : impl_->fileValue(index, key);
+}
+
+void Workbook::setValue(int sheet, CellRef cell, const Value& value) {
+    const std::size_t index = impl_->sheet(sheet);
+    const CellKey key = keyOf(cell);
+    const SheetLayout& layout = impl_->model.layouts[index];
+    const auto* text = std::get_if<std::u16string>(&value);
+    if (text && text->size() > maxTextUnits)
+        throw std::invalid_argument("a cell holds at most 32767 characters");
+    if (isPartOfArray(impl_->model.stream, layout, key))
+        throw std::invalid_argument("a part of an array formula or data table cannot be changed");
+    auto& cells = impl_->edits.sheets[index].cells;
+    if (!impl_->isFileFormula(index, key) && sameValue(value, impl_->fileValue(index, key)))
+        cells.erase(key);
+    else
+        cells[key] = impl_->content(value);
+    impl_->uses[index].changed(key, !std::holds_alternative<std::monostate>(value));
+}
+
+bool Workbook::isFormula(int sheet, CellRef cell) const {
+    const std::size_t index = impl_->sheet(sheet);
+    const CellKey key = keyOf(cell);
+    return !impl_->edits.sheets[index].cells.contains(key) && impl_->isFileFormula(index, key);
+}
+
+int Workbook::usedRows(int sheet) const {
+    return static_cast<int>(impl_->use(impl_->sheet(sheet)).rows);
+}
+
+int Workbook::usedColumns(int sheet) const {
+    return static_cast<int>(impl_->use(impl_->sheet(sheet)).columns);
+}
+
+int Workbook::columnWidth(int sheet, int column) const {
+    const std::size_t index = impl_->sheet(sheet);
+    const std::uint32_t key = columnOf(keyOf({0, column}));
+    const auto& widths = impl_->edits.sheets[index].widths;
+    const auto changed = widths.find(key);
+    if (changed != widths.end()) return static_cast<int>(changed->second);
+    return static_cast<int>(xls::columnWidth(impl_->model.stream, impl_->model.layouts[index], key));
+}
+
+void Workbook::setColumnWidth(int sheet, int column, int width) {
+    const std::size_t index = impl_->sheet(sheet);
+    const std::uint32_t key = columnOf(keyOf({0, column}));
+    const auto fresh = static_cast<std::uint32_t>(std::clamp(width, 0, maxColumnWidth));
+    auto& widths = impl_->edits.sheets[index].widths;
+    widths.erase(key);
+    if (fresh != xls::columnWidth(impl_->model.stream, impl_->model.layouts[index], key)) widths[key] = fresh;
+}
+
+int Workbook::activeSheet() const {
+    const std::size_t active = impl_->edits.activeSheet.value_or(impl_->fileActiveSheet());
+    const auto found = std::ranges::find(impl_->worksheets, active);
+    return found == impl_->worksheets.end() ? 0 : static_cast<int>(found - impl_->worksheets.begin());
+}
+
+void Workbook::setActiveSheet(int sheet) {
+    const auto index = static_cast<std::uint32_t>(impl_->sheet(sheet));
+    impl_->edits.activeSheet = index;
+    if (index == impl_->fileActiveSheet()) impl_->edits.activeSheet.reset();
+}
+
+CellRef Workbook::activeCell(int sheet) const {
+    const std::size_t index = impl_->sheet(sheet);
+    const auto& changed = impl_->edits.sheets[index].activeCell;
+    const CellKey key =
+        changed ? *changed : xls::activeCell(impl_->model.stream, impl_->model.layouts[index]);
+    return {static_cast<int>(rowOf(key)), static_cast<int>(columnOf(key))};
+}
+
+void Workbook::setActiveCell(int sheet, CellRef cell) {
+    const std::size_t index = impl_->sheet(sheet);
+    const CellKey key = keyOf(cell);
+    auto& changed = impl_->edits.sheets[index].activeCell;
+    changed = key;
+    if (key == xls::activeCell(impl_->model.stream, impl_->model.layouts[index])) changed.reset();
+}
+
+bool Workbook::isModified() const {
+    const WorkbookEdits& edits = impl_->edits;
+    return impl_->created || edits.activeSheet || !std::ranges::all_of(edits.sheets, &SheetEdits::empty);
+}
+
+bool Workbook::isConverted() const {
+    return false;
+}
+
+} // namespace zvonika::xls

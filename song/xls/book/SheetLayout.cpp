@@ -1,0 +1,174 @@
+#include "song/xls/book/SheetLayout.h"
+
+#include "song/xls/FormatError.h"
+
+#include <algorithm>
+
+namespace zvonika::xls {
+
+const CellSlot* SheetLayout::findCell(CellKey key) const {
+    const auto behind = std::ranges::upper_bound(cells, key, {}, &CellSlot::key);
+    if (behind == cells.begin() || std::prev(behind)->key != key) return nullptr;
+    return &*std::prev(behind);
+}
+
+const RowSlot* SheetLayout::findRow(std::uint32_t row) const {
+    const auto behind = std::ranges::upper_bound(rows, row, {}, &RowSlot::row);
+    if (behind == rows.begin() || std::prev(behind)->row != row) return nullptr;
+    return &*std::prev(behind);
+}
+
+const RowBlock* SheetLayout::blockAt(std::uint32_t offset) const {
+    const auto block = std::ranges::lower_bound(blocks, offset, {}, &RowBlock::dbCell);
+    return block == blocks.end() || offset < block->start ? nullptr : &*block;
+}
+
+std::uint32_t SheetLayout::tablePosition(ByteView stream) const {
+    if (dimensions != absent) return recordAt(stream, dimensions).end();
+    return window2 != absent ? window2 : eof;
+}
+
+namespace {
+
+/// Indexes a sheet's records in one pass.
+class LayoutReader {
+public:
+    LayoutReader(ByteView stream, const SheetEntry& entry, std::uint32_t sharedStrings)
+        : stream_(stream), sharedStrings_(sharedStrings) {
+        layout_.start = entry.position;
+    }
+
+    SheetLayout read() {
+        Record record = begin();
+        int depth = 1;
+        while (depth > 0) {
+            record = recordAt(stream_, record.end());
+            if (record.is(RecordType::Bof))
+                ++depth;
+            else if (record.is(RecordType::Eof))
+                --depth;
+            else if (depth == 1)
+                take(record);
+        }
+        layout_.eof = record.offset;
+        sort();
+        return std::move(layout_);
+    }
+
+private:
+    Record begin() const {
+        const Record bof = recordAt(stream_, layout_.start);
+        if (!bof.is(RecordType::Bof))
+            throw FormatError(Refusal::Damaged, "BoundSheet", layout_.start, "Bof at the sheet's position",
+                              recordName(bof.id));
+        return bof;
+    }
+
+    void take(const Record& record) {
+        if (isCellRecord(record.type())) return takeCells(record);
+        switch (record.type()) {
+        case RecordType::Row:
+            takeRow(record);
+            break;
+        case RecordType::DbCell:
+            takeBlock(record);
+            break;
+        case RecordType::Index:
+            keepFirst(layout_.index, record, 16);
+            break;
+        case RecordType::Dimensions:
+            keepFirst(layout_.dimensions, record, 12);
+            break;
+        case RecordType::DefColWidth:
+            keepFirst(layout_.defColWidth, record, 2);
+            break;
+        case RecordType::StandardWidth:
+            keepFirst(layout_.standardWidth, record, 2);
+            break;
+        case RecordType::DefaultRowHeight:
+            keepFirst(layout_.defaultRowHeight, record, 4);
+            break;
+        case RecordType::Window2:
+            keepFirst(layout_.window2, record, 2);
+            break;
+        case RecordType::Pane:
+            keepFirst(layout_.pane, record, 9);
+            break;
+        case RecordType::Scl:
+            keepFirst(layout_.scl, record, 0);
+            break;
+        case RecordType::Selection:
+            keep(layout_.selections, record, 9);
+            break;
+        case RecordType::ColInfo:
+            keep(layout_.colInfos, record, 10);
+            break;
+        default:
+            break;
+        }
+    }
+
+    static void keepFirst(std::uint32_t& place, const Record& record, std::size_t size) {
+        record.require(size);
+        if (place == absent) place = record.offset;
+    }
+
+    static void keep(std::vector<std::uint32_t>& places, const Record& record, std::size_t size) {
+        record.require(size);
+        places.push_back(record.offset);
+    }
+
+    void takeCells(const Record& record) {
+        const ColumnRun run = checkedColumns(record);
+        if (record.is(RecordType::LabelSst) && record.u32(6) >= sharedStrings_)
+            throw FormatError(Refusal::Damaged, "LabelSst", record.offset,
+                              "a shared string below " + std::to_string(sharedStrings_),
+                              std::to_string(record.u32(6)));
+        const std::uint32_t row = cellRow(record);
+        for (std::uint32_t i = 0; i < run.count; ++i)
+            layout_.cells.push_back({cellKey(row, run.first + i), record.offset});
+        extendBlock(record, row);
+    }
+
+    void takeRow(const Record& record) {
+        record.require(16);
+        layout_.rows.push_back({record.u16(0), record.offset});
+        extendBlock(record, record.u16(0));
+    }
+
+    void extendBlock(const Record& record, std::uint32_t row) {
+        if (block_.start == 0) block_ = {record.offset, 0, row, row};
+        block_.firstRow = std::min(block_.firstRow, row);
+        block_.lastRow = std::max(block_.lastRow, row);
+    }
+
+    void takeBlock(const Record& record) {
+        record.require(4);
+        if (block_.start == 0) return; // a DbCell record of no rows
+        block_.dbCell = record.offset;
+        layout_.blocks.push_back(block_);
+        block_ = {};
+    }
+
+    void sort() {
+        const auto sortBy = [](auto& slots, auto member) {
+            if (!std::ranges::is_sorted(slots, {}, member)) std::ranges::stable_sort(slots, {}, member);
+            slots.shrink_to_fit();
+        };
+        sortBy(layout_.cells, &CellSlot::key);
+        sortBy(layout_.rows, &RowSlot::row);
+    }
+
+    ByteView stream_;
+    std::uint32_t sharedStrings_;
+    SheetLayout layout_;
+    RowBlock block_;
+};
+
+} // namespace
+
+SheetLayout readSheetLayout(ByteView stream, const SheetEntry& entry, std::uint32_t sharedStrings) {
+    return LayoutReader(stream, entry, sharedStrings).read();
+}
+
+} // namespace zvonika::xls

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "song/xls/book/Globals.h"
+#include "song/xls/records/CellRecord.h"
+
+#include <vector>
+
+namespace zvonika::xls {
+
+/// A cell and the record that holds it.
+struct CellSlot {
+    CellKey key;
+    std::uint32_t record;
+};
+
+/// A row and its Row record.
+struct RowSlot {
+    std::uint32_t row;
+    std::uint32_t record;
+};
+
+/// Rows and their cells up to one DbCell record.
+struct RowBlock {
+    std::uint32_t start = 0;  ///< offset of the first Row or cell record
+    std::uint32_t dbCell = 0; ///< offset of the DbCell record
+    std::uint32_t firstRow = 0;
+    std::uint32_t lastRow = 0;
+};
+
+/// What is where in a sheet's substream, itself and no chart nested in it. Offsets are of records in the
+/// stream.
+class SheetLayout {
+public:
+    std::uint32_t start = 0; ///< Bof
+    std::uint32_t eof = 0;
+    std::uint32_t index = absent;
+    std::uint32_t dimensions = absent;
+    std::uint32_t defColWidth = absent;
+    std::uint32_t standardWidth = absent;
+    std::uint32_t defaultRowHeight = absent;
+    std::uint32_t window2 = absent;
+    std::uint32_t pane = absent;
+    std::uint32_t scl = absent;
+    std::vector<std::uint32_t> selections;
+    std::vector<std::uint32_t> colInfos;
+    std::vector<CellSlot> cells;  ///< sorted by key; of duplicates the later record comes last
+    std::vector<RowSlot> rows;    ///< sorted by row
+    std::vector<RowBlock> blocks; ///< in the order of the stream; empty when the sheet has no DbCell records
+
+    /// The record that holds a cell; null when there is none.
+    const CellSlot* findCell(CellKey key) const;
+    const RowSlot* findRow(std::uint32_t row) const;
+    /// The block that a record at this offset belongs to; null outside all blocks.
+    const RowBlock* blockAt(std::uint32_t offset) const;
+    /// Where the first Row or cell record of an empty sheet belongs.
+    std::uint32_t tablePosition(ByteView stream) const;
+};
+
+/// Reads the substream of `entry`. `sharedStrings`: how many there are. Throws FormatError.
+SheetLayout readSheetLayout(ByteView stream, const SheetEntry& entry, std::uint32_t sharedStrings);
+
+} // namespace zvonika::xls

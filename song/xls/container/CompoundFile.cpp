@@ -1,0 +1,242 @@
+#include "song/xls/container/CompoundFile.h"
+
+#include "song/xls/FormatError.h"
+#include "song/xls/container/CompoundFileWriter.h"
+#include "song/xls/container/CompoundFormat.h"
+#include "song/xls/container/FileKind.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace zvonika::xls {
+
+using namespace CompoundFormat;
+
+namespace {
+
+[[noreturn]] void refuse(Refusal refusal, const char* place, std::size_t offset, std::string expected,
+                         std::string found) {
+    throw FormatError(refusal, place, offset, std::move(expected), std::move(found));
+}
+
+char asciiLower(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 'a' - 'A') : c;
+}
+
+bool sameName(const std::string& a, const std::string& b) {
+    return std::ranges::equal(a, b, {}, asciiLower, asciiLower);
+}
+
+} // namespace
+
+CompoundFile::CompoundFile(Bytes file) : file_(std::move(file)) {
+    requireCompoundFile(file_);
+    readHeader();
+    used_.resize(sectorsInFile());
+    readFat();
+    readDirectory();
+    readMiniFat();
+}
+
+void CompoundFile::readHeader() {
+    sectorShift_ = load16(&file_[Header::sectorShift]);
+    if (sectorShift_ != 9 && sectorShift_ != 12)
+        refuse(Refusal::Damaged, "container header", Header::sectorShift, "sector shift 9 or 12",
+               std::to_string(sectorShift_));
+    const unsigned miniShift = load16(&file_[Header::miniSectorShift]);
+    if ((1U << (miniShift & 15)) != miniSectorSize)
+        refuse(Refusal::Damaged, "container header", Header::miniSectorShift, "mini sector shift 6",
+               std::to_string(miniShift));
+    miniCutoff_ = load32(&file_[Header::miniStreamCutoff]);
+    if (miniCutoff_ != 4096)
+        refuse(Refusal::Damaged, "container header", Header::miniStreamCutoff, "mini stream cutoff 4096",
+               std::to_string(miniCutoff_));
+}
+
+std::uint32_t CompoundFile::sectorsInFile() const {
+    const std::size_t blocks = (file_.size() + sectorSize() - 1) >> sectorShift_;
+    return blocks > 1 ? static_cast<std::uint32_t>(blocks - 1) : 0;
+}
+
+std::size_t CompoundFile::sectorOffset(std::uint32_t sector) const {
+    return (static_cast<std::size_t>(sector) + 1) << sectorShift_;
+}
+
+void CompoundFile::addFatSector(std::uint32_t sector) {
+    const std::size_t begin = sectorOffset(sector);
+    if (sector >= sectorsInFile() || file_.size() - begin < sectorSize())
+        refuse(Refusal::Truncated, "FAT sector", begin, "a sector within the file", "the end of the file");
+    if (used_[sector]) refuse(Refusal::Damaged, "FAT sector", begin, "a sector of its own", "one used twice");
+    used_[sector] = true;
+    fatSectors_.push_back(sector);
+    for (std::size_t at = 0; at < sectorSize(); at += 4)
+        fat_.push_back(load32(&file_[begin + at]));
+}
+
+void CompoundFile::readFat() {
+    const std::uint32_t count = load32(&file_[Header::fatSectors]);
+    if (count > sectorsInFile())
+        refuse(Refusal::Truncated, "container header", Header::fatSectors,
+               "at most " + std::to_string(sectorsInFile()) + " FAT sectors", std::to_string(count));
+    for (std::size_t i = 0; i < headerDifatEntries && fatSectors_.size() < count; ++i) {
+        const std::uint32_t sector = load32(&file_[Header::difat + 4 * i]);
+        if (sector != freeSector) addFatSector(sector);
+    }
+    readDifat();
+}
+
+void CompoundFile::readDifat() {
+    const std::uint32_t count = load32(&file_[Header::fatSectors]);
+    std::uint32_t sector = load32(&file_[Header::firstDifatSector]);
+    while (fatSectors_.size() < count) {
+        const std::size_t begin = sectorOffset(sector);
+        if (sector >= sectorsInFile() || file_.size() - begin < sectorSize())
+            refuse(Refusal::Truncated, "DIFAT sector", Header::firstDifatSector,
+                   std::to_string(count) + " FAT sectors", std::to_string(fatSectors_.size()));
+        if (used_[sector]) refuse(Refusal::Damaged, "DIFAT sector", begin, "an open chain", "a cycle");
+        used_[sector] = true;
+        difatSectors_.push_back(sector);
+        const std::size_t next = begin + sectorSize() - 4;
+        for (std::size_t at = begin; at < next && fatSectors_.size() < count; at += 4)
+            if (const std::uint32_t fat = load32(&file_[at]); fat != freeSector) addFatSector(fat);
+        sector = load32(&file_[next]);
+    }
+}
+
+CompoundFile::Chain CompoundFile::follow(const std::vector<std::uint32_t>& table, std::uint32_t first,
+                                         std::vector<bool>& used, const char* place) const {
+    Chain chain;
+    for (std::uint32_t sector = first; sector != endOfChain; sector = table[sector]) {
+        if (sector >= used.size() && sector <= lastRegularSector)
+            refuse(Refusal::Truncated, place, sectorOffset(sector),
+                   "a sector below " + std::to_string(used.size()), std::to_string(sector));
+        if (sector >= used.size() || sector >= table.size())
+            refuse(Refusal::Damaged, place, 0, "a chain of sectors", "sector " + std::to_string(sector));
+        if (used[sector])
+            refuse(Refusal::Damaged, place, sectorOffset(sector), "an unused sector",
+                   "sector " + std::to_string(sector) + " used twice");
+        used[sector] = true;
+        chain.push_back(sector);
+    }
+    return chain;
+}
+
+void CompoundFile::readDirectory() {
+    const std::uint32_t first = load32(&file_[Header::firstDirectorySector]);
+    directorySectors_ = follow(fat_, first, used_, "directory");
+    for (const std::uint32_t sector : directorySectors_)
+        if (file_.size() - sectorOffset(sector) < sectorSize())
+            refuse(Refusal::Truncated, "directory", sectorOffset(sector), "a whole sector",
+                   "the end of the file");
+    if (directorySectors_.empty() || file_[entryOffset(0) + Entry::type] != Entry::root)
+        refuse(Refusal::Damaged, "directory", Header::firstDirectorySector, "a root entry", "none");
+}
+
+void CompoundFile::readMiniFat() {
+    const std::uint8_t* root = &file_[entryOffset(0)];
+    if (streamSize(0) == 0) return;
+    miniFatSectors_ = follow(fat_, load32(&file_[Header::firstMiniFatSector]), used_, "mini FAT");
+    miniStreamSectors_ = follow(fat_, load32(root + Entry::firstSector), used_, "mini stream");
+    for (const std::uint32_t sector : miniFatSectors_) {
+        const std::size_t begin = sectorOffset(sector);
+        if (file_.size() - begin < sectorSize())
+            refuse(Refusal::Truncated, "mini FAT", begin, "a whole sector", "the end of the file");
+        for (std::size_t at = 0; at < sectorSize(); at += 4)
+            miniFat_.push_back(load32(&file_[begin + at]));
+    }
+}
+
+std::uint32_t CompoundFile::entryCount() const {
+    return static_cast<std::uint32_t>(directorySectors_.size() * (sectorSize() / entrySize));
+}
+
+std::size_t CompoundFile::entryOffset(std::uint32_t entry) const {
+    const std::uint32_t perSector = sectorSize() / static_cast<std::uint32_t>(entrySize);
+    return sectorOffset(directorySectors_[entry / perSector]) + (entry % perSector) * entrySize;
+}
+
+std::uint64_t CompoundFile::streamSize(std::uint32_t entry) const {
+    const std::uint64_t size = load64(&file_[entryOffset(entry) + Entry::size]);
+    return sectorShift_ == 9 ? size & 0xFFFFFFFF : size; // version 3 may leave rubbish in the upper half
+}
+
+std::string CompoundFile::entryName(std::uint32_t entry) const {
+    const std::uint8_t* bytes = &file_[entryOffset(entry)];
+    const std::size_t units = std::min<std::size_t>(load16(bytes + Entry::nameSize) / 2, 32);
+    std::string name;
+    for (std::size_t i = 0; i + 1 < units; ++i) {
+        const std::uint16_t unit = load16(bytes + 2 * i);
+        name += unit < 0x80 ? static_cast<char>(unit) : '?';
+    }
+    return name;
+}
+
+std::optional<std::uint32_t> CompoundFile::findStream(const std::string& name) const {
+    std::vector<bool> seen(entryCount());
+    std::vector<std::uint32_t> open{load32(&file_[entryOffset(0) + Entry::child])};
+    while (!open.empty()) {
+        const std::uint32_t entry = open.back();
+        open.pop_back();
+        if (entry >= seen.size() || seen[entry]) continue;
+        seen[entry] = true;
+        const std::uint8_t* bytes = &file_[entryOffset(entry)];
+        if (bytes[Entry::type] == Entry::stream && sameName(entryName(entry), name)) return entry;
+        open.push_back(load32(bytes + Entry::left));
+        open.push_back(load32(bytes + Entry::right));
+    }
+    return std::nullopt;
+}
+
+CompoundFile::Bytes CompoundFile::gather(const Chain& chain, std::uint64_t size, const char* place) const {
+    if (size > (static_cast<std::uint64_t>(chain.size()) << sectorShift_))
+        refuse(Refusal::Truncated, place, 0, std::to_string(size) + " bytes",
+               std::to_string(chain.size()) + " sectors");
+    Bytes out;
+    out.reserve(static_cast<std::size_t>(size));
+    for (const std::uint32_t sector : chain) {
+        const std::size_t begin = sectorOffset(sector);
+        const std::size_t wanted =
+            std::min<std::size_t>(static_cast<std::size_t>(size) - out.size(), sectorSize());
+        if (file_.size() - begin < wanted)
+            refuse(Refusal::Truncated, place, begin, std::to_string(wanted) + " bytes",
+                   "the end of the file");
+        const auto from = file_.begin() + static_cast<std::ptrdiff_t>(begin);
+        out.insert(out.end(), from, from + static_cast<std::ptrdiff_t>(wanted));
+    }
+    return out;
+}
+
+CompoundFile::Bytes CompoundFile::readMini(std::uint32_t entry, std::uint64_t size) const {
+    const std::uint32_t first = load32(&file_[entryOffset(entry) + Entry::firstSector]);
+    const std::uint64_t rootSize = streamSize(0);
+    const Bytes mini = gather(miniStreamSectors_, rootSize, "mini stream");
+    std::vector<bool> used(mini.size() / miniSectorSize + 1);
+    const Chain chain = size == 0 ? Chain() : follow(miniFat_, first, used, "mini stream chain");
+    Bytes out;
+    for (const std::uint32_t sector : chain) {
+        const std::size_t begin = static_cast<std::size_t>(sector) * miniSectorSize;
+        const std::size_t wanted =
+            std::min<std::size_t>(static_cast<std::size_t>(size) - out.size(), miniSectorSize);
+        if (begin + wanted > mini.size()) break;
+        const auto from = mini.begin() + static_cast<std::ptrdiff_t>(begin);
+        out.insert(out.end(), from, from + static_cast<std::ptrdiff_t>(wanted));
+    }
+    if (out.size() != size)
+        refuse(Refusal::Truncated, "mini stream", 0, std::to_string(size) + " bytes",
+               std::to_string(out.size()));
+    return out;
+}
+
+CompoundFile::Bytes CompoundFile::readStream(std::uint32_t entry) const {
+    const std::uint64_t size = streamSize(entry);
+    if (isInMiniStream(entry)) return readMini(entry, size);
+    std::vector<bool> used = used_;
+    const std::uint32_t first = load32(&file_[entryOffset(entry) + Entry::firstSector]);
+    return gather(follow(fat_, first, used, "stream"), size, "stream");
+}
+
+CompoundFile::Bytes CompoundFile::withStream(std::uint32_t entry, ByteView contents) const {
+    return CompoundFileWriter(*this).replaceStream(entry, contents);
+}
+
+} // namespace zvonika::xls

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "song/xls/records/Endian.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace zvonika::xls {
+
+/// An OLE2 compound file: a small file system of sectors. Reading is bounds-checked and safe against cycles
+/// and sectors used twice; memory stays proportional to the file. All members that read throw FormatError.
+class CompoundFile {
+public:
+    using Bytes = std::vector<std::uint8_t>;
+    using Chain = std::vector<std::uint32_t>; ///< sector numbers in order
+
+    explicit CompoundFile(Bytes file);
+    /// A container whose root holds one empty stream of this ASCII name (entry 1).
+    static CompoundFile withEmptyStream(const std::string& name);
+
+    const Bytes& bytes() const { return file_; }
+    /// Directory entry of a stream directly under the root, whatever the case of its name.
+    std::optional<std::uint32_t> findStream(const std::string& name) const;
+    Bytes readStream(std::uint32_t entry) const;
+    /// The whole container with this stream's contents replaced; every other stream stays where it is.
+    /// Short contents are filled up with zeros so that they need not live in the mini stream.
+    Bytes withStream(std::uint32_t entry, ByteView contents) const;
+
+private:
+    friend class CompoundFileWriter;
+
+    void readHeader();
+    void readFat();
+    void readDifat();
+    void addFatSector(std::uint32_t sector);
+    void readDirectory();
+    void readMiniFat();
+
+    std::uint32_t sectorSize() const { return 1U << sectorShift_; }
+    std::uint32_t sectorsInFile() const;
+    std::size_t sectorOffset(std::uint32_t sector) const;
+    std::size_t entryOffset(std::uint32_t entry) const;
+    std::uint32_t entryCount() const;
+    std::uint64_t streamSize(std::uint32_t entry) const;
+    bool isInMiniStream(std::uint32_t entry) const { return streamSize(entry) < miniCutoff_; }
+    std::string entryName(std::uint32_t entry) const;
+
+    /// Follows a chain through a sector table; `used` marks the sectors and must not have them marked
+    /// already.
+    Chain follow(const std::vector<std::uint32_t>& table, std::uint32_t first, std::vector<bool>& used,
+                 const char* place) const;
+    Bytes gather(const Chain& chain, std::uint64_t size, const char* place) const;
+    Bytes readMini(std::uint32_t entry, std::uint64_t size) const;
+
+    Bytes file_;
+    unsigned sectorShift_ = 9;
+    std::uint32_t miniCutoff_ = 4096;
+    std::vector<std::uint32_t> fat_;
+    std::vector<std::uint32_t> miniFat_;
+    Chain fatSectors_;
+    Chain difatSectors_;
+    Chain directorySectors_;
+    Chain miniFatSectors_;
+    Chain miniStreamSectors_;
+    std::vector<bool> used_; ///< sectors of the container's own structures
+};
+
+} // namespace zvonika::xls

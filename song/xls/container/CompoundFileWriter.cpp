@@ -1,0 +1,136 @@
+#include "song/xls/container/CompoundFileWriter.h"
+
+#include "song/xls/container/CompoundFormat.h"
+
+#include <algorithm>
+
+namespace zvonika::xls {
+
+using namespace CompoundFormat;
+
+CompoundFileWriter::CompoundFileWriter(const CompoundFile& source)
+    : source_(source), fat_(source.fat_), fatSectors_(source.fatSectors_),
+      difatSectors_(source.difatSectors_), sectorCount_(source.sectorsInFile()) {}
+
+CompoundFile::Bytes CompoundFileWriter::replaceStream(std::uint32_t entry, ByteView contents) {
+    const std::size_t size = std::max<std::size_t>(contents.size(), source_.miniCutoff_);
+    const std::size_t sectors = (size + sectorSize() - 1) / sectorSize();
+    out_.reserve(source_.file_.size() + (sectors + sectors / 64 + 8) * sectorSize() -
+                 std::min<std::size_t>(source_.streamSize(entry), sectors * sectorSize()));
+    out_ = source_.file_;
+    out_.resize(offsetOf(sectorCount_)); // the last sector may have been cut short
+
+    CompoundFile::Chain chain = releaseOldStream(entry);
+    resizeChain(chain, sectors);
+    writeContents(chain, contents);
+    std::uint8_t* directoryEntry = &out_[source_.entryOffset(entry)];
+    store32(directoryEntry + Entry::firstSector, chain.front());
+    store64(directoryEntry + Entry::size, size);
+    writeTables();
+    return std::move(out_);
+}
+
+CompoundFile::Chain CompoundFileWriter::releaseOldStream(std::uint32_t entry) {
+    const std::uint32_t first = load32(&out_[source_.entryOffset(entry) + Entry::firstSector]);
+    if (!source_.isInMiniStream(entry)) {
+        std::vector<bool> used = source_.used_;
+        return source_.follow(fat_, first, used, "stream");
+    }
+    if (source_.streamSize(entry) > 0) releaseMiniChain(first);
+    return {};
+}
+
+void CompoundFileWriter::releaseMiniChain(std::uint32_t first) {
+    const std::uint32_t perSector = sectorSize() / 4;
+    std::vector<bool> used(source_.miniFat_.size());
+    for (const std::uint32_t sector : source_.follow(source_.miniFat_, first, used, "mini stream chain")) {
+        const std::size_t table = offsetOf(source_.miniFatSectors_[sector / perSector]);
+        store32(&out_[table + 4 * (sector % perSector)], freeSector);
+    }
+}
+
+void CompoundFileWriter::resizeChain(CompoundFile::Chain& chain, std::size_t sectors) {
+    while (chain.size() > sectors) {
+        fat_[chain.back()] = freeSector;
+        chain.pop_back();
+    }
+    while (chain.size() < sectors) {
+        const std::uint32_t sector = allocate();
+        fat_[sector] = endOfChain; // taken; linked below
+        chain.push_back(sector);
+    }
+    for (std::size_t i = 0; i + 1 < chain.size(); ++i)
+        fat_[chain[i]] = chain[i + 1];
+    fat_[chain.back()] = endOfChain;
+}
+
+std::uint32_t CompoundFileWriter::allocate() {
+    const auto covered = static_cast<std::uint32_t>(std::min<std::size_t>(sectorCount_, fat_.size()));
+    while (nextFree_ < covered && fat_[nextFree_] != freeSector)
+        ++nextFree_;
+    if (nextFree_ < covered) return nextFree_;
+    const std::uint32_t sector = appendSector(0);
+    coverByFat();
+    return sector;
+}
+
+std::uint32_t CompoundFileWriter::appendSector(std::uint8_t fill) {
+    out_.resize(out_.size() + sectorSize(), fill);
+    return sectorCount_++;
+}
+
+void CompoundFileWriter::coverByFat() {
+    if (fat_.size() >= sectorCount_) return;
+    while (fat_.size() < sectorCount_) {
+        const std::uint32_t sector = appendSector(0xFF);
+        fat_.resize(fat_.size() + sectorSize() / 4, freeSector);
+        fatSectors_.push_back(sector);
+        listFatSector(sector, fatSectors_.size() - 1);
+    }
+    // Table sectors may lie beyond what their own table covers until the loop ends.
+    for (const std::uint32_t sector : fatSectors_)
+        if (sector < fat_.size()) fat_[sector] = fatSector;
+    for (const std::uint32_t sector : difatSectors_)
+        if (sector < fat_.size()) fat_[sector] = difatSector;
+}
+
+void CompoundFileWriter::listFatSector(std::uint32_t sector, std::size_t index) {
+    const std::size_t slot = difatSlot(index);
+    store32(&out_[slot], sector);
+    store32(&out_[Header::fatSectors], static_cast<std::uint32_t>(fatSectors_.size()));
+}
+
+std::size_t CompoundFileWriter::difatSlot(std::size_t index) {
+    if (index < headerDifatEntries) return Header::difat + 4 * index;
+    const std::size_t perSector = sectorSize() / 4 - 1;
+    const std::size_t number = (index - headerDifatEntries) / perSector;
+    if (number == difatSectors_.size()) {
+        const std::uint32_t sector = appendSector(0xFF);
+        store32(&out_[offsetOf(sector) + 4 * perSector], endOfChain);
+        const std::size_t link = difatSectors_.empty() ? std::size_t{Header::firstDifatSector}
+                                                       : offsetOf(difatSectors_.back()) + 4 * perSector;
+        store32(&out_[link], sector);
+        difatSectors_.push_back(sector);
+        store32(&out_[Header::difatSectors], static_cast<std::uint32_t>(difatSectors_.size()));
+    }
+    return offsetOf(difatSectors_[number]) + 4 * ((index - headerDifatEntries) % perSector);
+}
+
+void CompoundFileWriter::writeContents(const CompoundFile::Chain& chain, ByteView contents) {
+    for (std::size_t i = 0; i < chain.size(); ++i) {
+        const std::size_t begin = std::min(i * sectorSize(), contents.size());
+        const ByteView part =
+            contents.subspan(begin, std::min<std::size_t>(sectorSize(), contents.size() - begin));
+        std::uint8_t* sector = &out_[offsetOf(chain[i])];
+        std::ranges::copy(part, sector);
+        std::fill(sector + part.size(), sector + sectorSize(), std::uint8_t{0});
+    }
+}
+
+void CompoundFileWriter::writeTables() {
+    const std::size_t perSector = sectorSize() / 4;
+    for (std::size_t i = 0; i < fat_.size(); ++i)
+        store32(&out_[offsetOf(fatSectors_[i / perSector]) + 4 * (i % perSector)], fat_[i]);
+}
+
+} // namespace zvonika::xls

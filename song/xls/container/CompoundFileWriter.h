@@ -1,0 +1,38 @@
+#pragma once
+
+#include "song/xls/container/CompoundFile.h"
+
+namespace zvonika::xls {
+
+/// Rewrites one stream of a compound file in a copy of its bytes: sectors are kept, freed, taken from the
+/// free ones or appended; the tables grow with them. Used once.
+class CompoundFileWriter {
+public:
+    explicit CompoundFileWriter(const CompoundFile& source);
+    CompoundFile::Bytes replaceStream(std::uint32_t entry, ByteView contents);
+
+private:
+    CompoundFile::Chain releaseOldStream(std::uint32_t entry);
+    void releaseMiniChain(std::uint32_t first);
+    void resizeChain(CompoundFile::Chain& chain, std::size_t sectors);
+    std::uint32_t allocate();
+    std::uint32_t appendSector(std::uint8_t fill);
+    void coverByFat();
+    void listFatSector(std::uint32_t sector, std::size_t index);
+    std::size_t difatSlot(std::size_t index);
+    void writeContents(const CompoundFile::Chain& chain, ByteView contents);
+    void writeTables();
+
+    std::size_t offsetOf(std::uint32_t sector) const { return source_.sectorOffset(sector); }
+    std::uint32_t sectorSize() const { return source_.sectorSize(); }
+
+    const CompoundFile& source_;
+    CompoundFile::Bytes out_;
+    std::vector<std::uint32_t> fat_;
+    CompoundFile::Chain fatSectors_;
+    CompoundFile::Chain difatSectors_;
+    std::uint32_t sectorCount_;
+    std::uint32_t nextFree_ = 0;
+};
+
+} // namespace zvonika::xls

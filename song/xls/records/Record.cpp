@@ -1,0 +1,64 @@
+#include "song/xls/records/Record.h"
+
+#include "song/xls/FormatError.h"
+
+namespace zvonika::xls {
+
+namespace {
+
+[[noreturn]] void throwCutOff(ByteView stream, std::uint32_t offset, std::size_t wanted) {
+    const std::size_t left = offset < stream.size() ? stream.size() - offset : 0;
+    const std::string place = left >= 2 ? recordName(load16(stream.data() + offset)) : "record header";
+    throw FormatError(Refusal::Truncated, place, offset, std::to_string(wanted) + " bytes",
+                      std::to_string(left) + " bytes to the end of the stream");
+}
+
+} // namespace
+
+void Record::require(std::size_t size) const {
+    if (payload.size() >= size) return;
+    throw FormatError(Refusal::Damaged, recordName(id), offset, "at least " + std::to_string(size) + " bytes",
+                      std::to_string(payload.size()) + " bytes");
+}
+
+Record recordAt(ByteView stream, std::uint32_t offset) {
+    if (stream.size() < recordHeaderSize || offset > stream.size() - recordHeaderSize)
+        throwCutOff(stream, offset, recordHeaderSize);
+    const std::uint8_t* header = stream.data() + offset;
+    const std::size_t size = load16(header + 2);
+    if (size > stream.size() - recordHeaderSize - offset)
+        throwCutOff(stream, offset, recordHeaderSize + size);
+    return {load16(header), offset, stream.subspan(offset + recordHeaderSize, size)};
+}
+
+bool isRecordAt(ByteView stream, std::size_t offset, RecordType type) {
+    if (offset > stream.size() || stream.size() - offset < recordHeaderSize) return false;
+    const std::uint8_t* header = stream.data() + offset;
+    return load16(header) == static_cast<std::uint16_t>(type) &&
+           load16(header + 2) <= stream.size() - offset - recordHeaderSize;
+}
+
+std::uint32_t endWithContinues(ByteView stream, std::uint32_t offset) {
+    std::uint32_t end = recordAt(stream, offset).end();
+    while (isRecordAt(stream, end, RecordType::Continue))
+        end = recordAt(stream, end).end();
+    return end;
+}
+
+std::uint32_t endOfCell(ByteView stream, std::uint32_t offset) {
+    std::uint32_t end = recordAt(stream, offset).end();
+    while (end + recordHeaderSize <= stream.size()) {
+        const Record next = recordAt(stream, end);
+        if (!followsCell(next.type())) break;
+        end = next.end();
+    }
+    return end;
+}
+
+void appendRecord(std::vector<std::uint8_t>& out, RecordType type, ByteView payload) {
+    append16(out, static_cast<std::uint16_t>(type));
+    append16(out, static_cast<std::uint32_t>(payload.size()));
+    out.insert(out.end(), payload.begin(), payload.end());
+}
+
+} // namespace zvonika::xls

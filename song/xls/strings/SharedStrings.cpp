@@ -1,0 +1,79 @@
+#include "song/xls/strings/SharedStrings.h"
+
+#include "song/xls/FormatError.h"
+#include "song/xls/records/Record.h"
+#include "song/xls/strings/ChunkReader.h"
+#include "song/xls/strings/UnicodeText.h"
+
+#include <algorithm>
+
+namespace zvonika::xls {
+
+namespace {
+
+constexpr std::uint32_t countsSize = 8;
+constexpr std::size_t smallestText = 3;
+
+} // namespace
+
+SharedStrings::SharedStrings(ByteView stream, std::uint32_t offset) : stream_(stream), recordOffset_(offset) {
+    const Record sst = recordAt(stream, offset);
+    sst.require(countsSize);
+    references_ = sst.u32(0);
+    findChunks();
+    findTexts(sst.u32(4));
+    starts_.shrink_to_fit();
+}
+
+void SharedStrings::findChunks() {
+    Record record = recordAt(stream_, recordOffset_);
+    chunkEnds_.push_back(record.end());
+    while (isRecordAt(stream_, record.end(), RecordType::Continue)) {
+        record = recordAt(stream_, record.end());
+        chunkEnds_.push_back(record.end());
+    }
+    end_ = record.end();
+}
+
+void SharedStrings::findTexts(std::uint32_t count) {
+    const auto first = static_cast<std::uint32_t>(recordOffset_ + recordHeaderSize + countsSize);
+    ChunkReader reader(stream_, first, chunkEnds_.front());
+    // A damaged count must not ask for more memory than the bytes could justify.
+    starts_.reserve(std::min<std::size_t>(count, (end_ - recordOffset_) / smallestText));
+    textsEnd_ = first;
+    while (starts_.size() < count && reader.atData()) {
+        starts_.push_back(reader.position());
+        skipTextBody(reader, readTextHead(reader));
+        textsEnd_ = reader.position();
+    }
+    const auto chunk = std::ranges::lower_bound(chunkEnds_, textsEnd_);
+    lastRecordOffset_ = chunk == chunkEnds_.begin() ? recordOffset_ : *std::prev(chunk);
+}
+
+std::uint32_t SharedStrings::chunkEnd(std::uint32_t position) const {
+    return *std::ranges::upper_bound(chunkEnds_, position);
+}
+
+std::u16string SharedStrings::at(std::uint32_t index) const {
+    return readInlineText(stream_, starts_[index], chunkEnd(starts_[index]));
+}
+
+std::vector<std::optional<std::uint32_t>> SharedStrings::find(const TextPool& pool) const {
+    std::vector<std::optional<std::uint32_t>> found(pool.size());
+    std::vector<bool> lengths(65536);
+    for (std::uint32_t id = 0; id < pool.size(); ++id)
+        lengths[pool.text(id).size()] = true;
+    std::u16string text;
+    for (std::uint32_t index = 0; index < size(); ++index) {
+        ChunkReader reader(stream_, starts_[index], chunkEnd(starts_[index]));
+        const TextHead head = readTextHead(reader);
+        if (!lengths[head.units] || !head.isPlain()) continue;
+        text.clear();
+        reader.units(head.units, head.wide, &text);
+        if (const auto id = pool.find(text); id >= 0 && !found[static_cast<std::size_t>(id)])
+            found[static_cast<std::size_t>(id)] = index;
+    }
+    return found;
+}
+
+} // namespace zvonika::xls

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "song/xls/writer/SheetPatch.h"
+
+#include <span>
+
+namespace zvonika::xls {
+
+/// Replaces cells that have a record. MulRk and MulBlank are split where the new cell does not fit in.
+void replaceCells(SheetPatch& patch, std::span<const CellChange> changes);
+
+} // namespace zvonika::xls

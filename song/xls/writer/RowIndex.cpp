@@ -1,0 +1,184 @@
+#include "song/xls/writer/RowIndex.h"
+
+#include <algorithm>
+
+namespace zvonika::xls {
+
+namespace {
+
+constexpr std::size_t indexHead = 16; ///< payload of Index before its list
+constexpr std::size_t rowRecordSize = 20;
+constexpr std::size_t maxIndexed = (maxRecordPayload - indexHead) / 4;
+constexpr std::size_t maxRowsInDbCell = (maxRecordPayload - 4) / 2;
+
+std::uint32_t rowsInBlock(const SheetPatch& patch, std::uint32_t dbCell) {
+    std::uint32_t rows = 0;
+    for (std::uint32_t at = patch.layout.blockAt(dbCell)->start; at < dbCell;) {
+        const Record record = recordAt(patch.stream, at);
+        rows += record.is(RecordType::Row);
+        at = record.end();
+    }
+    return rows;
+}
+
+void patchDbCells(SheetPatch& patch) {
+    for (const auto& [dbCell, addedRows] : patch.changedBlocks) {
+        const std::size_t rows =
+            std::min<std::size_t>(rowsInBlock(patch, dbCell) + addedRows, maxRowsInDbCell);
+        std::vector<std::uint8_t> record;
+        appendRecord(record, RecordType::DbCell, std::vector<std::uint8_t>(4 + 2 * rows));
+        patch.patches.replace(dbCell, recordAt(patch.stream, dbCell).end() - dbCell, record);
+    }
+}
+
+/// Used range of a sheet as the file format has it: first, and one behind the last.
+struct Range {
+    std::uint32_t first;
+    std::uint32_t end;
+    void include(std::uint32_t index) {
+        const bool empty = first >= end;
+        first = empty ? index : std::min(first, index);
+        end = empty ? index + 1 : std::max(end, index + 1);
+    }
+};
+
+void patchIndex(SheetPatch& patch, std::span<const CellChange> fresh) {
+    if (patch.layout.index == absent) return;
+    const Record index = recordAt(patch.stream, patch.layout.index);
+    Range rows{index.u32(4), index.u32(8)};
+    rows.include(rowOf(fresh.front().key));
+    rows.include(rowOf(fresh.back().key));
+    std::vector<std::uint8_t> payload(index.payload.begin(), index.payload.end());
+    store32(&payload[4], rows.first);
+    store32(&payload[8], rows.end);
+    const std::size_t blocks = patch.layout.blocks.size() + patch.newBlocks;
+    if (patch.newBlocks > 0) payload.resize(indexHead + 4 * std::min(blocks, maxIndexed));
+    std::vector<std::uint8_t> record;
+    appendRecord(record, RecordType::Index, payload);
+    patch.patches.replace(index.offset, index.end() - index.offset, record);
+}
+
+void patchDimensions(SheetPatch& patch, std::span<const CellChange> fresh) {
+    if (patch.layout.dimensions == absent) return;
+    const Record record = recordAt(patch.stream, patch.layout.dimensions);
+    Range rows{record.u32(0), record.u32(4)};
+    Range columns{record.u16(8), record.u16(10)};
+    const bool wasEmpty = rows.first >= rows.end || columns.first >= columns.end;
+    if (wasEmpty) {
+        rows = columns = {};
+        for (const CellSlot& slot : patch.layout.cells) {
+            rows.include(rowOf(slot.key));
+            columns.include(columnOf(slot.key));
+        }
+    }
+    for (const CellChange& cell : fresh) {
+        rows.include(rowOf(cell.key));
+        columns.include(columnOf(cell.key));
+    }
+    std::uint8_t bytes[12];
+    store32(bytes, rows.first);
+    store32(bytes + 4, rows.end);
+    store16(bytes + 8, columns.first);
+    store16(bytes + 10, columns.end);
+    patch.patches.replace(static_cast<std::uint32_t>(record.offset + recordHeaderSize), 12, bytes);
+}
+
+/// Walks a sheet's new bytes, block by block.
+class BlockIndexer {
+public:
+    explicit BlockIndexer(std::vector<std::uint8_t>& out) : out_(out) {}
+
+    std::vector<std::uint32_t> run(std::uint32_t sheet) {
+        std::uint32_t at = recordAt(out_, sheet).end();
+        for (int depth = 1; depth > 0;) {
+            const Record record = recordAt(out_, at);
+            at = record.end();
+            if (record.is(RecordType::Bof)) ++depth;
+            if (record.is(RecordType::Eof)) --depth;
+            if (depth == 1) take(record);
+        }
+        return std::move(dbCells_);
+    }
+
+private:
+    struct RowCells {
+        std::uint32_t row;
+        std::uint32_t firstCell;
+    };
+
+    void take(const Record& record) {
+        const bool isRow = record.is(RecordType::Row);
+        if (!isRow && !isCellRecord(record.type())) {
+            if (record.is(RecordType::DbCell)) takeDbCell(record);
+            return;
+        }
+        if (blockStart_ == absent) blockStart_ = record.offset;
+        if (isRow) return rows_.push_back({record.u16(0), absent});
+        takeCell(cellRow(record), record.offset);
+    }
+
+    void takeCell(std::uint32_t number, std::uint32_t offset) {
+        const auto isRow = [&](const RowCells& row) { return row.row == number; };
+        // Cells mostly come row by row: go on from the row of the last one.
+        auto row = std::find_if(rows_.begin() + lastRow_, rows_.end(), isRow);
+        if (row == rows_.end()) row = std::find_if(rows_.begin(), rows_.begin() + lastRow_, isRow);
+        if (row == rows_.end() || !isRow(*row)) return;
+        lastRow_ = row - rows_.begin();
+        if (row->firstCell == absent) row->firstCell = offset;
+    }
+
+    void takeDbCell(const Record& record) {
+        if (blockStart_ == absent) return;
+        dbCells_.push_back(record.offset);
+        if (record.u32(0) == 0) fill(record);
+        blockStart_ = absent;
+        rows_.clear();
+        lastRow_ = 0;
+    }
+
+    void fill(const Record& record) {
+        std::uint8_t* payload = &out_[record.offset + recordHeaderSize];
+        store32(payload, record.offset - blockStart_);
+        auto reference = static_cast<std::uint32_t>(blockStart_ + rowRecordSize);
+        for (std::size_t i = 0; i < rows_.size() && 4 + 2 * i + 2 <= record.payload.size(); ++i) {
+            if (rows_[i].firstCell == absent) continue;
+            store16(payload + 4 + 2 * i, rows_[i].firstCell - reference);
+            reference = rows_[i].firstCell;
+        }
+    }
+
+    std::vector<std::uint8_t>& out_;
+    std::vector<std::uint32_t> dbCells_;
+    std::vector<RowCells> rows_;
+    std::ptrdiff_t lastRow_ = 0;
+    std::uint32_t blockStart_ = absent;
+};
+
+} // namespace
+
+void patchRowIndex(SheetPatch& patch, std::span<const CellChange> fresh) {
+    patchDbCells(patch);
+    if (fresh.empty()) return;
+    patchIndex(patch, fresh);
+    patchDimensions(patch, fresh);
+}
+
+void fixRowIndex(std::vector<std::uint8_t>& out, const PatchList& patches, const SheetLayout& layout,
+                 bool rebuild, bool newBlocks) {
+    std::vector<std::uint32_t> dbCells;
+    if (rebuild) dbCells = BlockIndexer(out).run(patches.map(layout.start));
+    if (layout.index == absent) return;
+    const Record index = recordAt(out, patches.map(layout.index));
+    std::uint8_t* payload = &out[index.offset + recordHeaderSize];
+    if (const std::uint32_t columns = index.u32(12)) store32(payload + 12, patches.map(columns));
+    const std::size_t listed = (index.payload.size() - indexHead) / 4;
+    for (std::size_t i = 0; i < listed; ++i) {
+        std::uint8_t* entry = payload + indexHead + 4 * i;
+        if (!newBlocks)
+            store32(entry, patches.map(load32(entry)));
+        else if (i < dbCells.size())
+            store32(entry, dbCells[i]);
+    }
+}
+
+} // namespace zvonika::xls

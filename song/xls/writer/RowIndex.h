@@ -1,0 +1,18 @@
+#pragma once
+
+#include "song/xls/writer/SheetPatch.h"
+
+#include <span>
+#include <vector>
+
+namespace zvonika::xls {
+
+/// Makes room for what the sheet's DbCell, Index and Dimensions records will have to say about the changed
+/// cells.
+void patchRowIndex(SheetPatch& patch, std::span<const CellChange> fresh);
+
+/// Fills in the offsets in the new stream. `rebuild`: blocks were changed or added, not only moved.
+void fixRowIndex(std::vector<std::uint8_t>& out, const PatchList& patches, const SheetLayout& layout,
+                 bool rebuild, bool newBlocks);
+
+} // namespace zvonika::xls

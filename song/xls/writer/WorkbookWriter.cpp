@@ -1,0 +1,131 @@
+#include "song/xls/writer/WorkbookWriter.h"
+
+#include "song/xls/writer/CellInsertion.h"
+#include "song/xls/writer/CellReplacement.h"
+#include "song/xls/writer/RowIndex.h"
+#include "song/xls/writer/SettingsPatch.h"
+#include "song/xls/writer/SharedFormulas.h"
+#include "song/xls/writer/SharedStringsPatch.h"
+
+#include <algorithm>
+
+namespace zvonika::xls {
+
+namespace {
+
+using Changes = std::vector<CellChange>;
+
+bool isText(const CellChange& change) {
+    return change.content.kind == CellContent::Kind::Text;
+}
+
+/// Writes one workbook: first what changes lengths, then the offsets that follow.
+class WorkbookWriter {
+public:
+    WorkbookWriter(const WorkbookModel& model, const WorkbookEdits& edits) : model_(model), edits_(edits) {
+        for (const SheetEdits& sheet : edits.sheets)
+            changes_.push_back(sorted(sheet));
+    }
+
+    std::vector<std::uint8_t> write() {
+        SharedStringsPatch texts(model_, edits_.texts, usedTexts());
+        resolveTexts(texts);
+        texts.apply(addedReferences(), patches_);
+        for (std::size_t i = 0; i < changes_.size(); ++i)
+            patchSheet(i);
+        if (edits_.activeSheet) patchActiveSheet(model_, *edits_.activeSheet, patches_);
+        patches_.finish();
+        std::vector<std::uint8_t> out = patches_.apply(model_.stream);
+        texts.fix(out, patches_);
+        for (std::size_t i = 0; i < model_.layouts.size(); ++i)
+            fixSheet(out, i);
+        return out;
+    }
+
+private:
+    struct BlockState {
+        bool rebuild = false;
+        bool newBlocks = false;
+    };
+
+    static Changes sorted(const SheetEdits& sheet) {
+        Changes changes;
+        changes.reserve(sheet.cells.size());
+        for (const auto& [key, content] : sheet.cells)
+            changes.push_back({key, content});
+        std::ranges::sort(changes, {}, &CellChange::key);
+        return changes;
+    }
+
+    std::vector<bool> usedTexts() const {
+        std::vector<bool> used(edits_.texts.size());
+        for (const Changes& changes : changes_)
+            for (const CellChange& change : changes)
+                if (isText(change)) used[change.content.text] = true;
+        return used;
+    }
+
+    void resolveTexts(const SharedStringsPatch& texts) {
+        for (Changes& changes : changes_)
+            for (CellChange& change : changes)
+                if (isText(change)) change.content.text = texts.index(change.content.text);
+    }
+
+    std::int64_t addedReferences() const {
+        std::int64_t added = 0;
+        for (std::size_t i = 0; i < changes_.size(); ++i)
+            for (const CellChange& change : changes_[i]) {
+                const CellSlot* old = model_.layouts[i].findCell(change.key);
+                if (old && recordAt(model_.stream, old->record).is(RecordType::LabelSst)) --added;
+                if (isText(change)) ++added;
+            }
+        return added;
+    }
+
+    void patchSheet(std::size_t i) {
+        const SheetLayout& layout = model_.layouts[i];
+        const SheetEdits& edits = edits_.sheets[i];
+        blocks_.push_back(patchCells(i));
+        if (edits.name) patchSheetName(model_.stream, model_.globals.sheets[i], *edits.name, patches_);
+        if (edits.activeCell) patchActiveCell(model_.stream, layout, *edits.activeCell, patches_);
+        patchColumnWidths(model_.stream, layout, model_.globals.defaultFormat, edits.widths, patches_);
+    }
+
+    BlockState patchCells(std::size_t i) {
+        const SheetLayout& layout = model_.layouts[i];
+        SheetPatch patch{model_.stream, layout, patches_, model_.globals.defaultFormat};
+        Changes existing;
+        Changes fresh;
+        for (const CellChange& change : changes_[i])
+            if (layout.findCell(change.key))
+                existing.push_back(change);
+            else if (change.content.kind != CellContent::Kind::Blank)
+                fresh.push_back(change);
+        moveSharedFormulas(patch, existing);
+        replaceCells(patch, existing);
+        CellInsertion(patch).insert(fresh);
+        patchRowIndex(patch, fresh);
+        return {!patch.changedBlocks.empty() || patch.newBlocks > 0, patch.newBlocks > 0};
+    }
+
+    void fixSheet(std::vector<std::uint8_t>& out, std::size_t i) const {
+        const SheetEntry& entry = model_.globals.sheets[i];
+        if (!entry.hasSubstream()) return;
+        store32(&out[patches_.map(entry.record) + recordHeaderSize], patches_.map(entry.position));
+        fixRowIndex(out, patches_, model_.layouts[i], blocks_[i].rebuild, blocks_[i].newBlocks);
+    }
+
+    const WorkbookModel& model_;
+    const WorkbookEdits& edits_;
+    std::vector<Changes> changes_;
+    PatchList patches_;
+    std::vector<BlockState> blocks_;
+};
+
+} // namespace
+
+std::vector<std::uint8_t> writeWorkbook(const WorkbookModel& model, const WorkbookEdits& edits) {
+    return WorkbookWriter(model, edits).write();
+}
+
+} // namespace zvonika::xls
