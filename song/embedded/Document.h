@@ -1,0 +1,129 @@
+#pragma once
+
+#include "song/Address.h"
+#include "song/CellValue.h"
+#include "song/embedded/FileLock.h"
+#include "song/embedded/History.h"
+#include "song/xls/Workbook.h"
+
+#include <QObject>
+
+#include <memory>
+#include <vector>
+
+namespace zvonika {
+
+/// What is selected on a sheet: a rectangle, and in it the active cell.
+struct Selection {
+    CellRange range;
+    CellPosition active;
+    friend bool operator==(const Selection&, const Selection&) = default;
+};
+
+/// One open workbook of the built-in spreadsheet. Sheets, rows and columns count from 1; a sheet or cell that
+/// does not exist is a caller's error (std::out_of_range). Refusals are AutomationError 1004 with a sentence
+/// for the user.
+///
+/// Signals come after every change, whoever made it: a view repaints by them and nothing more.
+class Document : public QObject {
+    Q_OBJECT
+
+public:
+    /// A new workbook, never saved, with one sheet "List1". `name`: what it is called until then ("Sešit1").
+    explicit Document(const QString& name);
+    /// Opens a file and locks it for others. 1004 when it cannot be read or is open elsewhere.
+    static std::unique_ptr<Document> open(const QString& nativePath);
+    ~Document() override;
+
+    // --- the file ---
+    QString name() const { return name_; } ///< file name without folder
+    QString path() const { return path_; } ///< native full name; "" before the first save
+    /// Cells, a sheet's name or a column's width differ from the file. Moving the cursor alone does not
+    /// count.
+    bool isModified() const { return modified_; }
+    /// The file is of an older format; saving turns it into the present one.
+    bool isConverted() const;
+    /// Writes the file whole or not at all, with active sheet and cells. Must have a path.
+    void save();
+    /// As `save`, under a new name that the document has from then on; an existing file is replaced.
+    void saveAs(const QString& nativePath);
+
+    // --- sheets ---
+    int sheetCount() const;
+    QString sheetName(int sheet) const;
+    int activeSheet() const { return activeSheet_; }
+    void activateSheet(int sheet);
+    /// 1004 when the name is empty, too long, taken, or has a character that may not stand in it.
+    void renameSheet(int sheet, const QString& name);
+
+    // --- what is selected; each sheet remembers its own ---
+    Selection selection() const { return selection(activeSheet_); }
+    Selection selection(int sheet) const;
+    /// Selects on the active sheet; `active` must lie in `range`.
+    void select(const CellRange& range, CellPosition active);
+    void select(CellPosition cell) { select(single(cell), cell); }
+
+    // --- cells ---
+    CellValue value(int sheet, CellPosition cell) const;
+    bool isFormula(int sheet, CellPosition cell) const;
+    CellBlock block(int sheet, const CellRange& range) const;
+    QString displayText(int sheet, CellPosition cell) const; ///< as it stands in the sheet: "3,5", "PRAVDA"
+    QString editText(int sheet, CellPosition cell) const;    ///< as a cell editor shows it: "3,5", "'15"
+    int usedRows(int sheet) const;                   ///< last row that holds a value; 0 in an empty sheet
+    int usedColumns(int sheet) const;                ///< last column that holds a value
+    double columnWidth(int sheet, int column) const; ///< in characters of the default font
+    void setColumnWidth(int sheet, int column, double characters);
+
+    // --- what the program writes: not to be taken back, and out of reach for what the user takes back ---
+    /// Writes the block with its first cell at `first`; 1004 where it would cross the edge of the sheet.
+    void write(int sheet, CellPosition first, const CellBlock& block);
+    void fill(int sheet, const CellRange& range, const CellValue& value); ///< empties with an empty value
+
+    // --- what the user does: one step each, to be taken back ---
+    /// False when nothing changed.
+    bool edit(int sheet, CellPosition first, const CellBlock& block, const QString& label);
+    bool editFill(int sheet, const CellRange& range, const CellValue& value, const QString& label);
+    /// Rows from `row` on move down (up). 1004 when a formula or, moving down, the last row is in the way.
+    void insertRow(int sheet, int row);
+    void deleteRow(int sheet, int row);
+    /// Takes back (does again) the last step and selects what changed; false when there is none.
+    bool undo();
+    bool redo();
+    QString undoLabel() const { return history_.backLabel(); } ///< "" when there is nothing to take back
+    QString redoLabel() const { return history_.againLabel(); }
+
+Q_SIGNALS:
+    void cellsChanged(int sheet, const zvonika::CellRange& range);
+    void columnWidthChanged(int sheet, int column);
+    void selectionChanged(); ///< of the active sheet
+    void sheetsChanged();    ///< a name, or another sheet is active
+    void nameChanged();
+    void modifiedChanged();
+    void historyChanged(); ///< undoLabel or redoLabel
+
+private:
+    Document(xls::Workbook book, const QString& path, FileLock lock);
+
+    void put(int sheet, CellPosition cell, const CellValue& value);
+    void changed(int sheet, const CellRange& range);
+    bool apply(UndoStep step);
+    void exchange(const UndoStep& step, bool back);
+    void showChange(const UndoStep& step);
+    void shiftDown(int sheet, int row);
+    void shiftUp(int sheet, int row);
+    void refuseShift(int sheet, int row) const;
+    void setModified(bool modified);
+    void readCursor();
+    void writeCursor();
+
+    xls::Workbook book_;
+    QString name_;
+    QString path_;
+    FileLock lock_;
+    std::vector<Selection> selections_; ///< one per sheet
+    int activeSheet_ = 1;
+    bool modified_ = false;
+    History history_;
+};
+
+} // namespace zvonika

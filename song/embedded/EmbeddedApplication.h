@@ -1,0 +1,88 @@
+#pragma once
+
+#include "platform/Drive.h"
+#include "platform/SettingsStore.h"
+#include "song/SpreadsheetApplication.h"
+#include "song/embedded/Session.h"
+#include "song/embedded/SheetCommands.h"
+
+namespace zvonika {
+
+/// Name under which the built-in application keeps settings of its own.
+inline const QString nastaveniTabulky = QStringLiteral("Tabulka Zvoniky");
+
+/// The built-in spreadsheet as the program drives it. Without a workbook, `activateWindow` raises 9 and
+/// everything that needs a workbook 91; after the user has quit, every call but those of the default folder
+/// raises 91.
+class EmbeddedApplication : public SpreadsheetApplication {
+public:
+    /// `settings`: the application's own store, keeps the default folder. `makeView` is called at the first
+    /// `setVisible(true)`; without it the application has no window.
+    EmbeddedApplication(Drive& drive, Dialogs& dialogs, SettingsStore& settings,
+                        SheetViewFactory makeView = {});
+    ~EmbeddedApplication() override;
+
+    /// The user's side, as the window has it.
+    SheetCommands& commands() { return commands_; }
+    const Session& session() const { return session_; }
+
+    QString defaultFilePath() const override { return defaultFilePath_; }
+    /// A folder that does not exist is kept; the next instance then starts with "C:\Dokumenty".
+    void setDefaultFilePath(const QString& path) override;
+    void setVisible(bool visible) override;
+    void quit() override;
+    void setListener(SpreadsheetListener* listener) override;
+    void showToUser() override;
+
+    void addWorkbook() override;
+    void openWorkbook(const QString& fullName) override;
+    std::optional<QString> getOpenFilename(const QString& filter, const QString& title) override;
+    /// An existing file is replaced only when the user agrees; other arguments than the fixed ones: 1004.
+    void saveActiveWorkbookAs(const SaveAsArguments& arguments) override;
+    /// A workbook that was never saved goes into the default folder.
+    void saveActiveWorkbook() override;
+    void closeActiveWorkbook() override; ///< without asking
+    QString activeWorkbookName() const override;
+    void activateWindow(const QString& name) override;
+
+    QString activeSheetName() const override;
+    void renameActiveSheet(const QString& name) override;
+    int activeSheetIndex() const override;
+    int sheetCount() const override;
+    void selectSheet(int index) override;
+    void selectSheet(const QString& name) override;
+    void selectNextSheet() override; ///< 91 on the last sheet
+
+    void selectRange(const QString& address) override;
+    CellValue value(const QString& address) const override;                 ///< of a range, its first cell
+    void setValue(const QString& address, const CellValue& value) override; ///< of a range, all its cells
+    CellValue activeCellValue() const override;
+    void setActiveCellValue(const CellValue& value) override;
+    int activeRow() const override;
+    QString activeAddress() const override;
+    void moveCursor(int rows, int columns) override;
+    void clearContents(const QString& address) override;
+    void findAndActivate(const FindArguments& arguments) override;
+    void copyRange(const QString& address) override;
+    void paste() override;
+
+    CellBlock readBlock(const QString& address) const override;
+    void writeBlock(const QString& address, const CellBlock& block) override;
+
+private:
+    void requireRunning() const;
+    Document& document() const;
+    QString nativeFile(const QString& fullName) const;
+    QString saveName(const QString& filename) const;
+    void saveUnder(const QString& nativePath);
+
+    Drive& drive_;
+    SettingsStore& settings_;
+    SheetViewFactory makeView_;
+    QString defaultFilePath_;
+    CellBlock clipboard_;
+    Session session_;
+    SheetCommands commands_;
+};
+
+} // namespace zvonika

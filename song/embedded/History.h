@@ -1,0 +1,57 @@
+#pragma once
+
+#include "song/Address.h"
+#include "song/CellValue.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace zvonika {
+
+struct CellChange {
+    CellPosition cell;
+    CellValue before;
+    CellValue after;
+};
+
+/// One thing that the user did, as he would take it back: cells changed, or one row put in or taken out.
+struct UndoStep {
+    enum class Kind { Cells, InsertRow, DeleteRow };
+    Kind kind = Kind::Cells;
+    QString label;                   ///< for the menu: "Psaní", "Vložení" ...
+    int sheet = 1;                   ///< from 1
+    int row = 0;                     ///< the row put in or taken out
+    std::vector<CellChange> changes; ///< cells changed, or what stood in the row taken out (as `before`)
+};
+
+/// What the user did and can take back, newest last. What the program writes is not in it; where the program
+/// has written, the user's steps no longer reach (`forget`), so taking back never undoes a recorded grip.
+class History {
+public:
+    static constexpr std::size_t longest = 200; ///< steps kept
+
+    /// Ends what could be done again.
+    void add(UndoStep step);
+
+    /// The step to take back (do again), moved to the other side; nullptr when there is none. Valid until the
+    /// next call.
+    const UndoStep* back();
+    const UndoStep* again();
+
+    /// The program has written into these cells: drops them from every step, and a step that would put the
+    /// row in question in or out, with the steps beyond it.
+    void forget(int sheet, const CellRange& range);
+    void clear();
+
+    QString backLabel() const;  ///< "" when nothing can be taken back
+    QString againLabel() const; ///< "" when nothing can be done again
+
+private:
+    void forgetRow(int sheet, int row, const CellRange& range);
+
+    std::vector<UndoStep> done_;   ///< newest last
+    std::vector<UndoStep> undone_; ///< next to be done again last
+};
+
+} // namespace zvonika

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+namespace zvonika {
+
+class Document;
+class SheetCommands;
+
+/// The visible window of the built-in spreadsheet. It shows one document and hands what the user does to
+/// SheetCommands.
+class SheetView {
+public:
+    virtual ~SheetView() = default;
+
+    virtual void setVisible(bool visible) = 0;
+    /// To the front, with the keyboard.
+    virtual void raise() = 0;
+    /// The document to show from now on, nullptr for none. The one shown before may be gone after the return.
+    virtual void setDocument(Document* document) = 0;
+};
+
+using SheetViewFactory = std::function<std::unique_ptr<SheetView>(SheetCommands&)>;
+
+} // namespace zvonika
