@@ -5,7 +5,6 @@
 
 #include <QString>
 #include <QStringList>
-#include <QVector>
 
 namespace zvonika {
 
@@ -31,12 +30,12 @@ public:
     /// text. Text that is what `Document::editText` gave changes nothing.
     void type(CellPosition cell, const QString& text);
     void clear(); ///< empties the selection
-    /// The selection as texts, row by row, for the clipboard; `cut` empties it too.
-    QVector<QStringList> copy();
-    QVector<QStringList> cut();
-    /// Puts texts, as if typed, at the selection; a single one fills the selection. What was last copied here
-    /// keeps its types. Selects what was pasted. Rows may differ in length.
-    void paste(const QVector<QStringList>& rows);
+    /// The selection as lines of tabbed text, for the clipboard.
+    QString copy();
+    QString cut();
+    /// Puts tabbed text at the selection; a single value fills the selection. What was last copied here keeps
+    /// its types. Selects what was pasted.
+    void paste(const QString& tabbedText);
     void insertRow(); ///< above the active cell
     void deleteRow(); ///< of the active cell
     void undo();
@@ -63,7 +62,7 @@ private:
     bool mayClose(Document& document);
 
     Session& session_;
-    QVector<QStringList> copiedTexts_; ///< as they went to the clipboard
+    QString copiedText_; ///< as it went to the clipboard
     CellBlock copied_;
 };
 
