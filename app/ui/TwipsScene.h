@@ -12,6 +12,7 @@ public:
     /// `twips`: the extent of the whole scene.
     TwipsScene(QSize twips, QWidget* parent = nullptr);
 
+    /// Places a child; a second call moves it. The widget becomes the scene's.
     void place(QWidget* widget, const QRect& twips);
     /// Pixels per twip at the present size.
     double scale() const { return scale_; }

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "app/Modely.h"
+#include "app/Prostredi.h"
+#include "board/KlikDiskantu.h"
+#include "board/Uvolneni.h"
+#include "board/ZapisHmatu.h"
+#include "board/ZapisHmatuZNot.h"
+#include "board/ZapisNoty.h"
+#include "song/Navigace.h"
+#include "song/UkonceniExcelu.h"
+#include "song/ZivotPisne.h"
+#include "theory/VolbaStupnice.h"
+#include "theory/clsNotyZapis.h"
+
+#include <functional>
+
+namespace zvonika {
+
+/// All conversations of the main window, built over the models and ports in the order in which they need each other.
+class Konverzace : private ZobrazeniPisne {
+public:
+    /// `otevriVyberStupnice`: shows the key dialog and returns when it is closed.
+    Konverzace(Modely& modely, const Prostredi& prostredi, std::function<void()> otevriVyberStupnice);
+
+private:
+    Modely& modely_;
+    Dialogs& dialogs_;
+
+public:
+    clsNotyZapis notyZapis;
+    Prstoklad prstoklad;
+    ZobrazeniPrstokladu zobrazeniPrstokladu;
+    Uvolneni uvolneni;
+    ZobrazeniHmatu zobrazeniHmatu;
+    PasPisne pasPisne;
+    Navigace navigace;
+    Zvuk zvuk;
+    ZivotPisne zivotPisne;
+    KlikDiskantu klikDiskantu;
+    ZapisNoty zapisNoty;
+    ZapisBasu zapisBasu;
+    PoZapisu poZapisu;
+    ZapisHmatu zapisHmatu;
+    ZapisHmatuZNot zapisHmatuZNot;
+    VolbaStupnice volbaStupnice;
+    UkonceniExcelu ukonceniExcelu;
+
+private:
+    OkoliZapisu okoliZapisu();
+
+    void cmdReadTah() override { zobrazeniHmatu.cmdReadTah(); }
+    void cmdReadTlak() override { zobrazeniHmatu.cmdReadTlak(); }
+    void obnovRadek() override { zobrazeniHmatu.ZobrazTexty(); }
+    void obnovPas() override { pasPisne.obnov(); }
+};
+
+} // namespace zvonika

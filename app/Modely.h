@@ -1,0 +1,32 @@
+#pragma once
+
+#include "board/BassBoard.h"
+#include "board/BassTable.h"
+#include "board/TrebleBoard.h"
+#include "song/CommandStates.h"
+#include "song/Pas.h"
+#include "song/SongPanel.h"
+#include "song/SongSheet.h"
+#include "song/ZobrazovaciOsnova.h"
+#include "theory/NotovaOsnova.h"
+#include "theory/Tonina.h"
+
+namespace zvonika {
+
+/// The state of the run: everything that conversations change and windows show.
+struct Modely {
+    explicit Modely(const QString& slozkaProgramu) : tabulkaBasu(slozkaProgramu) {}
+
+    Pisen pisen;
+    SongPanel panel;
+    CommandStates stavy;
+    Tonina tonina;
+    TrebleBoard diskant;
+    BassBoard basy;
+    BassTable tabulkaBasu;
+    NotovaOsnova zapisovaciOsnova;
+    ZobrazovaciOsnova zobrazovaciOsnova;
+    Pas pas;
+};
+
+} // namespace zvonika

@@ -1,0 +1,158 @@
+#include "app/Program.h"
+
+#include "app/OProgramu.h"
+#include "app/Prikazy.h"
+#include "song/PrikazyPisne.h"
+#include "song/SpusteniExcelu.h"
+#include "song/StavovyRadek.h"
+
+#include <algorithm>
+
+namespace zvonika {
+
+Program::Program(const Prostredi& prostredi)
+    : prostredi_(prostredi), modely_(prostredi.drive.programFolder()), udalosti_(prostredi.dialogs, prostredi.shell),
+      konverzace_(modely_, prostredi_, [this] { vyberStupnici(); })
+{
+    zaregistrujPrikazy();
+    konverzace_.zivotPisne.stavBezPisne();
+    for (const QString& prikaz : dosudNedostupne())
+        modely_.stavy.zamkni(prikaz);
+    okno_ = std::make_unique<Form1>(modely_.panel, modely_.stavy, modely_.diskant);
+    postavNastroje();
+    propojModely();
+}
+
+Program::~Program() = default;
+
+bool Program::Main()
+{
+    Spusteni spusteni(prostredi_.nastaveni, prostredi_.dialogs, krokySpusteni());
+    const bool cele = spusteni.Form_Load();
+    modely_.panel.upozorneni = modely_.tabulkaBasu.chyba();
+    poPrikazu();
+    okno_->show();
+    return cele;
+}
+
+KrokySpusteni Program::krokySpusteni()
+{
+    return {
+        [this] { okno_->nastavVzdyNahore(); },
+        [this] {
+            SpustExcel(prostredi_.spoustecExcelu, modely_.pisen);
+            modely_.pisen.excel().setListener(this);
+        },
+        [] {}, // the staff pictures are drawn when they are first shown
+        [this](bool obracene) { modely_.diskant.nastavObraceneCislovani(obracene); },
+        [this](bool zapnuto) { modely_.diskant.nastavNazvy(zapnuto, tonina()); },
+        [this](bool zapnuto) { modely_.diskant.nastavCislovani(zapnuto); },
+        [this] { konverzace_.uvolneni.UvolniBasy(); },
+        [this] { konverzace_.uvolneni.UvolniDiskant(); },
+        [this](int rada, bool zakryta) { modely_.diskant.nastavZabranu(rada, zakryta); },
+    };
+}
+
+void Program::zaregistrujPrikazy()
+{
+    Konverzace& k = konverzace_;
+    prikazy_ = {
+        {"cmdNovaSkladba", [&k] { k.zivotPisne.cmdNovaSkladba(); }},
+        {"cmdEdit", [&k] { k.zivotPisne.cmdEdit(); }},
+        {"cmdEndEdit", [&k] { k.zivotPisne.cmdEndEdit(); }},
+        {"cmdStupnice", [this] { vyberStupnici(); }},
+        {"cmdTah", [&k] { k.zapisHmatu.cmdTah(); }},
+        {"cmdTlak", [&k] { k.zapisHmatu.cmdTlak(); }},
+        {"cmdTahNoty", [&k] { k.zapisHmatuZNot.cmdTahNoty(); }},
+        {"cmdTlakNoty", [&k] { k.zapisHmatuZNot.cmdTlakNoty(); }},
+        {"cmdPrvni", [&k] { k.navigace.cmdPrvni(); }},
+        {"cmdPredchozi", [&k] { k.navigace.cmdPredchozi(); }},
+        {"cmdDalsi", [&k] { k.navigace.cmdDalsi(); }},
+        {"cmdPosledni", [&k] { k.navigace.cmdPosledni(); }},
+        {"cmdPredTah", [&k] { k.navigace.cmdPredTah(); }},
+        {"cmdPredTlak", [&k] { k.navigace.cmdPredTlak(); }},
+        {"cmdDalsiTah", [&k] { k.navigace.cmdDalsiTah(); }},
+        {"cmdDalsiTlak", [&k] { k.navigace.cmdDalsiTlak(); }},
+        {"cmdReadTah", [&k] { k.navigace.cmdReadTah(); }},
+        {"cmdReadTlak", [&k] { k.navigace.cmdReadTlak(); }},
+        {"cmdJakDal", [&k] { k.navigace.cmdJakDal(); }},
+        {"cmdJakDalZpet", [&k] { k.navigace.cmdJakDalZpet(); }},
+        {"cmdOPrg", [this] { cmdOPrg(prostredi_.dialogs); }},
+        {"mnuMailAutorovi", [this] { mnuMailAutorovi(prostredi_.dialogs, prostredi_.shell); }},
+    };
+    for (const PrikazUvolneni& radek : prikazyUvolneni())
+        prikazy_.insert(radek.tlacitko, [&k, tlacitko = radek.tlacitko] { k.uvolneni.proved(tlacitko); });
+}
+
+void Program::proved(const QString& prikaz)
+{
+    if (!modely_.stavy.povolen(prikaz))
+        return;
+    if (prikaz == QLatin1String("mnuKonec")) {
+        if (mnuKonec(prostredi_.dialogs))
+            okno_->close();
+        return;
+    }
+    if (prikaz.startsWith(QLatin1String("cmdZvuk"))) {
+        udalosti_.provedBezZachyceni([this, prikaz] { konverzace_.zvuk.cmdZvuk(prikaz.mid(8, 1).toInt()); });
+        return;
+    }
+    if (const Obsluha obsluha = prikazy_.value(prikaz))
+        provedUdalost(obsluha);
+}
+
+void Program::provedUdalost(const Obsluha& obsluha)
+{
+    if (udalosti_.bezi())
+        return;
+    modely_.panel.upozorneni.clear();
+    udalosti_.proved(obsluha);
+    poPrikazu();
+}
+
+void Program::poPrikazu()
+{
+    const auto nejakyOznacen = [](const auto& deska, int pocet) {
+        for (int n = 1; n <= pocet; ++n)
+            if (deska.oznacen(n))
+                return true;
+        return false;
+    };
+    StavProgramu stav;
+    stav.pisenOtevrena = modely_.pisen.otevrena();
+    stav.stupnice = tonina();
+    stav.neniCoZapsat = !nejakyOznacen(modely_.diskant, pocetKnofliku) && !nejakyOznacen(modely_.basy, pocetBasu) &&
+                        modely_.zapisovaciOsnova.volnySlot() == 0;
+    stav.radekPrazdny = modely_.panel.lblTony.isEmpty() && modely_.panel.lblBasy.isEmpty();
+    stav.upozorneni = modely_.panel.upozorneni;
+    modely_.panel.stav = stavovyRadek(stav);
+    modely_.panel.oznamZmenu();
+}
+
+int Program::aktualniRadek() const
+{
+    try {
+        return modely_.pisen.excel().activeRow();
+    } catch (const RuntimeError&) {
+        return 0;
+    }
+}
+
+void Program::cursorMoved()
+{
+    provedUdalost([this] { konverzace_.navigace.sledujKurzor(); });
+}
+
+void Program::cellsEdited()
+{
+    provedUdalost([this] { konverzace_.navigace.sledujKurzor(); });
+}
+
+void Program::Form_Unload()
+{
+    if (modely_.pisen.aplikaceExcel)
+        modely_.pisen.aplikaceExcel->setListener(nullptr);
+    konverzace_.ukonceniExcelu.UkonciExcel();
+}
+
+} // namespace zvonika

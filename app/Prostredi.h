@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/Dialogs.h"
+#include "platform/Drive.h"
+#include "platform/SettingsStore.h"
+#include "platform/Shell.h"
+#include "song/SpreadsheetApplication.h"
+
+namespace zvonika {
+
+/// The outside world as the program is given it; all of it outlives the program.
+struct Prostredi {
+    Dialogs& dialogs;
+    SettingsStore& nastaveni;
+    Drive& drive;
+    Shell& shell;
+    SpreadsheetLauncher spoustecExcelu;
+};
+
+} // namespace zvonika

@@ -1,0 +1,112 @@
+#include "app/Spusteni.h"
+
+#include "app/HodnotyNastaveni.h"
+#include "platform/RuntimeError.h"
+#include "tests/app/PametoveNastaveni.h"
+#include "tests/support/ScriptedDialogs.h"
+
+#include <QStringList>
+
+#include <gtest/gtest.h>
+
+using namespace zvonika;
+using zvonika::testing::PametoveNastaveni;
+using zvonika::testing::ScriptedDialogs;
+
+namespace {
+
+/// Runs a start-up over these settings and keeps what it did, in order.
+class Start {
+public:
+    QStringList deje;
+    ScriptedDialogs dialogs;
+    PametoveNastaveni nastaveni;
+    std::function<void()> spustExcel = [] {};
+
+    bool spust() {
+        const auto zapis = [this](const QString& dej) { deje << dej; };
+        KrokySpusteni kroky{
+            [=] { zapis("nahore"); },
+            [=, this] {
+                spustExcel();
+                zapis("excel");
+            },
+            [=] { zapis("obrazky"); },
+            [=](bool ano) { zapis(ano ? "obracene" : "rovne"); },
+            [=](bool ano) { zapis(ano ? "nazvy" : "bez nazvu"); },
+            [=](bool ano) { zapis(ano ? "cisla" : "bez cisel"); },
+            [=] { zapis("basy"); },
+            [=] { zapis("diskant"); },
+            [=](int rada, bool ano) {
+                if (ano) zapis(QStringLiteral("zabrana %1").arg(rada));
+            },
+        };
+        return Spusteni(nastaveni, dialogs, kroky).Form_Load();
+    }
+};
+
+struct Pripad {
+    const char* znaceni;
+    const char* popis;
+    const char* cislovani;
+    QStringList cekano; ///< layout, names, numbers
+};
+
+std::optional<QString> text(const char* hodnota) {
+    return hodnota ? std::optional(QString::fromUtf8(hodnota)) : std::nullopt;
+}
+
+} // namespace
+
+TEST(Spusteni, OneByteServesTheThreeReadings) {
+    const Pripad pripady[] = {
+        {nullptr, nullptr, nullptr, {"rovne", "bez nazvu", "bez cisel"}},
+        {"1", nullptr, nullptr, {"obracene", "nazvy", "cisla"}}, // a missing entry takes over the one before
+        {"1", "0", nullptr, {"obracene", "bez nazvu", "bez cisel"}},
+        {"2", "nesmysl", "0", {"rovne", "nazvy", "bez cisel"}},
+        {"0", "1", "", {"rovne", "nazvy", "cisla"}},
+        {"255", "0", "1", {"rovne", "bez nazvu", "cisla"}},
+        {"0,5", "0.4", "1.5", {"rovne", "bez nazvu", "cisla"}}, // rounded to even
+    };
+    for (const Pripad& pripad : pripady) {
+        Start start;
+        start.nastaveni.nastav("Znaceni", "Index", text(pripad.znaceni));
+        start.nastaveni.nastav("PopisKnof", "Index", text(pripad.popis));
+        start.nastaveni.nastav("Cislovani", "Index", text(pripad.cislovani));
+        EXPECT_TRUE(start.spust());
+        EXPECT_EQ(start.deje.mid(3, 3), pripad.cekano) << pripad.cekano.join('|').toStdString();
+        EXPECT_EQ(start.deje.mid(0, 3), QStringList({"nahore", "excel", "obrazky"}));
+        EXPECT_EQ(start.deje.mid(6), QStringList({"basy", "diskant"}));
+    }
+}
+
+TEST(Spusteni, AnOverflowIsReportedAndEndsTheSequence) {
+    for (const char* hodnota : {"256", "-1", "1e9"}) {
+        Start start;
+        start.nastaveni.nastav("PopisKnof", "Index", text(hodnota));
+        start.dialogs.expect("Neočekávaná chyba programu.",
+                             "V programu došlo k chybě číslo 6. Možná budete moci dále pokračovat. "
+                             "V případě problémů kontaktujte ");
+        EXPECT_FALSE(start.spust());
+        EXPECT_EQ(start.deje.last(), "rovne") << hodnota;
+        EXPECT_EQ(start.dialogs.last.icon, Icon::Exclamation);
+    }
+}
+
+TEST(Spusteni, WithoutASpreadsheetTheRestIsSkipped) {
+    Start start;
+    start.spustExcel = [] { throw RuntimeError(429, "Tabulkový program se nespustil."); };
+    start.dialogs.expect("Neočekávaná chyba programu.", "číslo 429.");
+    EXPECT_FALSE(start.spust());
+    EXPECT_EQ(start.deje, QStringList({"nahore"}));
+    EXPECT_TRUE(start.dialogs.last.text.endsWith("Tabulkový program se nespustil."));
+}
+
+TEST(Spusteni, RowCoversComeFromTheirSettings) {
+    Start start;
+    const char* hodnoty[] = {"1", "True", "0", "nesmysl", "-1"};
+    for (int rada = 1; rada <= 5; ++rada)
+        start.nastaveni.nastav("Zabrany", QString::number(rada), text(hodnoty[rada - 1]));
+    EXPECT_TRUE(start.spust());
+    EXPECT_EQ(start.deje.mid(8), QStringList({"zabrana 1", "zabrana 2", "zabrana 5"}));
+}
