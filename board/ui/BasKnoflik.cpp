@@ -4,6 +4,8 @@
 
 #include <QPainter>
 
+#include <algorithm>
+
 namespace zvonika {
 
 namespace {
@@ -34,12 +36,20 @@ HmatovaZnacka hmat(int bas) {
     return HmatovaZnacka::Zadna;
 }
 
+/// What of the name has room on the button: the caption of its run says which bass or chord it is.
+QString zkratka(const QString& nazev) {
+    const qsizetype konec =
+        std::find_if(nazev.begin(), nazev.end(), [](QChar z) { return z == u'-' || z == u'/'; }) -
+        nazev.begin();
+    return konec > 0 ? nazev.left(konec) : nazev;
+}
+
 } // namespace
 
 BasKnoflik::BasKnoflik(int n, const QString& nazev, const BassBoard& model,
                        std::shared_ptr<ObrazyPrvku> obrazy, QWidget* parent)
     : StiskaciPrvek(n, std::move(obrazy), parent), model_(model) {
-    napis_.nastav(nazev);
+    napis_.nastav(zkratka(nazev));
     obnov();
 }
 
@@ -60,9 +70,10 @@ void BasKnoflik::paintEvent(QPaintEvent*) {
     QRectF misto = QRectF(rect()).adjusted(v * 0.34, v * 0.12, -v * 0.34, -v * 0.18);
     if (podoba().vyznam == VyznamPrvku::Tah) misto.setLeft(v * 0.66);
     if (podoba().vyznam == VyznamPrvku::Tlak) misto.setRight(width() - v * 0.66);
+    misto.adjust(0, v * 0.04, 0, -v * 0.02);
     QFont pismo = font();
     pismo.setBold(podoba().vyznam != VyznamPrvku::Volny || podoba().hmat != HmatovaZnacka::Zadna);
-    napis_.kresli(painter, misto, pismo, barvyKnofliku(podoba().vyznam, false).znak);
+    napis_.kresli(painter, misto, pismo, barvaNapisu(podoba()));
     kresliZamereni(painter, QRectF(rect()).adjusted(1.5, 1, -1.5, -2), v / 2);
 }
 

@@ -7,7 +7,8 @@ namespace zvonika {
 
 class BassBoard;
 
-/// Bass button `ImgBas(n)`, a pill that carries the name of its bass. The model must outlive it.
+/// Bass button `ImgBas(n)`, a pill that carries the tone of its bass or the root of its chord. The model must
+/// outlive it.
 class BasKnoflik : public StiskaciPrvek {
     Q_OBJECT
 public:
@@ -16,7 +17,6 @@ public:
 
     /// Takes over picture and mark from the model and repaints if they changed.
     void obnov();
-    const QString& nazev() const { return napis_.text(); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

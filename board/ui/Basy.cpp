@@ -44,7 +44,7 @@ QRect plochaNadpisu(int r) {
 Pozadi::Nacrt nacrtTela() {
     Pozadi::Nacrt nacrt;
     nacrt.telo = QRect(QPoint(plochaNadpisu(0).left() - 90, plochaNadpisu(0).top() - 160),
-                       QPoint(plochaRady(5).right() + 90, plochaRady(5).bottom() + 190));
+                       QPoint(plochaRady(5).right() + 106, plochaRady(5).bottom() + 190));
     nacrt.sklon = 0.25; // a run starts a quarter of its width lower than the one before
     return nacrt;
 }
@@ -77,7 +77,7 @@ private:
 
     void vytvorKnofliky(const ObsluhaBasu& obsluha, const Umisti& umisti) {
         const auto obrazy = std::make_shared<ObrazyPrvku>();
-        const auto ostrov = std::make_shared<OstrovFokusu>(OstrovFokusu::Pohyb::PodlePolohy);
+        const auto ostrov = std::make_shared<OstrovFokusu>(basuVRade, 1);
         for (int bas = 1; bas <= pocetBasu; ++bas) {
             const QString nazev = obsluha.nazev ? obsluha.nazev(bas) : QString();
             auto* knoflik = new BasKnoflik(bas, nazev, model_, obrazy, scena_);

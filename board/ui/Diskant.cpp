@@ -39,7 +39,7 @@ QRect plochaRady(int cisloRady) {
 
 Pozadi::Nacrt nacrtTela() {
     Pozadi::Nacrt nacrt;
-    nacrt.telo = QRect(QPoint(3790, 20), QPoint(7619, 10439));
+    nacrt.telo = QRect(QPoint(3826, 20), QPoint(7591, 10439));
     for (int r = 1; r <= pocetRad; ++r)
         nacrt.drazky.push_back(plochaRady(r).adjusted(15, -25, -15, 25));
     return nacrt;
@@ -62,7 +62,7 @@ public:
 private:
     void vytvorKnofliky(const ObsluhaDiskantu& obsluha) {
         const auto obrazy = std::make_shared<ObrazyPrvku>();
-        const auto ostrov = std::make_shared<OstrovFokusu>(OstrovFokusu::Pohyb::PodlePolohy);
+        const auto ostrov = std::make_shared<OstrovFokusu>();
         for (int n = 1; n <= pocetKnofliku; ++n) {
             hlavni_.at(idx(n)) = vytvorKnoflik(n, false, obrazy, ostrov, obsluha);
             if (maPomocny(n)) pomocne_.at(idx(n)) = vytvorKnoflik(n, true, obrazy, ostrov, obsluha);

@@ -21,7 +21,7 @@ class Klaviatura : public QObject {
 public:
     Klaviatura(QWidget* scena, const TrebleBoard& model, const ObsluhaDiskantu& obsluha, const Umisti& umisti)
         : QObject(scena), scena_(scena), model_(model), umisti_(umisti) {
-        const auto ostrov = std::make_shared<OstrovFokusu>(OstrovFokusu::Pohyb::PodlePoradi);
+        const auto ostrov = std::make_shared<OstrovFokusu>(1, 1);
         vytvorKlavesy(obsluha);
         for (int n = 1; n <= pocetKnofliku; ++n) {
             klavesy_.at(idx(n))->vlozDoOstrova(ostrov);

@@ -64,11 +64,12 @@ QRectF KnoflikDiskantu::mistoNapisu(const QRectF& obraz) const {
     struct Pomer {
         qreal sirka, vyska;
     };
-    constexpr Pomer pomery[] = {{0.74, 0.42}, {0.68, 0.74}, {0.6, 0.84}};
+    constexpr Pomer pomery[] = {{0.78, 0.42}, {0.7, 0.74}, {0.6, 0.76}};
     const Pomer pomer = pomery[std::clamp<qsizetype>(napis_.pocetRadku() - 1, 0, 2)];
     QRectF misto(0, 0, d * pomer.sirka, d * pomer.vyska);
     misto.moveCenter(stred);
-    const qreal sipka = d * 0.17;
+    if (podoba().vyznam == VyznamPrvku::Interval) misto.setWidth(d * 0.62), misto.moveCenter(stred);
+    const qreal sipka = d * 0.19;
     if (podoba().vyznam == VyznamPrvku::Tah) misto.setLeft(misto.left() + sipka);
     if (podoba().vyznam == VyznamPrvku::Tlak) misto.setRight(misto.right() - sipka);
     return misto;
@@ -80,7 +81,7 @@ void KnoflikDiskantu::paintEvent(QPaintEvent*) {
     kresliObraz(painter, obraz);
     QFont pismo = font();
     pismo.setBold(true);
-    napis_.kresli(painter, mistoNapisu(obraz), pismo, barvyKnofliku(podoba().vyznam, podoba().tmavy).znak);
+    napis_.kresli(painter, mistoNapisu(obraz), pismo, barvaNapisu(podoba()));
     const qreal prumer = obraz.height() * 0.96;
     kresliZamereni(painter, QRectF(obraz.center().x() - prumer / 2 + 0.5, 0.5, prumer, prumer), prumer / 2);
 }

@@ -89,7 +89,8 @@ void nakresliHmat(QPainter& painter, const QRectF& lic, const PodobaPrvku& podob
     painter.save();
     painter.setClipPath(obly(zuzeny(lic, lic.height() * 0.04)));
     QColor ryha = barva;
-    ryha.setAlpha(podoba.hmat == HmatovaZnacka::Mriz ? 105 : 150);
+    const bool volny = podoba.vyznam == VyznamPrvku::Volny; // elsewhere the caption stands on a strong colour
+    ryha.setAlpha(podoba.hmat == HmatovaZnacka::Dulek ? 150 : volny ? 95 : 60);
     const qreal v = lic.height();
     painter.setPen(QPen(ryha, std::max(0.8, v * 0.055)));
     if (podoba.hmat == HmatovaZnacka::Mriz) {

@@ -46,10 +46,10 @@ void nakresliTerc(QPainter& painter, const QRectF& lic, const PodobaPrvku& podob
 
 void nakresliCtverec(QPainter& painter, const QRectF& lic, const PodobaPrvku& podoba, const QColor& barva) {
     const qreal v = lic.height();
-    const qreal strana = v * (podoba.popsany ? 0.68 : 0.4);
+    const qreal strana = v * (podoba.popsany ? 0.66 : 0.4); // the larger one is a plate under the caption
     const QRectF ctverec(lic.center() - QPointF(strana, strana) / 2, QSizeF(strana, strana));
     painter.setPen(QPen(barva, std::max(1.2, v * 0.07), Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    painter.setBrush(podoba.popsany ? QBrush(Qt::NoBrush) : QBrush(barva));
+    painter.setBrush(barva);
     painter.drawRect(ctverec);
 }
 

@@ -8,7 +8,8 @@
 namespace zvonika {
 
 namespace {
-constexpr int nejmensiPismo = 5; // px
+constexpr int nejmensiPismo = 6; // px
+constexpr int nejuzsiPismo = 78; // percent of the normal width
 constexpr qreal pismoVRadku =
     0.98; // letter size to line height: names have few descenders, lines may stand close
 } // namespace
@@ -44,16 +45,23 @@ void Napis::rozvrhni(const QRectF& misto, const QFont& pismo, Qt::Alignment zaro
         return nejsirsi;
     };
     QFontMetricsF miry(pismo_);
+    // Narrow letters are read more easily than small ones.
+    if (sirka(miry) > misto.width()) {
+        pismo_.setStretch(std::max(nejuzsiPismo, static_cast<int>(100 * misto.width() / sirka(miry))));
+        miry = QFontMetricsF(pismo_);
+    }
     while (sirka(miry) > misto.width() && pismo_.pixelSize() > nejmensiPismo) {
         const int podleSirky = static_cast<int>(pismo_.pixelSize() * misto.width() / sirka(miry));
-        pismo_.setPixelSize(std::max(nejmensiPismo, std::min(podleSirky, pismo_.pixelSize() - 1)));
+        pismo_.setPixelSize(std::clamp(podleSirky, nejmensiPismo, pismo_.pixelSize() - 1));
         miry = QFontMetricsF(pismo_);
     }
     qreal stred = misto.top() + vyskaRadku / 2;
     for (Radek& radek : radky_) {
         const qreal volno = misto.width() - miry.horizontalAdvance(radek.text);
         const qreal x = zarovnani & Qt::AlignLeft ? 0 : zarovnani & Qt::AlignRight ? volno : volno / 2;
-        radek.kde = QPointF(misto.left() + x, stred + miry.capHeight() / 2 - miry.ascent());
+        // Centred by its capitals, but with the tail of a "g" still in the box.
+        const qreal ucari = std::min(stred + miry.capHeight() / 2, misto.bottom() - miry.descent());
+        radek.kde = QPointF(misto.left() + x, ucari - miry.ascent());
         radek.sazba.prepare({}, pismo_);
         stred += vyskaRadku;
     }

@@ -44,12 +44,15 @@ QWidget* OstrovFokusu::soused(const QWidget* od, int klavesa) const {
     if (klavesa == Qt::Key_End) return clenove_.back();
     const QPoint smer = smerKlavesy(klavesa);
     if (smer.isNull()) return nullptr;
-    return pohyb_ == Pohyb::PodlePoradi ? podlePoradi(od, smer.x() - smer.y()) : podlePolohy(od, smer);
+    return vpravo_ ? podlePoradi(od, smer) : podlePolohy(od, smer);
 }
 
-QWidget* OstrovFokusu::podlePoradi(const QWidget* od, int krok) const {
-    const qsizetype kam = clenove_.indexOf(const_cast<QWidget*>(od)) + krok;
-    return kam >= 0 && kam < clenove_.size() ? clenove_[kam] : nullptr;
+QWidget* OstrovFokusu::podlePoradi(const QWidget* od, QPoint smer) const {
+    const qsizetype odkud = clenove_.indexOf(const_cast<QWidget*>(od));
+    const qsizetype kam = odkud + smer.x() * vpravo_ - smer.y() * nahoru_;
+    if (kam < 0 || kam >= clenove_.size()) return nullptr;
+    const bool opoustiSloupec = vpravo_ > 1 && smer.x() == 0 && kam / vpravo_ != odkud / vpravo_;
+    return opoustiSloupec ? nullptr : clenove_[kam];
 }
 
 QWidget* OstrovFokusu::podlePolohy(const QWidget* od, QPoint smer) const {

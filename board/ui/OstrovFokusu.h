@@ -11,11 +11,11 @@ namespace zvonika {
 /// within the group.
 class OstrovFokusu {
 public:
-    /// How arrow keys find the next member: by where it lies, or by the order in which the members were added
-    /// (up and right forward, down and left back).
-    enum class Pohyb { PodlePolohy, PodlePoradi };
-
-    explicit OstrovFokusu(Pohyb pohyb) : pohyb_(pohyb) {}
+    /// Arrow keys lead to the member that lies there.
+    OstrovFokusu() = default;
+    /// Arrow keys lead so many members further in the order in which they were added. Where a step to the
+    /// right is more than one, the members are columns of that length and up and down stay within a column.
+    OstrovFokusu(int vpravo, int nahoru) : vpravo_(vpravo), nahoru_(nahoru) {}
 
     void pridej(QWidget* clen);
     /// Makes the member the Tab stop; called whenever it gets the focus.
@@ -28,9 +28,10 @@ public:
 
 private:
     QWidget* podlePolohy(const QWidget* od, QPoint smer) const;
-    QWidget* podlePoradi(const QWidget* od, int krok) const;
+    QWidget* podlePoradi(const QWidget* od, QPoint smer) const;
 
-    Pohyb pohyb_;
+    int vpravo_ = 0; ///< 0: by place
+    int nahoru_ = 0;
     QVector<QWidget*> clenove_;
     QWidget* zastavka_ = nullptr;
 };

@@ -16,7 +16,7 @@ constexpr RadekBarev knofliky[] = {
     {{{218, 42, 36}, {255, 255, 255}}, {{150, 16, 20}, {255, 255, 255}}},
     {{{140, 148, 255}, {14, 14, 70}}, {{62, 72, 190}, {255, 255, 255}}},
     {{{186, 20, 186}, {255, 255, 255}}, {{112, 6, 118}, {255, 255, 255}}},
-    {{{190, 132, 74}, {44, 22, 4}}, {{104, 62, 26}, {255, 244, 226}}},
+    {{{206, 150, 90}, {44, 22, 4}}, {{104, 62, 26}, {255, 244, 226}}},
 };
 
 } // namespace
@@ -24,6 +24,11 @@ constexpr RadekBarev knofliky[] = {
 BarvyPrvku barvyKnofliku(VyznamPrvku vyznam, bool tmavy) {
     const RadekBarev& radek = knofliky[static_cast<int>(vyznam)];
     return tmavy ? radek.tmavy : radek.svetly;
+}
+
+QColor barvaNapisu(const PodobaPrvku& podoba) {
+    const BarvyPrvku barvy = barvyKnofliku(podoba.vyznam, podoba.tmavy);
+    return podoba.vyznam == VyznamPrvku::Interval ? barvy.lic : barvy.znak;
 }
 
 BarvyPrvku barvyKlavesy(VyznamPrvku vyznam, bool cerna) {

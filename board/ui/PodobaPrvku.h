@@ -34,6 +34,8 @@ struct BarvyPrvku {
 };
 
 BarvyPrvku barvyKnofliku(VyznamPrvku vyznam, bool tmavy);
+/// Colour of the caption; the interval's square lies under it.
+QColor barvaNapisu(const PodobaPrvku& podoba);
 BarvyPrvku barvyKlavesy(VyznamPrvku vyznam, bool cerna);
 
 namespace barvy {

@@ -7,6 +7,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace zvonika {
 
 QString slovyStav(VyznamPrvku vyznam, bool oznacen) {
@@ -47,9 +49,10 @@ void StiskaciPrvek::kresliZamereni(QPainter& painter, const QRectF& obrys, qreal
     if (!hasFocus()) return;
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(QColor(30, 20, 12), 3.4));
+    const qreal tah = std::max(2.0, height() * 0.05);
+    painter.setPen(QPen(QColor(30, 20, 12), tah * 1.7));
     painter.drawRoundedRect(obrys, polomer, polomer);
-    painter.setPen(QPen(barvy::zamereni, 2));
+    painter.setPen(QPen(barvy::zamereni, tah));
     painter.drawRoundedRect(obrys, polomer, polomer);
 }
 

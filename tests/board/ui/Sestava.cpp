@@ -19,8 +19,8 @@ QString nazevBasu(int n) {
     static const char* const koreny[] = {"Heses", "Fes", "Ces", "Ges", "Des", "As", "Es",
                                          "B",     "F",   "C",   "G",   "D",   "A",  "E",
                                          "H",     "Fis", "Cis", "Gis", "Dis", "Ais"};
-    static const char* const pripony[] = {"*", "", "dur", "m", "7", "zm"};
-    return QLatin1String(koreny[(n - 1) % 20]) + QLatin1String(pripony[(n - 1) / 20]);
+    static const char* const druhy[] = {"/", "", "-dur", "-moll", "-sept", "-zm"};
+    return QLatin1String(koreny[(n - 1) % 20]) + QLatin1String(druhy[(n - 1) / 20]);
 }
 
 } // namespace

@@ -60,8 +60,11 @@ void zmer() {
     hodiny.start();
     Sestava s(0.87);
     const double vytvoreni = double(hodiny.nsecsElapsed()) / 1e6;
+    hodiny.restart();
     s.scena.show();
     QCoreApplication::processEvents();
+    s.scena.repaint();
+    const double poprve = double(hodiny.nsecsElapsed()) / 1e6;
     rozehraj(s);
     QCoreApplication::processEvents();
     hodiny.restart();
@@ -71,8 +74,9 @@ void zmer() {
     hodiny.restart();
     for (int i = 0; i < 50; ++i)
         s.prvek("lbl(17)")->repaint();
-    std::printf("vytvoreni %.2f ms, prekresleni vseho %.2f ms, jednoho knofliku %.3f ms\n", vytvoreni, vse,
-                double(hodiny.nsecsElapsed()) / 50e6);
+    std::printf("vytvoreni %.2f ms, poprve na obrazovce %.2f ms, prekresleni vseho %.2f ms, jednoho knofliku "
+                "%.3f ms\n",
+                vytvoreni, poprve, vse, double(hodiny.nsecsElapsed()) / 50e6);
 }
 
 } // namespace
