@@ -3,6 +3,7 @@
 #include "theory/TonNaOsnove.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace zvonika {
 
@@ -14,6 +15,10 @@ std::optional<int> prvniSlot(const NotovaOsnova::Noty& noty, Podminka podminka) 
     return nalezena == noty.end() ? std::nullopt : std::optional(static_cast<int>(nalezena - noty.begin()));
 }
 
+auto zniJako(CisloTonu ton) {
+    return [ton](const auto& nota) { return nota && nota->ton == ton; };
+}
+
 } // namespace
 
 NotovaOsnova::NotovaOsnova(QObject* parent) : QObject(parent) {}
@@ -23,7 +28,7 @@ std::optional<int> NotovaOsnova::volnySlot() const {
 }
 
 std::optional<int> NotovaOsnova::slotTonu(CisloTonu ton) const {
-    return prvniSlot(noty_, [&](const auto& nota) { return nota && nota->ton == ton; });
+    return prvniSlot(noty_, zniJako(ton));
 }
 
 bool NotovaOsnova::odrazka(int i) const {
@@ -75,14 +80,16 @@ void NotovaOsnova::odeberOdrazky() {
 template <typename Podminka>
 void NotovaOsnova::odeberZnamenka(Podminka podminka) {
     Noty noty = noty_;
+    Noty bezZnamenek;
     for (std::size_t slot = 0; slot < noty.size(); ++slot) {
-        auto& nota = noty[slot];
-        if (!nota || !podminka(nota->poloha.znamenko)) continue;
+        if (noty[slot] && podminka(noty[slot]->poloha.znamenko)) std::swap(noty[slot], bezZnamenek[slot]);
+    }
+    for (std::size_t slot = 0; slot < noty.size(); ++slot) {
+        auto& nota = bezZnamenek[slot];
+        if (!nota) continue;
         nota->poloha.znamenko = Znamenko::Zadne;
-        const CisloTonu ton = tonNaOsnove(nota->poloha, predznamenani_);
-        nota->ton = ton;
-        const auto zni = [&](const auto& jina) { return jina && jina->ton == ton; };
-        if (!ton.jeVRozsahu() || std::count_if(noty.begin(), noty.end(), zni) > 1) nota.reset();
+        nota->ton = tonNaOsnove(nota->poloha, predznamenani_);
+        if (nota->ton.jeVRozsahu() && !prvniSlot(noty, zniJako(nota->ton))) noty[slot] = nota;
     }
     nastavNoty(noty);
 }

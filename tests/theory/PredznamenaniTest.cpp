@@ -1,0 +1,101 @@
+#include "theory/Predznamenani.h"
+
+#include "tests/support/ScriptedDialogs.h"
+#include "tests/theory/Vypis.h"
+#include "theory/TonNaOsnove.h"
+#include "theory/Tonavox12.h"
+#include "theory/Toniny.h"
+#include "theory/clsNoty.h"
+
+#include <QStringList>
+
+#include <gtest/gtest.h>
+#include <set>
+
+namespace zvonika {
+namespace {
+
+using testing::nazev;
+using testing::ScriptedDialogs;
+using testing::stupnice;
+
+/// The plain notes that the signature alters, as it is read from left to right ("f2 c2 ...").
+QStringList znamenka(const Predznamenani& predznamenani) {
+    QStringList tony;
+    for (int i = 0; i < predznamenani.pocet(); ++i)
+        tony += nazevNaOsnove({Znamenko::Odrazka, predznamenani.jednotky(i)}, {}).text().chopped(1);
+    return tony;
+}
+
+TEST(Predznamenani, StandsInItsUsualOrderAndPlaces) {
+    const QStringList krizky{"f2", "c2", "g2", "d2", "a1", "e2", "h1"};
+    const QStringList becka{"h1", "e2", "a1", "d2", "g1", "c2", "f1"};
+    int pocet = 0;
+    for (const char* tonina : {"C dur", "G dur", "D dur", "A dur", "E dur", "H dur", "Fis dur", "Cis dur"}) {
+        const Predznamenani predznamenani(stupnice(tonina));
+        EXPECT_EQ(predznamenani.druh(), pocet ? Znamenko::Krizek : Znamenko::Zadne) << tonina;
+        EXPECT_EQ(znamenka(predznamenani), krizky.mid(0, pocet++)) << tonina;
+    }
+    pocet = 1;
+    for (const char* tonina : {"F dur", "B dur", "Es dur", "As dur", "Des dur", "Ges dur", "Ces dur"}) {
+        const Predznamenani predznamenani(stupnice(tonina));
+        EXPECT_EQ(predznamenani.druh(), Znamenko::Becko) << tonina;
+        EXPECT_EQ(znamenka(predznamenani), becka.mid(0, pocet++)) << tonina;
+    }
+}
+
+TEST(Predznamenani, IsEmptyForWhatIsNoKey) {
+    for (const char* text : {"", "Vyberte tóninu", "a moll", "g dur"})
+        EXPECT_EQ(Predznamenani(stupnice(text)).pocet(), 0) << text;
+    for (const char* text : {"D Dur", "ddur", "Fis Dur"})
+        EXPECT_GT(Predznamenani(stupnice(text)).pocet(), 0) << text;
+}
+
+TEST(TonNaOsnove, PlainNotesOfASignatureAreItsScale) {
+    for (const DurovaTonina& tonina : toniny) {
+        const Predznamenani predznamenani(tonina.key());
+        std::set<int> tony;
+        for (int jednotky = 120; jednotky <= 1800; jednotky += 60) {
+            const CisloTonu ton = tonNaOsnove({Znamenko::Zadne, jednotky}, predznamenani);
+            if (!ton.jeVRozsahu()) continue;
+            Tonavox12 model;
+            QString key = tonina.nazev.toString();
+            model.DejTonVeStupnici(ton, key);
+            EXPECT_FALSE(model.MimoStupnici()) << model.nazevTonu() << key.toStdString();
+            tony.insert(ton.hodnota());
+        }
+        EXPECT_GE(tony.size(), 27U) << tonina.nazev.toString().toStdString();
+    }
+}
+
+TEST(TonNaOsnove, NameNumberAndPlaceAgree) {
+    ScriptedDialogs dialogs;
+    const clsNoty noty(dialogs);
+    Tonavox12 model;
+    int platnych = 0;
+    for (Znamenko znamenko : {Znamenko::Zadne, Znamenko::Krizek, Znamenko::Becko}) {
+        for (int jednotky = -120; jednotky <= 1980; jednotky += 30) {
+            const PolohaNoty poloha{znamenko, jednotky};
+            const ToneName jmeno = nazevNaOsnove(poloha, {});
+            model.DejCisloTonu(jmeno);
+            EXPECT_EQ(tonNaOsnove(poloha, {}), model.cisloTonu()) << poloha << jmeno;
+            if (jmeno.jePrazdny()) continue;
+            ++platnych;
+            EXPECT_EQ(PolohaNoty::zTextu(noty.UrciPolohuNoty(jmeno)), poloha) << jmeno;
+        }
+    }
+    // Plain e to e4, sharps from eis to dis4, flats from fes to fes4.
+    EXPECT_EQ(platnych, 29 + 28 + 29);
+}
+
+TEST(TonNaOsnove, TheNoteOwnSignOverrulesTheSignature) {
+    const Predznamenani gdur(stupnice("G dur"));
+    EXPECT_EQ(nazevNaOsnove({Znamenko::Zadne, 600}, gdur), nazev("fis1,"));
+    EXPECT_EQ(nazevNaOsnove({Znamenko::Odrazka, 600}, gdur), nazev("f1,"));
+    EXPECT_EQ(nazevNaOsnove({Znamenko::Becko, 600}, gdur), nazev("fes1,"));
+    EXPECT_EQ(nazevNaOsnove({Znamenko::Zadne, 660}, gdur), nazev("g1,"));
+    EXPECT_EQ(nazevNaOsnove({Znamenko::Zadne, 540}, Predznamenani(stupnice("Cis dur"))), nazev("eis1,"));
+}
+
+} // namespace
+} // namespace zvonika

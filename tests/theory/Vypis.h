@@ -1,0 +1,43 @@
+#pragma once
+
+#include "theory/CisloTonu.h"
+#include "theory/Key.h"
+#include "theory/PolohaNoty.h"
+#include "theory/ToneName.h"
+
+#include <QString>
+
+#include <ostream>
+
+// How the values of the music theory read in a failure message.
+namespace zvonika {
+
+inline std::ostream& operator<<(std::ostream& out, const ToneName& nazev) {
+    return out << '"' << nazev.text().toStdString() << '"';
+}
+inline std::ostream& operator<<(std::ostream& out, const Key& stupnice) {
+    return out << '"' << stupnice.text().toStdString() << '"';
+}
+inline std::ostream& operator<<(std::ostream& out, CisloTonu cislo) {
+    return out << cislo.hodnota();
+}
+inline std::ostream& operator<<(std::ostream& out, const PolohaNoty& poloha) {
+    return out << "{sign " << static_cast<int>(poloha.znamenko) << ", " << poloha.jednotky << '}';
+}
+
+} // namespace zvonika
+
+inline void PrintTo(const QString& text, std::ostream* out) {
+    *out << '"' << text.toStdString() << '"';
+}
+
+namespace zvonika::testing {
+
+inline ToneName nazev(const char* text) {
+    return ToneName(QString::fromUtf8(text));
+}
+inline Key stupnice(const char* text) {
+    return Key(QString::fromUtf8(text));
+}
+
+} // namespace zvonika::testing
