@@ -1,5 +1,7 @@
 #include "song/StavovyRadek.h"
 
+#include "theory/Key.h"
+
 namespace zvonika {
 
 namespace {
@@ -19,7 +21,7 @@ QString coDal(const StavProgramu& stav) {
 
 QString stavovyRadek(const StavProgramu& stav) {
     if (!stav.upozorneni.isEmpty()) return stav.upozorneni;
-    const bool bezToniny = stav.stupnice == QLatin1String("Vyberte tóninu") || stav.stupnice.isEmpty();
+    const bool bezToniny = stav.stupnice.isEmpty() || stav.stupnice == Key::vyberteToninu().text();
     // A key matters for what is written next, not for reading.
     const bool piseSe = stav.pisenOtevrena && (stav.radekPrazdny || !stav.neniCoZapsat);
     return bezToniny && piseSe ? QStringLiteral("Tónina není zvolena. ") + coDal(stav) : coDal(stav);

@@ -1,0 +1,172 @@
+#include "tests/song/SongFixture.h"
+
+namespace zvonika::testing {
+
+namespace {
+
+class ZobrazeniHmatuTest : public SongFixture {
+protected:
+    // c1 is button 9, e1 button 13; e of the small octave is button 1.
+    ZobrazeniHmatuTest() {
+        excel->addWorkbook();
+        napis(1, {"c1,", "e1,"}, {"C"});
+    }
+    void napis(int radek, const QStringList& tony, const QStringList& basy) {
+        QString sloupec = "B";
+        for (const QString& ton : tony) {
+            excel->put(sloupec + QString::number(radek), ton);
+            sloupec[0] = QChar(sloupec[0].unicode() + 1);
+        }
+        sloupec = "M";
+        for (const QString& bas : basy) {
+            excel->put(sloupec + QString::number(radek), bas);
+            sloupec[0] = QChar(sloupec[0].unicode() + 1);
+        }
+    }
+    void naRadek(int radek) { excel->selectRange(QStringLiteral("B%1").arg(radek)); }
+    QVector<int> knofliky(StavKnofliku stav) const {
+        QVector<int> nalezene;
+        for (int n = 1; n <= pocetKnofliku; ++n)
+            if (diskant.stav(n) == stav) nalezene.append(n);
+        return nalezene;
+    }
+};
+
+} // namespace
+
+TEST_F(ZobrazeniHmatuTest, ShowsTheRowOnTheSideThatWasAskedFor) {
+    excel->put("I1", "Tah"); // not asked
+    excel->selectRange("E1");
+    zobrazeni.cmdReadTlak();
+    EXPECT_TRUE(zobrazeni.zobrazenTlak());
+    EXPECT_EQ(excel->activeAddress(), "$B$1");
+    EXPECT_EQ(knofliky(StavKnofliku::Tlak), (QVector<int>{9, 13}));
+    EXPECT_EQ(diskant.stavPomocneho(13), StavKnofliku::Tlak);
+    EXPECT_EQ(basy.stav(30), StavBasu::Tlak);
+    EXPECT_EQ(osnova.tony(), (QStringList{"c1,", "e1,"}));
+
+    zobrazeni.cmdReadTah();
+    EXPECT_FALSE(zobrazeni.zobrazenTlak());
+    EXPECT_EQ(knofliky(StavKnofliku::Tlak), QVector<int>());
+    EXPECT_EQ(knofliky(StavKnofliku::Tah), (QVector<int>{9, 13}));
+    EXPECT_EQ(basy.stav(30), StavBasu::Tah);
+}
+
+TEST_F(ZobrazeniHmatuTest, MarksSurviveBehindTheShownGrip) {
+    for (const int n : {9, 20}) {
+        diskant.nastavZnacku(n, true);
+        diskant.ukaz(n, StavKnofliku::Cerveny);
+        diskant.nastavBarvuKlavesy(n, BarvaKlavesy::Cervena);
+    }
+    diskant.ukaz(25, StavKnofliku::Hnedy);
+    basy.klik(30);
+    basy.klik(51);
+
+    zobrazeni.cmdReadTah();
+    EXPECT_EQ(diskant.stav(9), StavKnofliku::Tah);
+    EXPECT_TRUE(diskant.oznacen(9));
+    EXPECT_EQ(diskant.barvaKlavesy(9), BarvaKlavesy::Cervena);
+    EXPECT_EQ(diskant.stav(20), StavKnofliku::Cerveny) << "not in the grip";
+
+    naRadek(2);
+    zobrazeni.ZobrazHmat();
+    EXPECT_EQ(knofliky(StavKnofliku::Cerveny), (QVector<int>{9, 20}));
+    EXPECT_EQ(diskant.stav(13), StavKnofliku::Volny);
+    EXPECT_EQ(diskant.stavPomocneho(13), StavKnofliku::Volny);
+    EXPECT_EQ(diskant.stavPomocneho(20), StavKnofliku::Cerveny);
+    EXPECT_EQ(diskant.stav(25), StavKnofliku::Hnedy);
+    EXPECT_EQ(basy.stav(30), StavBasu::Cerveny);
+    EXPECT_EQ(basy.stav(51), StavBasu::Cerveny);
+}
+
+TEST_F(ZobrazeniHmatuTest, ForeignTonesAndBassesAreLeftOutAndTold) {
+    napis(3, {"c1,", "h9,", "x"}, {"Gd", "Xyz"});
+    naRadek(3);
+    zobrazeni.cmdReadTah();
+    EXPECT_EQ(knofliky(StavKnofliku::Tah), QVector<int>{9});
+    EXPECT_EQ(basy.stav(51), StavBasu::Tah);
+    EXPECT_TRUE(panel.upozorneni.contains("h9, x")) << panel.upozorneni.toStdString();
+    EXPECT_TRUE(panel.upozorneni.contains("Xyz"));
+    EXPECT_EQ(panel.lblTony, "c1, h9, x");
+    naRadek(1);
+    zobrazeni.ZobrazHmat();
+    EXPECT_EQ(panel.upozorneni, "");
+}
+
+TEST_F(ZobrazeniHmatuTest, TextPanelShowsTheRowAndItsNeighbours) {
+    for (int radek = 1; radek <= 7; ++radek)
+        excel->put(QStringLiteral("A%1").arg(radek), QStringLiteral("s%1").arg(radek));
+    excel->put("W1", "Vyberte tóninu");
+    struct Pripad {
+        int radek;
+        std::array<QString, 5> slabiky;
+    };
+    for (const auto& [radek, slabiky] : {Pripad{1, {"", "", "s1", "s2", "s3"}},
+                                         {2, {"", "s1", "s2", "s3", "s4"}},
+                                         {3, {"s1", "s2", "s3", "s4", "s5"}},
+                                         {6, {"s4", "s5", "s6", "s7", ""}},
+                                         {65536, {"", "", "", "", ""}}}) {
+        naRadek(radek);
+        const int predtim = excel->calls("readBlock");
+        zobrazeni.ZobrazHmat();
+        EXPECT_EQ(excel->calls("readBlock"), predtim + 1);
+        EXPECT_EQ(panel.lblSlabika, slabiky) << radek;
+        EXPECT_EQ(panel.lblTon, QString::number(radek));
+    }
+    naRadek(1);
+    panel.popisyViditelne = false;
+    zobrazeni.ZobrazTexty();
+    EXPECT_TRUE(panel.popisyViditelne);
+    EXPECT_EQ(panel.lblTony, "c1, e1,");
+    EXPECT_EQ(panel.lblBasy, "C");
+    EXPECT_EQ(panel.lblStupnice, "Vyberte tóninu");
+}
+
+TEST_F(ZobrazeniHmatuTest, FingersReplaceThoseOfTheGripBefore) {
+    diskant.nastavPopis(9, "3\r\n");
+    excel->put("V1", "l9;1\\");
+    zobrazeni.ZobrazHmat();
+    EXPECT_EQ(diskant.popis(9), "") << "emptied before the fingering is put on";
+    EXPECT_EQ(prstoklady, QStringList{"l9;1\\"});
+}
+
+TEST_F(ZobrazeniHmatuTest, QuietShowingTakesTheSideFromTheRowAndLeavesTheCursor) {
+    struct Pripad {
+        const char* smer;
+        bool tlakPredtim, tlakPotom;
+    };
+    for (const auto& [smer, predtim, potom] :
+         {Pripad{"Tah", true, false}, {"Tlak", false, true}, {"", true, true}, {"", false, false}}) {
+        excel->selectRange("B1");
+        predtim ? zobrazeni.cmdReadTlak() : zobrazeni.cmdReadTah();
+        excel->put("I1", QString(smer));
+        excel->selectRange("A1");
+        EXPECT_EQ(zobrazeni.ZobrazHmatPotichu(), smerMechu(smer));
+        EXPECT_EQ(zobrazeni.zobrazenTlak(), potom) << smer;
+        EXPECT_EQ(diskant.stav(9), potom ? StavKnofliku::Tlak : StavKnofliku::Tah);
+        EXPECT_EQ(excel->activeAddress(), "$A$1");
+    }
+}
+
+TEST_F(ZobrazeniHmatuTest, QuietShowingTellsAFaultyFingeringInsteadOfABox) {
+    const QHash<QString, bool> zaznamy{{"", true},
+                                       {"l1;1\\", true},
+                                       {"l49;x;y\\s49;2\\", true},
+                                       {"s1;1\\", false},
+                                       {"s3;1\\", false},
+                                       {"l50;1\\", false},
+                                       {"l0;1\\", false},
+                                       {"k5;1\\", false},
+                                       {"l5;1", false},
+                                       {"l5;1\\rubbish", false},
+                                       {"l;1\\", false}};
+    for (auto it = zaznamy.cbegin(); it != zaznamy.cend(); ++it) {
+        prstoklady.clear();
+        excel->put("V1", it.key());
+        zobrazeni.ZobrazHmatPotichu();
+        EXPECT_EQ(!prstoklady.isEmpty(), it.value()) << it.key().toStdString();
+        EXPECT_EQ(panel.upozorneni.contains("Prstoklad"), !it.value()) << it.key().toStdString();
+    }
+}
+
+} // namespace zvonika::testing
