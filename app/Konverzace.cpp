@@ -4,20 +4,20 @@ namespace zvonika {
 
 namespace {
 
-OkoliPisne okoliPisne(Modely& modely, Dialogs& dialogs)
-{
+OkoliPisne okoliPisne(Modely& modely, Dialogs& dialogs) {
     return {modely.pisen, dialogs, modely.panel, modely.stavy};
 }
 
 } // namespace
 
 Konverzace::Konverzace(Modely& modely, const Prostredi& prostredi, std::function<void()> otevriVyberStupnice)
-    : modely_(modely), dialogs_(prostredi.dialogs), notyZapis(modely.zapisovaciOsnova, prostredi.dialogs), prstoklad(prostredi.dialogs),
-      zobrazeniPrstokladu(modely.pisen, modely.diskant, prostredi.dialogs),
+    : modely_(modely), dialogs_(prostredi.dialogs), notyZapis(modely.zapisovaciOsnova, prostredi.dialogs),
+      prstoklad(prostredi.dialogs), zobrazeniPrstokladu(modely.pisen, modely.diskant, prostredi.dialogs),
       uvolneni(modely.diskant, modely.basy, modely.zapisovaciOsnova, modely.zobrazovaciOsnova),
-      zobrazeniHmatu(modely.pisen,
-                     {modely.diskant, modely.basy, modely.tabulkaBasu, modely.zobrazovaciOsnova, modely.panel},
-                     [this](const QString& zaznam) { zobrazeniPrstokladu.zobraz(zaznam); }),
+      zobrazeniHmatu(
+          modely.pisen,
+          {modely.diskant, modely.basy, modely.tabulkaBasu, modely.zobrazovaciOsnova, modely.panel},
+          [this](const QString& zaznam) { zobrazeniPrstokladu.zobraz(zaznam); }),
       pasPisne(modely.pisen, modely.pas),
       navigace(okoliPisne(modely, prostredi.dialogs), zobrazeniHmatu, pasPisne, modely.diskant,
                [this] { uvolneni.uvolniVse(); }),
@@ -25,21 +25,18 @@ Konverzace::Konverzace(Modely& modely, const Prostredi& prostredi, std::function
       zivotPisne(okoliPisne(modely, prostredi.dialogs), prostredi.drive,
                  {zobrazeniHmatu, pasPisne, navigace, zvuk, [this] { uvolneni.uvolniVse(); }}),
       klikDiskantu(modely.diskant, notyZapis, modely.tonina, prostredi.dialogs,
-                   {std::move(otevriVyberStupnice), [&modely](const QString& veta) { modely.panel.upozorneni = veta; }}),
+                   {std::move(otevriVyberStupnice),
+                    [&modely](const QString& veta) { modely.panel.upozorneni = veta; }}),
       zapisNoty(modely.zapisovaciOsnova, notyZapis, klikDiskantu),
       zapisBasu(modely.basy, modely.tabulkaBasu, prostredi.dialogs),
-      poZapisu(modely.pisen, modely.panel, modely.stavy, *this),
-      zapisHmatu(okoliZapisu(), modely.diskant),
+      poZapisu(modely.pisen, modely.panel, modely.stavy, *this), zapisHmatu(okoliZapisu(), modely.diskant),
       zapisHmatuZNot(okoliZapisu(), modely.zapisovaciOsnova, notyZapis),
       volbaStupnice(prostredi.dialogs, modely.tonina, modely.zapisovaciOsnova),
-      ukonceniExcelu(modely.pisen, prostredi.dialogs)
-{
-}
+      ukonceniExcelu(modely.pisen, prostredi.dialogs) {}
 
-OkoliZapisu Konverzace::okoliZapisu()
-{
-    return {modely_.pisen, dialogs_, prstoklad, zapisBasu, poZapisu,
-            [&modely = modely_] { return modely.tonina.stupnice().text(); }};
+OkoliZapisu Konverzace::okoliZapisu() {
+    return {modely_.pisen, dialogs_, prstoklad,
+            zapisBasu,     poZapisu, [&modely = modely_] { return modely.tonina.stupnice().text(); }};
 }
 
 } // namespace zvonika

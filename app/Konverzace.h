@@ -17,7 +17,8 @@
 
 namespace zvonika {
 
-/// All conversations of the main window, built over the models and ports in the order in which they need each other.
+/// All conversations of the main window, built over the models and ports in the order in which they need each
+/// other.
 class Konverzace : private ZobrazeniPisne {
 public:
     /// `otevriVyberStupnice`: shows the key dialog and returns when it is closed.

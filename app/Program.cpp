@@ -11,9 +11,9 @@
 namespace zvonika {
 
 Program::Program(const Prostredi& prostredi)
-    : prostredi_(prostredi), modely_(prostredi.drive.programFolder()), udalosti_(prostredi.dialogs, prostredi.shell),
-      konverzace_(modely_, prostredi_, [this] { vyberStupnici(); })
-{
+    : prostredi_(prostredi), modely_(prostredi.drive.programFolder()),
+      udalosti_(prostredi.dialogs, prostredi.shell),
+      konverzace_(modely_, prostredi_, [this] { vyberStupnici(); }) {
     zaregistrujPrikazy();
     konverzace_.zivotPisne.stavBezPisne();
     for (const QString& prikaz : dosudNedostupne())
@@ -25,8 +25,7 @@ Program::Program(const Prostredi& prostredi)
 
 Program::~Program() = default;
 
-bool Program::Main()
-{
+bool Program::Main() {
     Spusteni spusteni(prostredi_.nastaveni, prostredi_.dialogs, krokySpusteni());
     const bool cele = spusteni.Form_Load();
     modely_.panel.upozorneni = modely_.tabulkaBasu.chyba();
@@ -35,8 +34,7 @@ bool Program::Main()
     return cele;
 }
 
-KrokySpusteni Program::krokySpusteni()
-{
+KrokySpusteni Program::krokySpusteni() {
     return {
         [this] { okno_->nastavVzdyNahore(); },
         [this] {
@@ -53,8 +51,7 @@ KrokySpusteni Program::krokySpusteni()
     };
 }
 
-void Program::zaregistrujPrikazy()
-{
+void Program::zaregistrujPrikazy() {
     Konverzace& k = konverzace_;
     prikazy_ = {
         {"cmdNovaSkladba", [&k] { k.zivotPisne.cmdNovaSkladba(); }},
@@ -84,53 +81,44 @@ void Program::zaregistrujPrikazy()
         prikazy_.insert(radek.tlacitko, [&k, tlacitko = radek.tlacitko] { k.uvolneni.proved(tlacitko); });
 }
 
-void Program::proved(const QString& prikaz)
-{
-    if (!modely_.stavy.povolen(prikaz))
-        return;
+void Program::proved(const QString& prikaz) {
+    if (!modely_.stavy.povolen(prikaz)) return;
     if (prikaz == QLatin1String("mnuKonec")) {
-        if (mnuKonec(prostredi_.dialogs))
-            okno_->close();
+        if (mnuKonec(prostredi_.dialogs)) okno_->close();
         return;
     }
     if (prikaz.startsWith(QLatin1String("cmdZvuk"))) {
         udalosti_.provedBezZachyceni([this, prikaz] { konverzace_.zvuk.cmdZvuk(prikaz.mid(8, 1).toInt()); });
         return;
     }
-    if (const Obsluha obsluha = prikazy_.value(prikaz))
-        provedUdalost(obsluha);
+    if (const Obsluha obsluha = prikazy_.value(prikaz)) provedUdalost(obsluha);
 }
 
-void Program::provedUdalost(const Obsluha& obsluha)
-{
-    if (udalosti_.bezi())
-        return;
+void Program::provedUdalost(const Obsluha& obsluha) {
+    if (udalosti_.bezi()) return;
     modely_.panel.upozorneni.clear();
     udalosti_.proved(obsluha);
     poPrikazu();
 }
 
-void Program::poPrikazu()
-{
+void Program::poPrikazu() {
     const auto nejakyOznacen = [](const auto& deska, int pocet) {
         for (int n = 1; n <= pocet; ++n)
-            if (deska.oznacen(n))
-                return true;
+            if (deska.oznacen(n)) return true;
         return false;
     };
     StavProgramu stav;
     stav.pisenOtevrena = modely_.pisen.otevrena();
     stav.stupnice = tonina();
-    stav.neniCoZapsat = !nejakyOznacen(modely_.diskant, pocetKnofliku) && !nejakyOznacen(modely_.basy, pocetBasu) &&
-                        modely_.zapisovaciOsnova.volnySlot() == 0;
+    stav.neniCoZapsat = !nejakyOznacen(modely_.diskant, pocetKnofliku) &&
+                        !nejakyOznacen(modely_.basy, pocetBasu) && modely_.zapisovaciOsnova.volnySlot() == 0;
     stav.radekPrazdny = modely_.panel.lblTony.isEmpty() && modely_.panel.lblBasy.isEmpty();
     stav.upozorneni = modely_.panel.upozorneni;
     modely_.panel.stav = stavovyRadek(stav);
     modely_.panel.oznamZmenu();
 }
 
-int Program::aktualniRadek() const
-{
+int Program::aktualniRadek() const {
     try {
         return modely_.pisen.excel().activeRow();
     } catch (const RuntimeError&) {
@@ -138,20 +126,16 @@ int Program::aktualniRadek() const
     }
 }
 
-void Program::cursorMoved()
-{
+void Program::cursorMoved() {
     provedUdalost([this] { konverzace_.navigace.sledujKurzor(); });
 }
 
-void Program::cellsEdited()
-{
+void Program::cellsEdited() {
     provedUdalost([this] { konverzace_.navigace.sledujKurzor(); });
 }
 
-void Program::Form_Unload()
-{
-    if (modely_.pisen.aplikaceExcel)
-        modely_.pisen.aplikaceExcel->setListener(nullptr);
+void Program::Form_Unload() {
+    if (modely_.pisen.aplikaceExcel) modely_.pisen.aplikaceExcel->setListener(nullptr);
     konverzace_.ukonceniExcelu.UkonciExcel();
 }
 

@@ -6,21 +6,25 @@
 #include "app/ui/Form1.h"
 
 #include <QHash>
+#include <QObject>
 
 #include <functional>
 #include <memory>
 
 namespace zvonika {
 
-/// The running program: models, conversations and the main window, wired to each other. The composition root hands
-/// in the outside world.
-class Program : private SpreadsheetListener {
+class ZapisovaciOsnova;
+
+/// The running program: models, conversations and the main window, wired to each other. The composition root
+/// hands in the outside world.
+class Program : public QObject, private SpreadsheetListener {
+    Q_OBJECT
 public:
     explicit Program(const Prostredi& prostredi);
     ~Program() override;
 
-    /// The program's entry: start-up, then the main window is shown (not modal). False when the start-up sequence was
-    /// cut short by an error, which has been reported.
+    /// The program's entry: start-up, then the main window is shown (not modal). False when the start-up
+    /// sequence was cut short by an error, which has been reported.
     bool Main();
 
     Form1& okno() { return *okno_; }
@@ -39,6 +43,10 @@ private:
 
     void zaregistrujPrikazy();
     void postavNastroje();
+    void postavHmatnik();
+    void postavOsnovy();
+    void pripojOsnovuZapisu(ZapisovaciOsnova& zapis);
+    void ukazToninu();
     void propojModely();
     void nastavPoradiFokusu();
     KrokySpusteni krokySpusteni();

@@ -9,37 +9,127 @@
 #include "theory/ui/ZobrazovaciOsnovaWidget.h"
 
 #include <QAbstractButton>
+#include <QMenuBar>
 #include <QShortcut>
 
 #include <algorithm>
 
 namespace zvonika {
 
-void Program::postavNastroje()
-{
+void Program::postavNastroje() {
+    postavHmatnik();
+    postavOsnovy();
+    nastavZkratky();
+    nastavPoradiFokusu();
+    connect(okno_.get(), &Form1::prikaz, this, &Program::proved);
+    connect(okno_.get(), &Form1::listVybran, this, [this](const QString& list) {
+        provedUdalost([&] { konverzace_.zivotPisne.Combo1Click(list); });
+    });
+    okno_->priZavreni = [this] { Form_Unload(); };
+}
+
+void Program::postavHmatnik() {
     QWidget* scena = okno_->centralWidget();
     const Umisti umisti = [this](QWidget* prvek, const QRect& twips) { okno_->umisti(prvek, twips); };
-    Tonavox12 jmena;
-    const ObsluhaDiskantu diskant = {
-        [this](int n) { provedUdalost([this, n] { konverzace_.klikDiskantu.klik(n); }); },
-        [this](int n, bool pomocny) {
-            provedUdalost([this, n, pomocny] {
-                if (pomocny)
-                    konverzace_.prstoklad.dvojklikLblSynchro(n);
-                else
-                    konverzace_.prstoklad.dvojklikLbl(n);
-            });
-        },
-        [jmena](int n) mutable {
-            jmena.DejTon(CisloTonu(n));
-            return jmena.nazevTonu().text().chopped(1); // without the comma that ends every name
-        }};
+    const auto prst = [this](int n, bool pomocny) {
+        provedUdalost([this, n, pomocny] {
+            pomocny ? konverzace_.prstoklad.dvojklikLblSynchro(n) : konverzace_.prstoklad.dvojklikLbl(n);
+        });
+    };
+    const auto nazev = [jmena = Tonavox12()](int n) mutable {
+        jmena.DejTon(CisloTonu(n));
+        return jmena.nazevTonu().text().chopped(1); // without the comma that ends every name
+    };
+    const ObsluhaDiskantu diskant{
+        [this](int n) { provedUdalost([this, n] { konverzace_.klikDiskantu.klik(n); }); }, prst, nazev};
     vytvorDiskant(scena, modely_.diskant, diskant, umisti);
     vytvorKlaviaturu(scena, modely_.diskant, diskant, umisti);
     vytvorBasy(scena, modely_.basy,
                {[this](int bas) { provedUdalost([this, bas] { modely_.basy.klik(bas); }); },
                 [this](int bas) { return modely_.tabulkaBasu.nazev(bas); }},
                umisti);
+}
+
+void Program::postavOsnovy() {
+    QWidget* scena = okno_->centralWidget();
+    auto* pas = new PasWidget(modely_.pas, scena);
+    okno_->umisti(pas, {7560, 60, 8380, 2920});
+    okno_->umisti(new ZobrazovaciOsnovaWidget(modely_.zobrazovaciOsnova, modely_.tonina, scena),
+                  {7560, 3060, 1620, 2150});
+    auto* zapis = new ZapisovaciOsnova(modely_.zapisovaciOsnova, konverzace_.notyZapis, scena);
+    okno_->umisti(zapis, {12060, 3060, 3880, 2240});
+    okno_->umisti(new PanelTextu(modely_.panel, scena), {60, 8100, 3720, 2240});
+    pripojOsnovuZapisu(*zapis);
+}
+
+void Program::pripojOsnovuZapisu(ZapisovaciOsnova& zapis) {
+    KlikDiskantu& klik = konverzace_.klikDiskantu;
+    const auto pridana = [this, &klik](int slot) {
+        if (const auto& nota = modely_.zapisovaciOsnova.nota(slot)) klik.notaPridana(nota->ton);
+    };
+    const auto zmenena = [this, &klik, pridana](int slot, CisloTonu puvodni) {
+        provedUdalost([&] {
+            klik.notaOdebrana(puvodni);
+            pridana(slot);
+        });
+    };
+    connect(&zapis, &ZapisovaciOsnova::notaVlozena, this,
+            [=, this](int slot) { provedUdalost([&] { pridana(slot); }); });
+    connect(&zapis, &ZapisovaciOsnova::notaPosunuta, this, zmenena);
+    connect(&zapis, &ZapisovaciOsnova::znamenkoZmeneno, this, zmenena);
+    connect(&zapis, &ZapisovaciOsnova::notaOdebrana, this,
+            [this, &klik](int, CisloTonu puvodni) { provedUdalost([&] { klik.notaOdebrana(puvodni); }); });
+    connect(&zapis, &ZapisovaciOsnova::odmitnuto, this,
+            [this](const QString& duvod) { provedUdalost([&] { modely_.panel.upozorneni = duvod; }); });
+}
+
+void Program::propojModely() {
+    connect(&modely_.tonina, &Tonina::changed, this, [this] {
+        konverzace_.klikDiskantu.nasledujToninu();
+        ukazToninu();
+    });
+    ukazToninu();
+}
+
+void Program::ukazToninu() {
+    if (auto* tlacitko = qobject_cast<QAbstractButton*>(okno_->prvek(QStringLiteral("cmdStupnice"))))
+        tlacitko->setText(tonina());
+}
+
+void Program::vyberStupnici() {
+    FrmStupnice dialog(konverzace_.volbaStupnice, modely_.tonina, okno_.get());
+    dialog.exec();
+}
+
+void Program::nastavZkratky() {
+    const auto zkratka = [this](const QKeySequence& klavesy, const std::function<void()>& akce) {
+        connect(new QShortcut(klavesy, okno_.get()), &QShortcut::activated, this, akce);
+    };
+    zkratka(Qt::Key_F6, [this] { prejdiNaTabulku(); });
+    // Page-turner pedals send these two.
+    zkratka(Qt::Key_PageDown, [this] { proved(QStringLiteral("cmdJakDal")); });
+    zkratka(Qt::Key_PageUp, [this] { proved(QStringLiteral("cmdJakDalZpet")); });
+    zkratka(Qt::Key_F10,
+            [this] { okno_->menuBar()->setActiveAction(okno_->menuBar()->actions().constFirst()); });
+}
+
+void Program::nastavPoradiFokusu() {
+    QList<QWidget*> prvky;
+    for (QWidget* prvek : okno_->centralWidget()->findChildren<QWidget*>())
+        if (prvek->focusPolicy() != Qt::NoFocus || !prvek->objectName().isEmpty()) prvky << prvek;
+    std::stable_sort(prvky.begin(), prvky.end(), [](const QWidget* a, const QWidget* b) {
+        return poradiFokusu(a->objectName()) < poradiFokusu(b->objectName());
+    });
+    okno_->nastavPoradi(prvky);
+}
+
+void Program::prejdiNaTabulku() {
+    provedUdalost([this] { modely_.pisen.excel().showToUser(); });
+}
+
+void Program::prejdiNaHlavniOkno() {
+    okno_->raise();
+    okno_->activateWindow();
 }
 
 } // namespace zvonika

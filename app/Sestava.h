@@ -14,12 +14,12 @@ class Program;
 
 /// Where a run of the program finds and leaves things; empty: the places of the user.
 struct Umisteni {
-    QString domov;    ///< native folder that is drive C:; empty: the home folder
+    QString domov;     ///< native folder that is drive C:; empty: the home folder
     QString nastaveni; ///< native folder of the settings files; empty: the user's configuration
 };
 
-/// The composition root: chooses the adapters of every port, builds the program over them and puts its windows side by
-/// side.
+/// The composition root: chooses the adapters of every port, builds the program over them and puts its
+/// windows side by side.
 class Sestava {
 public:
     Sestava(QApplication& aplikace, const Umisteni& umisteni = {});

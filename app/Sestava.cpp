@@ -1,0 +1,106 @@
+#include "app/Sestava.h"
+
+#include "app/Program.h"
+#include "app/RozmisteniOken.h"
+#include "app/ui/IkonaProgramu.h"
+#include "platform/HomeDrive.h"
+#include "platform/IniSettingsStore.h"
+#include "platform/UserSettings.h"
+#include "platform/ui/CzechTranslator.h"
+#include "platform/ui/DesktopShell.h"
+#include "platform/ui/QtDialogs.h"
+#include "song/embedded/EmbeddedApplication.h"
+#include "song/embedded/ui/SheetWindow.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QPalette>
+#include <QScreen>
+
+namespace zvonika {
+
+namespace {
+
+/// Tables and manual stand beside the executable, or where the package put them.
+QString slozkaProgramu() {
+    const QString vedle = QCoreApplication::applicationDirPath();
+    const QString instalovana = QDir(vedle).absoluteFilePath(QStringLiteral("../share/zvonika"));
+    return QFile::exists(vedle + QStringLiteral("/tonavox.xml")) ? vedle : instalovana;
+}
+
+std::unique_ptr<SettingsStore> nastaveni(const QString& aplikace, const Umisteni& umisteni) {
+    if (umisteni.nastaveni.isEmpty()) return userSettings(aplikace);
+    return std::make_unique<IniSettingsStore>(umisteni.nastaveni + QLatin1Char('/') + aplikace +
+                                              QStringLiteral(".ini"));
+}
+
+/// One light look everywhere: the instrument, the paper of the staff and the keys have colours of their own.
+void nastavVzhled(QApplication& aplikace) {
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    QPalette paleta(QColor(0xEF, 0xEB, 0xE2), QColor(0xF4, 0xF1, 0xEA));
+    paleta.setColor(QPalette::Base, Qt::white);
+    paleta.setColor(QPalette::Highlight, QColor(0x2B, 0x5F, 0xB8));
+    paleta.setColor(QPalette::HighlightedText, Qt::white);
+    QApplication::setPalette(paleta);
+    QApplication::setWindowIcon(ikonaProgramu());
+    static CzechTranslator cestina;
+    aplikace.installTranslator(&cestina);
+}
+
+} // namespace
+
+struct Sestava::Casti {
+    explicit Casti(const Umisteni& umisteni)
+        : nastaveniProgramu(nastaveni(QStringLiteral("Tonavox12"), umisteni)),
+          nastaveniTabulky(nastaveni(zvonika::nastaveniTabulky, umisteni)),
+          drive(umisteni.domov.isEmpty() ? QDir::homePath() : umisteni.domov, slozkaProgramu()),
+          program({dialogs, *nastaveniProgramu, drive, shell, [this] { return novaTabulka(); }}) {
+        dialogs.setMainWindow(&program.okno());
+        const QScreen* obrazovka = QApplication::primaryScreen();
+        okna = rozmistiOkna(obrazovka ? obrazovka->availableGeometry() : QRect(0, 0, 1366, 768));
+    }
+
+    std::unique_ptr<SpreadsheetApplication> novaTabulka() {
+        return std::make_unique<EmbeddedApplication>(
+            drive, dialogs, *nastaveniTabulky,
+            [this](SheetCommands& prikazy) { return oknoTabulky(prikazy); });
+    }
+
+    std::unique_ptr<SheetView> oknoTabulky(SheetCommands& prikazy) {
+        auto okno = std::make_unique<SheetWindow>(prikazy);
+        okno->f6Pressed = [this] { program.prejdiNaHlavniOkno(); };
+        umisti(*okno, okna.tabulka);
+        return okno;
+    }
+
+    /// `misto` includes the frame, whose size is not known before the window stands on the screen.
+    static void umisti(QWidget& okno, const QRect& misto) {
+        constexpr int lista = 30;
+        constexpr int ram = 2;
+        okno.move(misto.topLeft());
+        okno.resize(misto.width() - 2 * ram, misto.height() - lista - ram);
+    }
+
+    std::unique_ptr<SettingsStore> nastaveniProgramu;
+    std::unique_ptr<SettingsStore> nastaveniTabulky;
+    HomeDrive drive;
+    QtDialogs dialogs;
+    DesktopShell shell;
+    RozmisteniOken okna;
+    Program program;
+};
+
+Sestava::Sestava(QApplication& aplikace, const Umisteni& umisteni) {
+    nastavVzhled(aplikace);
+    casti_ = std::make_unique<Casti>(umisteni);
+    Casti::umisti(casti_->program.okno(), casti_->okna.hlavni);
+}
+
+Sestava::~Sestava() = default;
+
+Program& Sestava::program() {
+    return casti_->program;
+}
+
+} // namespace zvonika

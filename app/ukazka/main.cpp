@@ -1,0 +1,44 @@
+// zvonika-ukazka FOLDER: plays the demonstration and leaves its song and pictures in FOLDER.
+#include "app/Program.h"
+#include "app/Sestava.h"
+#include "app/ukazka/Ukazka.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+
+#include <cstdio>
+#include <exception>
+
+namespace {
+
+int prehraj(QApplication& aplikace, const QDir& slozka) {
+    zvonika::Sestava sestava(aplikace, {slozka.filePath("domov"), slozka.filePath("nastaveni")});
+    zvonika::Program& program = sestava.program();
+    program.Main();
+    zvonika::Ukazka ukazka(program, slozka.path());
+    ukazka.prehraj();
+    program.okno().close();
+    std::printf("Pictures: %s (%d)\nSong: %s\n", qPrintable(slozka.path()), ukazka.obrazku(),
+                qPrintable(ukazka.souborPisne()));
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    QApplication aplikace(argc, argv);
+    QDir slozka(QDir(argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral("ukazka")).absolutePath());
+    // Only what an earlier demonstration left: the folder may hold other things too.
+    QFile::remove(slozka.filePath("domov/Dokumenty/Heligonka/Zvonika/Kočka leze dírou.xls"));
+    if (!slozka.mkpath("domov") || !slozka.mkpath("nastaveni")) {
+        std::fprintf(stderr, "The folder cannot be made: %s\n", qPrintable(slozka.path()));
+        return 1;
+    }
+    try {
+        return prehraj(aplikace, slozka);
+    } catch (const std::exception& chyba) {
+        std::fprintf(stderr, "The demonstration stopped: %s\n", chyba.what());
+        return 1;
+    }
+}
