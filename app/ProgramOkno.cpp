@@ -54,7 +54,7 @@ void Program::postavOsnovy() {
     QWidget* scena = okno_->centralWidget();
     auto* pas = new PasWidget(modely_.pas, scena);
     okno_->umisti(pas, {7560, 60, 8380, 2920});
-    okno_->umisti(new ZobrazovaciOsnovaWidget(modely_.zobrazovaciOsnova, modely_.tonina, scena),
+    okno_->umisti(new ZobrazovaciOsnovaWidget(modely_.zobrazovaciOsnova, scena),
                   {7560, 3060, 1620, 2150});
     auto* zapis = new ZapisovaciOsnova(modely_.zapisovaciOsnova, konverzace_.notyZapis, scena);
     okno_->umisti(zapis, {12060, 3060, 3880, 2240});

@@ -26,7 +26,8 @@ public:
         if (failingDeletions > 0) return --failingDeletions, false;
         return files.remove(path);
     }
-    QString programFolder() const override { return QStringLiteral("/program"); }
+    QString programFolderPath = QStringLiteral("/program");
+    QString programFolder() const override { return programFolderPath; }
 };
 
 } // namespace zvonika::testing
