@@ -1,9 +1,8 @@
 #include "song/embedded/ui/CellDelegate.h"
 
 #include "song/embedded/ui/SheetColours.h"
-#include "song/embedded/ui/SongColumns.h"
+#include "song/embedded/ui/SheetTable.h"
 
-#include <QAbstractItemView>
 #include <QLineEdit>
 #include <QPainter>
 
@@ -13,15 +12,13 @@ namespace {
 
 constexpr int margin = 4; // px left and right of a cell's text
 
-QColor textColour(const QString& text)
-{
+QColor textColour(const QString& text) {
     if (text == QLatin1String("Tah")) return sheet::pull;
     if (text == QLatin1String("Tlak")) return sheet::push;
     return sheet::ink;
 }
 
-QColor ground(const QStyleOptionViewItem& option, const QModelIndex& index, const QModelIndex& current)
-{
+QColor ground(const QStyleOptionViewItem& option, const QModelIndex& index, const QModelIndex& current) {
     if (option.state.testFlag(QStyle::State_Selected) && index != current) return sheet::selection;
     return index.row() == current.row() ? sheet::gripRow : sheet::paper;
 }
@@ -29,10 +26,10 @@ QColor ground(const QStyleOptionViewItem& option, const QModelIndex& index, cons
 } // namespace
 
 // Drawn by hand and not by the style: a sheet repaints some 150 cells with every step of a song.
-void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
-{
-    const auto* view = qobject_cast<const QAbstractItemView*>(option.widget);
-    const QModelIndex current = view ? view->currentIndex() : QModelIndex();
+void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                         const QModelIndex& index) const {
+    const auto* table = qobject_cast<const SheetTable*>(option.widget);
+    const QModelIndex current = table ? table->activeCell() : QModelIndex();
     painter->fillRect(option.rect, ground(option, index, current));
 
     painter->setPen(sheet::grid);
@@ -45,34 +42,33 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
         const QRect room = option.rect.adjusted(margin, 0, -margin, 0);
         painter->setPen(textColour(text));
         painter->setFont(option.font);
-        painter->drawText(room, int(alignment), option.fontMetrics.elidedText(text, Qt::ElideRight, room.width()));
+        painter->drawText(room, int(alignment),
+                          option.fontMetrics.elidedText(text, Qt::ElideRight, room.width()));
     }
     if (index != current) return;
     painter->setPen(QPen(sheet::activeCell, 2));
     painter->drawRect(option.rect.adjusted(1, 1, -1, -1));
 }
 
-QWidget* CellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex& index) const
-{
+QWidget* CellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,
+                                    const QModelIndex& index) const {
     auto* edit = new QLineEdit(parent);
     edit->setObjectName(QStringLiteral("editBunky"));
     edit->setAccessibleName(
-        QStringLiteral("Obsah buňky %1%2").arg(columnLetters(index.column())).arg(index.row() + 1));
+        QStringLiteral("Obsah buňky %1%2").arg(columnLetters(index.column() + 1)).arg(index.row() + 1));
     edit->setFrame(false);
     edit->setTextMargins(margin - 2, 0, 0, 0);
     return edit;
 }
 
-void CellDelegate::setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const
-{
+void CellDelegate::setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const {
     const auto* edit = qobject_cast<QLineEdit*>(editor);
     if (edit && edit->text() != index.data(Qt::EditRole).toString()) model->setData(index, edit->text());
 }
 
 // A long text gets room to the right, up to the window's edge.
 void CellDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
-                                        const QModelIndex& index) const
-{
+                                        const QModelIndex& index) const {
     const int wanted = option.fontMetrics.horizontalAdvance(index.data(Qt::EditRole).toString()) + 4 * margin;
     const int room = editor->parentWidget()->width() - option.rect.left();
     QRect place = option.rect.adjusted(1, 1, -2, -2);

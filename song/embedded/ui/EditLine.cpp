@@ -7,8 +7,8 @@
 
 namespace zvonika {
 
-EditLine::EditLine(QWidget* parent) : QWidget(parent), address_(new QLabel(this)), contents_(new QLineEdit(this))
-{
+EditLine::EditLine(QWidget* parent)
+    : QWidget(parent), address_(new QLabel(this)), contents_(new QLineEdit(this)) {
     address_->setObjectName(QStringLiteral("adresaBunky"));
     address_->setAccessibleName(QStringLiteral("Adresa buňky"));
     address_->setAlignment(Qt::AlignCenter);
@@ -28,18 +28,16 @@ EditLine::EditLine(QWidget* parent) : QWidget(parent), address_(new QLabel(this)
     });
 }
 
-void EditLine::showCell(const QString& address, const QString& contents)
-{
-    const bool sameCell = address == address_->text();
-    address_->setText(address);
-    if (sameCell && contents_->isModified() && contents_->hasFocus()) return;
+void EditLine::showCell(CellPosition cell, const QString& contents) {
+    if (contents_->isModified() && contents_->hasFocus()) return;
+    cell_ = cell;
     shown_ = contents;
+    address_->setText(columnLetters(cell.column) + QString::number(cell.row));
     if (contents_->text() != contents) contents_->setText(contents);
     contents_->setModified(false);
 }
 
-bool EditLine::eventFilter(QObject* watched, QEvent* event)
-{
+bool EditLine::eventFilter(QObject* watched, QEvent* event) {
     if (watched == contents_ && event->type() == QEvent::KeyPress &&
         static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
         takeBack();
@@ -51,16 +49,14 @@ bool EditLine::eventFilter(QObject* watched, QEvent* event)
     return QWidget::eventFilter(watched, event);
 }
 
-void EditLine::commit()
-{
+void EditLine::commit() {
     const bool changed = contents_->text() != shown_;
     shown_ = contents_->text();
     contents_->setModified(false);
-    if (changed) Q_EMIT committed(shown_);
+    if (changed) Q_EMIT committed(cell_, shown_);
 }
 
-void EditLine::takeBack()
-{
+void EditLine::takeBack() {
     contents_->setText(shown_);
     contents_->setModified(false);
 }

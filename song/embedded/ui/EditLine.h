@@ -1,5 +1,7 @@
 #pragma once
 
+#include "song/Address.h"
+
 #include <QWidget>
 
 class QLabel;
@@ -14,11 +16,11 @@ class EditLine : public QWidget {
 public:
     explicit EditLine(QWidget* parent = nullptr);
 
-    /// Shows a cell; the contents stay as they are while the user is typing in them, unless the cell is another.
-    void showCell(const QString& address, const QString& contents);
+    /// Shows a cell, unless the user is just typing into another one.
+    void showCell(CellPosition cell, const QString& contents);
 
 Q_SIGNALS:
-    void committed(const QString& contents);
+    void committed(zvonika::CellPosition cell, const QString& contents);
     void entered(); ///< Enter, after the commit
     void left();    ///< Esc, with the contents as they were
 
@@ -31,6 +33,7 @@ private:
 
     QLabel* address_;
     QLineEdit* contents_;
+    CellPosition cell_;
     QString shown_;
 };
 

@@ -8,7 +8,7 @@ namespace zvonika::sheet {
 inline constexpr QColor paper{0xff, 0xff, 0xff};
 inline constexpr QColor ink{0x22, 0x28, 0x30};
 inline constexpr QColor grid{0xe2, 0xe6, 0xea};
-inline constexpr QColor gripRow{0xff, 0xf6, 0xdc};  ///< the row of the current grip
+inline constexpr QColor gripRow{0xff, 0xf6, 0xdc}; ///< the row of the current grip
 inline constexpr QColor selection{0xd6, 0xe6, 0xf7};
 inline constexpr QColor activeCell{0x1f, 0x6f, 0xb8};
 inline constexpr QColor header{0xf2, 0xf4, 0xf6};

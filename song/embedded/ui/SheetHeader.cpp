@@ -1,9 +1,9 @@
 #include "song/embedded/ui/SheetHeader.h"
 
+#include "song/Address.h"
 #include "song/embedded/ui/SheetColours.h"
 #include "song/embedded/ui/SongColumns.h"
 
-#include <QItemSelectionModel>
 #include <QPainter>
 
 namespace zvonika {
@@ -12,8 +12,7 @@ namespace {
 
 constexpr int gap = 5; // px between a column's letter and its word
 
-QFont labelFont(const QFont& font)
-{
+QFont labelFont(const QFont& font) {
     QFont smaller = font;
     smaller.setPointSizeF(font.pointSizeF() * 0.85);
     return smaller;
@@ -21,33 +20,29 @@ QFont labelFont(const QFont& font)
 
 } // namespace
 
-SheetHeader::SheetHeader(Qt::Orientation orientation, QWidget* parent) : QHeaderView(orientation, parent)
-{
+SheetHeader::SheetHeader(Qt::Orientation orientation, QWidget* parent) : QHeaderView(orientation, parent) {
     setSectionsClickable(true);
     setHighlightSections(true);
     setDefaultAlignment(Qt::AlignCenter);
     setMinimumSectionSize(18);
 }
 
-QSize SheetHeader::sizeHint() const
-{
+QSize SheetHeader::sizeHint() const {
     const QFontMetrics metrics(font());
     // Wide enough for the last row, so that the cells do not jump aside on the way down.
     if (orientation() == Qt::Vertical) return {metrics.horizontalAdvance(QStringLiteral("65536")) + 10, 0};
     return {0, metrics.height() + 4};
 }
 
-bool SheetHeader::isCurrent(int section) const
-{
-    const QModelIndex current = selectionModel() ? selectionModel()->currentIndex() : QModelIndex();
-    if (!current.isValid()) return false;
-    return section == (orientation() == Qt::Horizontal ? current.column() : current.row());
+void SheetHeader::setCurrent(int section) {
+    if (section == current_) return;
+    current_ = section;
+    viewport()->update();
 }
 
-void SheetHeader::paintSection(QPainter* painter, const QRect& rect, int section) const
-{
+void SheetHeader::paintSection(QPainter* painter, const QRect& rect, int section) const {
     painter->save();
-    painter->fillRect(rect, isCurrent(section) ? sheet::headerCurrent : sheet::header);
+    painter->fillRect(rect, section == current_ ? sheet::headerCurrent : sheet::header);
     painter->setPen(sheet::grid.darker(112));
     painter->drawLine(rect.topRight(), rect.bottomRight());
     painter->drawLine(rect.bottomLeft(), rect.bottomRight());
@@ -60,10 +55,9 @@ void SheetHeader::paintSection(QPainter* painter, const QRect& rect, int section
     painter->restore();
 }
 
-void SheetHeader::paintColumn(QPainter& painter, const QRect& rect, int column) const
-{
-    const QString letters = columnLetters(column);
-    const QString label = QString::fromUtf8(songColumn(column).label);
+void SheetHeader::paintColumn(QPainter& painter, const QRect& rect, int column) const {
+    const QString letters = columnLetters(column + 1);
+    const QString label = QString::fromUtf8(songColumn(column + 1).label);
     const QFont small = labelFont(font());
     const int lettersWidth = QFontMetrics(font()).horizontalAdvance(letters);
     const int width = lettersWidth + gap + QFontMetrics(small).horizontalAdvance(label);

@@ -11,14 +11,18 @@ class SheetHeader : public QHeaderView {
 public:
     explicit SheetHeader(Qt::Orientation orientation, QWidget* parent = nullptr);
 
+    /// The section of the active cell; -1 for none.
+    void setCurrent(int section);
+
     QSize sizeHint() const override;
 
 protected:
     void paintSection(QPainter* painter, const QRect& rect, int section) const override;
 
 private:
-    bool isCurrent(int section) const;
     void paintColumn(QPainter& painter, const QRect& rect, int column) const;
+
+    int current_ = -1;
 };
 
 } // namespace zvonika

@@ -1,29 +1,50 @@
 #pragma once
 
+#include "song/embedded/Document.h"
+
 #include <QTableView>
+
+#include <optional>
 
 namespace zvonika {
 
-/// The cells of a sheet. Typing starts editing; Enter commits and goes down, Tab right (with Shift the other way),
-/// Esc cancels, F2 edits what is there. The view's current cell is the active cell.
+class SheetHeader;
+
+/// The cells of a sheet. Typing starts editing; Enter commits and goes down, Tab right (with Shift the other
+/// way), Esc cancels, F2 edits what is there. What is selected follows `follow`, and a user's own selection
+/// is told.
 class SheetTable : public QTableView {
     Q_OBJECT
 
 public:
     explicit SheetTable(QWidget* parent = nullptr);
 
-    /// Moves the active cell, alone selected, and scrolls it into sight.
-    void goTo(int row, int column);
-    /// The selected cells as one rectangle: the active cell's at least. Rows and columns count from 0.
-    QRect selectedBlock() const;
+    /// Shows a selection and scrolls its active cell into sight. While a cell is being edited this waits for
+    /// the end of the editing.
+    void follow(const Selection& selection);
+    /// The user goes on to a cell, from outside of the table.
+    void step(int rows, int columns);
+    /// The cell with the frame; with several cells selected it is the one in which typing starts.
+    QModelIndex activeCell() const { return active_; }
+
+Q_SIGNALS:
+    void userSelected(const zvonika::Selection& selection);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
-    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
 
 private:
-    void step(int rows, int columns);
+    Selection shownSelection() const;
+    void show(const Selection& selection);
+    void setActive(CellPosition cell);
+
+    SheetHeader* columns_;
+    SheetHeader* rows_;
+    QPersistentModelIndex active_;
+    std::optional<Selection> waiting_;
+    bool following_ = false;
 };
 
 } // namespace zvonika

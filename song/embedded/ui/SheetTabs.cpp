@@ -14,8 +14,7 @@ constexpr int lineWidth = 140;  // px to edit a name in, at least
 
 } // namespace
 
-SheetTabs::SheetTabs(QWidget* parent) : QTabBar(parent)
-{
+SheetTabs::SheetTabs(QWidget* parent) : QTabBar(parent) {
     setObjectName(QStringLiteral("listy"));
     setAccessibleName(QStringLiteral("Listy písně"));
     setShape(QTabBar::RoundedSouth);
@@ -26,8 +25,7 @@ SheetTabs::SheetTabs(QWidget* parent) : QTabBar(parent)
     setToolTip(QStringLiteral("Poklepáním list přejmenujete."));
 }
 
-void SheetTabs::show(const QStringList& names, int current)
-{
+void SheetTabs::show(const QStringList& names, int current) {
     const QSignalBlocker quiet(this);
     while (count() > names.size())
         removeTab(count() - 1);
@@ -42,8 +40,7 @@ void SheetTabs::show(const QStringList& names, int current)
     setCurrentIndex(current);
 }
 
-void SheetTabs::editName(int tab)
-{
+void SheetTabs::editName(int tab) {
     if (tab < 0 || !rename_) return;
     closeLine();
     edited_ = tab;
@@ -62,14 +59,13 @@ void SheetTabs::editName(int tab)
     line_->setFocus();
 }
 
-void SheetTabs::mouseDoubleClickEvent(QMouseEvent* event)
-{
+void SheetTabs::mouseDoubleClickEvent(QMouseEvent* event) {
     editName(tabAt(event->position().toPoint()));
 }
 
-bool SheetTabs::eventFilter(QObject* watched, QEvent* event)
-{
-    const bool escape = event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
+bool SheetTabs::eventFilter(QObject* watched, QEvent* event) {
+    const bool escape =
+        event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
     if (watched == line_ && (escape || event->type() == QEvent::FocusOut)) {
         closeLine();
         return escape;
@@ -77,13 +73,11 @@ bool SheetTabs::eventFilter(QObject* watched, QEvent* event)
     return QTabBar::eventFilter(watched, event);
 }
 
-void SheetTabs::commitName()
-{
+void SheetTabs::commitName() {
     if (rename_(edited_, line_->text())) closeLine();
 }
 
-void SheetTabs::closeLine()
-{
+void SheetTabs::closeLine() {
     if (!line_) return;
     // It may be the sender of the event that closes it.
     line_->removeEventFilter(this);

@@ -25,16 +25,9 @@ constexpr SongColumn foreign{"", "", 64};
 
 } // namespace
 
-QString columnLetters(int column)
-{
-    const QChar last(u'A' + column % 26);
-    return column < 26 ? QString(last) : columnLetters(column / 26 - 1) + last;
-}
-
-const SongColumn& songColumn(int column)
-{
+const SongColumn& songColumn(int column) {
     for (const auto& range : ranges)
-        if (column >= range.first - 'A' && column <= range.last - 'A') return range.column;
+        if (column > range.first - 'A' && column <= range.last - 'A' + 1) return range.column;
     return foreign;
 }
 

@@ -1,13 +1,8 @@
 #pragma once
 
-#include <QString>
-
 namespace zvonika {
 
-/// "A", "B", ... "IV" for columns counted from 0.
-QString columnLetters(int column);
-
-/// What a column of a song means to a player. Columns count from 0.
+/// What a column of a song means to a player. Columns count from 1.
 struct SongColumn {
     const char* label;   ///< one word for the header, or ""
     const char* meaning; ///< a sentence for the tool tip and screen readers, or ""

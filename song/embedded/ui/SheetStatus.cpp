@@ -1,0 +1,41 @@
+#include "song/embedded/ui/SheetStatus.h"
+
+#include "song/embedded/Document.h"
+#include "song/embedded/ui/SongColumns.h"
+
+#include <QStringList>
+
+namespace zvonika {
+
+namespace {
+
+QString place(const Document& document) {
+    const int row = document.selection().active.row;
+    const int last = document.usedRows(document.activeSheet());
+    if (row > last) return QStringLiteral("Volný řádek %1 (poslední hmat %2)").arg(row).arg(last);
+    return QStringLiteral("Hmat %1 z %2").arg(row).arg(last);
+}
+
+QString what(const Selection& selection) {
+    const CellRange& range = selection.range;
+    if (range != single(selection.active))
+        return QStringLiteral("výběr %1%2:%3%4")
+            .arg(columnLetters(range.first.column))
+            .arg(range.first.row)
+            .arg(columnLetters(range.last.column))
+            .arg(range.last.row);
+    const QString label = QString::fromUtf8(songColumn(selection.active.column).label);
+    return label.isEmpty() ? QString()
+                           : QStringLiteral("%1: %2").arg(columnLetters(selection.active.column), label);
+}
+
+} // namespace
+
+QString statusText(const Document& document) {
+    QStringList parts{place(document), what(document.selection())};
+    if (document.isConverted()) parts.append(QStringLiteral("starší formát, uloží se v novém"));
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral("  ·  "));
+}
+
+} // namespace zvonika

@@ -1,0 +1,185 @@
+#include "song/embedded/ui/SheetWindow.h"
+
+#include "song/embedded/Document.h"
+#include "song/embedded/SheetCommands.h"
+#include "song/embedded/ui/ColumnWidths.h"
+#include "song/embedded/ui/EditLine.h"
+#include "song/embedded/ui/SheetColours.h"
+#include "song/embedded/ui/SheetFooter.h"
+#include "song/embedded/ui/SheetMenu.h"
+#include "song/embedded/ui/SheetModel.h"
+#include "song/embedded/ui/SheetStatus.h"
+#include "song/embedded/ui/SheetTable.h"
+#include "song/embedded/ui/SheetTabs.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QShortcut>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace zvonika {
+
+namespace {
+
+const QString windowName = QStringLiteral("Tabulka Zvoniky");
+
+QWidget* makeEmptyPage() {
+    auto* page = new QLabel(QStringLiteral("Žádný sešit není otevřen."));
+    page->setObjectName(QStringLiteral("prazdnaStranka"));
+    page->setAlignment(Qt::AlignCenter);
+    QPalette palette = page->palette();
+    palette.setColor(QPalette::Window, sheet::emptyPage);
+    palette.setColor(QPalette::WindowText, sheet::ink);
+    page->setPalette(palette);
+    page->setAutoFillBackground(true);
+    return page;
+}
+
+QVBoxLayout* column(QWidget* owner) {
+    auto* layout = new QVBoxLayout(owner);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    return layout;
+}
+
+} // namespace
+
+SheetWindow::SheetWindow(SheetCommands& commands)
+    : commands_(commands), model_(new SheetModel(commands, this)), table_(new SheetTable),
+      menu_(new SheetMenu(commands, table_)), line_(new EditLine), footer_(new SheetFooter(table_)),
+      widths_(new ColumnWidths(commands, table_->horizontalHeader())) {
+    setObjectName(QStringLiteral("oknoTabulky"));
+    setAccessibleName(windowName);
+    table_->setModel(model_);
+    setMenuWidget(makeTop());
+    setCentralWidget(makePages());
+    setMinimumSize(320, 150);
+    resize(1180, 420);
+    wireUser();
+    setDocument(nullptr);
+}
+
+QWidget* SheetWindow::makeTop() {
+    auto* top = new QWidget;
+    auto* row = new QHBoxLayout(top);
+    row->setContentsMargins(0, 1, 0, 1);
+    row->setSpacing(4);
+    row->addWidget(menu_);
+    row->addWidget(line_, 1);
+    return top;
+}
+
+QWidget* SheetWindow::makePages() {
+    auto* sheetPage = new QWidget;
+    auto* layout = column(sheetPage);
+    layout->addWidget(table_, 1);
+    layout->addWidget(footer_);
+    pages_ = new QStackedWidget;
+    pages_->addWidget(sheetPage);
+    pages_->addWidget(makeEmptyPage());
+    return pages_;
+}
+
+void SheetWindow::wireUser() {
+    connect(table_, &SheetTable::userSelected, this,
+            [this](const Selection& selection) { commands_.select(selection.range, selection.active); });
+    connect(line_, &EditLine::committed, this,
+            [this](CellPosition cell, const QString& text) { commands_.type(cell, text); });
+    connect(line_, &EditLine::entered, this, [this] {
+        table_->setFocus();
+        table_->step(1, 0);
+    });
+    connect(line_, &EditLine::left, this, [this] {
+        table_->setFocus();
+        showSelection();
+    });
+    connect(footer_->tabs(), &QTabBar::currentChanged, this,
+            [this](int tab) { commands_.selectSheet(tab + 1); });
+    footer_->tabs()->setRename([this](int tab, const QString& name) { return renameSheet(tab + 1, name); });
+    connect(new QShortcut(QKeySequence(Qt::Key_F6), this), &QShortcut::activated, this,
+            &SheetWindow::f6Pressed);
+}
+
+void SheetWindow::setVisible(bool visible) {
+    QMainWindow::setVisible(visible);
+}
+
+void SheetWindow::raise() {
+    isMinimized() ? showNormal() : show();
+    QMainWindow::raise();
+    activateWindow();
+    table_->setFocus();
+}
+
+void SheetWindow::setDocument(Document* document) {
+    if (document_) document_->disconnect(this);
+    document_ = document;
+    shownSheet_ = document ? document->activeSheet() : 0;
+    model_->setDocument(document);
+    menu_->setDocument(document);
+    widths_->setDocument(document);
+    line_->setVisible(document != nullptr);
+    pages_->setCurrentIndex(document ? 0 : 1);
+    showTitle();
+    if (!document) return;
+    wireDocument();
+    showSheets();
+    showSelection();
+}
+
+void SheetWindow::wireDocument() {
+    connect(document_, &Document::selectionChanged, this, &SheetWindow::showSelection);
+    connect(document_, &Document::cellsChanged, this, &SheetWindow::showCell);
+    connect(document_, &Document::sheetsChanged, this, &SheetWindow::showSheets);
+    connect(document_, &Document::nameChanged, this, &SheetWindow::showTitle);
+    connect(document_, &Document::modifiedChanged, this, &SheetWindow::showTitle);
+}
+
+void SheetWindow::showTitle() {
+    const QString name = document_ ? document_->name() + QStringLiteral("[*] – ") : QString();
+    setWindowTitle(name + windowName);
+    setWindowModified(document_ && document_->isModified());
+}
+
+void SheetWindow::showSheets() {
+    QStringList names;
+    for (int sheet = 1; sheet <= document_->sheetCount(); ++sheet)
+        names.append(document_->sheetName(sheet));
+    footer_->tabs()->show(names, document_->activeSheet() - 1);
+    if (shownSheet_ == document_->activeSheet()) return;
+    shownSheet_ = document_->activeSheet();
+    model_->refresh();
+    widths_->refresh();
+    showSelection();
+}
+
+void SheetWindow::showSelection() {
+    table_->follow(document_->selection());
+    showCell();
+}
+
+void SheetWindow::showCell() {
+    const CellPosition cell = document_->selection().active;
+    line_->showCell(cell, document_->editText(document_->activeSheet(), cell));
+    footer_->setStatus(statusText(*document_));
+}
+
+bool SheetWindow::renameSheet(int sheet, const QString& name) {
+    commands_.renameSheet(sheet, name);
+    return document_ && document_->sheetName(sheet) == name;
+}
+
+// What is closed is the document; the window goes or stays as the application decides.
+void SheetWindow::closeEvent(QCloseEvent* event) {
+    if (!document_) {
+        event->accept();
+        return;
+    }
+    event->ignore();
+    commands_.close();
+}
+
+} // namespace zvonika

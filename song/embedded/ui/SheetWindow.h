@@ -1,0 +1,60 @@
+#pragma once
+
+#include "song/embedded/SheetView.h"
+
+#include <QMainWindow>
+
+class QStackedWidget;
+
+namespace zvonika {
+
+class ColumnWidths;
+class EditLine;
+class SheetFooter;
+class SheetMenu;
+class SheetModel;
+class SheetTable;
+
+/// The window of the built-in spreadsheet: menus and the edited cell in one line, the cells, and below them
+/// tabs and status in another. Without a document it is an empty grey page. Closing it closes the document.
+class SheetWindow : public QMainWindow, public SheetView {
+    Q_OBJECT
+
+public:
+    /// `commands` must outlive the window.
+    explicit SheetWindow(SheetCommands& commands);
+
+    void setVisible(bool visible) override;
+    void raise() override;
+    void setDocument(Document* document) override;
+
+Q_SIGNALS:
+    void f6Pressed(); ///< the user wants to go to the program's window
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    QWidget* makeTop();
+    QWidget* makePages();
+    void wireUser();
+    void wireDocument();
+    void showTitle();
+    void showSheets();
+    void showSelection();
+    void showCell();
+    bool renameSheet(int sheet, const QString& name);
+
+    SheetCommands& commands_;
+    Document* document_ = nullptr;
+    int shownSheet_ = 0;
+    SheetModel* model_;
+    SheetTable* table_;
+    SheetMenu* menu_;
+    EditLine* line_;
+    SheetFooter* footer_;
+    ColumnWidths* widths_;
+    QStackedWidget* pages_ = nullptr;
+};
+
+} // namespace zvonika
