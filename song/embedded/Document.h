@@ -84,8 +84,9 @@ public:
     bool edit(int sheet, CellPosition first, const CellBlock& block, const QString& label);
     bool editFill(int sheet, const CellRange& range, const CellValue& value, const QString& label);
     /// Rows from `row` on move down (up). 1004 when a formula or, moving down, the last row is in the way.
-    void insertRow(int sheet, int row);
-    void deleteRow(int sheet, int row);
+    /// False when there is nothing to move.
+    bool insertRow(int sheet, int row);
+    bool deleteRow(int sheet, int row);
     /// Takes back (does again) the last step and selects what changed; false when there is none.
     bool undo();
     bool redo();
@@ -104,14 +105,18 @@ Q_SIGNALS:
 private:
     Document(xls::Workbook book, const QString& path, FileLock lock);
 
+    void requireSheet(int sheet) const;
     void put(int sheet, CellPosition cell, const CellValue& value);
-    void changed(int sheet, const CellRange& range);
-    bool apply(UndoStep step);
+    bool differs(int sheet, CellPosition cell, const CellValue& value) const;
+    CellRange usedPart(int sheet, const CellRange& range) const;
+    bool commit(UndoStep step);
     void exchange(const UndoStep& step, bool back);
-    void showChange(const UndoStep& step);
+    void showStep(const UndoStep& step);
     void shiftDown(int sheet, int row);
     void shiftUp(int sheet, int row);
-    void refuseShift(int sheet, int row) const;
+    void refuseFormulas(int sheet, int fromRow) const;
+    void changed(int sheet, const CellRange& range);
+    void takePath(const QString& nativePath);
     void setModified(bool modified);
     void readCursor();
     void writeCursor();

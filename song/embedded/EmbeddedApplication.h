@@ -75,6 +75,7 @@ private:
     QString nativeFile(const QString& fullName) const;
     QString saveName(const QString& filename) const;
     void saveUnder(const QString& nativePath);
+    bool mayReplace(const QString& name);
 
     Drive& drive_;
     SettingsStore& settings_;

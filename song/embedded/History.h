@@ -48,8 +48,6 @@ public:
     QString againLabel() const; ///< "" when nothing can be done again
 
 private:
-    void forgetRow(int sheet, int row, const CellRange& range);
-
     std::vector<UndoStep> done_;   ///< newest last
     std::vector<UndoStep> undone_; ///< next to be done again last
 };

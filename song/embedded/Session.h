@@ -37,6 +37,9 @@ public:
     void refuseTwin(const QString& name, const Document* self = nullptr) const;
 
     // --- the application ---
+    /// Native folder for workbooks that were not given any; where file choices start.
+    const QString& folder() const { return folder_; }
+    void setFolder(const QString& native) { folder_ = native; }
     State state() const { return state_; }
     /// Drops every workbook without asking and hides the window.
     void end(State state);
@@ -62,6 +65,7 @@ private:
     std::vector<std::unique_ptr<Document>> documents_;
     Document* active_ = nullptr;
     State state_ = State::Running;
+    QString folder_;
     int named_ = 0; ///< new workbooks named so far
     bool visible_ = false;
     std::unique_ptr<SheetView> view_; ///< last, so that it goes before what it shows

@@ -55,10 +55,20 @@ public:
     bool quit();
 
 private:
+    /// Where the cursor stands.
+    struct Place {
+        const Document* document = nullptr;
+        int sheet = 0;
+        CellPosition cell;
+        friend bool operator==(const Place&, const Place&) = default;
+    };
+
     template <typename Action>
     bool attempt(Action action);
-    void edited();
-    bool saveUnder(const QString& path);
+    template <typename Save>
+    bool saved(Save save);
+    Place place() const;
+    void report(const Place& before, bool edited);
     bool mayClose(Document& document);
 
     Session& session_;

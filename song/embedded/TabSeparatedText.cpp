@@ -6,8 +6,7 @@ namespace {
 
 constexpr QLatin1Char quote('"');
 
-QString written(const QString& cell)
-{
+QString written(const QString& cell) {
     const bool plain = !cell.contains(QLatin1Char('\t')) && !cell.contains(QLatin1Char('\n')) &&
                        !cell.contains(QLatin1Char('\r')) && !cell.startsWith(quote);
     if (plain) return cell;
@@ -19,8 +18,7 @@ class Reader {
 public:
     explicit Reader(const QString& text) : text_(text) {}
 
-    QVector<QStringList> rows()
-    {
+    QVector<QStringList> rows() {
         QVector<QStringList> result;
         while (at_ < text_.size())
             result.append(row());
@@ -28,8 +26,7 @@ public:
     }
 
 private:
-    QStringList row()
-    {
+    QStringList row() {
         QStringList cells{cell()};
         while (skip(QLatin1Char('\t')))
             cells.append(cell());
@@ -40,8 +37,7 @@ private:
 
     QString cell() { return skip(quote) ? quoted() + plain() : plain(); }
 
-    QString quoted()
-    {
+    QString quoted() {
         QString result;
         while (at_ < text_.size()) {
             if (skip(quote) && !next(quote)) break;
@@ -50,8 +46,7 @@ private:
         return result;
     }
 
-    QString plain()
-    {
+    QString plain() {
         const auto start = at_;
         while (at_ < text_.size() && !next(QLatin1Char('\t')) && !next(QLatin1Char('\n')) &&
                !next(QLatin1Char('\r')))
@@ -60,8 +55,7 @@ private:
     }
 
     bool next(QChar c) const { return at_ < text_.size() && text_.at(at_) == c; }
-    bool skip(QChar c)
-    {
+    bool skip(QChar c) {
         if (!next(c)) return false;
         ++at_;
         return true;
@@ -73,8 +67,7 @@ private:
 
 } // namespace
 
-QString tabSeparated(const QVector<QStringList>& rows)
-{
+QString tabSeparated(const QVector<QStringList>& rows) {
     QString text;
     for (const auto& row : rows) {
         QStringList cells;
@@ -85,8 +78,7 @@ QString tabSeparated(const QVector<QStringList>& rows)
     return text;
 }
 
-QVector<QStringList> fromTabSeparated(const QString& text)
-{
+QVector<QStringList> fromTabSeparated(const QString& text) {
     return Reader(text).rows();
 }
 

@@ -1,0 +1,86 @@
+#include "song/embedded/AtomicFile.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QRandomGenerator>
+
+#include <algorithm>
+#include <system_error>
+#include <windows.h>
+
+namespace zvonika {
+
+namespace {
+
+[[noreturn]] void fail(DWORD code) {
+    throw std::system_error(static_cast<int>(code), std::system_category());
+}
+
+const wchar_t* wide(const QString& text) {
+    return reinterpret_cast<const wchar_t*>(text.utf16());
+}
+
+void writeAll(HANDLE file, std::span<const std::uint8_t> bytes) {
+    while (!bytes.empty()) {
+        const auto portion = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), 1U << 20));
+        DWORD written = 0;
+        if (!WriteFile(file, bytes.data(), portion, &written, nullptr)) fail(GetLastError());
+        bytes = bytes.subspan(written);
+    }
+    if (!FlushFileBuffers(file)) fail(GetLastError());
+}
+
+/// A new file beside the target, removed again unless it takes the target's place.
+class Temporary {
+public:
+    explicit Temporary(const QString& folder)
+        : path_(folder + QStringLiteral("\\.~%1.tmp").arg(QRandomGenerator::system()->generate64(), 0, 36)),
+          file_(CreateFileW(wide(path_), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL,
+                            nullptr)) {
+        if (file_ == INVALID_HANDLE_VALUE) fail(GetLastError());
+    }
+    ~Temporary() {
+        close();
+        if (!placed_) DeleteFileW(wide(path_));
+    }
+    Temporary(const Temporary&) = delete;
+    Temporary& operator=(const Temporary&) = delete;
+
+    void write(std::span<const std::uint8_t> bytes) {
+        writeAll(file_, bytes);
+        close();
+    }
+
+    /// ReplaceFile keeps rights and owner of the file that is there.
+    void place(const QString& target) {
+        const bool exists = QFileInfo::exists(target);
+        const BOOL done = exists ? ReplaceFileW(wide(target), wide(path_), nullptr,
+                                                REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr)
+                                 : MoveFileExW(wide(path_), wide(target), MOVEFILE_WRITE_THROUGH);
+        if (!done) fail(GetLastError());
+        placed_ = true;
+    }
+
+private:
+    void close() {
+        if (file_ != INVALID_HANDLE_VALUE) CloseHandle(file_);
+        file_ = INVALID_HANDLE_VALUE;
+    }
+
+    QString path_;
+    HANDLE file_;
+    bool placed_ = false;
+};
+
+} // namespace
+
+void writeAtomically(const QString& nativePath, std::span<const std::uint8_t> bytes) {
+    const QFileInfo given(nativePath);
+    const QString target = QDir::toNativeSeparators(given.isSymLink() ? given.symLinkTarget() : nativePath);
+    if (QFileInfo(target).isDir()) fail(ERROR_DIRECTORY);
+    Temporary file(QDir::toNativeSeparators(QFileInfo(target).absolutePath()));
+    file.write(bytes);
+    file.place(target);
+}
+
+} // namespace zvonika

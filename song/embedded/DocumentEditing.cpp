@@ -1,0 +1,236 @@
+#include "platform/RuntimeError.h"
+#include "song/embedded/Document.h"
+#include "song/embedded/XlsValue.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace zvonika {
+
+namespace {
+
+constexpr qsizetype longestText = 32767; ///< UTF-16 units in one cell
+constexpr qint64 largestFill = qint64{1} << 20;
+
+[[noreturn]] void refuse(const QString& sentence) {
+    throw RuntimeError(error::applicationDefined, sentence);
+}
+
+void refuseLongText(const CellValue& value) {
+    const auto* text = std::get_if<QString>(&value);
+    if (text && text->size() > longestText)
+        refuse(QStringLiteral("Text je příliš dlouhý: do jedné buňky se vejde nejvýš 32 767 znaků."));
+}
+
+qsizetype widest(const CellBlock& block) {
+    qsizetype columns = 0;
+    for (const auto& row : block)
+        columns = std::max(columns, row.size());
+    return columns;
+}
+
+/// The place of a block that fits on the sheet in every respect, so that writing it cannot stop half-way.
+CellRange placeFor(CellPosition first, const CellBlock& block) {
+    const auto rows = block.size(), columns = widest(block);
+    if (!isOnSheet(first) || first.row + rows - 1 > lastRow || first.column + columns - 1 > lastColumn)
+        refuse(QStringLiteral("Údaje se na list od buňky %1 nevejdou.").arg(absoluteAddress(first)));
+    for (const auto& row : block)
+        std::ranges::for_each(row, refuseLongText);
+    return sized(first, static_cast<int>(rows), static_cast<int>(columns));
+}
+
+/// Calls `action(cell, value)` for every cell of the block.
+template <typename Action>
+void forCells(CellPosition first, const CellBlock& block, Action action) {
+    for (qsizetype row = 0; row < block.size(); ++row)
+        for (qsizetype column = 0; column < block[row].size(); ++column)
+            action(CellPosition{first.row + static_cast<int>(row), first.column + static_cast<int>(column)},
+                   block[row][column]);
+}
+
+template <typename Action>
+void forCells(const CellRange& range, Action action) {
+    for (int row = range.first.row; row <= range.last.row; ++row)
+        for (int column = range.first.column; column <= range.last.column; ++column)
+            action(CellPosition{row, column});
+}
+
+CellRange around(const std::vector<CellChange>& changes) {
+    CellRange range = single(changes.front().cell);
+    for (const auto& change : changes) {
+        range.first.row = std::min(range.first.row, change.cell.row);
+        range.first.column = std::min(range.first.column, change.cell.column);
+        range.last.row = std::max(range.last.row, change.cell.row);
+        range.last.column = std::max(range.last.column, change.cell.column);
+    }
+    return range;
+}
+
+void refuseLargeFill(const CellRange& range) {
+    if (qint64{range.rows()} * range.columns() > largestFill)
+        refuse(QStringLiteral("Oblast je příliš velká."));
+}
+
+} // namespace
+
+void Document::put(int sheet, CellPosition cell, const CellValue& value) {
+    try {
+        book_.setValue(sheet - 1, {cell.row - 1, cell.column - 1}, toXls(value));
+    } catch (const std::invalid_argument&) {
+        refuse(
+            QStringLiteral("Buňku %1 nelze změnit: patří k maticovému vzorci.").arg(absoluteAddress(cell)));
+    }
+}
+
+/// A formula differs from every value, also from the one that it shows.
+bool Document::differs(int sheet, CellPosition cell, const CellValue& value) const {
+    const CellValue now = this->value(sheet, cell);
+    const bool same = now == value || (zvonika::isEmpty(now) && zvonika::isEmpty(value));
+    return !same || isFormula(sheet, cell);
+}
+
+/// What of a range needs to be gone through to empty it; may be nothing (no rows or no columns).
+CellRange Document::usedPart(int sheet, const CellRange& range) const {
+    return {range.first,
+            {std::min(range.last.row, usedRows(sheet)), std::min(range.last.column, usedColumns(sheet))}};
+}
+
+void Document::write(int sheet, CellPosition first, const CellBlock& block) {
+    const CellRange place = placeFor(first, block);
+    history_.forget(sheet, place);
+    bool any = false;
+    forCells(first, block, [&](CellPosition cell, const CellValue& value) {
+        if (!differs(sheet, cell, value)) return;
+        put(sheet, cell, value);
+        any = true;
+    });
+    Q_EMIT historyChanged();
+    if (any) changed(sheet, place);
+}
+
+void Document::fill(int sheet, const CellRange& range, const CellValue& value) {
+    refuseLongText(value);
+    const CellRange part = zvonika::isEmpty(value) ? usedPart(sheet, range) : range;
+    refuseLargeFill(part);
+    history_.forget(sheet, range);
+    bool any = false;
+    forCells(part, [&](CellPosition cell) {
+        if (!differs(sheet, cell, value)) return;
+        put(sheet, cell, value);
+        any = true;
+    });
+    Q_EMIT historyChanged();
+    if (any) changed(sheet, range);
+}
+
+bool Document::edit(int sheet, CellPosition first, const CellBlock& block, const QString& label) {
+    placeFor(first, block);
+    UndoStep step{UndoStep::Kind::Cells, label, sheet, 0, {}};
+    forCells(first, block, [&](CellPosition cell, const CellValue& after) {
+        if (differs(sheet, cell, after)) step.changes.push_back({cell, value(sheet, cell), after});
+    });
+    return commit(std::move(step));
+}
+
+bool Document::editFill(int sheet, const CellRange& range, const CellValue& after, const QString& label) {
+    refuseLongText(after);
+    const CellRange part = zvonika::isEmpty(after) ? usedPart(sheet, range) : range;
+    refuseLargeFill(part);
+    UndoStep step{UndoStep::Kind::Cells, label, sheet, 0, {}};
+    forCells(part, [&](CellPosition cell) {
+        if (differs(sheet, cell, after)) step.changes.push_back({cell, value(sheet, cell), after});
+    });
+    return commit(std::move(step));
+}
+
+bool Document::commit(UndoStep step) {
+    if (step.kind == UndoStep::Kind::Cells && step.changes.empty()) return false;
+    exchange(step, false);
+    history_.add(std::move(step));
+    Q_EMIT historyChanged();
+    return true;
+}
+
+bool Document::insertRow(int sheet, int row) {
+    if (row > usedRows(sheet)) return false;
+    refuseFormulas(sheet, row);
+    if (usedRows(sheet) == lastRow)
+        refuse(QStringLiteral("Řádek nelze vložit: poslední řádek listu není prázdný."));
+    return commit({UndoStep::Kind::InsertRow, QStringLiteral("Vložení řádku"), sheet, row, {}});
+}
+
+bool Document::deleteRow(int sheet, int row) {
+    if (row > usedRows(sheet)) return false;
+    refuseFormulas(sheet, row);
+    UndoStep step{UndoStep::Kind::DeleteRow, QStringLiteral("Odstranění řádku"), sheet, row, {}};
+    forCells({{row, 1}, {row, usedColumns(sheet)}}, [&](CellPosition cell) {
+        step.changes.push_back({cell, value(sheet, cell), {}});
+    });
+    return commit(std::move(step));
+}
+
+/// A formula speaks of other cells by their place; moved as a value it would be lost.
+void Document::refuseFormulas(int sheet, int fromRow) const {
+    forCells({{fromRow, 1}, {usedRows(sheet), usedColumns(sheet)}}, [&](CellPosition cell) {
+        if (isFormula(sheet, cell))
+            refuse(QStringLiteral("Řádky nelze posunout: v buňce %1 je vzorec.").arg(absoluteAddress(cell)));
+    });
+}
+
+void Document::shiftDown(int sheet, int row) {
+    const int columns = usedColumns(sheet);
+    for (int from = usedRows(sheet); from >= row; --from)
+        for (int column = 1; column <= columns; ++column)
+            put(sheet, {from + 1, column}, value(sheet, {from, column}));
+    for (int column = 1; column <= columns; ++column)
+        put(sheet, {row, column}, {});
+}
+
+void Document::shiftUp(int sheet, int row) {
+    const int rows = usedRows(sheet), columns = usedColumns(sheet);
+    for (int to = row; to < rows; ++to)
+        for (int column = 1; column <= columns; ++column)
+            put(sheet, {to, column}, value(sheet, {to + 1, column}));
+    for (int column = 1; column <= columns; ++column)
+        put(sheet, {rows, column}, {});
+}
+
+void Document::exchange(const UndoStep& step, bool back) {
+    const bool cellsOnly = step.kind == UndoStep::Kind::Cells;
+    const CellRange below{{std::max(step.row, 1), 1}, {lastRow, lastColumn}};
+    if (!cellsOnly) {
+        const bool down = (step.kind == UndoStep::Kind::InsertRow) != back;
+        down ? shiftDown(step.sheet, step.row) : shiftUp(step.sheet, step.row);
+    }
+    if (cellsOnly || back)
+        for (const auto& change : step.changes)
+            put(step.sheet, change.cell, back ? change.before : change.after);
+    changed(step.sheet, cellsOnly ? around(step.changes) : below);
+}
+
+void Document::showStep(const UndoStep& step) {
+    activateSheet(step.sheet);
+    const CellPosition rowStart{step.row, selection().active.column};
+    const CellRange range = step.kind == UndoStep::Kind::Cells ? around(step.changes) : single(rowStart);
+    select(range, range.first);
+}
+
+bool Document::undo() {
+    const UndoStep* step = history_.back();
+    if (!step) return false;
+    exchange(*step, true);
+    showStep(*step);
+    Q_EMIT historyChanged();
+    return true;
+}
+
+bool Document::redo() {
+    const UndoStep* step = history_.again();
+    if (!step) return false;
+    exchange(*step, false);
+    showStep(*step);
+    Q_EMIT historyChanged();
+    return true;
+}
+
+} // namespace zvonika

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "song/xls/FormatError.h"
+
+#include <QString>
+
+#include <system_error>
+
+namespace zvonika {
+
+/// Why a file was not opened or saved: one Czech sentence that names the file, for the user.
+QString openRefused(const QString& nativePath, xls::Refusal refusal);
+QString openRefused(const QString& nativePath, std::errc error);
+QString saveRefused(const QString& nativePath, const std::error_code& error);
+/// The drive letter of `path` ("D:\...") means nothing here.
+QString driveMissing(const QString& path);
+/// `who`: what is known of the one who has the file open, may be empty.
+QString openElsewhere(const QString& nativePath, const QString& who);
+
+} // namespace zvonika

@@ -1,0 +1,86 @@
+#include "song/embedded/Session.h"
+
+#include "platform/RuntimeError.h"
+
+#include <algorithm>
+
+namespace zvonika {
+
+Document* Session::find(const QString& name) const {
+    const auto same = [&](const auto& document) {
+        return document->name().compare(name, Qt::CaseInsensitive) == 0;
+    };
+    const auto found = std::ranges::find_if(documents_, same);
+    return found == documents_.end() ? nullptr : found->get();
+}
+
+QString Session::nextName() {
+    return QStringLiteral("Sešit%1").arg(++named_);
+}
+
+Document& Session::add(std::unique_ptr<Document> document) {
+    documents_.push_back(std::move(document));
+    activate(*documents_.back());
+    return *active_;
+}
+
+void Session::activate(Document& document) {
+    active_ = &document;
+    showActive();
+}
+
+void Session::remove(Document& document) {
+    const auto found =
+        std::ranges::find_if(documents_, [&](const auto& open) { return open.get() == &document; });
+    if (found == documents_.end()) return;
+    const auto gone = std::move(*found); // lives until the window shows another one
+    documents_.erase(found);
+    active_ = documents_.empty() ? nullptr : documents_.back().get();
+    showActive();
+}
+
+void Session::refuseTwin(const QString& name, const Document* self) const {
+    const Document* open = find(name);
+    if (open && open != self)
+        throw RuntimeError(
+            error::applicationDefined,
+            QStringLiteral("Sešit „%1“ je už otevřen; dva sešity téhož jména najednou otevřít nelze.")
+                .arg(open->name()));
+}
+
+void Session::end(State state) {
+    state_ = state;
+    active_ = nullptr;
+    visible_ = false;
+    if (view_) {
+        view_->setDocument(nullptr);
+        view_->setVisible(false);
+    }
+    documents_.clear();
+}
+
+void Session::setView(std::unique_ptr<SheetView> view) {
+    view_ = std::move(view);
+    if (view_) view_->setDocument(active_);
+}
+
+void Session::setVisible(bool visible) {
+    visible_ = visible;
+    if (view_) view_->setVisible(visible);
+}
+
+void Session::raise() {
+    if (view_ && visible_) view_->raise();
+}
+
+void Session::hideUntilNeeded() {
+    if (view_) view_->setVisible(false);
+}
+
+void Session::showActive() {
+    if (!view_) return;
+    view_->setDocument(active_);
+    if (active_ && visible_) view_->setVisible(true);
+}
+
+} // namespace zvonika

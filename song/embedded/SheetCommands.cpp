@@ -1,0 +1,194 @@
+#include "song/embedded/SheetCommands.h"
+
+#include "platform/RuntimeError.h"
+#include "song/SpreadsheetApplication.h"
+#include "song/embedded/CellEntry.h"
+#include "song/embedded/Session.h"
+#include "song/embedded/TabSeparatedText.h"
+
+#include <algorithm>
+
+namespace zvonika {
+
+namespace {
+
+CellBlock typedBlock(const QString& tabbedText) {
+    CellBlock block;
+    for (const auto& row : fromTabSeparated(tabbedText)) {
+        block.append(QVector<CellValue>());
+        for (const auto& text : row)
+            block.last().append(typedValue(text));
+    }
+    return block;
+}
+
+/// Only what holds anything: a whole column selected is 65,536 cells.
+CellRange copiedPart(const Document& document) {
+    const CellRange range = document.selection().range;
+    const int sheet = document.activeSheet();
+    return spanning(range.first,
+                    {std::clamp(document.usedRows(sheet), range.first.row, range.last.row),
+                     std::clamp(document.usedColumns(sheet), range.first.column, range.last.column)});
+}
+
+QString tabbed(const CellBlock& block) {
+    QVector<QStringList> rows;
+    for (const auto& cells : block) {
+        rows.append(QStringList());
+        for (const auto& value : cells)
+            rows.last().append(displayText(value));
+    }
+    return tabSeparated(rows);
+}
+
+int columnsOf(const CellBlock& block) {
+    qsizetype columns = 1;
+    for (const auto& row : block)
+        columns = std::max(columns, row.size());
+    return static_cast<int>(columns);
+}
+
+} // namespace
+
+Document* SheetCommands::document() const {
+    return session_.active();
+}
+
+QStringList SheetCommands::documentNames() const {
+    QStringList names;
+    for (const auto& document : session_.documents())
+        names.append(document->name());
+    return names;
+}
+
+/// Runs what the user asked for, shows a refusal and tells the program what came of it.
+template <typename Action>
+bool SheetCommands::attempt(Action action) {
+    Document* document = session_.active();
+    if (!document) return false;
+    const Place before = place();
+    bool edited = false;
+    try {
+        edited = action(*document);
+    } catch (const RuntimeError& refusal) {
+        session_.dialogs().message({jmenoTabulky, refusal.cause(), Icon::Exclamation});
+    }
+    report(before, edited);
+    return edited;
+}
+
+SheetCommands::Place SheetCommands::place() const {
+    const Document* document = session_.active();
+    if (!document) return {};
+    return {document, document->activeSheet(), document->selection().active};
+}
+
+/// The listener may do anything, so each call asks for it anew.
+void SheetCommands::report(const Place& before, bool edited) {
+    const bool moved = !(place() == before);
+    if (edited && session_.listener()) session_.listener()->cellsEdited();
+    if (moved && session_.listener()) session_.listener()->cursorMoved();
+}
+
+void SheetCommands::showDocument(const QString& name) {
+    attempt([&](Document&) {
+        if (Document* other = session_.find(name)) session_.activate(*other);
+        return false;
+    });
+}
+
+void SheetCommands::select(const CellRange& range, CellPosition active) {
+    attempt([&](Document& document) {
+        document.select(range, active);
+        return false;
+    });
+}
+
+void SheetCommands::selectSheet(int sheet) {
+    attempt([&](Document& document) {
+        document.activateSheet(sheet);
+        return false;
+    });
+}
+
+void SheetCommands::type(CellPosition cell, const QString& text) {
+    attempt([&](Document& document) {
+        const int sheet = document.activeSheet();
+        if (text == document.editText(sheet, cell)) return false;
+        return document.edit(sheet, cell, {{typedValue(text)}}, QStringLiteral("Psaní"));
+    });
+}
+
+void SheetCommands::clear() {
+    attempt([](Document& document) {
+        return document.editFill(document.activeSheet(), document.selection().range, {},
+                                 QStringLiteral("Vymazání"));
+    });
+}
+
+QString SheetCommands::copy() {
+    const Document* document = session_.active();
+    if (!document) return {};
+    copied_ = document->block(document->activeSheet(), copiedPart(*document));
+    copiedText_ = tabbed(copied_);
+    return copiedText_;
+}
+
+QString SheetCommands::cut() {
+    const QString text = copy();
+    attempt([](Document& document) {
+        return document.editFill(document.activeSheet(), document.selection().range, {},
+                                 QStringLiteral("Vyjmutí"));
+    });
+    return text;
+}
+
+void SheetCommands::paste(const QString& tabbedText) {
+    const CellBlock block = tabbedText == copiedText_ ? copied_ : typedBlock(tabbedText);
+    if (block.isEmpty()) return;
+    attempt([&](Document& document) {
+        const int sheet = document.activeSheet();
+        const CellRange range = document.selection().range;
+        const QString label = QStringLiteral("Vložení");
+        const int rows = static_cast<int>(block.size()), columns = columnsOf(block);
+        if (rows == 1 && columns == 1) return document.editFill(sheet, range, block.first().value(0), label);
+        const bool edited = document.edit(sheet, range.first, block, label);
+        document.select(sized(range.first, rows, columns), range.first);
+        return edited;
+    });
+}
+
+void SheetCommands::insertRow() {
+    attempt([](Document& document) {
+        return document.insertRow(document.activeSheet(), document.selection().active.row);
+    });
+}
+
+void SheetCommands::deleteRow() {
+    attempt([](Document& document) {
+        return document.deleteRow(document.activeSheet(), document.selection().active.row);
+    });
+}
+
+void SheetCommands::undo() {
+    attempt([](Document& document) { return document.undo(); });
+}
+
+void SheetCommands::redo() {
+    attempt([](Document& document) { return document.redo(); });
+}
+
+void SheetCommands::renameSheet(int sheet, const QString& name) {
+    attempt([&](Document& document) {
+        if (document.sheetName(sheet) == name) return false;
+        document.renameSheet(sheet, name);
+        return true;
+    });
+}
+
+void SheetCommands::setColumnWidth(int column, double characters) {
+    if (Document* document = session_.active())
+        document->setColumnWidth(document->activeSheet(), column, characters);
+}
+
+} // namespace zvonika

@@ -1,0 +1,62 @@
+#include "song/embedded/WorkbookFile.h"
+
+#include "platform/RuntimeError.h"
+#include "song/embedded/AtomicFile.h"
+#include "song/embedded/FileSentences.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <new>
+
+namespace zvonika {
+
+namespace {
+
+/// Beyond what the format can hold; keeps a wrongly chosen film from filling the memory.
+constexpr qint64 largestFile = qint64{512} << 20;
+
+[[noreturn]] void refuse(const QString& sentence) {
+    throw RuntimeError(error::applicationDefined, sentence);
+}
+
+void refuseUnlessFile(const QString& path) {
+    const QFileInfo info(path);
+    if (path.contains(QChar(u'\0')) || !info.exists())
+        refuse(openRefused(path, std::errc::no_such_file_or_directory));
+    if (info.isDir()) refuse(openRefused(path, std::errc::is_a_directory));
+    if (!info.isFile()) refuse(openRefused(path, std::errc::no_such_device));
+    if (info.size() > largestFile) refuse(openRefused(path, std::errc::file_too_large));
+}
+
+xls::Bytes readBytes(const QString& path) {
+    refuseUnlessFile(path);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) refuse(openRefused(path, std::errc::permission_denied));
+    xls::Bytes bytes(static_cast<std::size_t>(file.size()));
+    const qint64 read = file.read(reinterpret_cast<char*>(bytes.data()), static_cast<qint64>(bytes.size()));
+    if (read != static_cast<qint64>(bytes.size())) refuse(openRefused(path, std::errc::io_error));
+    return bytes;
+}
+
+} // namespace
+
+xls::Workbook readWorkbook(const QString& nativePath) {
+    try {
+        return xls::Workbook::open(readBytes(nativePath));
+    } catch (const xls::FormatError& refusal) {
+        refuse(openRefused(nativePath, refusal.refusal()));
+    } catch (const std::bad_alloc&) {
+        refuse(openRefused(nativePath, xls::Refusal::Damaged));
+    }
+}
+
+void writeWorkbook(const QString& nativePath, const xls::Workbook& book) {
+    try {
+        writeAtomically(nativePath, book.save());
+    } catch (const std::system_error& failure) {
+        refuse(saveRefused(nativePath, failure.code()));
+    }
+}
+
+} // namespace zvonika

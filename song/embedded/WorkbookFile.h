@@ -1,0 +1,14 @@
+#pragma once
+
+#include "song/xls/Workbook.h"
+
+#include <QString>
+
+namespace zvonika {
+
+/// Reads and writes workbooks. Every refusal is AutomationError 1004 with one sentence for the user.
+xls::Workbook readWorkbook(const QString& nativePath);
+/// Replaces the file as a whole or leaves it as it was.
+void writeWorkbook(const QString& nativePath, const xls::Workbook& book);
+
+} // namespace zvonika
