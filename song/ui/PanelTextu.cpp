@@ -1,0 +1,100 @@
+#include "song/ui/PanelTextu.h"
+
+#include "song/SongPanel.h"
+#include "song/ui/ElidovanyPopisek.h"
+#include "theory/ui/OsnovaPainter.h"
+
+#include <QPainter>
+
+namespace zvonika {
+
+namespace {
+
+constexpr int okraj = 5;
+constexpr int soucasna = 2;
+constexpr QColor okolniSlabika{120, 114, 104};
+constexpr QColor popisekRadku{120, 114, 104};
+constexpr QColor pruhSlabik{250, 244, 230};
+
+} // namespace
+
+PanelTextu::PanelTextu(SongPanel& panel, QWidget* parent)
+    : QWidget(parent), panel_(panel), lblPopisD_(new ElidovanyPopisek(QStringLiteral("lblPopisD"), this)),
+      lblTony_(new ElidovanyPopisek(QStringLiteral("lblTony"), this)),
+      lblPopisB_(new ElidovanyPopisek(QStringLiteral("lblPopisB"), this)),
+      lblBasy_(new ElidovanyPopisek(QStringLiteral("lblBasy"), this)),
+      lblStupnice_(new ElidovanyPopisek(QStringLiteral("lblStupnice"), this)) {
+    setObjectName(QStringLiteral("panelTextu"));
+    setAccessibleName(QStringLiteral("Texty hmatu"));
+    for (int i = 0; i < static_cast<int>(lblSlabika_.size()); ++i) {
+        auto* slabika = new ElidovanyPopisek(QStringLiteral("lblSlabika(%1)").arg(i), this);
+        slabika->nastavVelikost(i == soucasna ? 1.7 : 1, i == soucasna ? 0.9 : 0.75);
+        slabika->nastavTucne(i == soucasna);
+        slabika->nastavBarvu(i == soucasna ? barvyOsnovy::inkoust : okolniSlabika);
+        lblSlabika_[static_cast<std::size_t>(i)] = slabika;
+    }
+    lblPopisD_->nastavText(QStringLiteral("Diskant:"));
+    lblPopisB_->nastavText(QStringLiteral("Basy:"));
+    lblStupnice_->setAccessibleDescription(QStringLiteral("Zapsaná stupnice hmatu"));
+    for (ElidovanyPopisek* popis : {lblPopisD_, lblPopisB_, lblStupnice_}) {
+        popis->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+        popis->nastavBarvu(popisekRadku);
+    }
+    for (ElidovanyPopisek* obsah : {lblTony_, lblBasy_}) {
+        obsah->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+        obsah->nastavVelikost(1.08, 0.72);
+        obsah->nastavBarvu(barvyOsnovy::inkoust);
+    }
+    lblStupnice_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    connect(&panel_, &SongPanel::zmeneno, this, &PanelTextu::prevezmiZmenu);
+    prevezmiZmenu();
+}
+
+void PanelTextu::prevezmiZmenu() {
+    for (std::size_t i = 0; i < lblSlabika_.size(); ++i)
+        lblSlabika_[i]->nastavText(panel_.lblSlabika[i]);
+    lblTony_->nastavText(panel_.lblTony);
+    lblBasy_->nastavText(panel_.lblBasy);
+    lblStupnice_->nastavText(panel_.lblStupnice);
+    lblPopisD_->setVisible(panel_.popisyViditelne);
+    lblPopisB_->setVisible(panel_.popisyViditelne);
+}
+
+int PanelTextu::vyskaSlabik() const {
+    return height() * 38 / 100;
+}
+
+void PanelTextu::resizeEvent(QResizeEvent*) {
+    rozmistiSlabiky({okraj, 2, width() - 2 * okraj, vyskaSlabik() - 3});
+    const int nahore = vyskaSlabik() + 2;
+    const int radek = (height() - nahore - 3) / 3;
+    rozmistiRadek(lblPopisD_, lblTony_, {okraj, nahore, width() - 2 * okraj, radek});
+    rozmistiRadek(lblPopisB_, lblBasy_, {okraj, nahore + radek, width() - 2 * okraj, radek});
+    lblStupnice_->setGeometry(okraj, nahore + 2 * radek, width() - 2 * okraj, radek);
+}
+
+void PanelTextu::rozmistiSlabiky(const QRect& misto) {
+    // The middle one gets twice the room of its neighbours.
+    const int dil = misto.width() / 6;
+    int vlevo = misto.left();
+    for (int i = 0; i < static_cast<int>(lblSlabika_.size()); ++i) {
+        const int sirka = i == soucasna ? misto.width() - 4 * dil : dil;
+        lblSlabika_[static_cast<std::size_t>(i)]->setGeometry(vlevo, misto.top(), sirka - 2, misto.height());
+        vlevo += sirka;
+    }
+}
+
+void PanelTextu::rozmistiRadek(QWidget* popis, QWidget* obsah, const QRect& misto) {
+    const int sirkaPopisu = misto.width() * 24 / 100;
+    popis->setGeometry(misto.left(), misto.top(), sirkaPopisu, misto.height());
+    obsah->setGeometry(misto.left() + sirkaPopisu + 3, misto.top(), misto.width() - sirkaPopisu - 3,
+                       misto.height());
+}
+
+void PanelTextu::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    OsnovaPainter::papir(painter, rect());
+    painter.fillRect(2, 2, width() - 4, vyskaSlabik() - 2, pruhSlabik);
+}
+
+} // namespace zvonika

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "theory/PolohaNoty.h"
+
+#include <QRectF>
+#include <QVector>
+
+namespace zvonika {
+
+/// One note of a chord; lengths in staff spaces, x = 0 in the middle of the chord's first column of heads.
+struct MistoNoty {
+    PolohaNoty poloha;
+    double hlavicka = 0; ///< middle of the head
+    double znamenko = 0; ///< left edge of the sign; without meaning where there is none
+};
+
+/// A chord laid out so that neither heads nor signs lie on each other.
+struct RozvrzeniAkordu {
+    QVector<MistoNoty> noty; ///< from the lowest up
+    double vlevo = 0;        ///< left edge, not positive
+    double vpravo = 0;       ///< right edge
+
+    double sirka() const { return vpravo - vlevo; }
+};
+
+/// Notes a second apart stand side by side; signs go to the left of all heads, in as many columns as they
+/// need.
+RozvrzeniAkordu rozvrhniAkord(QVector<PolohaNoty> polohy);
+
+/// Extent of a sign whose note stands on y = 0, from x = 0, in staff spaces, y downwards; empty for Zadne.
+QRectF rozmerZnamenka(Znamenko znamenko);
+
+} // namespace zvonika
