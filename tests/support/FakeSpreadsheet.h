@@ -45,6 +45,7 @@ public:
     }
     /// Puts a text into a cell of the active sheet, uncounted, unheard by the listener.
     void put(const QString& address, const QString& text) { put(address, CellValue(text)); }
+    void put(const QString& address, const char* text) { put(address, QString::fromUtf8(text)); }
     void put(const QString& address, const CellValue& value) {
         const auto range = FakeRange::parse(address);
         book().sheet().put(range.top, range.left, value);

@@ -1,0 +1,172 @@
+#include "board/ZapisNoty.h"
+#include "tests/board/ZapisovaniFixture.h"
+
+namespace zvonika {
+namespace {
+
+using testing::s;
+
+const auto mimoStupnici = QStringLiteral("Nota je mimo stupnici.");
+
+class KlikDiskantuTest : public testing::Zapisovani {
+protected:
+    void ocekavejOznaceny(int n, const char* ton) {
+        EXPECT_TRUE(diskant.oznacen(n)) << n;
+        EXPECT_EQ(diskant.stav(n), StavKnofliku::Cerveny) << n;
+        EXPECT_EQ(diskant.stavPomocneho(n), maPomocny(n) ? StavKnofliku::Cerveny : StavKnofliku::Volny) << n;
+        EXPECT_EQ(diskant.barvaKlavesy(n), BarvaKlavesy::Cervena) << n;
+        EXPECT_EQ(s(diskant.tonKlavesy(n)), ton) << n;
+    }
+    void ocekavejVolny(int n) {
+        EXPECT_FALSE(diskant.oznacen(n)) << n;
+        EXPECT_EQ(diskant.stav(n), StavKnofliku::Volny) << n;
+        EXPECT_EQ(diskant.stavPomocneho(n), StavKnofliku::Volny) << n;
+        EXPECT_EQ(diskant.barvaKlavesy(n), jePulton(n) ? BarvaKlavesy::WindowText : BarvaKlavesy::CaptionText)
+            << n;
+        EXPECT_EQ(s(diskant.tonKlavesy(n)), "") << n;
+        EXPECT_FALSE(osnova.slotTonu(CisloTonu(n))) << n;
+    }
+
+    std::function<void()> vDialoguStupnice = [] { ADD_FAILURE() << "unexpected key dialog"; };
+    QStringList oznameni;
+    KlikDiskantu klik{diskant,
+                      noty,
+                      tonina,
+                      dialogs,
+                      {[this] { vDialoguStupnice(); }, [this](const QString& veta) { oznameni << veta; }}};
+    ZapisNoty zapisNoty{osnova, noty, klik};
+};
+
+TEST_F(KlikDiskantuTest, AClickMarksAndAnotherReleases) {
+    const struct {
+        int n;
+        const char* ton;
+    } radky[] = {{1, "e,"}, {2, "f,"}, {3, "fis,"}, {28, "g2,"}, {48, "dis4,"}, {49, "e4,"}};
+    for (const auto& [n, ton] : radky) {
+        klik.klik(n);
+        ocekavejOznaceny(n, ton);
+        EXPECT_TRUE(osnova.slotTonu(CisloTonu(n))) << n;
+        klik.klik(n);
+        ocekavejVolny(n);
+    }
+}
+
+TEST_F(KlikDiskantuTest, AMarkedButtonBehindAShownGripIsReleasedByAClick) {
+    klik.klik(9);
+    diskant.ukaz(9, StavKnofliku::Tlak);
+    klik.klik(9);
+    ocekavejVolny(9);
+}
+
+TEST_F(KlikDiskantuTest, ADoubleClickOnlyAsksForTheFinger) {
+    klik.klik(9); // what the first of the two presses does
+    pridejPrst(9, "2");
+    ocekavejOznaceny(9, "c1,");
+    EXPECT_EQ(s(prstoklad.prstoklad()), "l9;2\\");
+}
+
+TEST_F(KlikDiskantuTest, CancelInTheNoteCheckReleasesTheButton) {
+    zvolToninu("G dur");
+    dialogs.expect(mimoStupnici, "Nota f, se ve stupnici G dur nepoužívá.", Answer::Cancel);
+    klik.klik(2);
+    ocekavejVolny(2);
+}
+
+TEST_F(KlikDiskantuTest, YesDrawsAToneOutsideTheKeyWithANatural) {
+    zvolToninu("G dur");
+    dialogs.expect(mimoStupnici, "odrážku", Answer::Yes);
+    klik.klik(2);
+    ocekavejOznaceny(2, "f,");
+    EXPECT_EQ(osnova.nota(0)->poloha.znamenko, Znamenko::Odrazka);
+}
+
+TEST_F(KlikDiskantuTest, NoOpensTheKeyDialogAndTheToneIsNamedInTheNewKey) {
+    zvolToninu("F dur");
+    vDialoguStupnice = [this] {
+        zvolToninu("G dur");
+        klik.nasledujToninu();
+    };
+    dialogs.expect(mimoStupnici, "Nota ges, se ve stupnici F dur nepoužívá.", Answer::No);
+    klik.klik(3);
+    ocekavejOznaceny(3, "fis,");
+    EXPECT_TRUE(osnova.slotTonu(CisloTonu(3)));
+}
+
+TEST_F(KlikDiskantuTest, PressesDuringAQuestionAreIgnored) {
+    zvolToninu("F dur");
+    vDialoguStupnice = [this] {
+        klik.klik(3);
+        klik.klik(9);
+    };
+    dialogs.expect(mimoStupnici, "ges,", Answer::No);
+    klik.klik(3);
+    ocekavejOznaceny(3, "ges,");
+    ocekavejVolny(9);
+    klik.klik(9); // the question is closed
+    ocekavejOznaceny(9, "c1,");
+}
+
+TEST_F(KlikDiskantuTest, ASixthToneIsMarkedAndTheUserToldThatTheStaffIsFull) {
+    for (const int n : {1, 4, 6, 9, 13})
+        klik.klik(n);
+    EXPECT_TRUE(oznameni.isEmpty());
+    klik.klik(16);
+    ocekavejOznaceny(16, "g1,");
+    ASSERT_EQ(oznameni.size(), 1);
+    EXPECT_TRUE(oznameni.first().contains(QStringLiteral("g1,")));
+    EXPECT_FALSE(osnova.slotTonu(CisloTonu(16)));
+    klik.klik(16);
+    ocekavejVolny(16);
+}
+
+TEST_F(KlikDiskantuTest, NamesFollowTheKey) {
+    klik.klik(3);
+    diskant.nastavNazvy(true, tonina.stupnice().text());
+    zvolToninu("Ges dur");
+    klik.nasledujToninu();
+    EXPECT_EQ(s(diskant.tonKlavesy(3)), "ges,");
+    EXPECT_EQ(s(diskant.popis(3)), "ges,");
+    EXPECT_EQ(s(diskant.tonKlavesy(4)), "");
+    EXPECT_EQ(s(tonina.stupnice().text()), "Ges dur");
+}
+
+TEST_F(KlikDiskantuTest, ANoteOnTheStaffMarksItsButton) {
+    EXPECT_TRUE(zapisNoty.pridejNotu(420));
+    ocekavejOznaceny(9, "c1,");
+    EXPECT_FALSE(zapisNoty.pridejNotu(420)); // it stands there already
+    EXPECT_FALSE(zapisNoty.pridejNotu(0));   // below the board
+    zapisNoty.odeberNotu(0);
+    ocekavejVolny(9);
+}
+
+TEST_F(KlikDiskantuTest, AMovedNoteTakesItsMarkAlong) {
+    zapisNoty.pridejNotu(420);
+    EXPECT_TRUE(zapisNoty.posunNotu(0, 480));
+    ocekavejVolny(9);
+    ocekavejOznaceny(11, "d1,");
+    EXPECT_TRUE(zapisNoty.nastavZnamenko(0, Znamenko::Krizek));
+    ocekavejVolny(11);
+    ocekavejOznaceny(12, "dis1,");
+    EXPECT_FALSE(zapisNoty.posunNotu(0, 5000));
+    ocekavejOznaceny(12, "dis1,");
+    EXPECT_TRUE(oznameni.isEmpty());
+}
+
+TEST_F(KlikDiskantuTest, ARefusedNoteLeavesBoardAndStaff) {
+    zvolToninu("C dur");
+    zapisNoty.pridejNotu(420);
+    dialogs.expect(mimoStupnici, "cis1,", Answer::Cancel);
+    zapisNoty.nastavZnamenko(0, Znamenko::Krizek);
+    ocekavejVolny(9);
+    ocekavejVolny(10);
+}
+
+TEST_F(KlikDiskantuTest, AMarkedButtonWhoseNoteIsEnteredKeepsItsMark) {
+    klik.klik(9);
+    osnova.odeberNoty();
+    EXPECT_TRUE(zapisNoty.pridejNotu(420));
+    ocekavejOznaceny(9, "c1,");
+}
+
+} // namespace
+} // namespace zvonika

@@ -1,0 +1,149 @@
+#include "board/Prstoklad.h"
+
+#include "board/TrebleBoard.h"
+#include "song/SongSheet.h"
+#include "tests/support/FakeSpreadsheet.h"
+#include "tests/support/ScriptedDialogs.h"
+
+#include <gtest/gtest.h>
+
+namespace zvonika {
+namespace {
+
+const auto oznaceni = QStringLiteral("Označení prstokladu");
+const auto chyba = QStringLiteral("Chyba !");
+const auto chyba340 = QStringLiteral("Chyba č. 340.");
+
+TEST(Prstoklad, EntriesGrowInTheOrderOfEnteringAsTyped) {
+    testing::ScriptedDialogs dialogs;
+    Prstoklad prstoklad(dialogs);
+    dialogs.expectInput(oznaceni, "1").expectInput(oznaceni, "4").expectInput(oznaceni, "9;x\\");
+    prstoklad.dvojklikLbl(12);
+    prstoklad.dvojklikLblSynchro(14);
+    prstoklad.dvojklikLbl(1);
+    EXPECT_EQ(prstoklad.prstoklad(), QStringLiteral("l12;1\\s14;4\\l1;9;x\\\\"));
+    EXPECT_EQ(dialogs.lastPrompt,
+              QStringLiteral("Zadejte číslo prstu, kterým má být mačkán tento knoflík. 1 = palec "
+                             "až 5 = malíček."));
+}
+
+TEST(Prstoklad, AnEmptyAnswerAddsNothing) {
+    testing::ScriptedDialogs dialogs;
+    Prstoklad prstoklad(dialogs);
+    dialogs.expectInput(oznaceni, "2").expectInput(oznaceni, "");
+    prstoklad.dvojklikLbl(5);
+    prstoklad.dvojklikLbl(5);
+    EXPECT_EQ(prstoklad.prstoklad(), QStringLiteral("l5;2\\"));
+}
+
+TEST(Prstoklad, GivingAwayEmpties) {
+    testing::ScriptedDialogs dialogs;
+    Prstoklad prstoklad(dialogs);
+    dialogs.expectInput(oznaceni, "2");
+    prstoklad.dvojklikLbl(5);
+    EXPECT_EQ(prstoklad.odeber(), QStringLiteral("l5;2\\"));
+    EXPECT_EQ(prstoklad.prstoklad(), QString());
+}
+
+class ZobrazeniPrstokladuTest : public ::testing::Test {
+protected:
+    ZobrazeniPrstokladuTest() {
+        auto aplikace = std::make_unique<testing::FakeSpreadsheet>();
+        excel = aplikace.get();
+        excel->addWorkbook();
+        pisen.aktualniPisen = excel->activeWorkbookName();
+        pisen.aplikaceExcel = std::move(aplikace);
+        excel->selectRange(QStringLiteral("B4"));
+    }
+
+    testing::ScriptedDialogs dialogs;
+    Pisen pisen;
+    testing::FakeSpreadsheet* excel = nullptr;
+    TrebleBoard diskant;
+    ZobrazeniPrstokladu zobrazeni{pisen, diskant, dialogs};
+};
+
+TEST_F(ZobrazeniPrstokladuTest, ReadsColumnVOfTheCurrentRow) {
+    excel->put("V3", "l1;1\\");
+    excel->put("V4", "l12;1\\s14;4\\");
+    zobrazeni.ZobrazPrstoklad();
+    EXPECT_EQ(diskant.popis(12), QStringLiteral("1\r\n"));
+    EXPECT_EQ(diskant.popisPomocneho(14), QStringLiteral("4\r\n"));
+    EXPECT_EQ(diskant.popis(14), QString());
+    EXPECT_EQ(diskant.popis(1), QString());
+}
+
+TEST_F(ZobrazeniPrstokladuTest, AnEmptyCellShowsNothing) {
+    zobrazeni.ZobrazPrstoklad();
+    EXPECT_EQ(dialogs.count, 0);
+}
+
+TEST_F(ZobrazeniPrstokladuTest, MarksStackTheNewestOnTopAboveTheName) {
+    diskant.nastavNazvy(true, QStringLiteral("C dur"));
+    excel->put("V4", "l5;2\\l5;3\\");
+    zobrazeni.ZobrazPrstoklad();
+    EXPECT_EQ(diskant.popis(5), QStringLiteral("3\r\n2\r\ngis,"));
+}
+
+TEST_F(ZobrazeniPrstokladuTest, WhatCannotBeReadIsReported) {
+    const struct {
+        const char* zaznam;
+        QString titulek;
+    } radky[] = {
+        {"l2;1\\x5;1\\", chyba},     // unknown kind
+        {"l2;1\\L5;1\\", chyba},     //
+        {"l2;1\\s1;1\\", chyba340},  // no such twin
+        {"l2;1\\s3;1\\", chyba340},  //
+        {"l2;1\\l50;1\\", chyba340}, // no such button
+        {"l2;1\\l0;1\\", chyba340},  //
+        {"l2;1\\l;1\\", chyba340},   // no number
+        {"l2;1\\lx;1\\", chyba340},  //
+        {"l2;1\\l5\\", chyba340},    // no semicolon
+        {"l2;1\\;5\\", chyba340},    // no kind
+        {"l2;1\\\\", chyba340},      // an empty entry
+        {"l2;1\\l5;1", chyba340},    // no end
+    };
+    for (const auto& [zaznam, titulek] : radky) {
+        SCOPED_TRACE(zaznam);
+        diskant.vyprazdniPopisy();
+        excel->put("V4", zaznam);
+        dialogs.expect(titulek, QString());
+        zobrazeni.ZobrazPrstoklad();
+        EXPECT_TRUE(dialogs.done());
+        EXPECT_EQ(dialogs.last.icon, Icon::Critical);
+        EXPECT_EQ(diskant.popis(2), QStringLiteral("1\r\n")); // what was read before stays
+        EXPECT_EQ(excel->text("V4"), QLatin1String(zaznam));
+    }
+}
+
+TEST_F(ZobrazeniPrstokladuTest, TheMessagesAreToTheLetter) {
+    dialogs.expect(chyba, QStringLiteral("Neočekávaná hodnota ve značení prstokladu."));
+    zobrazeni.zobraz(QStringLiteral("q1;1\\"));
+    dialogs.expect(
+        chyba340,
+        QStringLiteral("Požadavek na vyznačení prstokladu nemohl být proveden, neboť záznam ve sloupci V "
+                       "neobsahuje platnou hodnotu. Knoflík, na který odkazuje tento záznam, neexistuje. "
+                       "Pro odstranění této chyby smažte prosím v Excelu na aktuálním řádku ve sloupci V "
+                       "celý obsah buňky. Data o aktuálním hmatu zůstanou zachována. Prstoklad pak včetně "
+                       "potvrzení hmatu můžete zapsat znovu."));
+    zobrazeni.zobraz(QStringLiteral("s1;1\\"));
+}
+
+TEST_F(ZobrazeniPrstokladuTest, AFailureOfTheApplicationIsReportedHere) {
+    dialogs.expect(chyba340, QString()).expect(chyba340, QString()).expect(chyba340, QString());
+    excel->fail(QStringLiteral("value"), error::applicationDefined);
+    zobrazeni.ZobrazPrstoklad();
+    excel->userClosesWorkbook();
+    zobrazeni.ZobrazPrstoklad();
+    pisen.aplikaceExcel.reset();
+    zobrazeni.ZobrazPrstoklad();
+}
+
+TEST_F(ZobrazeniPrstokladuTest, ANumberInTheCellIsNoRecord) {
+    excel->put("V4", CellValue(12.0));
+    dialogs.expect(chyba340, QString());
+    zobrazeni.ZobrazPrstoklad();
+}
+
+} // namespace
+} // namespace zvonika

@@ -1,0 +1,129 @@
+#include "tests/board/ZapisovaniFixture.h"
+
+namespace zvonika {
+namespace {
+
+using testing::s;
+
+/// Every part of the input board that a release may reset, as letters: D marks and pictures of the treble, K
+/// red keys, I interval buttons, B basses, N notes, P signs, O naturals, Z display staff.
+class UvolneniTest : public testing::Zapisovani {
+protected:
+    void naplnDesku() {
+        zvolToninu("G dur");
+        for (const int n : {2, 3}) { // a natural and an accidental
+            diskant.nastavZnacku(n, true);
+            diskant.ukaz(n, StavKnofliku::Cerveny);
+            diskant.nastavBarvuKlavesy(n, BarvaKlavesy::Cervena);
+            diskant.nastavTonKlavesy(n, QStringLiteral("x"));
+        }
+        diskant.ukaz(20, StavKnofliku::Hnedy);
+        diskant.nastavBarvuKlavesy(20, BarvaKlavesy::Hneda);
+        diskant.nastavPopis(2, QStringLiteral("1\r\n"));
+        basy.nastavZnacku(26, true);
+        basy.ukaz(26, StavBasu::Cerveny);
+        osnova.polozNotu(0, {{Znamenko::Zadne, 420}, CisloTonu(9)});
+        osnova.polozNotu(1, {{Znamenko::Krizek, 480}, CisloTonu(12)});
+        osnova.polozNotu(2, {{Znamenko::Odrazka, 600}, CisloTonu(14)});
+        zobrazovaci.ukaz({QStringLiteral("c1,")});
+        pridejPrst(2, "1");
+    }
+    QString stav() {
+        QString stav;
+        const auto pridej = [&](bool jeTam, char pismeno) {
+            stav += jeTam ? QString(QLatin1Char(pismeno)) : QString();
+        };
+        pridej(diskant.oznacen(2) && diskant.oznacen(3) && diskant.stavPomocneho(2) == StavKnofliku::Cerveny,
+               'D');
+        pridej(diskant.barvaKlavesy(2) == BarvaKlavesy::Cervena && diskant.tonKlavesy(3) == u'x', 'K');
+        pridej(diskant.stav(20) == StavKnofliku::Hnedy, 'I');
+        pridej(basy.oznacen(26) && basy.stav(26) == StavBasu::Cerveny, 'B');
+        pridej(osnova.nota(0).has_value(), 'N');
+        pridej(osnova.nota(1) && osnova.nota(1)->poloha.znamenko == Znamenko::Krizek, 'P');
+        pridej(osnova.nota(2) && osnova.nota(2)->poloha.znamenko == Znamenko::Odrazka, 'O');
+        pridej(!zobrazovaci.tony().isEmpty(), 'Z');
+        return stav;
+    }
+
+    Uvolneni uvolneni{diskant, basy, osnova, zobrazovaci};
+};
+
+TEST_F(UvolneniTest, EachCommandResetsItsPartsAndNothingElse) {
+    const struct {
+        const char *tlacitko, *nabidka, *zbyva;
+    } radky[] = {
+        {"cmdUvolDiskant", "mnuUvolnitDiskant", "B"},
+        {"cmdUvolBasy", "mnuUvolnitBasy", "DKINPOZ"},
+        {"cmdUvolNoty", "mnuUvolnitNoty", "DKIBZ"},
+        {"cmdUvolniPultony", "mnuUvolnitPultony", "DKIBNOZ"},
+        {"cmdUvolOdrazky", "mnuUvolnitOdrazky", "DKIBNPZ"},
+        {"cmdUvolKnofl", "mnuUvolnitVse", ""},
+    };
+    for (const auto& [tlacitko, nabidka, zbyva] : radky)
+        for (const char* prikaz : {tlacitko, nabidka}) {
+            naplnDesku();
+            ASSERT_EQ(s(stav()), "DKIBNPOZ");
+            EXPECT_TRUE(uvolneni.proved(prikaz));
+            EXPECT_EQ(s(stav()), zbyva) << prikaz;
+            EXPECT_FALSE(prstoklad.odeber().isEmpty()) << prikaz;
+        }
+}
+
+TEST_F(UvolneniTest, StepsRunInTheirOrder) {
+    const std::vector<std::vector<int>> kroky{{1, 2, 3, 5, 6, 7}, {4}, {5}, {6}, {7}, {1, 2, 3, 4, 5, 6, 7}};
+    ASSERT_EQ(prikazyUvolneni().size(), kroky.size());
+    for (std::size_t i = 0; i < kroky.size(); ++i) {
+        std::vector<int> skutecne;
+        for (const auto krok : prikazyUvolneni()[i].kroky)
+            skutecne.push_back(static_cast<int>(krok));
+        EXPECT_EQ(skutecne, kroky[i]) << s(prikazyUvolneni()[i].tlacitko);
+    }
+}
+
+TEST_F(UvolneniTest, OtherCommandsAreRefused) {
+    naplnDesku();
+    EXPECT_FALSE(uvolneni.proved("cmdTah"));
+    EXPECT_FALSE(uvolneni.proved(""));
+    EXPECT_EQ(s(stav()), "DKIBNPOZ");
+}
+
+TEST_F(UvolneniTest, ReleasedBoardsHaveTheirColoursAndCaptionsBack) {
+    naplnDesku();
+    diskant.nastavNazvy(true, QStringLiteral("C dur"));
+    diskant.nastavPopis(2, QStringLiteral("1\r\nf,"));
+    uvolneni.uvolniVse();
+    for (int n = 1; n <= pocetKnofliku; ++n) {
+        EXPECT_EQ(diskant.barvaKlavesy(n), jePulton(n) ? BarvaKlavesy::WindowText : BarvaKlavesy::CaptionText)
+            << n;
+        EXPECT_EQ(s(diskant.tonKlavesy(n)), "") << n;
+    }
+    EXPECT_EQ(s(diskant.popis(2)), "f,");
+}
+
+TEST_F(UvolneniTest, ABrownButtonGoesBackToWhatItsMarkSays) {
+    for (const int n : {2, 5}) {
+        diskant.ukaz(n, StavKnofliku::Hnedy);
+        diskant.nastavBarvuKlavesy(n, BarvaKlavesy::Hneda);
+    }
+    diskant.nastavZnacku(5, true);
+    diskant.ukaz(8, StavKnofliku::Tah);
+    uvolneni.UvolniIntervaly();
+    EXPECT_EQ(diskant.stav(2), StavKnofliku::Volny);
+    EXPECT_EQ(diskant.barvaKlavesy(2), BarvaKlavesy::CaptionText);
+    EXPECT_EQ(diskant.stav(5), StavKnofliku::Cerveny);
+    EXPECT_EQ(diskant.stavPomocneho(5), StavKnofliku::Cerveny);
+    EXPECT_EQ(diskant.barvaKlavesy(5), BarvaKlavesy::Cervena);
+    EXPECT_EQ(diskant.stav(8), StavKnofliku::Tah);
+}
+
+TEST_F(UvolneniTest, AfterReleasingAllThereIsNothingToRecord) {
+    oznacTony({1, 9});
+    oznacBasy({30});
+    uvolneni.uvolniVse();
+    zapis.cmdTah();
+    EXPECT_EQ(s(excel->text("I1")), "");
+    EXPECT_EQ(s(excel->activeAddress()), "$B$1");
+}
+
+} // namespace
+} // namespace zvonika

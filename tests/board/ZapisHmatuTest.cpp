@@ -1,0 +1,222 @@
+#include "platform/Contact.h"
+#include "tests/board/ZapisovaniFixture.h"
+
+namespace zvonika {
+namespace {
+
+using testing::s;
+
+class ZapisHmatuTest : public testing::Zapisovani {};
+
+TEST_F(ZapisHmatuTest, AGripFillsItsRowAndTheCursorGoesOn) {
+    zvolToninu("C dur");
+    oznacTony({16, 9, 13});
+    oznacBasy({50, 30});
+    pridejPrst(9, "1");
+    zapis.cmdTah();
+
+    EXPECT_EQ(s(bunky(1, u'A', u'W')), "- c1, e1, g1, - - - - Tah - - - C C-dur - - - - - - - l9;1\\ C dur");
+    EXPECT_EQ(s(excel->activeAddress()), "$B$2");
+    EXPECT_EQ(s(panel.lblTon), "2");
+    EXPECT_EQ(panel.zapsanychHmatu, 1);
+    EXPECT_EQ(s(prstoklad.prstoklad()), "");
+    EXPECT_EQ(zobrazeni.volani, QStringList({"obnovRadek", "obnovPas"}));
+    for (const int n : {9, 13, 16})
+        EXPECT_TRUE(diskant.oznacen(n));
+    EXPECT_TRUE(basy.oznacen(30) && basy.oznacen(50));
+}
+
+TEST_F(ZapisHmatuTest, TheButtonGivesTheDirection) {
+    oznacTony({1});
+    EXPECT_FALSE(zapis.mechTlak());
+    zapis.cmdTlak();
+    EXPECT_TRUE(zapis.mechTlak());
+    zapis.cmdTah();
+    EXPECT_FALSE(zapis.mechTlak());
+    EXPECT_EQ(s(excel->text("I1")), "Tlak");
+    EXPECT_EQ(s(excel->text("I2")), "Tah");
+    EXPECT_EQ(panel.zapsanychHmatu, 2);
+}
+
+TEST_F(ZapisHmatuTest, ColumnWHoldsTheCaptionOfTheKeyButton) {
+    const struct {
+        const char *cmdStupnice, *sloupecW;
+    } radky[] = {
+        {"Vyberte tóninu", "Vyberte tóninu"}, {"G dur", "G dur"}, {"Vyberte stupnici", ""}, {"", ""}};
+    oznacTony({1});
+    for (const auto& [cmdStupnice, sloupecW] : radky) {
+        excel->selectRange("B3");
+        excel->put("W3", "F dur");
+        tonina.nastavStupnici(Key(QString::fromUtf8(cmdStupnice)));
+        zapis.cmdTah();
+        EXPECT_EQ(s(excel->text("W3")), sloupecW) << cmdStupnice;
+    }
+}
+
+TEST_F(ZapisHmatuTest, TonesAreSpelledInTheKeyAndTheCaptionStaysAsItIs) {
+    const struct {
+        const char *stupnice, *tony;
+    } radky[] = {
+        {"D dur", "fis, ais, c1, -"}, {"Ges dur", "ges, b, c1, -"}, {"Vyberte tóninu", "fis, ais, c1, -"}};
+    oznacTony({3, 7, 9});
+    for (const auto& [stupnice, tony] : radky) {
+        excel->selectRange("B1");
+        zvolToninu(QString::fromUtf8(stupnice));
+        zapis.cmdTah();
+        EXPECT_EQ(s(bunky(1, u'B', u'E')), tony);
+        EXPECT_EQ(s(tonina.stupnice().text()), stupnice);
+    }
+}
+
+TEST_F(ZapisHmatuTest, RecordingOverAGripLeavesNothingOfItButForeignColumns) {
+    for (QChar sloupec = u'A'; sloupec <= u'X'; sloupec = QChar(sloupec.unicode() + 1))
+        excel->put(sloupec + QStringLiteral("1"), QStringLiteral("stary"));
+    oznacTony({1});
+    oznacBasy({34});
+    zapis.cmdTlak();
+    EXPECT_EQ(s(bunky(1, u'A', u'L')), "stary e, - - - - - - Tlak stary stary stary");
+    EXPECT_EQ(s(bunky(1, u'M', u'X')), "E - - - - - - - stary - Vyberte tóninu stary");
+}
+
+TEST_F(ZapisHmatuTest, EightFingersWriteTheSevenLowestWithOneMessage) {
+    oznacTony({49, 2, 4, 6, 8, 9, 11, 13, 48});
+    dialogs.expect(
+        "Diagnóza mnohoprstost.",
+        "Páč asi nemáte více než sedm prstů na pravé ruce, program se Vám na zápis dalších knoflíků se "
+        "vší úctou u tohoto hmatu vykašle. Sťěžovat si můžete u " +
+            kontakt);
+    zapis.cmdTah();
+    EXPECT_EQ(dialogs.last.icon, Icon::Critical);
+    EXPECT_EQ(s(bunky(1, u'B', u'I')), "f, g, a, h, c1, d1, e1, Tah");
+    EXPECT_EQ(s(excel->activeAddress()), "$B$2");
+}
+
+TEST_F(ZapisHmatuTest, ExactlySevenOfBothNeedNoMessage) {
+    oznacTony({1, 2, 4, 6, 8, 9, 11});
+    oznacBasy({21, 22, 23, 24, 25, 26, 27});
+    zapis.cmdTah();
+    EXPECT_EQ(dialogs.count, 0);
+    EXPECT_EQ(s(bunky(1, u'M', u'T')), "Heses Fes Ces Ges Des As Es -");
+}
+
+TEST_F(ZapisHmatuTest, TheEighthBassIsDroppedWithItsMessage) {
+    oznacTony({1});
+    oznacBasy({120, 30, 31, 32, 33, 34, 35, 36, 10});
+    dialogs.expect("Sdělení pro mutanty.", kontakt);
+    zapis.cmdTah();
+    EXPECT_EQ(s(bunky(1, u'M', u'T')), "E/C C G D A E H -");
+    EXPECT_EQ(s(excel->text("I1")), "Tah");
+}
+
+TEST_F(ZapisHmatuTest, AnEmptyGripOnlyEmptiesItsRow) {
+    for (const char* bunka : {"B2", "H2", "I2", "M2", "T2", "V2", "W2"})
+        excel->put(bunka, "stary");
+    excel->selectRange("D2");
+    pridejPrst(3, "5");
+    zapis.cmdTah();
+    EXPECT_EQ(s(bunky(2, u'B', u'W')), "- - - - - - - - - - - - - - - - - - - - stary Vyberte tóninu");
+    EXPECT_EQ(s(excel->activeAddress()), "$B$2");
+    EXPECT_EQ(s(prstoklad.prstoklad()), "l3;5\\");
+    EXPECT_EQ(panel.zapsanychHmatu, 0);
+    EXPECT_TRUE(zobrazeni.volani.isEmpty());
+    EXPECT_EQ(dialogs.count, 0);
+}
+
+TEST_F(ZapisHmatuTest, BassesAloneMakeAGrip) {
+    oznacBasy({30});
+    zapis.cmdTlak();
+    EXPECT_EQ(s(bunky(1, u'B', u'M')), "- - - - - - - Tlak - - - C");
+    EXPECT_EQ(s(excel->activeAddress()), "$B$2");
+}
+
+TEST_F(ZapisHmatuTest, TheNextGripIsShownByItsDirection) {
+    const struct {
+        const char *smer, *volani;
+        BarvaKroku barva;
+    } radky[] = {{"Tlak", "cmdReadTlak", BarvaKroku::TlakPoZapisu},
+                 {"Tah", "cmdReadTah", BarvaKroku::Tah},
+                 {"tah", "obnovRadek", BarvaKroku::Neznamy},
+                 {"", "obnovRadek", BarvaKroku::Neznamy}};
+    oznacTony({1});
+    for (const auto& [smer, volani, barva] : radky) {
+        SCOPED_TRACE(smer);
+        excel->put("I6", smer);
+        excel->selectRange("B5");
+        zobrazeni.volani.clear();
+        panel.barvaKroku = BarvaKroku::Neznamy;
+        zapis.cmdTah();
+        EXPECT_EQ(s(zobrazeni.volani.first()), volani);
+        EXPECT_EQ(s(zobrazeni.volani.last()), "obnovPas");
+        EXPECT_EQ(panel.barvaKroku, barva);
+        EXPECT_TRUE(diskant.oznacen(1));
+    }
+}
+
+TEST_F(ZapisHmatuTest, TheWayBackIsOpenAndThePanelToldOnce) {
+    prikazy.povol("cmdPredchozi", false);
+    int zmen = 0;
+    QObject::connect(&panel, &SongPanel::zmeneno, &panel, [&] { ++zmen; });
+    oznacTony({1});
+    zapis.cmdTah();
+    EXPECT_TRUE(prikazy.povolen("cmdPredchozi"));
+    EXPECT_EQ(zmen, 1);
+}
+
+TEST_F(ZapisHmatuTest, WithoutABassTableTheTonesAreRecorded) {
+    tabulka = BassTable(QStringLiteral("/neni"));
+    oznacTony({1});
+    oznacBasy({30});
+    dialogs.expect("Bas nebyl zapsán !", "tonavox.xml nebyla ve složce programu nalezena.");
+    zapis.cmdTah();
+    EXPECT_EQ(s(bunky(1, u'B', u'M')), "e, - - - - - - Tah - - - -");
+
+    diskant.nastavZnacku(1, false); // basses without a name alone are no grip
+    dialogs.expect("Bas nebyl zapsán !", "zůstanou zachována");
+    zapis.cmdTah();
+    EXPECT_EQ(s(excel->activeAddress()), "$B$2");
+}
+
+TEST_F(ZapisHmatuTest, AnotherWorkbookInFrontIsLeftAlone) {
+    oznacTony({1});
+    excel->addWorkbook();
+    zapis.cmdTah();
+    EXPECT_EQ(s(excel->activeWorkbookName()), s(pisen.aktualniPisen));
+    EXPECT_EQ(s(excel->text("B1")), "e,");
+}
+
+TEST_F(ZapisHmatuTest, FailuresReachTheCaller) {
+    oznacTony({1});
+    const struct {
+        const char* operace;
+        int cislo;
+    } radky[] = {{"activateWindow", 9}, {"writeBlock", 1004}, {"setValue", 91}, {"moveCursor", 1004}};
+    for (const auto& [operace, cislo] : radky) {
+        excel->fail(operace, cislo);
+        try {
+            zapis.cmdTah();
+            ADD_FAILURE() << operace;
+        } catch (const AutomationError& chyba) {
+            EXPECT_EQ(chyba.number(), cislo);
+        }
+    }
+    EXPECT_EQ(panel.zapsanychHmatu, 0);
+}
+
+TEST_F(ZapisHmatuTest, AFailedGripKeepsItsFingering) {
+    oznacTony({1});
+    pridejPrst(1, "1");
+    excel->fail("writeBlock", error::applicationDefined);
+    EXPECT_THROW(zapis.cmdTah(), AutomationError);
+    EXPECT_EQ(s(prstoklad.prstoklad()), "l1;1\\");
+}
+
+TEST_F(ZapisHmatuTest, AGripCostsFewCallsHoweverManyTonesItHas) {
+    oznacTony({1, 2, 4, 6, 8, 9, 11});
+    oznacBasy({21, 22, 23, 24, 25, 26, 27});
+    excel->journal.clear();
+    zapis.cmdTah();
+    EXPECT_LE(excel->journal.size(), 16) << s(excel->journal.join(u' '));
+}
+
+} // namespace
+} // namespace zvonika

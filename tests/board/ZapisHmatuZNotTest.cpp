@@ -1,0 +1,102 @@
+#include "tests/board/ZapisovaniFixture.h"
+
+namespace zvonika {
+namespace {
+
+using testing::s;
+
+class ZapisHmatuZNotTest : public testing::Zapisovani {
+protected:
+    void polozTony(const std::vector<int>& tony) {
+        for (const int ton : tony)
+            ASSERT_TRUE(noty.pridejTon(CisloTonu(ton), tonina.stupnice()));
+    }
+    void serad() {
+        RadekZapisu radek(pisen);
+        ZapisHmatuZNot::SeradTonyHmatu(radek);
+    }
+};
+
+TEST_F(ZapisHmatuZNotTest, NotesAreWrittenFromTheLowestToneUp) {
+    zvolToninu("F dur");
+    polozTony({49, 7, 16, 9, 13}); // F dur writes its highest tone as its lowest
+    oznacBasy({29});
+    pridejPrst(7, "1");
+    zapisZNot.cmdTlakNoty();
+    EXPECT_EQ(s(bunky(1, u'B', u'M')), "e, b, c1, e1, g1, - - Tlak - - - F");
+    EXPECT_EQ(s(bunky(1, u'V', u'W')), "l7;1\\ F dur");
+    EXPECT_EQ(s(excel->activeAddress()), "$B$2");
+    EXPECT_EQ(s(panel.lblTon), "2");
+    EXPECT_EQ(panel.zapsanychHmatu, 0); // only grips from the board are counted
+    EXPECT_EQ(s(prstoklad.prstoklad()), "");
+    EXPECT_EQ(zobrazeni.volani, QStringList({"obnovRadek", "obnovPas"}));
+    EXPECT_TRUE(osnova.nota(4));
+}
+
+TEST_F(ZapisHmatuZNotTest, AnEmptyStaffStillRecordsItsDirection) {
+    excel->put("B1", "stary");
+    excel->put("I2", "Tah");
+    zapisZNot.cmdTahNoty();
+    EXPECT_EQ(s(bunky(1, u'B', u'I')), "- - - - - - - Tah");
+    EXPECT_EQ(s(excel->activeAddress()), "$B$2");
+    EXPECT_EQ(s(zobrazeni.volani.first()), "cmdReadTah");
+    EXPECT_EQ(panel.barvaKroku, BarvaKroku::Tah);
+}
+
+TEST_F(ZapisHmatuZNotTest, EmptySlotsAreSkippedAndMarksOfTheBoardIgnored) {
+    polozTony({1, 9, 13});
+    noty.odeberNotu(1);
+    oznacTony({40});
+    zapisZNot.cmdTahNoty();
+    EXPECT_EQ(s(bunky(1, u'B', u'E')), "e, e1, - -");
+}
+
+TEST_F(ZapisHmatuZNotTest, ANoteThatIsNoToneEndsTheRecordingAtOnce) {
+    zvolToninu("C dur");
+    osnova.polozNotu(0, {{Znamenko::Zadne, 420}, CisloTonu(9)});
+    osnova.polozNotu(1, {{Znamenko::Zadne, 0}, CisloTonu::neznamy()});
+    osnova.polozNotu(2, {{Znamenko::Zadne, 540}, CisloTonu(13)});
+    for (const char* bunka : {"C1", "I1", "M1", "V1"})
+        excel->put(bunka, "stary");
+    pridejPrst(9, "1");
+    oznacBasy({30});
+    dialogs.expect("Chyba programu",
+                   "Nota není platná pro zvoniku. Nebude zapsána a procedura bude předčasně "
+                   "ukončena. Upozorněte prosím na tuto chybu autora programu.");
+    zapisZNot.cmdTahNoty();
+    EXPECT_EQ(dialogs.last.icon, Icon::Critical);
+    EXPECT_EQ(s(bunky(1, u'B', u'M')), "c1, - - - - - - - - - - stary");
+    EXPECT_EQ(s(bunky(1, u'V', u'W')), "stary C dur");
+    EXPECT_EQ(s(prstoklad.prstoklad()), "l9;1\\");
+    EXPECT_EQ(s(excel->activeAddress()), "$B$1");
+    EXPECT_TRUE(zobrazeni.volani.isEmpty());
+}
+
+TEST_F(ZapisHmatuZNotTest, TonesOfARowAreSortedByTheirNumber) {
+    const struct {
+        QStringList tony;
+        const char* vysledek;
+    } radky[] = {
+        {{"e1,", "c1,", "h,", "b,"}, "b, h, c1, e1, - - -"},
+        {{"e,"}, "e, - - - - - -"},
+        {{"des1,", "cis1,", "c1,"}, "c1, des1, cis1, - - - -"}, // equal tones keep their order
+        {{"e1,", "nic", "c1,"}, "c1, e1, c1, - - - -"},         // foreign text is not written back
+        {{"e1,", "", "c1,"}, "e1, - c1, - - - -"},              // up to the first empty cell
+    };
+    for (const auto& [tony, vysledek] : radky) {
+        excel->clearContents("B1:H1");
+        for (qsizetype i = 0; i < tony.size(); ++i)
+            excel->put(QChar(static_cast<char16_t>(u'B' + i)) + QStringLiteral("1"), tony.at(i));
+        serad();
+        EXPECT_EQ(s(bunky(1, u'B', u'H')), vysledek);
+    }
+}
+
+TEST_F(ZapisHmatuZNotTest, SortingAnEmptyRowWritesNothing) {
+    excel->put("I1", "Tah");
+    serad();
+    EXPECT_EQ(excel->calls("writeBlock"), 0);
+}
+
+} // namespace
+} // namespace zvonika

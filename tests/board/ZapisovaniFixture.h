@@ -1,0 +1,91 @@
+#pragma once
+
+#include "board/KlikDiskantu.h"
+#include "board/Uvolneni.h"
+#include "board/ZapisHmatu.h"
+#include "board/ZapisHmatuZNot.h"
+#include "song/ZobrazovaciOsnova.h"
+#include "tests/support/FakeSpreadsheet.h"
+#include "tests/support/ScriptedDialogs.h"
+#include "theory/NotovaOsnova.h"
+#include "theory/clsNotyZapis.h"
+
+#include <gtest/gtest.h>
+
+namespace zvonika::testing {
+
+/// Notes what recording asks of the display.
+class FakeZobrazeniPisne : public ZobrazeniPisne {
+public:
+    void cmdReadTah() override { volani << QStringLiteral("cmdReadTah"); }
+    void cmdReadTlak() override { volani << QStringLiteral("cmdReadTlak"); }
+    void obnovRadek() override { volani << QStringLiteral("obnovRadek"); }
+    void obnovPas() override { volani << QStringLiteral("obnovPas"); }
+
+    QStringList volani;
+};
+
+/// The input board with an open song, its cursor on B1.
+class Zapisovani : public ::testing::Test {
+protected:
+    Zapisovani() {
+        auto aplikace = std::make_unique<FakeSpreadsheet>();
+        excel = aplikace.get();
+        excel->addWorkbook();
+        pisen.aktualniPisen = excel->activeWorkbookName();
+        pisen.aplikaceExcel = std::move(aplikace);
+        excel->selectRange(QStringLiteral("B1"));
+    }
+
+    void oznacTony(const std::vector<int>& knofliky) {
+        for (const int n : knofliky)
+            diskant.nastavZnacku(n, true);
+    }
+    void oznacBasy(const std::vector<int>& knofliky) {
+        for (const int bas : knofliky)
+            basy.klik(bas);
+    }
+    void pridejPrst(int n, const QString& prst) {
+        dialogs.expectInput(QStringLiteral("Označení prstokladu"), prst);
+        prstoklad.dvojklikLbl(n);
+    }
+    void zvolToninu(const QString& stupnice) {
+        tonina.nastavStupnici(Key(stupnice));
+        noty.NastavStupnici(Key(stupnice));
+    }
+    /// The texts of a row's cells, joined; empty cells are dashes.
+    QString bunky(int radek, QChar prvni, QChar posledni) {
+        QStringList texty;
+        for (QChar sloupec = prvni; sloupec <= posledni; sloupec = QChar(sloupec.unicode() + 1)) {
+            const QString text = excel->text(sloupec + QString::number(radek));
+            texty << (text.isEmpty() ? QStringLiteral("-") : text);
+        }
+        return texty.join(u' ');
+    }
+
+    ScriptedDialogs dialogs;
+    Pisen pisen;
+    FakeSpreadsheet* excel = nullptr;
+    SongPanel panel;
+    CommandStates prikazy;
+    TrebleBoard diskant;
+    BassBoard basy;
+    Tonina tonina;
+    NotovaOsnova osnova;
+    ZobrazovaciOsnova zobrazovaci;
+    FakeZobrazeniPisne zobrazeni;
+    clsNotyZapis noty{osnova, dialogs};
+    Prstoklad prstoklad{dialogs};
+    BassTable tabulka{QStringLiteral(ZVONIKA_RESOURCES)};
+    ZapisBasu zapisBasu{basy, tabulka, dialogs};
+    PoZapisu poZapisu{pisen, panel, prikazy, zobrazeni};
+    OkoliZapisu okoli{pisen, dialogs, prstoklad, zapisBasu, poZapisu, tonina};
+    ZapisHmatu zapis{okoli, diskant};
+    ZapisHmatuZNot zapisZNot{okoli, osnova, noty};
+};
+
+inline std::string s(const QString& text) {
+    return text.toStdString();
+}
+
+} // namespace zvonika::testing
