@@ -35,8 +35,7 @@ Konverzace::Konverzace(Modely& modely, const Prostredi& prostredi, std::function
       ukonceniExcelu(modely.pisen, prostredi.dialogs) {}
 
 OkoliZapisu Konverzace::okoliZapisu() {
-    return {modely_.pisen, dialogs_, prstoklad,
-            zapisBasu,     poZapisu, [&modely = modely_] { return modely.tonina.stupnice().text(); }};
+    return {modely_.pisen, dialogs_, prstoklad, zapisBasu, poZapisu, modely_.tonina};
 }
 
 } // namespace zvonika
