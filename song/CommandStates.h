@@ -14,7 +14,9 @@ class CommandStates : public QObject {
 public:
     using QObject::QObject;
 
-    bool povolen(const QString& prikaz) const { return !zakazane_.contains(prikaz) && !zamcene_.contains(prikaz); }
+    bool povolen(const QString& prikaz) const {
+        return !zakazane_.contains(prikaz) && !zamcene_.contains(prikaz);
+    }
     void povol(const QString& prikaz, bool povolit = true);
     /// Disables a command for good: `povol` does not reach it any more.
     void zamkni(const QString& prikaz);

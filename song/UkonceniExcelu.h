@@ -15,6 +15,7 @@ class UkonceniExcelu {
 public:
     UkonceniExcelu(Pisen& pisen, Dialogs& dialogs) : pisen_(pisen), dialogs_(dialogs) {}
 
+    /// Does nothing when there is no application.
     void UkonciExcel();
 
 private:
