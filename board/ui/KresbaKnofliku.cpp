@@ -97,7 +97,7 @@ void nakresliHmat(QPainter& painter, const QRectF& lic, const PodobaPrvku& podob
         for (qreal x = lic.left() - v; x < lic.right(); x += v * 0.3)
             painter.drawLine(QPointF(x, lic.bottom()), QPointF(x + v, lic.top()));
     } else {
-        painter.setBrush(Qt::NoBrush);
+        painter.setBrush(QColor(0, 0, 0, 34));
         painter.drawRoundedRect(zuzeny(lic, v * 0.14), v * 0.36, v * 0.36);
         painter.setPen(QPen(QColor(255, 255, 255, 150), std::max(0.8, v * 0.04)));
         painter.drawRoundedRect(zuzeny(lic, v * 0.2), v * 0.3, v * 0.3);

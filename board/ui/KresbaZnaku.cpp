@@ -24,7 +24,7 @@ void nakresliSipkuStavu(QPainter& painter, const QRectF& lic, const PodobaPrvku&
     const int smer = podoba.vyznam == VyznamPrvku::Tah ? -1 : 1;
     const qreal v = lic.height();
     if (!podoba.popsany)
-        return nakresliSipku(painter, lic.center() + QPointF(smer * v * 0.03, 0), v * 0.46, smer, barva);
+        return nakresliSipku(painter, lic.center() + QPointF(smer * v * 0.07, 0), v * 0.52, smer, barva);
     const qreal odKraje = podoba.tvar == TvarPrvku::Kolo ? v * 0.14 : v * 0.36;
     const qreal x = smer < 0 ? lic.left() + odKraje : lic.right() - odKraje;
     nakresliSipku(painter, QPointF(x, lic.center().y()), v * (podoba.tvar == TvarPrvku::Kolo ? 0.26 : 0.46),
@@ -46,7 +46,7 @@ void nakresliTerc(QPainter& painter, const QRectF& lic, const PodobaPrvku& podob
 
 void nakresliCtverec(QPainter& painter, const QRectF& lic, const PodobaPrvku& podoba, const QColor& barva) {
     const qreal v = lic.height();
-    const qreal strana = v * (podoba.popsany ? 0.66 : 0.4); // the larger one is a plate under the caption
+    const qreal strana = v * (podoba.popsany ? 0.66 : 0.5); // the larger one is a plate under the caption
     const QRectF ctverec(lic.center() - QPointF(strana, strana) / 2, QSizeF(strana, strana));
     painter.setPen(QPen(barva, std::max(1.2, v * 0.07), Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter.setBrush(barva);

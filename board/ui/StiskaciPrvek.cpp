@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -33,10 +34,22 @@ void StiskaciPrvek::vlozDoOstrova(std::shared_ptr<OstrovFokusu> ostrov) {
 void StiskaciPrvek::prevezmi(const PodobaPrvku& podoba, bool oznacen) {
     if (podoba.vyznam != podoba_.vyznam || oznacen != isChecked())
         setAccessibleDescription(slovyStav(podoba.vyznam, oznacen));
-    setChecked(oznacen);
+    nastavZaskrtnuti(oznacen);
     if (podoba == podoba_) return;
     podoba_ = podoba;
     update();
+}
+
+void StiskaciPrvek::nastavZaskrtnuti(bool zaskrtnuty) {
+    const QScopedValueRollback<bool> zModelu(prebira_, true);
+    setChecked(zaskrtnuty);
+}
+
+void StiskaciPrvek::checkStateSet() {
+    if (prebira_) return;
+    // Assistive technology toggles by setting the state; here that is a click, and the model decides.
+    nastavZaskrtnuti(!isChecked());
+    click();
 }
 
 void StiskaciPrvek::kresliObraz(QPainter& painter, const QRect& misto) {

@@ -42,12 +42,16 @@ protected:
     void keyReleaseEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void nextCheckState() override {}
+    void checkStateSet() override;
 
 private:
+    void nastavZaskrtnuti(bool zaskrtnuty);
+
     int cislo_;
     std::shared_ptr<ObrazyPrvku> obrazy_;
     std::shared_ptr<OstrovFokusu> ostrov_;
     PodobaPrvku podoba_;
+    bool prebira_ = false; ///< the checked state is being taken over from the model
 };
 
 /// "volný", "označený", "tah", "tlak" or "interval"; with "označený" behind when marked under another

@@ -1,0 +1,245 @@
+// What the parts show of the models, and that it can be told apart and read.
+
+#include "board/ui/KnoflikDiskantu.h"
+#include "board/ui/KresbaPrvku.h"
+#include "board/ui/Napis.h"
+#include "board/ui/ObrazyPrvku.h"
+#include "tests/board/ui/Sestava.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QImage>
+#include <QLabel>
+#include <QPainter>
+
+#include <cmath>
+#include <cstdlib>
+#include <gtest/gtest.h>
+
+using namespace zvonika;
+
+namespace {
+
+QString pristupne(Sestava& s, const char* jmeno) {
+    const QWidget* prvek = s.prvek(jmeno);
+    return prvek->accessibleName() + QStringLiteral(": ") + prvek->accessibleDescription();
+}
+
+bool zaskrtnuty(Sestava& s, const char* jmeno) {
+    return QAccessible::queryAccessibleInterface(s.prvek(jmeno))->state().checked;
+}
+
+TEST(Vzhled, jmenaAStavyProPomocneTechnologie) {
+    Sestava s;
+    EXPECT_EQ(pristupne(s, "lbl(12)"), QStringLiteral("Knoflík 12, dis1: volný"));
+    EXPECT_EQ(pristupne(s, "lblSynchro(49)"), QStringLiteral("Pomocný knoflík 49, e4: volný"));
+    EXPECT_EQ(pristupne(s, "cmdKlavesa(1)"), QStringLiteral("Klávesa 1, e: volný"));
+    EXPECT_EQ(pristupne(s, "ImgBas(30)"), QStringLiteral("Bas 30, C: volný"));
+    EXPECT_EQ(s.prvek("lbl(12)")->toolTip(), QStringLiteral("dis1"));
+
+    const std::pair<StavKnofliku, const char*> stavy[] = {{StavKnofliku::Cerveny, "označený"},
+                                                          {StavKnofliku::Tah, "tah"},
+                                                          {StavKnofliku::Tlak, "tlak"},
+                                                          {StavKnofliku::Hnedy, "interval"},
+                                                          {StavKnofliku::Volny, "volný"}};
+    for (const auto& [stav, slovo] : stavy) {
+        s.diskant.ukaz(13, stav);
+        EXPECT_TRUE(pristupne(s, "lbl(13)").endsWith(QString::fromUtf8(slovo)));
+        EXPECT_TRUE(pristupne(s, "lblSynchro(13)").endsWith(QString::fromUtf8(slovo)));
+        EXPECT_FALSE(zaskrtnuty(s, "lbl(13)")) << "a picture is no mark";
+    }
+    s.diskant.ukaz(13, StavKnofliku::Tah);
+    s.diskant.nastavZnacku(13, true);
+    EXPECT_TRUE(zaskrtnuty(s, "lbl(13)") && zaskrtnuty(s, "lblSynchro(13)"));
+    EXPECT_TRUE(pristupne(s, "lbl(13)").endsWith(QStringLiteral("tah, označený")));
+
+    s.basy.klik(26);
+    s.diskant.nastavBarvuKlavesy(28, BarvaKlavesy::Cervena);
+    EXPECT_TRUE(zaskrtnuty(s, "ImgBas(26)") && zaskrtnuty(s, "cmdKlavesa(28)"));
+    s.basy.ukaz(26, StavBasu::Tlak);
+    EXPECT_EQ(s.prvek("ImgBas(26)")->accessibleDescription(), QStringLiteral("tlak, označený"));
+}
+
+TEST(Vzhled, vsechnyPrvkyJsouNaMiste) {
+    Sestava s;
+    int diskant = 0, pomocne = 0, klavesy = 0, tony = 0, cisla = 0, basy = 0;
+    for (const QWidget* prvek : s.scena.findChildren<QWidget*>()) {
+        const QString jmeno = prvek->objectName();
+        diskant += jmeno.startsWith(QStringLiteral("lbl("));
+        pomocne += jmeno.startsWith(QStringLiteral("lblSynchro("));
+        klavesy += jmeno.startsWith(QStringLiteral("cmdKlavesa("));
+        tony += jmeno.startsWith(QStringLiteral("lblTonKlav("));
+        cisla += jmeno.startsWith(QStringLiteral("lblCisKnofl("));
+        basy += jmeno.startsWith(QStringLiteral("ImgBas("));
+    }
+    EXPECT_EQ((std::array{diskant, pomocne, klavesy, tony, cisla, basy}),
+              (std::array{49, 32, 49, 49, 32, 120}));
+    EXPECT_FALSE(s.prvek("lblSynchro(3)"));
+    EXPECT_EQ(s.prvek("lbl(1)")->geometry(), QRect(400, 648, 41, 41));
+    EXPECT_EQ(s.prvek("cmdKlavesa(49)")->pos(), QPoint(648, 208));
+    EXPECT_EQ(s.scena.childAt(s.prvek("cmdKlavesa(3)")->geometry().center()), s.prvek("cmdKlavesa(3)"))
+        << "accidentals lie on top";
+}
+
+TEST(Vzhled, cislaKnofliku) {
+    Sestava s;
+    auto* cislo = s.prvek<QLabel>("lblCisKnofl(12)");
+    EXPECT_TRUE(cislo->isHidden());
+    EXPECT_EQ(cislo->text(), QStringLiteral("4"));
+    EXPECT_EQ(cislo->y(), (9480 - 12 * 600) / 15);
+    s.diskant.nastavCislovani(true);
+    s.diskant.nastavObraceneCislovani(true);
+    EXPECT_FALSE(cislo->isHidden());
+    EXPECT_EQ(cislo->y(), (7440 - 12 * 600) / 15);
+    s.diskant.nastavCislovani(false);
+    EXPECT_TRUE(cislo->isHidden());
+}
+
+TEST(Vzhled, popisyATonyKlaves) {
+    Sestava s;
+    s.diskant.nastavPopis(5, QStringLiteral("3\r\n2\r\ngis,"));
+    EXPECT_EQ(s.prvek<KnoflikDiskantu>("lbl(5)")->popis(), QStringLiteral("3\r\n2\r\ngis,"));
+    EXPECT_TRUE(s.prvek<KnoflikDiskantu>("lbl(6)")->popis().isEmpty());
+    s.diskant.nastavTonKlavesy(5, QStringLiteral("gis,"));
+    EXPECT_EQ(s.prvek<QLabel>("lblTonKlav(5)")->text(), QStringLiteral("gis,"));
+    s.diskant.vyprazdniTonyKlaves();
+    EXPECT_TRUE(s.prvek<QLabel>("lblTonKlav(5)")->text().isEmpty());
+}
+
+TEST(Vzhled, zmenaPrekresliJenSvujPrvek) {
+    Sestava s;
+    s.scena.show();
+    QApplication::processEvents();
+    struct Pocitadlo : QObject {
+        bool eventFilter(QObject* kdo, QEvent* co) override {
+            if (co->type() == QEvent::Paint) kresleni << kdo->objectName();
+            return false;
+        }
+        QStringList kresleni;
+    } pocitadlo;
+    for (QWidget* prvek : s.scena.findChildren<QWidget*>())
+        prvek->installEventFilter(&pocitadlo);
+    s.diskant.ukazHlavni(18, StavKnofliku::Tah);
+    QApplication::processEvents();
+    EXPECT_TRUE(pocitadlo.kresleni.contains(QStringLiteral("lbl(18)")));
+    EXPECT_LE(pocitadlo.kresleni.size(), 10)
+        << "itself, the wood and the neighbours whose corners it overlaps";
+    pocitadlo.kresleni.clear();
+    s.diskant.ukazHlavni(18, StavKnofliku::Tah);
+    s.basy.uvolniBasy();
+    QApplication::processEvents();
+    EXPECT_TRUE(pocitadlo.kresleni.isEmpty()) << pocitadlo.kresleni.join(u' ').toStdString();
+}
+
+QImage obraz(VyznamPrvku vyznam, bool tmavy, bool popsany, TvarPrvku tvar) {
+    PodobaPrvku podoba;
+    podoba.tvar = tvar;
+    podoba.vyznam = vyznam;
+    podoba.tmavy = tmavy;
+    podoba.popsany = popsany;
+    QImage plocha(tvar == TvarPrvku::Kolo ? QSize(34, 34) : QSize(34, 17),
+                  QImage::Format_ARGB32_Premultiplied);
+    plocha.fill(QColor(112, 74, 48));
+    QPainter painter(&plocha);
+    nakresliKnoflik(painter, QRectF(plocha.rect()), podoba);
+    painter.end();
+    return plocha.convertToFormat(QImage::Format_Grayscale8);
+}
+
+/// Share of the pixels that differ clearly in lightness alone.
+double rozdil(const QImage& a, const QImage& b) {
+    int ruznych = 0;
+    for (int y = 0; y < a.height(); ++y)
+        for (int x = 0; x < a.width(); ++x)
+            ruznych += std::abs(qGray(a.pixel(x, y)) - qGray(b.pixel(x, y))) > 60;
+    return double(ruznych) / (a.width() * a.height());
+}
+
+/// Mirrored left to right about the picture's axis.
+double nesoumernost(const QImage& a) {
+    return rozdil(a, a.mirrored(true, false));
+}
+
+TEST(Vzhled, stavySeLisiIBezBarev) {
+    constexpr VyznamPrvku vyznamy[] = {VyznamPrvku::Volny, VyznamPrvku::Oznaceny, VyznamPrvku::Tah,
+                                       VyznamPrvku::Tlak, VyznamPrvku::Interval};
+    for (const TvarPrvku tvar : {TvarPrvku::Kolo, TvarPrvku::Pilulka})
+        for (const bool popsany : {false, true})
+            for (const bool tmavy : {false, true})
+                for (const VyznamPrvku a : vyznamy)
+                    for (const VyznamPrvku b : vyznamy)
+                        if (a < b) {
+                            EXPECT_GT(rozdil(obraz(a, tmavy, popsany, tvar), obraz(b, tmavy, popsany, tvar)),
+                                      0.03)
+                                << int(a) << " " << int(b) << (tmavy ? " tmavy" : "")
+                                << (popsany ? " popsany" : "");
+                        }
+    for (const VyznamPrvku smer : {VyznamPrvku::Tah, VyznamPrvku::Tlak})
+        EXPECT_GT(nesoumernost(obraz(smer, false, true, TvarPrvku::Kolo)), 0.03) << "arrows point to a side";
+}
+
+/// Contrast of two colours as accessibility guidelines count it, 1 to 21.
+double kontrast(const QColor& a, const QColor& b) {
+    const auto jas = [](const QColor& c) {
+        const auto slozka = [](double v) {
+            return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * slozka(c.redF()) + 0.7152 * slozka(c.greenF()) + 0.0722 * slozka(c.blueF());
+    };
+    const double svetlejsi = std::max(jas(a), jas(b)), tmavsi = std::min(jas(a), jas(b));
+    return (svetlejsi + 0.05) / (tmavsi + 0.05);
+}
+
+TEST(Vzhled, napisyMajiKontrast) {
+    for (int v = 0; v <= static_cast<int>(VyznamPrvku::Interval); ++v)
+        for (const bool tmavy : {false, true}) {
+            const BarvyPrvku barvy = barvyKnofliku(static_cast<VyznamPrvku>(v), tmavy);
+            EXPECT_GE(kontrast(barvy.lic, barvy.znak), 4.5) << v << tmavy;
+        }
+}
+
+TEST(Napis, jeVzdyCelyVeSvemMiste) {
+    const QSize mista[] = {{27, 11}, {28, 13}, {34, 16}, {24, 14}, {60, 26}};
+    for (const QSize& velikost : mista)
+        for (const char* text : {"cis1,", "gis3,", "Heses", "fisis2,", "3\r\ngis1,"}) {
+            QImage plocha(velikost + QSize(40, 40), QImage::Format_ARGB32_Premultiplied);
+            plocha.fill(Qt::transparent);
+            const QRect misto(QPoint(20, 20), velikost);
+            QPainter painter(&plocha);
+            Napis napis;
+            napis.nastav(QString::fromUtf8(text));
+            QFont pismo = QApplication::font();
+            pismo.setBold(true);
+            napis.kresli(painter, misto, pismo, Qt::black);
+            painter.end();
+            int venku = 0, uvnitr = 0;
+            for (int y = 0; y < plocha.height(); ++y)
+                for (int x = 0; x < plocha.width(); ++x)
+                    if (qAlpha(plocha.pixel(x, y)) > 128) ++(misto.contains(x, y) ? uvnitr : venku);
+            EXPECT_GT(uvnitr, 10) << text;
+            EXPECT_EQ(venku, 0) << text << " in " << velikost.width() << "x" << velikost.height() << " at "
+                                << napis.velikostPisma() << " px";
+        }
+}
+
+TEST(ObrazyPrvku, stejnaPodobaSeKresliJednou) {
+    ObrazyPrvku obrazy;
+    QImage plocha(100, 100, QImage::Format_ARGB32_Premultiplied);
+    const auto kresli = [&](const PodobaPrvku& podoba, qreal dpr) {
+        plocha.setDevicePixelRatio(dpr);
+        QPainter painter(&plocha);
+        obrazy.kresli(painter, {}, podoba);
+        return obrazy.pocet();
+    };
+    PodobaPrvku podoba;
+    podoba.velikost = {20, 20};
+    EXPECT_EQ(kresli(podoba, 1), 1);
+    EXPECT_EQ(kresli(podoba, 1), 1);
+    EXPECT_EQ(kresli(podoba, 2), 2);
+    podoba.tmavy = true;
+    EXPECT_EQ(kresli(podoba, 2), 3);
+    podoba.velikost = {20, 21};
+    EXPECT_EQ(kresli(podoba, 2), 4);
+}
+
+} // namespace
