@@ -4,9 +4,9 @@
 #include "board/ui/Hmatnik.h"
 #include "song/ui/PanelTextu.h"
 #include "song/ui/PasWidget.h"
+#include "song/ui/ZobrazovaciOsnovaWidget.h"
 #include "theory/ui/FrmStupnice.h"
 #include "theory/ui/ZapisovaciOsnova.h"
-#include "theory/ui/ZobrazovaciOsnovaWidget.h"
 
 #include <QAbstractButton>
 #include <QMenuBar>
@@ -54,8 +54,7 @@ void Program::postavOsnovy() {
     QWidget* scena = okno_->centralWidget();
     auto* pas = new PasWidget(modely_.pas, scena);
     okno_->umisti(pas, {7560, 60, 8380, 2920});
-    okno_->umisti(new ZobrazovaciOsnovaWidget(modely_.zobrazovaciOsnova, scena),
-                  {7560, 3060, 1620, 2150});
+    okno_->umisti(new ZobrazovaciOsnovaWidget(modely_.zobrazovaciOsnova, scena), {7560, 3060, 1620, 2150});
     auto* zapis = new ZapisovaciOsnova(modely_.zapisovaciOsnova, konverzace_.notyZapis, scena);
     okno_->umisti(zapis, {12060, 3060, 3880, 2240});
     okno_->umisti(new PanelTextu(modely_.panel, scena), {60, 8100, 3720, 2240});

@@ -69,7 +69,7 @@ struct Sestava::Casti {
 
     std::unique_ptr<SheetView> oknoTabulky(SheetCommands& prikazy) {
         auto okno = std::make_unique<SheetWindow>(prikazy);
-        okno->f6Pressed = [this] { program.prejdiNaHlavniOkno(); };
+        QObject::connect(okno.get(), &SheetWindow::f6Pressed, &program, &Program::prejdiNaHlavniOkno);
         umisti(*okno, okna.tabulka);
         return okno;
     }
