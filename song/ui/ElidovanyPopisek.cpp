@@ -38,6 +38,11 @@ void ElidovanyPopisek::nastavVelikost(double nejvice, double nejmene) {
     prizpusob();
 }
 
+void ElidovanyPopisek::nastavDvaRadky() {
+    dvaRadky_ = true;
+    prizpusob();
+}
+
 void ElidovanyPopisek::resizeEvent(QResizeEvent* event) {
     QLabel::resizeEvent(event);
     prizpusob();
@@ -55,16 +60,20 @@ void ElidovanyPopisek::prizpusob() {
     int velikost = std::max(nejmene, static_cast<int>(std::lround(zaklad * nejvice_)));
     pismo_ = font();
     pismo_.setBold(tucne);
-    const auto vejdeSe = [&] {
-        pismo_.setPixelSize(velikost);
-        const QFontMetrics mira(pismo_);
-        return mira.horizontalAdvance(text()) <= width() && mira.height() <= height() + 2;
-    };
-    while (!vejdeSe() && velikost > nejmene)
+    while (!vejdeSe(velikost) && velikost > nejmene)
         --velikost;
-    zkraceny_ = QFontMetrics(pismo_).elidedText(text(), Qt::ElideRight, width());
+    zkraceny_ = vejdeSe(velikost) ? text() : QFontMetrics(pismo_).elidedText(text(), Qt::ElideRight, width());
     setToolTip(zkraceny_ == text() ? QString() : text());
     update();
+}
+
+bool ElidovanyPopisek::vejdeSe(int velikost) {
+    pismo_.setPixelSize(velikost);
+    const QFontMetrics mira(pismo_);
+    if (mira.height() > height() + 2) return false;
+    if (mira.horizontalAdvance(text()) <= width()) return true;
+    return dvaRadky_ &&
+           rect().size().expandedTo(mira.boundingRect(rect(), Qt::TextWordWrap, text()).size()) == size();
 }
 
 void ElidovanyPopisek::paintEvent(QPaintEvent*) {
@@ -72,7 +81,9 @@ void ElidovanyPopisek::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setFont(pismo_);
     painter.setPen(barva_.isValid() ? barva_ : palette().color(QPalette::WindowText));
-    painter.drawText(rect(), static_cast<int>(alignment()) | Qt::TextSingleLine, zkraceny_);
+    painter.drawText(rect(),
+                     static_cast<int>(alignment()) | (dvaRadky_ ? Qt::TextWordWrap : Qt::TextSingleLine),
+                     zkraceny_);
 }
 
 } // namespace zvonika

@@ -28,7 +28,7 @@ PanelTextu::PanelTextu(SongPanel& panel, QWidget* parent)
     setAccessibleName(QStringLiteral("Texty hmatu"));
     for (int i = 0; i < static_cast<int>(lblSlabika_.size()); ++i) {
         auto* slabika = new ElidovanyPopisek(QStringLiteral("lblSlabika(%1)").arg(i), this);
-        slabika->nastavVelikost(i == soucasna ? 1.7 : 1, i == soucasna ? 0.9 : 0.75);
+        slabika->nastavVelikost(i == soucasna ? 1.6 : 1, i == soucasna ? 0.9 : 0.75);
         slabika->nastavTucne(i == soucasna);
         slabika->nastavBarvu(i == soucasna ? barvyOsnovy::inkoust : okolniSlabika);
         lblSlabika_[static_cast<std::size_t>(i)] = slabika;
@@ -45,6 +45,7 @@ PanelTextu::PanelTextu(SongPanel& panel, QWidget* parent)
         obsah->nastavVelikost(1.08, 0.72);
         obsah->nastavBarvu(barvyOsnovy::inkoust);
     }
+    lblTony_->nastavDvaRadky();
     lblStupnice_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     connect(&panel_, &SongPanel::zmeneno, this, &PanelTextu::prevezmiZmenu);
     prevezmiZmenu();
@@ -61,21 +62,23 @@ void PanelTextu::prevezmiZmenu() {
 }
 
 int PanelTextu::vyskaSlabik() const {
-    return height() * 38 / 100;
+    return height() * 34 / 100;
 }
 
 void PanelTextu::resizeEvent(QResizeEvent*) {
     rozmistiSlabiky({okraj, 2, width() - 2 * okraj, vyskaSlabik() - 3});
     const int nahore = vyskaSlabik() + 2;
-    const int radek = (height() - nahore - 3) / 3;
-    rozmistiRadek(lblPopisD_, lblTony_, {okraj, nahore, width() - 2 * okraj, radek});
-    rozmistiRadek(lblPopisB_, lblBasy_, {okraj, nahore + radek, width() - 2 * okraj, radek});
-    lblStupnice_->setGeometry(okraj, nahore + 2 * radek, width() - 2 * okraj, radek);
+    // Seven tones with their signs need two lines.
+    const int radek = (height() - nahore - 3) / 4;
+    const int sirka = width() - 2 * okraj;
+    rozmistiRadek(lblPopisD_, lblTony_, {okraj, nahore, sirka, 2 * radek});
+    rozmistiRadek(lblPopisB_, lblBasy_, {okraj, nahore + 2 * radek, sirka, radek});
+    lblStupnice_->setGeometry(okraj, nahore + 3 * radek, sirka, radek);
 }
 
 void PanelTextu::rozmistiSlabiky(const QRect& misto) {
-    // The middle one gets twice the room of its neighbours.
-    const int dil = misto.width() / 6;
+    // The middle one gets three times the room of its neighbours.
+    const int dil = misto.width() / 7;
     int vlevo = misto.left();
     for (int i = 0; i < static_cast<int>(lblSlabika_.size()); ++i) {
         const int sirka = i == soucasna ? misto.width() - 4 * dil : dil;

@@ -19,6 +19,7 @@ namespace {
 constexpr double krajKlice = 0.4; ///< staff spaces before and behind the clef
 constexpr double sirkaPozice =
     3.2; ///< staff spaces that a position needs: a head, a second beside it, a sign
+constexpr double podilSipky = 0.62; ///< of the height of the number row
 constexpr QColor zvyrazneni{255, 237, 196};
 constexpr QColor zvyrazneniOkraj{240, 205, 130};
 constexpr QColor soucasnaSlabika{255, 0, 0};
@@ -30,14 +31,14 @@ constexpr QColor tlak{170, 0, 170};
 /// "<" for pull, ">" for push, in the middle of `misto`.
 void kresliSmer(QPainter& painter, const QRectF& misto, SmerMechu smer) {
     if (smer == SmerMechu::Neuveden) return;
-    const double vyska = misto.height() * 0.30;
-    const double sirka = (smer == SmerMechu::Tah ? -1 : 1) * misto.height() * 0.20;
+    const double vyska = misto.height() * 0.26;
+    const double sirka = (smer == SmerMechu::Tah ? -1 : 1) * misto.height() * 0.16;
     const QPointF stred = misto.center();
     QPainterPath sipka;
     sipka.moveTo(stred + QPointF(-sirka, -vyska));
     sipka.lineTo(stred + QPointF(sirka, 0));
     sipka.lineTo(stred + QPointF(-sirka, vyska));
-    painter.setPen(QPen(smer == SmerMechu::Tah ? tah : tlak, std::max(1.5, misto.height() * 0.15),
+    painter.setPen(QPen(smer == SmerMechu::Tah ? tah : tlak, std::max(1.5, misto.height() * 0.13),
                         Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.setBrush(Qt::NoBrush);
     painter.drawPath(sipka);
@@ -60,7 +61,6 @@ PasWidget::PasWidget(Pas& pas, QWidget* parent) : QWidget(parent), pas_(pas) {
     for (int i = 1; i <= delkaPasu; ++i) {
         auto* slabika = new ElidovanyPopisek(QStringLiteral("lblSlabika2(%1)").arg(i), this);
         slabika->nastavVelikost(1, 0.72);
-        slabika->setAttribute(Qt::WA_TransparentForMouseEvents, false);
         slabiky_[static_cast<std::size_t>(i - 1)] = slabika;
     }
     connect(&pas_, &Pas::zmeneno, this, &PasWidget::prevezmiObsah);
@@ -181,19 +181,26 @@ void PasWidget::kresliObsah() {
     }
 }
 
+/// One size for all numbers, so that the longest leaves room for the arrow beside it.
+QFont PasWidget::pismoCisel() const {
+    const double vyska = vyskaHlavicky(*this);
+    const double misto = sloupec(1).width() - vyska * podilSipky - 5;
+    QFont pismo = font();
+    pismo.setPixelSize(std::max(7, static_cast<int>(vyska * 0.72)));
+    const QString nejdelsi(QString::number(pas_.prvniRadekPasu + delkaPasu - 1).size(), u'8');
+    if (const double sirka = QFontMetricsF(pismo).horizontalAdvance(nejdelsi); sirka > misto)
+        pismo.setPixelSize(std::max(5, static_cast<int>(pismo.pixelSize() * misto / sirka)));
+    return pismo;
+}
+
 void PasWidget::kresliHlavicku(QPainter& painter, int pozice) const {
     const QRectF sloup(sloupec(pozice));
     painter.fillRect(QRectF(sloup.left(), 5, 1, height() - 10), predel);
     const double vyska = vyskaHlavicky(*this);
     const QString cislo = QString::number(pas_.prvniRadekPasu + pozice - 1);
-    QFont pismo = font();
-    pismo.setPixelSize(std::max(7, static_cast<int>(vyska * 0.72)));
-    const double sipka = vyska * 0.8;
-    if (const double text = QFontMetricsF(pismo).horizontalAdvance(cislo); text > sloup.width() - sipka - 4)
-        pismo.setPixelSize(
-            std::max(5, static_cast<int>(pismo.pixelSize() * (sloup.width() - sipka - 4) / text)));
+    const double sipka = vyska * podilSipky;
     const QRectF misto(sloup.left() + 3, 3, sloup.width() - 5, vyska);
-    painter.setFont(pismo);
+    painter.setFont(pismoCisel());
     painter.setPen(cisloRadku);
     painter.drawText(misto, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, cislo);
     kresliSmer(painter, {misto.right() - sipka, misto.top(), sipka, vyska},

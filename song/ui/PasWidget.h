@@ -42,6 +42,7 @@ private:
     void zvyrazni(int pozice, bool soucasna);
     QString popis(int pozice) const;
     void kresliObsah();
+    QFont pismoCisel() const;
     void kresliHlavicku(QPainter& painter, int pozice) const;
 
     Pas& pas_;

@@ -67,7 +67,8 @@ void ZobrazovaciOsnovaWidget::paintEvent(QPaintEvent*) {
     kresba.linky(4, width() - 4);
     kresba.klic(2 + kraj * mirka.mezera);
     kresba.predznamenani(2 + (2 * kraj + OsnovaPainter::sirkaKlice) * mirka.mezera, predznamenani_);
-    kresba.akordDoMista(2 + (hlava + kraj / 2) * mirka.mezera, width() - 4, akord_, barvyOsnovy::inkoust);
+    kresba.akordDoMista(2 + (hlava + kraj / 2) * mirka.mezera, width() - 2 - kraj * mirka.mezera, akord_,
+                        barvyOsnovy::inkoust);
 }
 
 } // namespace zvonika

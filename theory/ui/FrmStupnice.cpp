@@ -76,7 +76,7 @@ void FrmStupnice::pridejVolbu(QGridLayout& mrizka, int i) {
     auto* volba = new QRadioButton(tonina.nazev.toString());
     volba->setObjectName(QStringLiteral("optStupnice(%1)").arg(i));
     const double zvetseni = fontInfo().pixelSize() / double(zaklad);
-    const QSize obraz(static_cast<int>(84 * zvetseni), static_cast<int>(36 * zvetseni));
+    const QSize obraz(static_cast<int>(92 * zvetseni), static_cast<int>(41 * zvetseni));
     volba->setIconSize(obraz);
     volba->setIcon(obrazPredznamenani(Predznamenani(tonina.key()), obraz, devicePixelRatioF()));
     optStupnice_->addButton(volba, i);

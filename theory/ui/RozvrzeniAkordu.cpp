@@ -7,9 +7,9 @@ namespace zvonika {
 namespace {
 
 constexpr double pulHlavicky = 0.66;
-constexpr double sloupecHlavicek = 1.22;
-constexpr double sloupecZnamenek = 1.12;
-constexpr double mezeraPredHlavickou = 0.2;
+constexpr double sloupecHlavicek = 1.2;
+constexpr double sloupecZnamenek = 1.06;
+constexpr double mezeraPredHlavickou = 0.16;
 /// Heads nearer than a third touch.
 constexpr int tercie = 2 * PolohaNoty::jednotekNaStupen;
 
