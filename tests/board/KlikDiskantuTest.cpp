@@ -161,6 +161,18 @@ TEST_F(KlikDiskantuTest, ARefusedNoteLeavesBoardAndStaff) {
     ocekavejVolny(10);
 }
 
+TEST_F(KlikDiskantuTest, MovingANoteAsksNothingAboutTheOthers) {
+    zvolToninu("C dur");
+    dialogs.expect(mimoStupnici, "cis1,", Answer::Yes);
+    klik.klik(10);
+    zapisNoty.pridejNotu(540);
+    zapisNoty.posunNotu(1, 600);
+    EXPECT_EQ(dialogs.count, 1);
+    EXPECT_EQ(osnova.slotTonu(CisloTonu(10)), 0);
+    ocekavejOznaceny(10, "cis1,");
+    ocekavejOznaceny(14, "f1,");
+}
+
 TEST_F(KlikDiskantuTest, AMarkedButtonWhoseNoteIsEnteredKeepsItsMark) {
     klik.klik(9);
     osnova.odeberNoty();
