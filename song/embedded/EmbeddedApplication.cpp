@@ -108,10 +108,10 @@ void EmbeddedApplication::addWorkbook() {
 
 QString EmbeddedApplication::nativeFile(const QString& fullName) const {
     if (fullName.isEmpty()) refuse(QStringLiteral("Chybí jméno souboru."));
-    const QString path = isFullName(fullName) ? fullName : defaultFilePath_ + QLatin1Char('\\') + fullName;
-    const QString native = drive_.nativePath(path);
-    if (native.isEmpty()) refuse(driveMissing(path));
-    return native;
+    const bool full = isFullName(fullName);
+    const QString native = full ? drive_.nativePath(fullName) : session_.folder();
+    if (native.isEmpty()) refuse(driveMissing(full ? fullName : defaultFilePath_));
+    return full ? native : native + QLatin1Char('/') + fullName;
 }
 
 void EmbeddedApplication::openWorkbook(const QString& fullName) {

@@ -37,6 +37,8 @@ QString FileLock::lockName(const QString& nativePath) {
 }
 
 FileLock FileLock::acquire(const QString& nativePath) {
+    // Such a name is no file's; QLockFile would cut it at the NUL and lock something else.
+    if (nativePath.contains(QChar(u'\0'))) return {};
     auto lock = std::make_unique<QLockFile>(lockName(nativePath));
     lock->setStaleLockTime(0); // a song may stay open for days; only a dead process makes a lock stale
     FileLock result;

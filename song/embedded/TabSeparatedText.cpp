@@ -35,7 +35,11 @@ private:
         return cells;
     }
 
-    QString cell() { return skip(quote) ? quoted() + plain() : plain(); }
+    QString cell() {
+        QString result;
+        if (skip(quote)) result = quoted();
+        return result += plain();
+    }
 
     QString quoted() {
         QString result;

@@ -1,0 +1,360 @@
+#pragma once
+
+// The contract that every spreadsheet application behind the port keeps. A back end's test program includes
+// this file once and instantiates the suite:
+//
+//     INSTANTIATE_TEST_SUITE_P(Embedded, SpreadsheetContract,
+//                              ::testing::Values(SpreadsheetRigFactory{"embedded", makeEmbeddedRig}));
+
+#include "song/SpreadsheetApplication.h"
+
+#include <QFileInfo>
+
+#include <functional>
+#include <gtest/gtest.h>
+#include <memory>
+#include <ostream>
+
+namespace zvonika::testing {
+
+/// What the suite needs of a back end beside the port.
+class SpreadsheetRig {
+public:
+    virtual ~SpreadsheetRig() = default;
+    /// A new instance; the rig outlives it. All instances of a rig share the default folder.
+    virtual std::unique_ptr<SpreadsheetApplication> launch() = 0;
+    /// A native folder that exists, may be written and is empty at first.
+    virtual QString folder() const = 0;
+    /// The user's answer to the next file choice; nothing for Cancel.
+    virtual void willChoose(const std::optional<QString>& file) = 0;
+    virtual void userClosesWorkbook(SpreadsheetApplication& application) = 0;
+    virtual void userQuits(SpreadsheetApplication& application) = 0;
+};
+
+/// A back end under test, by its name.
+struct SpreadsheetRigFactory {
+    const char* name;
+    std::unique_ptr<SpreadsheetRig> (*make)();
+    friend std::ostream& operator<<(std::ostream& out, const SpreadsheetRigFactory& factory) {
+        return out << factory.name;
+    }
+};
+
+/// The number that `call` raises; 0 when it succeeds.
+template <typename Call>
+int raised(Call call) {
+    try {
+        call();
+        return 0;
+    } catch (const AutomationError& failure) {
+        return failure.number();
+    }
+}
+
+/// Every operation that needs a workbook, with its name in messages.
+struct NamedCall {
+    const char* name;
+    std::function<void(SpreadsheetApplication&)> call;
+};
+
+inline const std::vector<NamedCall>& callsOnWorkbook() {
+    using App = SpreadsheetApplication;
+    static const std::vector<NamedCall> calls{
+        {"saveActiveWorkbookAs", [](App& app) { app.saveActiveWorkbookAs({QStringLiteral("x")}); }},
+        {"saveActiveWorkbook", [](App& app) { app.saveActiveWorkbook(); }},
+        {"closeActiveWorkbook", [](App& app) { app.closeActiveWorkbook(); }},
+        {"activeSheetName", [](App& app) { app.activeSheetName(); }},
+        {"renameActiveSheet", [](App& app) { app.renameActiveSheet(QStringLiteral("x")); }},
+        {"activeSheetIndex", [](App& app) { app.activeSheetIndex(); }},
+        {"sheetCount", [](App& app) { app.sheetCount(); }},
+        {"selectSheet", [](App& app) { app.selectSheet(1); }},
+        {"selectSheet by name", [](App& app) { app.selectSheet(QStringLiteral("x")); }},
+        {"selectNextSheet", [](App& app) { app.selectNextSheet(); }},
+        {"selectRange", [](App& app) { app.selectRange(QStringLiteral("B1")); }},
+        {"value", [](App& app) { app.value(QStringLiteral("B1")); }},
+        {"setValue", [](App& app) { app.setValue(QStringLiteral("B1"), 1.0); }},
+        {"activeCellValue", [](App& app) { app.activeCellValue(); }},
+        {"setActiveCellValue", [](App& app) { app.setActiveCellValue(1.0); }},
+        {"activeRow", [](App& app) { app.activeRow(); }},
+        {"activeAddress", [](App& app) { app.activeAddress(); }},
+        {"moveCursor", [](App& app) { app.moveCursor(1, 0); }},
+        {"clearContents", [](App& app) { app.clearContents(QStringLiteral("B1")); }},
+        {"findAndActivate", [](App& app) { app.findAndActivate({}); }},
+        {"copyRange", [](App& app) { app.copyRange(QStringLiteral("B1")); }},
+        {"paste", [](App& app) { app.paste(); }},
+        {"readBlock", [](App& app) { app.readBlock(QStringLiteral("B1:C2")); }},
+        {"writeBlock", [](App& app) { app.writeBlock(QStringLiteral("B1"), {{1.0}}); }},
+    };
+    return calls;
+}
+
+class SpreadsheetContract : public ::testing::TestWithParam<SpreadsheetRigFactory> {
+protected:
+    SpreadsheetContract() : rig(GetParam().make()), owned_(rig->launch()), app(*owned_) {}
+
+    QString file(const QString& name) const { return rig->folder() + QLatin1Char('/') + name; }
+    void addSaved(const QString& name) {
+        app.addWorkbook();
+        app.saveActiveWorkbookAs({file(name)});
+    }
+    QString text(const QString& address) const { return cellText(app.value(address)); }
+    void put(const QString& address, const QString& text) { app.setValue(address, CellValue(text)); }
+
+    std::unique_ptr<SpreadsheetRig> rig;
+
+private:
+    std::unique_ptr<SpreadsheetApplication> owned_;
+
+protected:
+    SpreadsheetApplication& app;
+};
+
+TEST_P(SpreadsheetContract, WithoutAWorkbookTheNameIsEmptyAndEverythingElseRaises) {
+    EXPECT_EQ(app.activeWorkbookName(), QString());
+    EXPECT_EQ(raised([&] { app.activateWindow(QString()); }), 9);
+    EXPECT_EQ(raised([&] { app.activateWindow(QStringLiteral("pisen.xls")); }), 9);
+    for (const auto& [name, call] : callsOnWorkbook())
+        EXPECT_EQ(raised([&] { call(app); }), 91) << name;
+}
+
+TEST_P(SpreadsheetContract, AfterTheUserHasQuitEverythingRaises91) {
+    addSaved(QStringLiteral("pisen.xls"));
+    rig->userQuits(app);
+    for (const auto& [name, call] : callsOnWorkbook())
+        EXPECT_EQ(raised([&] { call(app); }), 91) << name;
+    EXPECT_EQ(raised([&] { app.activeWorkbookName(); }), 91);
+    EXPECT_EQ(raised([&] { app.activateWindow(QStringLiteral("pisen.xls")); }), 91);
+    EXPECT_EQ(raised([&] { app.addWorkbook(); }), 91);
+    EXPECT_EQ(raised([&] { app.openWorkbook(file(QStringLiteral("pisen.xls"))); }), 91);
+    EXPECT_EQ(raised([&] { app.setVisible(true); }), 91);
+    EXPECT_EQ(raised([&] { app.quit(); }), 91);
+    EXPECT_EQ(raised([&] { app.quit(); }), 0);
+    EXPECT_EQ(raised([&] { app.setDefaultFilePath(rig->folder()); }), 0);
+}
+
+TEST_P(SpreadsheetContract, TheDefaultFolderOutlivesQuitAndReachesTheNextInstance) {
+    const QString before = app.defaultFilePath();
+    app.setDefaultFilePath(rig->folder());
+    app.addWorkbook();
+    app.quit();
+    EXPECT_EQ(app.defaultFilePath(), rig->folder());
+    auto next = rig->launch();
+    EXPECT_EQ(next->defaultFilePath(), rig->folder());
+    next->quit();
+    next->setDefaultFilePath(before);
+    EXPECT_EQ(rig->launch()->defaultFilePath(), before);
+}
+
+TEST_P(SpreadsheetContract, AWorkbookThatTheUserClosedIsNoWindowAnyMore) {
+    addSaved(QStringLiteral("pisen.xls"));
+    rig->userClosesWorkbook(app);
+    EXPECT_EQ(raised([&] { app.activateWindow(QStringLiteral("pisen.xls")); }), 9);
+    EXPECT_EQ(app.activeWorkbookName(), QString());
+    EXPECT_EQ(raised([&] { app.saveActiveWorkbook(); }), 91);
+    app.addWorkbook();
+    EXPECT_EQ(app.sheetCount(), 1);
+}
+
+TEST_P(SpreadsheetContract, WorkbooksComeToTheFrontByTheirFileName) {
+    addSaved(QStringLiteral("jedna.xls"));
+    addSaved(QStringLiteral("dva.xls"));
+    EXPECT_EQ(app.activeWorkbookName(), QStringLiteral("dva.xls"));
+    app.activateWindow(QStringLiteral("jedna.xls"));
+    put(QStringLiteral("B1"), QStringLiteral("c"));
+    EXPECT_EQ(app.activeWorkbookName(), QStringLiteral("jedna.xls"));
+    app.closeActiveWorkbook();
+    EXPECT_EQ(app.activeWorkbookName(), QStringLiteral("dva.xls"));
+    EXPECT_EQ(text(QStringLiteral("B1")), QString());
+}
+
+TEST_P(SpreadsheetContract, SavedWorkbooksOpenWithCellsSheetAndCursor) {
+    addSaved(QStringLiteral("pisen.xls"));
+    app.renameActiveSheet(QStringLiteral("Tonavox XII"));
+    app.writeBlock(QStringLiteral("A1"),
+                   {{QStringLiteral("Koč"), 1.5, true}, {{}, QStringLiteral("fis,"), {}}});
+    app.selectRange(QStringLiteral("B2"));
+    app.saveActiveWorkbook();
+    app.closeActiveWorkbook();
+    app.openWorkbook(file(QStringLiteral("pisen.xls")));
+    EXPECT_EQ(app.activeWorkbookName(), QStringLiteral("pisen.xls"));
+    EXPECT_EQ(app.activeSheetName(), QStringLiteral("Tonavox XII"));
+    EXPECT_EQ(app.activeAddress(), QStringLiteral("$B$2"));
+    const CellBlock expected{{QStringLiteral("Koč"), 1.5, true}, {{}, QStringLiteral("fis,"), {}}};
+    EXPECT_EQ(app.readBlock(QStringLiteral("A1:C2")), expected);
+}
+
+TEST_P(SpreadsheetContract, ClosingThrowsAwayWhatWasNotSaved) {
+    addSaved(QStringLiteral("pisen.xls"));
+    put(QStringLiteral("B1"), QStringLiteral("c"));
+    app.closeActiveWorkbook();
+    app.openWorkbook(file(QStringLiteral("pisen.xls")));
+    EXPECT_EQ(text(QStringLiteral("B1")), QString());
+}
+
+TEST_P(SpreadsheetContract, BareNamesGoIntoTheDefaultFolderAndGetTheEnding) {
+    app.setDefaultFilePath(rig->folder());
+    const std::vector<std::pair<QString, QString>> names{
+        {QStringLiteral("Kočka D dur"), QStringLiteral("Kočka D dur.xls")},
+        {QStringLiteral("verze 1.2"), QStringLiteral("verze 1.2.xls")},
+        {QStringLiteral("celá.xls"), QStringLiteral("celá.xls")}};
+    app.addWorkbook();
+    for (const auto& [given, saved] : names) {
+        app.saveActiveWorkbookAs({given});
+        EXPECT_EQ(app.activeWorkbookName(), saved);
+        EXPECT_TRUE(QFileInfo(file(saved)).isFile()) << saved.toStdString();
+    }
+}
+
+TEST_P(SpreadsheetContract, RefusedFilesRaise1004AndLeaveTheWorkbookAsItIs) {
+    EXPECT_EQ(raised([&] { app.openWorkbook(file(QStringLiteral("není.xls"))); }), 1004);
+    EXPECT_EQ(app.activeWorkbookName(), QString());
+    addSaved(QStringLiteral("pisen.xls"));
+    put(QStringLiteral("B1"), QStringLiteral("c"));
+    EXPECT_EQ(raised([&] { app.saveActiveWorkbookAs({file(QStringLiteral("není/pisen.xls"))}); }), 1004);
+    EXPECT_EQ(app.activeWorkbookName(), QStringLiteral("pisen.xls"));
+    EXPECT_EQ(text(QStringLiteral("B1")), QStringLiteral("c"));
+}
+
+TEST_P(SpreadsheetContract, TheFileChoiceGivesANameOrNothing) {
+    const QString filter = QStringLiteral("Excel Files,*.xls"), title = QStringLiteral("Vyberte písničku");
+    rig->willChoose(file(QStringLiteral("pisen.xls")));
+    EXPECT_EQ(app.getOpenFilename(filter, title), file(QStringLiteral("pisen.xls")));
+    rig->willChoose({});
+    EXPECT_EQ(app.getOpenFilename(filter, title), std::nullopt);
+}
+
+TEST_P(SpreadsheetContract, SheetsAreNamedCountedAndWalked) {
+    app.addWorkbook();
+    EXPECT_EQ(app.sheetCount(), 1);
+    app.renameActiveSheet(QStringLiteral("Tonavox XII"));
+    app.selectSheet(QStringLiteral("Tonavox XII"));
+    app.selectSheet(1);
+    EXPECT_EQ(app.activeSheetIndex(), 1);
+    EXPECT_EQ(raised([&] { app.selectSheet(QStringLiteral("G dur")); }), 9);
+    EXPECT_EQ(raised([&] { app.selectSheet(2); }), 9);
+    EXPECT_EQ(raised([&] { app.selectSheet(0); }), 9);
+    EXPECT_EQ(raised([&] { app.selectNextSheet(); }), 91);
+    for (const char* name : {"", "a/b", "a:b", "a*b", "[a]", "12345678901234567890123456789012"})
+        EXPECT_EQ(raised([&] { app.renameActiveSheet(QString::fromUtf8(name)); }), 1004) << name;
+    EXPECT_EQ(app.activeSheetName(), QStringLiteral("Tonavox XII"));
+}
+
+TEST_P(SpreadsheetContract, CellsKeepTheirTypes) {
+    app.addWorkbook();
+    const CellValue values[] = {QStringLiteral("fis,"),           15.0, -0.25, true,
+                                QStringLiteral("l12;1\\s14;4\\"), {}};
+    for (const auto& value : values) {
+        app.setValue(QStringLiteral("C7"), value);
+        EXPECT_EQ(app.value(QStringLiteral("$C$7")), value);
+    }
+    app.setValue(QStringLiteral("C7"), QString());
+    EXPECT_TRUE(isEmpty(app.value(QStringLiteral("C7"))));
+    EXPECT_EQ(raised([&] { app.setValue(QStringLiteral("C7"), QString(32768, u'a')); }), 1004);
+}
+
+TEST_P(SpreadsheetContract, TheActiveCellIsReadWrittenAndMoved) {
+    app.addWorkbook();
+    EXPECT_EQ(app.activeAddress(), QStringLiteral("$A$1"));
+    app.selectRange(QStringLiteral("B3:D9"));
+    EXPECT_EQ(app.activeAddress(), QStringLiteral("$B$3"));
+    EXPECT_EQ(app.activeRow(), 3);
+    app.setActiveCellValue(QStringLiteral("c"));
+    EXPECT_EQ(cellText(app.activeCellValue()), QStringLiteral("c"));
+    EXPECT_EQ(text(QStringLiteral("C3")), QString());
+    app.moveCursor(1, 7);
+    EXPECT_EQ(app.activeAddress(), QStringLiteral("$I$4"));
+    EXPECT_EQ(raised([&] { app.moveCursor(-4, 0); }), 1004);
+    EXPECT_EQ(raised([&] { app.moveCursor(0, -9); }), 1004);
+    EXPECT_EQ(app.activeAddress(), QStringLiteral("$I$4"));
+    app.selectRange(QStringLiteral("IV65536"));
+    EXPECT_EQ(raised([&] { app.moveCursor(1, 0); }), 1004);
+    EXPECT_EQ(raised([&] { app.moveCursor(0, 1); }), 1004);
+}
+
+TEST_P(SpreadsheetContract, AddressesThatAreNoneRaise1004) {
+    app.addWorkbook();
+    for (const char* address : {"", "B", "7", "B0", "B65537", "IW1", "B1:", "B1;C2", "List1!B1", "B-1"}) {
+        const QString given = QString::fromUtf8(address);
+        EXPECT_EQ(raised([&] { app.selectRange(given); }), 1004) << address;
+        EXPECT_EQ(raised([&] { app.value(given); }), 1004) << address;
+        EXPECT_EQ(raised([&] { app.clearContents(given); }), 1004) << address;
+        EXPECT_EQ(raised([&] { app.writeBlock(given, {{1.0}}); }), 1004) << address;
+    }
+    EXPECT_EQ(raised([&] { app.writeBlock(QStringLiteral("IV1"), {{1.0, 2.0}}); }), 1004);
+    EXPECT_TRUE(isEmpty(app.value(QStringLiteral("IV1"))));
+}
+
+TEST_P(SpreadsheetContract, RangesAreFilledAndCleared) {
+    app.addWorkbook();
+    app.setValue(QStringLiteral("B1:C2"), 7.0);
+    app.clearContents(QStringLiteral("C1:D1"));
+    const CellBlock expected{{7.0, {}}, {7.0, 7.0}};
+    EXPECT_EQ(app.readBlock(QStringLiteral("B1:C2")), expected);
+    app.clearContents(QStringLiteral("B:C"));
+    EXPECT_EQ(app.readBlock(QStringLiteral("B1:B2")), (CellBlock{{{}}, {{}}}));
+}
+
+TEST_P(SpreadsheetContract, ARangeIsCopiedToTheSelection) {
+    app.addWorkbook();
+    app.writeBlock(QStringLiteral("M1"), {{QStringLiteral("C"), 15.0}, {{}, QStringLiteral("15")}});
+    put(QStringLiteral("M11"), QStringLiteral("a"));
+    app.copyRange(QStringLiteral("M1:N2"));
+    app.selectRange(QStringLiteral("M10"));
+    app.paste();
+    const CellBlock expected{{QStringLiteral("C"), 15.0}, {{}, QStringLiteral("15")}};
+    EXPECT_EQ(app.readBlock(QStringLiteral("M10:N11")), expected);
+}
+
+struct Search {
+    const char* selection;
+    FindArguments arguments;
+    const char* found; ///< nullptr: 91
+};
+
+TEST_P(SpreadsheetContract, FindGoesOnBehindTheActiveCellAndAroundTheSelection) {
+    app.addWorkbook();
+    app.writeBlock(QStringLiteral("B1"), {{QStringLiteral("c"), QStringLiteral("Ces")},
+                                          {QStringLiteral("d"), {}},
+                                          {QStringLiteral("c,"), QStringLiteral("c")},
+                                          {{}, 1.0}});
+    const QString c = QStringLiteral("c");
+    const Search searches[] = {{"B1:B500", {}, "$B$4"},
+                               {"B1:C4", {}, "$C$2"},
+                               {"B1:B3", {}, nullptr},
+                               {"B1:B4", {c}, "$B$3"},
+                               {"B1:B4", {c, -4163, 1}, "$B$1"},
+                               {"B1:C4", {c}, "$C$1"},
+                               {"B1:C4", {c, -4163, 2, 1, 1, true}, "$B$3"},
+                               {"B1:C4", {c, -4163, 2, 2}, "$B$3"},
+                               {"B1:C4", {c, -4163, 2, 1, 2}, "$C$3"},
+                               {"B1:C4", {QStringLiteral("x")}, nullptr}};
+    for (const auto& [selection, arguments, found] : searches) {
+        app.selectRange(QString::fromLatin1(selection));
+        const int number = raised([&] { app.findAndActivate(arguments); });
+        EXPECT_EQ(number, found ? 0 : 91) << selection;
+        EXPECT_EQ(app.activeAddress(), found ? QString::fromLatin1(found) : QStringLiteral("$B$1"))
+            << selection;
+    }
+}
+
+class ListenerCount : public SpreadsheetListener {
+public:
+    void cursorMoved() override { ++cursor; }
+    void cellsEdited() override { ++cells; }
+    int cursor = 0, cells = 0;
+};
+
+TEST_P(SpreadsheetContract, TheListenerHearsNothingOfTheProgram) {
+    ListenerCount heard;
+    app.setListener(&heard);
+    addSaved(QStringLiteral("pisen.xls"));
+    app.renameActiveSheet(QStringLiteral("Tonavox XII"));
+    app.writeBlock(QStringLiteral("A1"), {{1.0, 2.0}});
+    app.moveCursor(1, 1);
+    app.clearContents(QStringLiteral("A1"));
+    app.closeActiveWorkbook();
+    EXPECT_EQ(heard.cursor + heard.cells, 0);
+    app.setListener(nullptr);
+}
+
+} // namespace zvonika::testing

@@ -1,0 +1,135 @@
+#include "song/embedded/AtomicFile.h"
+
+#include "tests/song/embedded/Rig.h"
+
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+
+namespace zvonika::testing {
+
+namespace {
+
+/// Writes beyond `bytes` fail, as on a full disk.
+class SmallDisk {
+public:
+    explicit SmallDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+        ::getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit small{bytes, before_.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~SmallDisk() {
+        ::setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, handler_);
+    }
+    SmallDisk(const SmallDisk&) = delete;
+    SmallDisk& operator=(const SmallDisk&) = delete;
+
+private:
+    void (*handler_)(int);
+    rlimit before_{};
+};
+
+class AtomicFileTest : public ::testing::Test, protected World {
+protected:
+    void write(const QString& name, const QByteArray& bytes) const { writePath(path(name), bytes); }
+    static void writePath(const QString& path, const QByteArray& bytes) {
+        writeAtomically(path, {reinterpret_cast<const std::uint8_t*>(bytes.data()),
+                               static_cast<std::size_t>(bytes.size())});
+    }
+    int failure(const QString& path) const {
+        try {
+            writePath(path, QByteArray(100, 'n'));
+            return 0;
+        } catch (const std::system_error& error) {
+            return error.code().value();
+        }
+    }
+    struct stat info(const QString& name) const {
+        struct stat result {};
+        EXPECT_EQ(::lstat(QFile::encodeName(path(name)), &result), 0);
+        return result;
+    }
+    void link(const QString& target, const QString& name) const {
+        ASSERT_EQ(::symlink(QFile::encodeName(target), QFile::encodeName(path(name))), 0);
+    }
+
+    const QString song = QStringLiteral("píseň.xls");
+};
+
+} // namespace
+
+TEST_F(AtomicFileTest, CreatesByTheUsersMaskAndReplacesWithAllRights) {
+    const mode_t mask = ::umask(027);
+    write(song, "první");
+    ::umask(mask);
+    EXPECT_EQ(info(song).st_mode & 07777, 0640U);
+    ASSERT_EQ(::chmod(QFile::encodeName(path(song)), 0604), 0);
+    if (::geteuid() == 0) {
+        ASSERT_EQ(::chown(QFile::encodeName(path(song)), 12, 34), 0);
+    }
+    const auto before = info(song);
+    write(song, "druhá");
+    EXPECT_EQ(contents(path(song)), "druhá");
+    EXPECT_EQ(info(song).st_mode, before.st_mode);
+    EXPECT_EQ(info(song).st_uid, before.st_uid);
+    EXPECT_EQ(info(song).st_gid, before.st_gid);
+    EXPECT_NE(info(song).st_ino, before.st_ino) << "written in place";
+    EXPECT_EQ(files(), QStringList{song});
+}
+
+TEST_F(AtomicFileTest, FollowsLinksAndLeavesThem) {
+    ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("jinde")));
+    write(QStringLiteral("jinde/cíl.xls"), "stará");
+    link(QStringLiteral("jinde/cíl.xls"), QStringLiteral("a.xls"));
+    link(path(QStringLiteral("a.xls")), QStringLiteral("b.xls"));
+    link(QStringLiteral("jinde/nový.xls"), QStringLiteral("c.xls"));
+    write(QStringLiteral("b.xls"), "nová");
+    write(QStringLiteral("c.xls"), "vzniklá");
+    for (const char* name : {"a.xls", "b.xls", "c.xls"})
+        EXPECT_TRUE(S_ISLNK(info(QString::fromLatin1(name)).st_mode)) << name;
+    EXPECT_EQ(contents(path(QStringLiteral("jinde/cíl.xls"))), "nová");
+    EXPECT_EQ(contents(path(QStringLiteral("jinde/nový.xls"))), "vzniklá");
+}
+
+TEST_F(AtomicFileTest, FailsWithTheSystemsErrorAndLeavesEverythingAsItWas) {
+    ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("složka.xls")));
+    write(song, "stará");
+    link(QStringLiteral("kruh.xls"), QStringLiteral("kruh.xls"));
+    const QStringList before = files();
+    const std::pair<QString, int> cases[] = {
+        {path(QStringLiteral("není/x.xls")), ENOENT},
+        {path(QStringLiteral("složka.xls")), EISDIR},
+        {path(song + QStringLiteral("/x.xls")), ENOTDIR},
+        {path(QString(300, u'x')), ENAMETOOLONG},
+        {path(QStringLiteral("a") + QChar(u'\0') + QStringLiteral("b")), EILSEQ},
+        {path(QStringLiteral("kruh.xls")), ELOOP},
+        {QStringLiteral("/dev/full"), ENODEV},
+        {QStringLiteral("/proc/x.xls"), ENOENT}};
+    for (const auto& [target, number] : cases)
+        EXPECT_EQ(failure(target), number) << target.toStdString();
+    EXPECT_EQ(files(), before);
+}
+
+TEST_F(AtomicFileTest, AFullDiskLeavesTheOldFile) {
+    write(song, "stará");
+    {
+        const SmallDisk disk(64);
+        EXPECT_EQ(failure(path(song)), EFBIG);
+        EXPECT_EQ(failure(path(QStringLiteral("nová.xls"))), EFBIG);
+    }
+    EXPECT_EQ(contents(path(song)), "stará");
+    EXPECT_EQ(files(), QStringList{song});
+}
+
+TEST_F(AtomicFileTest, AWriteProtectedFileIsNotReplaced) {
+    if (::geteuid() == 0) GTEST_SKIP() << "nothing is write-protected for root";
+    write(song, "stará");
+    ASSERT_EQ(::chmod(QFile::encodeName(path(song)), 0444), 0);
+    EXPECT_EQ(failure(path(song)), EACCES);
+    EXPECT_EQ(contents(path(song)), "stará");
+}
+
+} // namespace zvonika::testing

@@ -1,0 +1,201 @@
+#include "song/embedded/Document.h"
+
+#include "tests/song/embedded/Rig.h"
+
+namespace zvonika::testing {
+
+namespace {
+
+const QString psani = QStringLiteral("Psaní");
+
+/// A document whose cells are read and written by address, as texts.
+class DocumentTest : public ::testing::Test {
+protected:
+    static CellPosition at(const char* address) { return parseAddress(QString::fromLatin1(address))->first; }
+    QString text(const char* address) const { return cellText(document.value(1, at(address))); }
+    void userTypes(const char* address, const char* typed) {
+        document.edit(1, at(address), {{QString::fromUtf8(typed)}}, psani);
+    }
+    void programWrites(const char* address, const char* written) {
+        document.write(1, at(address), {{QString::fromUtf8(written)}});
+    }
+    /// Column B from row 1 on, joined.
+    QString column() const {
+        QStringList texts;
+        for (const auto& row : document.block(1, {{1, 2}, {std::max(1, document.usedRows(1)), 2}}))
+            texts << cellText(row.first());
+        return texts.join(QLatin1Char(' '));
+    }
+    void fillColumn(const char* letters) {
+        for (int row = 1; letters[row - 1]; ++row)
+            document.write(1, {row, 2}, {{QString(QLatin1Char(letters[row - 1]))}});
+    }
+
+    QTemporaryDir folder;
+    Document document{QStringLiteral("Sešit1")};
+};
+
+} // namespace
+
+TEST_F(DocumentTest, UndoAndRedoExchangeValuesAndShowTheCells) {
+    userTypes("B2", "c");
+    userTypes("B2", "d");
+    document.edit(1, at("C5"), {{1.0, 2.0}, {3.0, 4.0}}, QStringLiteral("Vložení"));
+    EXPECT_EQ(document.undoLabel(), QStringLiteral("Vložení"));
+    document.select({1, 1});
+    ASSERT_TRUE(document.undo());
+    EXPECT_EQ(document.block(1, {at("C5"), at("D6")}), CellBlock({{{}, {}}, {{}, {}}}));
+    EXPECT_EQ(document.selection(), (Selection{{at("C5"), at("D6")}, at("C5")}));
+    EXPECT_TRUE(document.undo());
+    EXPECT_EQ(text("B2"), QStringLiteral("c"));
+    EXPECT_TRUE(document.undo());
+    EXPECT_EQ(text("B2"), QString());
+    EXPECT_FALSE(document.undo());
+    EXPECT_TRUE(document.redo());
+    EXPECT_TRUE(document.redo());
+    EXPECT_EQ(text("B2"), QStringLiteral("d"));
+    EXPECT_EQ(document.redoLabel(), QStringLiteral("Vložení"));
+    userTypes("B3", "e");
+    EXPECT_FALSE(document.redo());
+}
+
+TEST_F(DocumentTest, AnEditThatChangesNothingIsNoStep) {
+    EXPECT_FALSE(document.edit(1, at("B2"), {{QString()}}, psani));
+    userTypes("B2", "c");
+    EXPECT_FALSE(document.edit(1, at("B2"), {{QStringLiteral("c")}}, psani));
+    EXPECT_FALSE(document.editFill(1, *parseAddress(u"D:F"), {}, psani));
+    document.undo();
+    EXPECT_EQ(document.undoLabel(), QString());
+}
+
+TEST_F(DocumentTest, UndoNeverReachesWhatTheProgramHasWritten) {
+    document.edit(1, at("B5"), {{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}}, psani);
+    userTypes("A1", "Koč");
+    userTypes("B5", "x");
+    document.undo();
+    programWrites("B5", "x"); // the same text, but recorded: no longer the user's
+    document.fill(1, single(at("C5")), {});
+    document.undo();
+    EXPECT_EQ(text("A1"), QString());
+    document.undo();
+    EXPECT_EQ(document.block(1, {at("B5"), at("D5")}), CellBlock({{QStringLiteral("x"), {}, {}}}));
+    EXPECT_EQ(document.undoLabel(), QString());
+    document.redo();
+    document.redo();
+    EXPECT_EQ(document.block(1, {at("B5"), at("D5")}),
+              CellBlock({{QStringLiteral("x"), {}, QStringLiteral("c")}}));
+    EXPECT_EQ(document.redoLabel(), QString());
+}
+
+TEST_F(DocumentTest, RowsAreInsertedAndDeletedAndBack) {
+    fillColumn("abcd");
+    ASSERT_TRUE(document.insertRow(1, 2));
+    EXPECT_EQ(column(), QStringLiteral("a  b c d"));
+    ASSERT_TRUE(document.deleteRow(1, 4));
+    EXPECT_EQ(column(), QStringLiteral("a  b d"));
+    document.undo();
+    EXPECT_EQ(column(), QStringLiteral("a  b c d"));
+    document.undo();
+    EXPECT_EQ(column(), QStringLiteral("a b c d"));
+    document.redo();
+    document.redo();
+    EXPECT_EQ(column(), QStringLiteral("a  b d"));
+    EXPECT_FALSE(document.insertRow(1, 5));
+    EXPECT_FALSE(document.deleteRow(1, 5));
+}
+
+struct RowCase {
+    const char* name;
+    int writtenRow;     ///< where the program writes after the user's steps
+    const char* undone; ///< column B when everything is taken back
+    const char* redone; ///< and done again
+};
+
+TEST_F(DocumentTest, ARecordedGripMovesWithTheRowsThatAreTakenBack) {
+    const RowCase cases[] = {{"below", 4, "x b R d", "x  b R d"},
+                             {"above, on the typed cell", 1, "R b c d", "R  b c d"},
+                             {"in the inserted row", 2, "x R b c d", "x R b c d"}};
+    for (const auto& [name, row, undone, redone] : cases) {
+        SCOPED_TRACE(name);
+        document.fill(1, {{1, 1}, {9, 9}}, {});
+        fillColumn("abcd");
+        userTypes("B1", "x");
+        document.insertRow(1, 2);
+        document.write(1, {row, 2}, {{QStringLiteral("R")}});
+        while (document.undo()) {
+        }
+        EXPECT_EQ(column(),
+                  QString::fromLatin1(undone).replace(QLatin1Char('x'), QLatin1Char(row == 2 ? 'x' : 'a')));
+        while (document.redo()) {
+        }
+        EXPECT_EQ(column(), QString::fromLatin1(redone));
+    }
+}
+
+TEST_F(DocumentTest, ARecordedGripIsNotDeletedByRedo) {
+    fillColumn("abc");
+    document.deleteRow(1, 2);
+    document.undo();
+    programWrites("B2", "R");
+    EXPECT_FALSE(document.redo());
+    EXPECT_EQ(column(), QStringLiteral("a R c"));
+    document.deleteRow(1, 2);
+    document.undo();
+    programWrites("B3", "R");
+    EXPECT_TRUE(document.redo());
+    EXPECT_EQ(column(), QStringLiteral("a R"));
+}
+
+TEST_F(DocumentTest, RowsStayWhereALastRowWouldFallOff) {
+    document.write(1, {lastRow, 2}, {{QStringLiteral("z")}});
+    EXPECT_TRUE(
+        refusalOf([&] { document.insertRow(1, 5); }).startsWith(QStringLiteral("1004 Řádek nelze vložit")));
+    EXPECT_EQ(cellText(document.value(1, {lastRow, 2})), QStringLiteral("z"));
+}
+
+TEST_F(DocumentTest, BlocksThatDoNotFitAreRefusedWhole) {
+    EXPECT_EQ(refusalOf([&] {
+                  document.write(1, {lastRow, 2}, {{1.0}, {2.0}});
+              }),
+              QStringLiteral("1004 Údaje se na list od buňky $B$65536 nevejdou."));
+    EXPECT_TRUE(refusalOf([&] {
+                    document.edit(1, {1, 1}, {{1.0}, {QString(32768, u'a')}}, psani);
+                }).startsWith(QStringLiteral("1004 Text je příliš dlouhý")));
+    EXPECT_EQ(refusalOf([&] { document.editFill(1, *parseAddress(u"A:IV"), 1.0, psani); }),
+              QStringLiteral("1004 Oblast je příliš velká."));
+    EXPECT_EQ(document.usedRows(1), 0);
+    EXPECT_FALSE(document.isModified());
+}
+
+TEST_F(DocumentTest, SignalsTellOfChangesAndOnlyOfChanges) {
+    QSignalSpy cells(&document, &Document::cellsChanged), selection(&document, &Document::selectionChanged);
+    QSignalSpy modified(&document, &Document::modifiedChanged), sheets(&document, &Document::sheetsChanged);
+    document.select({1, 1});
+    document.fill(1, single({1, 1}), {});
+    document.renameSheet(1, document.sheetName(1));
+    EXPECT_EQ(cells.count() + selection.count() + modified.count() + sheets.count(), 0);
+    document.select({2, 2});
+    programWrites("B2", "c");
+    programWrites("B2", "d");
+    document.renameSheet(1, QStringLiteral("G dur"));
+    EXPECT_EQ(selection.count(), 1);
+    EXPECT_EQ(cells.count(), 2);
+    EXPECT_EQ(cells.first().at(1).value<CellRange>(), single({2, 2}));
+    EXPECT_EQ(modified.count(), 1);
+    EXPECT_EQ(sheets.count(), 1);
+}
+
+TEST_F(DocumentTest, ColumnWidthsAreKeptInTheFile) {
+    document.setColumnWidth(1, 1, 24.5);
+    document.setColumnWidth(1, 2, 999);
+    document.saveAs(folder.filePath(QStringLiteral("pisen.xls")));
+    const Document copy{QStringLiteral("x")};
+    QFile::copy(document.path(), folder.filePath(QStringLiteral("kopie.xls")));
+    const auto opened = Document::open(folder.filePath(QStringLiteral("kopie.xls")));
+    EXPECT_DOUBLE_EQ(opened->columnWidth(1, 1), 24.5);
+    EXPECT_DOUBLE_EQ(opened->columnWidth(1, 2), 255.0);
+    EXPECT_DOUBLE_EQ(opened->columnWidth(1, 3), copy.columnWidth(1, 3));
+    EXPECT_FALSE(opened->isModified());
+}
+
+} // namespace zvonika::testing

@@ -1,0 +1,129 @@
+#include "tests/song/embedded/Rig.h"
+
+namespace zvonika::testing {
+
+namespace {
+
+class EmbeddedApplicationTest : public ::testing::Test, protected World {
+protected:
+    std::unique_ptr<EmbeddedApplication> owned = launch();
+    EmbeddedApplication& app = *owned;
+};
+
+} // namespace
+
+TEST_F(EmbeddedApplicationTest, AMissingDefaultFolderLastsUntilTheNextInstance) {
+    EXPECT_EQ(app.defaultFilePath(), QStringLiteral("C:\\Dokumenty"));
+    app.setDefaultFilePath(pracovniAdresar);
+    EXPECT_EQ(app.defaultFilePath(), pracovniAdresar);
+    EXPECT_EQ(launch()->defaultFilePath(), QStringLiteral("C:\\Dokumenty"));
+    ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("Dokumenty/Heligonka/Zvonika")));
+    EXPECT_EQ(launch()->defaultFilePath(), pracovniAdresar);
+    app.setDefaultFilePath(QString());
+    EXPECT_EQ(launch()->defaultFilePath(), QStringLiteral("C:\\Dokumenty"));
+}
+
+TEST_F(EmbeddedApplicationTest, NamesWithADriveMeanNativeFiles) {
+    ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("Dokumenty/Heligonka")));
+    app.addWorkbook();
+    app.saveActiveWorkbookAs({QStringLiteral("C:\\Dokumenty\\Heligonka\\pisen.xls")});
+    EXPECT_TRUE(QFile::exists(path(QStringLiteral("Dokumenty/Heligonka/pisen.xls"))));
+    EXPECT_EQ(app.activeWorkbookName(), QStringLiteral("pisen.xls"));
+    app.saveActiveWorkbookAs({path(QStringLiteral("jak stojí.txt"))});
+    EXPECT_EQ(app.activeWorkbookName(), QStringLiteral("jak stojí.txt"));
+    const QString missing = QStringLiteral("1004 Disk „D:“ na tomto počítači není.");
+    EXPECT_EQ(refusalOf([&] { app.saveActiveWorkbookAs({QStringLiteral("D:\\x.xls")}); }), missing);
+    EXPECT_EQ(refusalOf([&] { app.openWorkbook(QStringLiteral("D:\\x.xls")); }), missing);
+    EXPECT_EQ(refusalOf([&] { app.saveActiveWorkbookAs({QString()}); }),
+              QStringLiteral("1004 Chybí jméno souboru."));
+}
+
+TEST_F(EmbeddedApplicationTest, ANewWorkbookIsSavedIntoTheDefaultFolder) {
+    app.setDefaultFilePath(folder.path());
+    app.addWorkbook();
+    app.addWorkbook();
+    EXPECT_EQ(app.activeWorkbookName(), QStringLiteral("Sešit2"));
+    app.saveActiveWorkbook();
+    EXPECT_EQ(app.activeWorkbookName(), QStringLiteral("Sešit2.xls"));
+    EXPECT_TRUE(QFile::exists(path(QStringLiteral("Sešit2.xls"))));
+}
+
+TEST_F(EmbeddedApplicationTest, TwoWorkbooksOfOneFileNameAreRefused) {
+    ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("b")));
+    for (const char* name : {"b/pisen.xls", "pisen.xls"}) {
+        app.addWorkbook();
+        app.saveActiveWorkbookAs({path(QString::fromLatin1(name))});
+        if (name[0] == 'b') app.closeActiveWorkbook();
+    }
+    const QString refusal = QStringLiteral(
+        "1004 Sešit „pisen.xls“ je už otevřen; dva sešity téhož jména najednou otevřít nelze.");
+    EXPECT_EQ(refusalOf([&] { app.openWorkbook(path(QStringLiteral("b/PISEN.xls"))); }), refusal);
+    app.addWorkbook();
+    EXPECT_EQ(refusalOf([&] { app.saveActiveWorkbookAs({path(QStringLiteral("b/pisen.xls"))}); }), refusal);
+    app.activateWindow(QStringLiteral("pisen.xls"));
+    app.saveActiveWorkbookAs({path(QStringLiteral("pisen.xls"))});
+}
+
+TEST_F(EmbeddedApplicationTest, AnExistingFileIsReplacedOnlyWithTheUsersConsent) {
+    store(path(QStringLiteral("pisen.xls")), "stará");
+    app.addWorkbook();
+    dialogs.expect(jmenoTabulky, QStringLiteral("Soubor „pisen.xls“ už existuje."), Answer::No);
+    const SaveAsArguments arguments{path(QStringLiteral("pisen.xls"))};
+    EXPECT_TRUE(refusalOf([&] { app.saveActiveWorkbookAs(arguments); }).startsWith(QStringLiteral("1004")));
+    EXPECT_EQ(contents(arguments.filename), "stará");
+    dialogs.expect(jmenoTabulky, QStringLiteral("nahradit"), Answer::Yes);
+    app.saveActiveWorkbookAs(arguments);
+    EXPECT_NE(contents(arguments.filename), "stará");
+}
+
+TEST_F(EmbeddedApplicationTest, OtherFormsOfSavingAreRefused) {
+    app.addWorkbook();
+    const QString name = path(QStringLiteral("x.xls"));
+    const SaveAsArguments others[] = {{name, 51},
+                                      {name, -4143, QStringLiteral("heslo")},
+                                      {name, -4143, {}, QStringLiteral("heslo")},
+                                      {name, -4143, {}, {}, true},
+                                      {name, -4143, {}, {}, false, true}};
+    for (const auto& arguments : others)
+        EXPECT_TRUE(refusalOf([&] {
+                        app.saveActiveWorkbookAs(arguments);
+                    }).startsWith(QStringLiteral("1004 Sešit ")));
+    EXPECT_EQ(files(), QStringList());
+}
+
+TEST_F(EmbeddedApplicationTest, TheFileChoiceStartsInTheDefaultFolder) {
+    app.setDefaultFilePath(pracovniAdresar);
+    dialogs.expectFile(QStringLiteral("Vyberte"), {});
+    app.getOpenFilename(QStringLiteral("Excel Files,*.xls"), QStringLiteral("Vyberte"));
+    EXPECT_EQ(dialogs.lastFolder, path(QStringLiteral("Dokumenty/Heligonka/Zvonika")));
+}
+
+TEST_F(EmbeddedApplicationTest, TheWindowIsMadeWhenItIsFirstShownAndFollowsTheActiveWorkbook) {
+    app.addWorkbook();
+    app.setVisible(false);
+    EXPECT_EQ(view.made, 0);
+    app.setVisible(true);
+    app.setVisible(true);
+    EXPECT_EQ(view.made, 1);
+    EXPECT_TRUE(view.visible);
+    const Document* first = view.document;
+    EXPECT_EQ(first, app.session().active());
+    app.addWorkbook();
+    EXPECT_NE(view.document, first);
+    app.activateWindow(QStringLiteral("Sešit1"));
+    EXPECT_EQ(view.document, first);
+    app.showToUser();
+    EXPECT_EQ(view.raised, 1);
+    app.quit();
+    EXPECT_FALSE(view.visible);
+    EXPECT_EQ(view.document, nullptr);
+}
+
+TEST_F(EmbeddedApplicationTest, ABlockOfTheWholeSheetIsTooLarge) {
+    app.addWorkbook();
+    EXPECT_EQ(refusalOf([&] { app.readBlock(QStringLiteral("A:IV")); }),
+              QStringLiteral("1004 Oblast je příliš velká."));
+    EXPECT_EQ(app.readBlock(QStringLiteral("B:B")).size(), lastRow);
+}
+
+} // namespace zvonika::testing

@@ -1,0 +1,35 @@
+#include "tests/song/contract/SpreadsheetContract.h"
+#include "tests/song/embedded/Rig.h"
+
+namespace zvonika::testing {
+
+namespace {
+
+class EmbeddedRig : public SpreadsheetRig {
+public:
+    std::unique_ptr<SpreadsheetApplication> launch() override { return world_.launch(); }
+    QString folder() const override { return world_.folder.path(); }
+    void willChoose(const std::optional<QString>& file) override {
+        world_.dialogs.expectFile(QStringLiteral("Vyberte písničku"), file);
+    }
+    void userClosesWorkbook(SpreadsheetApplication& application) override { commands(application).close(); }
+    void userQuits(SpreadsheetApplication& application) override { commands(application).quit(); }
+
+private:
+    static SheetCommands& commands(SpreadsheetApplication& application) {
+        return dynamic_cast<EmbeddedApplication&>(application).commands();
+    }
+
+    World world_;
+};
+
+std::unique_ptr<SpreadsheetRig> makeEmbeddedRig() {
+    return std::make_unique<EmbeddedRig>();
+}
+
+} // namespace
+
+INSTANTIATE_TEST_SUITE_P(Embedded, SpreadsheetContract,
+                         ::testing::Values(SpreadsheetRigFactory{"embedded", makeEmbeddedRig}));
+
+} // namespace zvonika::testing

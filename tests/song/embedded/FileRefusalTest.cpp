@@ -1,0 +1,123 @@
+#include "song/embedded/Document.h"
+#include "song/embedded/FileSentences.h"
+#include "tests/song/embedded/Rig.h"
+
+#include <unistd.h>
+
+namespace zvonika::testing {
+
+namespace {
+
+class FileRefusalTest : public ::testing::Test, protected World {
+protected:
+    FileRefusalTest() {
+        Document document(QStringLiteral("Sešit1"));
+        document.write(1, {1, 2}, {{QStringLiteral("c")}});
+        document.saveAs(good);
+        saved = contents(good);
+    }
+    QString saving(Document& document, const QString& target) const {
+        return refusalOf([&] { document.saveAs(target); });
+    }
+
+    const QString good = path(QStringLiteral("dobrá.xls"));
+    QByteArray saved;
+};
+
+} // namespace
+
+TEST_F(FileRefusalTest, OpeningSaysWhatIsWrong) {
+    const auto make = [&](const char* name, const QByteArray& bytes) {
+        store(path(QString::fromUtf8(name)), bytes);
+    };
+    make("prázdný.xls", {});
+    make("dopis.xls", "Milá babičko, posílám Ti písničku.");
+    make("nový.xls", QByteArray("PK\x03\x04", 4) + QByteArray(100, '\0'));
+    make("useknutý.xls", saved.left(saved.size() / 2));
+    make("rozbitý.xls", QByteArray(saved).replace(30, 2, QByteArray(2, '\x55')));
+    ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("složka.xls")));
+    const std::pair<const char*, const char*> cases[] = {
+        {"není.xls", "neexistuje."},
+        {"složka.xls", "je to složka."},
+        {"prázdný.xls", "je prázdný."},
+        {"dopis.xls", "podle obsahu je to jiný formát než .xls."},
+        {"nový.xls", "podle obsahu je to jiný formát než .xls."},
+        {"useknutý.xls", "není celý, jeho konec chybí."},
+        {"rozbitý.xls", "je poškozený."},
+    };
+    for (const auto& [name, reason] : cases)
+        EXPECT_EQ(refusalOf([&] { Document::open(path(QString::fromUtf8(name))); }),
+                  QStringLiteral("1004 Soubor „%1“ nelze otevřít: %2")
+                      .arg(QString::fromUtf8(name), QString::fromUtf8(reason)));
+    EXPECT_EQ(refusalOf([&] { Document::open(QStringLiteral("/dev/null")); }),
+              QStringLiteral("1004 Soubor „null“ nelze otevřít: není to obyčejný soubor."));
+    EXPECT_TRUE(files().filter(QStringLiteral(".zamek")).isEmpty());
+}
+
+TEST_F(FileRefusalTest, EveryRefusalOfTheEngineIsASentenceOfItsOwn) {
+    using xls::Refusal;
+    QStringList sentences;
+    for (const auto refusal : {Refusal::Empty, Refusal::NotXls, Refusal::OtherFormat, Refusal::Encrypted,
+                               Refusal::OldFormat, Refusal::Truncated, Refusal::Damaged})
+        sentences << openRefused(good, refusal);
+    EXPECT_EQ(sentences.removeDuplicates(), 0);
+    EXPECT_EQ(sentences.value(3), QStringLiteral("Soubor „dobrá.xls“ nelze otevřít: je chráněn heslem."));
+}
+
+TEST_F(FileRefusalTest, AFileThatIsOpenElsewhereIsNotOpened) {
+    const auto open = Document::open(good);
+    EXPECT_TRUE(refusalOf([&] {
+                    Document::open(good);
+                }).startsWith(QStringLiteral("1004 Soubor „dobrá.xls“ je už otevřen jinde")));
+    Document other(QStringLiteral("Sešit2"));
+    EXPECT_TRUE(
+        saving(other, good).startsWith(QStringLiteral("1004 Soubor „dobrá.xls“ je už otevřen jinde")));
+    EXPECT_EQ(contents(good), saved);
+}
+
+TEST_F(FileRefusalTest, SavingSaysWhatIsWrongAndChangesNothing) {
+    ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("složka.xls")));
+    const auto document = Document::open(good);
+    document->write(1, {1, 2}, {{QStringLiteral("d")}});
+    const QStringList before = files();
+    const QString longName = QString(300, u'x') + QStringLiteral(".xls");
+    const std::pair<QString, QString> cases[] = {
+        {QStringLiteral("není/x.xls"),
+         QStringLiteral("složka „%1“ neexistuje").arg(path(QStringLiteral("není")))},
+        {QStringLiteral("dobrá.xls/x.xls"), QStringLiteral("„%1“ není složka").arg(good)},
+        {QStringLiteral("složka.xls"), QStringLiteral("pod tímto jménem je na disku složka")},
+        {longName, QStringLiteral("jeho jméno je příliš dlouhé")},
+        {QStringLiteral("a%1b.xls").arg(QChar(u'\0')),
+         QStringLiteral("v jeho jménu je znak, který tam být nesmí")},
+        {QStringLiteral("/dev/full"), QStringLiteral("pod tímto jménem není obyčejný soubor")}};
+    for (const auto& [name, reason] : cases) {
+        const QString target = name.startsWith(QLatin1Char('/')) ? name : path(name);
+        const QString expected =
+            QStringLiteral("1004 Soubor „%1“ nelze uložit: %2.").arg(QFileInfo(target).fileName(), reason);
+        EXPECT_EQ(saving(*document, target), expected);
+    }
+    EXPECT_EQ(files(), before);
+    EXPECT_EQ(document->path(), good);
+    EXPECT_TRUE(document->isModified());
+    document->save();
+    EXPECT_FALSE(document->isModified());
+    EXPECT_NE(contents(good), saved);
+}
+
+TEST_F(FileRefusalTest, SystemErrorsHaveTheirSentences) {
+    const std::pair<int, const char*> cases[] = {
+        {EACCES, "nemáte oprávnění k zápisu"}, {EPERM, "nemáte oprávnění k zápisu"},
+        {EROFS, "disk je jen pro čtení"},      {ENOSPC, "na disku není dost místa"},
+        {EDQUOT, "na disku není dost místa"},  {EIO, "při zápisu na disk nastala chyba 5"}};
+    for (const auto& [number, reason] : cases)
+        EXPECT_EQ(saveRefused(good, std::error_code(number, std::generic_category())),
+                  QStringLiteral("Soubor „dobrá.xls“ nelze uložit: %1.").arg(QString::fromUtf8(reason)));
+}
+
+TEST_F(FileRefusalTest, ASaveWithoutAChangeKeepsEveryByte) {
+    Document::open(good)->save();
+    EXPECT_EQ(contents(good), saved);
+    EXPECT_EQ(files(), QStringList{QStringLiteral("dobrá.xls")});
+}
+
+} // namespace zvonika::testing

@@ -1,0 +1,179 @@
+#include "tests/song/embedded/Rig.h"
+
+namespace zvonika::testing {
+
+namespace {
+
+class Listener : public SpreadsheetListener {
+public:
+    void cursorMoved() override { heard += QLatin1Char('k'); }
+    void cellsEdited() override { heard += QLatin1Char('b'); }
+    /// What came since the last call: "k" for the cursor, "b" for cells.
+    QString take() { return std::exchange(heard, {}); }
+    QString heard;
+};
+
+class SheetCommandsTest : public ::testing::Test, protected World {
+protected:
+    SheetCommandsTest() {
+        app.setVisible(true);
+        app.addWorkbook();
+        app.setListener(&listener);
+    }
+    CellBlock block(const char* address) const { return app.readBlock(QString::fromLatin1(address)); }
+    void select(const char* address) {
+        const CellRange range = *parseAddress(QString::fromLatin1(address));
+        user.select(range, range.first);
+        listener.take();
+    }
+    void saveAs(const QString& name) { app.saveActiveWorkbookAs({path(name)}); }
+
+    Listener listener;
+    std::unique_ptr<EmbeddedApplication> owned = launch();
+    EmbeddedApplication& app = *owned;
+    SheetCommands& user = app.commands();
+};
+
+} // namespace
+
+TEST_F(SheetCommandsTest, TheProgramHearsOfCursorAndCells) {
+    user.select(single({3, 2}), {3, 2});
+    EXPECT_EQ(listener.take(), QStringLiteral("k"));
+    user.select({{3, 2}, {9, 4}}, {3, 2});
+    EXPECT_EQ(listener.take(), QString()) << "the active cell is where it was";
+    user.type({3, 1}, QStringLiteral("Koč"));
+    EXPECT_EQ(listener.take(), QStringLiteral("b"));
+    user.type({3, 1}, QStringLiteral("Koč"));
+    EXPECT_EQ(listener.take(), QString());
+    user.undo();
+    EXPECT_EQ(listener.take(), QStringLiteral("bk")) << "the cursor goes to the cell that was taken back";
+    user.undo();
+    EXPECT_EQ(listener.take(), QString());
+    user.renameSheet(1, QStringLiteral("G dur"));
+    EXPECT_EQ(listener.take(), QStringLiteral("b"));
+    user.setColumnWidth(1, 30);
+    EXPECT_EQ(listener.take(), QString());
+}
+
+TEST_F(SheetCommandsTest, TypingMeansNumbersAndTexts) {
+    for (const char* typed : {"3,5", "15", "'15", "=A1"})
+        user.type({1, app.session().active()->usedColumns(1) + 1}, QString::fromLatin1(typed));
+    EXPECT_EQ(block("A1:D1"), CellBlock({{3.5, 15.0, QStringLiteral("15"), QStringLiteral("=A1")}}));
+}
+
+TEST_F(SheetCommandsTest, CopiedCellsKeepTheirTypesAndForeignTextIsReadAsTyped) {
+    app.writeBlock(QStringLiteral("A1"), {{QStringLiteral("15"), 15.0}, {QStringLiteral("c"), {}}});
+    select("A1:B2");
+    const QString copied = user.copy();
+    EXPECT_EQ(copied, QStringLiteral("15\t15\nc\t\n"));
+    select("D4");
+    user.paste(copied);
+    EXPECT_EQ(block("D4:E5"), block("A1:B2"));
+    EXPECT_EQ(app.session().active()->selection().range, *parseAddress(u"D4:E5"));
+    select("G1");
+    user.paste(QStringLiteral("15\tx\n3,5"));
+    EXPECT_EQ(block("G1:H2"), CellBlock({{15.0, QStringLiteral("x")}, {3.5, {}}}));
+    select("J1:K2");
+    user.paste(QStringLiteral("Tah"));
+    const CellValue tah = QStringLiteral("Tah");
+    EXPECT_EQ(block("J1:K2"), CellBlock({{tah, tah}, {tah, tah}}));
+    select("A1:B2");
+    EXPECT_EQ(user.cut(), copied);
+    EXPECT_EQ(block("A1:B2"), CellBlock({{{}, {}}, {{}, {}}}));
+    user.undo();
+    EXPECT_EQ(block("A1:B1"), CellBlock({{QStringLiteral("15"), 15.0}}));
+}
+
+TEST_F(SheetCommandsTest, AWholeColumnIsCopiedAsFarAsItIsUsed) {
+    app.writeBlock(QStringLiteral("A1"), {{QStringLiteral("Koč")}, {QStringLiteral("ka")}});
+    select("A:A");
+    EXPECT_EQ(user.copy(), QStringLiteral("Koč\nka\n"));
+    user.clear();
+    EXPECT_EQ(app.session().active()->usedRows(1), 0);
+}
+
+TEST_F(SheetCommandsTest, RefusalsAreShownNotThrown) {
+    select("A65536");
+    dialogs.expect(jmenoTabulky, QStringLiteral("nevejdou"));
+    user.paste(QStringLiteral("a\nb"));
+    dialogs.expect(jmenoTabulky, QStringLiteral("Jméno listu „a/b“ nelze použít"));
+    user.renameSheet(1, QStringLiteral("a/b"));
+    EXPECT_EQ(listener.take(), QString());
+}
+
+TEST_F(SheetCommandsTest, SavingAsksForANameOnce) {
+    dialogs.expectFile(QStringLiteral("Uložit jako"), path(QStringLiteral("pisen")));
+    EXPECT_TRUE(user.save());
+    EXPECT_EQ(dialogs.lastFolder, path(QStringLiteral("Dokumenty/Sešit1.xls")));
+    EXPECT_EQ(app.activeWorkbookName(), QStringLiteral("pisen.xls"));
+    user.type({1, 1}, QStringLiteral("Koč"));
+    EXPECT_TRUE(user.save());
+    EXPECT_FALSE(app.session().active()->isModified());
+    dialogs.expectFile(QStringLiteral("Uložit jako"), {});
+    EXPECT_FALSE(user.saveAs());
+    dialogs.expectFile(QStringLiteral("Uložit jako"), path(QStringLiteral("není/x.xls")));
+    dialogs.expect(jmenoTabulky, QStringLiteral("neexistuje"));
+    EXPECT_FALSE(user.saveAs());
+}
+
+struct Closing {
+    const char* name;
+    Answer answer;
+    bool closed;
+    bool saved;
+};
+
+TEST_F(SheetCommandsTest, ClosingAsksAboutChanges) {
+    const QString question = QStringLiteral("Chcete uložit změny v souboru „pisen.xls“?");
+    const QString file = path(QStringLiteral("pisen.xls"));
+    saveAs(QStringLiteral("pisen.xls"));
+    const Closing cases[] = {{"Storno", Answer::Cancel, false, false},
+                             {"Ne", Answer::No, true, false},
+                             {"Ano", Answer::Yes, true, true}};
+    for (const auto& [name, answer, closed, saved] : cases) {
+        SCOPED_TRACE(name);
+        if (app.activeWorkbookName().isEmpty()) app.openWorkbook(file);
+        const QByteArray before = contents(file);
+        user.type({1, 1}, QString::fromLatin1(name));
+        dialogs.expect(jmenoTabulky, question, answer);
+        EXPECT_EQ(user.close(), closed);
+        EXPECT_EQ(app.activeWorkbookName().isEmpty(), closed);
+        EXPECT_EQ(view.visible, !closed);
+        EXPECT_EQ(contents(file) != before, saved);
+    }
+    EXPECT_EQ(view.document, nullptr);
+    app.openWorkbook(file);
+    EXPECT_TRUE(view.visible) << "the window comes back with the next workbook";
+    EXPECT_TRUE(user.close()) << "without a question where nothing changed";
+}
+
+TEST_F(SheetCommandsTest, AWorkbookThatCannotBeSavedStaysOpen) {
+    ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("pryč")));
+    saveAs(QStringLiteral("pryč/pisen.xls"));
+    user.type({1, 1}, QStringLiteral("Koč"));
+    ASSERT_TRUE(QDir(path(QStringLiteral("pryč"))).removeRecursively());
+    dialogs.expect(jmenoTabulky, QStringLiteral("Chcete uložit"), Answer::Yes);
+    dialogs.expect(jmenoTabulky, QStringLiteral("neexistuje"));
+    EXPECT_FALSE(user.close());
+    EXPECT_EQ(app.activeWorkbookName(), QStringLiteral("pisen.xls"));
+}
+
+TEST_F(SheetCommandsTest, QuittingAsksForEveryWorkbookAndStopsAtTheFirstStorno) {
+    saveAs(QStringLiteral("jedna.xls"));
+    user.type({1, 1}, QStringLiteral("1"));
+    app.addWorkbook();
+    saveAs(QStringLiteral("dva.xls"));
+    user.type({1, 1}, QStringLiteral("2"));
+    dialogs.expect(jmenoTabulky, QStringLiteral("jedna.xls"), Answer::Yes);
+    dialogs.expect(jmenoTabulky, QStringLiteral("dva.xls"), Answer::Cancel);
+    EXPECT_FALSE(user.quit());
+    EXPECT_EQ(app.session().documents().size(), 2U);
+    dialogs.expect(jmenoTabulky, QStringLiteral("dva.xls"), Answer::No);
+    EXPECT_TRUE(user.quit());
+    EXPECT_EQ(app.session().documents().size(), 0U);
+    EXPECT_FALSE(view.visible);
+    user.type({1, 1}, QStringLiteral("x"));
+    EXPECT_FALSE(user.save());
+}
+
+} // namespace zvonika::testing
