@@ -17,7 +17,8 @@ namespace zvonika {
 namespace {
 
 constexpr int prvniSBecky = 8; ///< keys from here on stand in the second column
-constexpr int zaklad = 13;     ///< letter height at which the pictures have their natural size
+constexpr int sirkaTitulkovychTlacitek = 130;
+constexpr int zaklad = 13; ///< letter height at which the pictures have their natural size
 
 QLabel* napis(const QString& jmeno, const QString& text) {
     auto* label = new QLabel(text);
@@ -59,6 +60,8 @@ QWidget* FrmStupnice::postavRam(const Tonina& tonina) {
     auto* ram = new QGroupBox;
     ram->setObjectName(QStringLiteral("fraStupnice"));
     ram->setAccessibleName(textyStupnice::vyberteStupnici);
+    // Wide enough for the caption of the window to be read whole.
+    ram->setMinimumWidth(fontMetrics().horizontalAdvance(textyStupnice::titulek) + sirkaTitulkovychTlacitek);
     auto* mrizka = new QGridLayout(ram);
     mrizka->setHorizontalSpacing(fontInfo().pixelSize() * 2);
     mrizka->setVerticalSpacing(2);

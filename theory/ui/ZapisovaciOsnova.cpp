@@ -8,13 +8,14 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
+#include <algorithm>
 #include <cmath>
 
 namespace zvonika {
 
 namespace {
 
-constexpr double dosahHlavicky = 0.95; ///< staff spaces above and below a head in which the pointer takes it
+constexpr double dosahHlavicky = 0.75; ///< staff spaces above and below a head in which the pointer takes it
 
 std::optional<Znamenko> znamenkoKlavesy(const QString& text) {
     if (text == u"#" || text == u"+") return Znamenko::Krizek;
@@ -229,16 +230,21 @@ void ZapisovaciOsnova::posunKlavesou(int krok) {
     Q_EMIT odmitnuto(QStringLiteral("Dál už nástroj žádný volný tón nemá."));
 }
 
+bool ZapisovaciOsnova::jeVolno(int jednotky) const {
+    const CisloTonu ton = tonNaOsnove({Znamenko::Zadne, jednotky}, osnova_.predznamenani());
+    const bool obsazeno = std::any_of(osnova_.noty().begin(), osnova_.noty().end(), [&](const auto& nota) {
+        return nota && (nota->poloha.jednotky == jednotky || nota->ton == ton);
+    });
+    return ton.jeVRozsahu() && !obsazeno;
+}
+
 void ZapisovaciOsnova::vlozKlavesou() {
-    const int rozsah = MirkaOsnovy::nejvyssi - MirkaOsnovy::nejnizsi + PolohaNoty::jednotekNaStupen;
+    constexpr int krok = PolohaNoty::jednotekNaStupen;
+    constexpr int rozsah = MirkaOsnovy::nejvyssi - MirkaOsnovy::nejnizsi + krok;
     int poloha = posledniPoloha_;
-    // The next tone upwards that is not there yet; with five slots a few steps always find one.
-    for (int krok = 0; krok <= NotovaOsnova::pocetNot + 1; ++krok) {
-        const CisloTonu ton = tonNaOsnove({Znamenko::Zadne, poloha}, osnova_.predznamenani());
-        if (ton.jeVRozsahu() && !osnova_.slotTonu(ton)) break;
-        poloha =
-            MirkaOsnovy::nejnizsi + (poloha + PolohaNoty::jednotekNaStupen - MirkaOsnovy::nejnizsi) % rozsah;
-    }
+    // The next free place upwards, from the top on to the bottom; five notes block few enough to find one.
+    for (int i = 0; i < rozsah / krok && !jeVolno(poloha); ++i)
+        poloha = MirkaOsnovy::nejnizsi + (poloha + krok - MirkaOsnovy::nejnizsi) % rozsah;
     vloz(poloha);
 }
 

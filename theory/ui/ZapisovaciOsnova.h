@@ -69,6 +69,7 @@ private:
     bool obsluzKlavesu(int klavesa, const QString& text);
     void vyberVedlejsi(int krok);
     void posunKlavesou(int krok);
+    bool jeVolno(int jednotky) const;
     void vlozKlavesou();
 
     void vloz(int jednotky);

@@ -1,0 +1,62 @@
+#include "song/ui/ZobrazovaciOsnovaWidget.h"
+
+#include "song/ZobrazovaciOsnova.h"
+#include "tests/theory/Vypis.h"
+
+#include <QImage>
+
+#include <gtest/gtest.h>
+
+namespace zvonika {
+namespace {
+
+QVector<Znamenko> znamenka(const ZobrazovaciOsnovaWidget& widget) {
+    QVector<Znamenko> vysledek;
+    for (const MistoNoty& nota : widget.akord().noty)
+        vysledek.append(nota.poloha.znamenko);
+    return vysledek;
+}
+
+TEST(ZobrazovaciOsnovaWidget, ShowsEveryToneOfAGripAndIgnoresForeignText) {
+    ZobrazovaciOsnova osnova;
+    ZobrazovaciOsnovaWidget widget(osnova);
+    widget.resize(109, 143);
+    const QImage prazdna = widget.grab().toImage();
+    osnova.ukaz({"c1,", "e1,", "g1,", "12", "b1,", "c2,", "e4,"});
+    EXPECT_EQ(widget.akord().noty.size(), 6);
+    EXPECT_EQ(widget.accessibleDescription(), QStringLiteral("c1 e1 g1 12 b1 c2 e4"));
+    EXPECT_NE(widget.grab().toImage(), prazdna);
+    osnova.vyprazdni();
+    EXPECT_EQ(widget.grab().toImage(), prazdna);
+}
+
+TEST(ZobrazovaciOsnovaWidget, WithASignatureNotesCarryOnlyWhatItDoesNotSay) {
+    ZobrazovaciOsnova osnova;
+    ZobrazovaciOsnovaWidget widget(osnova);
+    osnova.ukaz({"c1,", "fis1,", "ais1,", "f2,"});
+    using enum Znamenko;
+    EXPECT_EQ(znamenka(widget), (QVector<Znamenko>{Zadne, Krizek, Krizek, Zadne}));
+    widget.nastavStupnici(Key(QStringLiteral("G dur")));
+    EXPECT_EQ(znamenka(widget), (QVector<Znamenko>{Zadne, Zadne, Krizek, Odrazka}));
+    widget.nastavStupnici(Key::vyberteToninu());
+    EXPECT_EQ(znamenka(widget), (QVector<Znamenko>{Zadne, Krizek, Krizek, Zadne}));
+}
+
+TEST(ZobrazovaciOsnovaWidget, NothingIsClippedAtTheRim) {
+    ZobrazovaciOsnova osnova;
+    ZobrazovaciOsnovaWidget widget(osnova);
+    osnova.ukaz({"cis1,", "dis1,", "fis1,", "gis1,", "ais1,", "e4,", "e,"});
+    for (const double meritko : {0.87, 1.0, 2.0}) {
+        widget.resize(int(109 * meritko), int(143 * meritko));
+        const QImage obraz = widget.grab().toImage();
+        for (int y = 0; y < obraz.height(); ++y)
+            for (const int x : {0, obraz.width() - 1})
+                EXPECT_GT(qGray(obraz.pixel(x, y)), 150) << meritko << ' ' << y;
+        for (int x = 0; x < obraz.width(); ++x)
+            for (const int y : {0, obraz.height() - 1})
+                EXPECT_GT(qGray(obraz.pixel(x, y)), 150) << meritko << ' ' << x;
+    }
+}
+
+} // namespace
+} // namespace zvonika
