@@ -144,6 +144,7 @@ private:
 
     void takeBlock(const Record& record) {
         record.require(4);
+        ++layout_.dbCells;
         if (block_.start == 0) return; // a DbCell record of no rows
         block_.dbCell = record.offset;
         layout_.blocks.push_back(block_);

@@ -45,6 +45,7 @@ public:
     std::vector<std::uint32_t> colInfos;
     std::vector<CellSlot> cells;  ///< sorted by key; of duplicates the later record comes last
     std::vector<RowSlot> rows;    ///< sorted by row
+    std::uint32_t dbCells = 0;    ///< DbCell records, those of no rows included
     std::vector<RowBlock> blocks; ///< in the order of the stream; empty when the sheet has no DbCell records
 
     /// The record that holds a cell; null when there is none.

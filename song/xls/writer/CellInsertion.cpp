@@ -60,14 +60,20 @@ void CellInsertion::insertNewRow(RowCells cells) {
     const auto next = std::ranges::lower_bound(layout_.rows, row, {}, &RowSlot::row);
     std::uint32_t position = layout_.tablePosition(patch_.stream);
     std::uint32_t floor = position;
+    InsertOrder order = InsertOrder::Row;
     if (next != layout_.rows.begin()) {
         position = recordAt(patch_.stream, std::prev(next)->record).end();
         floor = endOfRowRun(std::prev(next)->record);
+        // A sheet whose rows each stand before their own cells goes on that way.
+        if (standsAlone(*std::prev(next))) {
+            position = floor = cellPosition(cells.front().key, floor, noLimit);
+            order = InsertOrder::Cell;
+        }
     } else if (next != layout_.rows.end()) {
         position = next->record;
         floor = endOfRowRun(next->record);
     }
-    patch_.patches.insert(position, rowRecord(cells), InsertOrder::Row);
+    patch_.patches.insert(position, rowRecord(cells), order);
     insertCells(cells, floor, noLimit);
 }
 
@@ -85,7 +91,7 @@ void CellInsertion::insertNewRowIntoBlock(RowCells cells, const RowBlock& block)
         position = next->record;
         floor = endOfRowRun(next->record);
     }
-    patch_.touch(block.start, 1);
+    patch_.touch(block.start);
     patch_.patches.insert(position, rowRecord(cells), InsertOrder::Row);
     insertCells(cells, floor, block.dbCell);
 }
@@ -93,7 +99,7 @@ void CellInsertion::insertNewRowIntoBlock(RowCells cells, const RowBlock& block)
 void CellInsertion::insertCells(RowCells cells, std::uint32_t floor, std::uint32_t limit) {
     for (const CellChange& cell : cells) {
         const std::uint32_t position = cellPosition(cell.key, floor, limit);
-        patch_.touch(position);
+        patch_.touch(position, rowOf(cell.key));
         patch_.patches.insert(position, cellRecord(cell).view(), InsertOrder::Cell);
     }
 }
@@ -110,6 +116,13 @@ std::uint32_t CellInsertion::cellPosition(CellKey key, std::uint32_t floor, std:
         position = std::max(position, endOfCell(patch_.stream, std::prev(next)->record));
     if (position != absent) return position;
     return next != cells.end() ? next->record : layout_.tablePosition(patch_.stream);
+}
+
+bool CellInsertion::standsAlone(const RowSlot& slot) const {
+    const std::uint32_t end = recordAt(patch_.stream, slot.record).end();
+    const bool first = &slot == layout_.rows.data();
+    const bool followsRow = !first && recordAt(patch_.stream, (&slot)[-1].record).end() == slot.record;
+    return !followsRow && !isRecordAt(patch_.stream, end, RecordType::Row);
 }
 
 std::uint32_t CellInsertion::endOfRowRun(std::uint32_t rowRecord) {
@@ -207,8 +220,8 @@ void CellInsertion::insertNewBlock(std::span<const RowCells> rows) {
             const SmallRecord record = cellRecord(cell);
             bytes.insert(bytes.end(), record.bytes.begin(), record.bytes.begin() + record.size);
         }
-    // Zeros: filled in when all offsets are known.
-    appendRecord(bytes, RecordType::DbCell, std::vector<std::uint8_t>(4 + 2 * rows.size()));
+    const auto dbCell = unfilledDbCell(rows.size());
+    bytes.insert(bytes.end(), dbCell.begin(), dbCell.end());
     std::uint32_t position = layout_.tablePosition(patch_.stream);
     if (const RowBlock* next = firstBlockBehind(rowOf(rows.front().front().key)))
         position = next->start;

@@ -27,6 +27,8 @@ private:
     void insertNewBlock(std::span<const RowCells> rows);
 
     std::uint32_t cellPosition(CellKey key, std::uint32_t floor, std::uint32_t limit) const;
+    /// True for a Row record without another Row record before or behind it.
+    bool standsAlone(const RowSlot& slot) const;
     std::uint32_t endOfRowRun(std::uint32_t rowRecord);
     void extendRow(const RowSlot& row, RowCells cells);
     std::vector<std::uint8_t> rowRecord(RowCells cells) const;

@@ -11,23 +11,19 @@ constexpr std::size_t rowRecordSize = 20;
 constexpr std::size_t maxIndexed = (maxRecordPayload - indexHead) / 4;
 constexpr std::size_t maxRowsInDbCell = (maxRecordPayload - 4) / 2;
 
-std::uint32_t rowsInBlock(const SheetPatch& patch, std::uint32_t dbCell) {
-    std::uint32_t rows = 0;
+void addRowsWithCells(const SheetPatch& patch, std::uint32_t dbCell, std::set<std::uint32_t>& rows) {
     for (std::uint32_t at = patch.layout.blockAt(dbCell)->start; at < dbCell;) {
         const Record record = recordAt(patch.stream, at);
-        rows += record.is(RecordType::Row);
+        if (isCellRecord(record.type())) rows.insert(cellRow(record));
         at = record.end();
     }
-    return rows;
 }
 
 void patchDbCells(SheetPatch& patch) {
-    for (const auto& [dbCell, addedRows] : patch.changedBlocks) {
-        const std::size_t rows =
-            std::min<std::size_t>(rowsInBlock(patch, dbCell) + addedRows, maxRowsInDbCell);
-        std::vector<std::uint8_t> record;
-        appendRecord(record, RecordType::DbCell, std::vector<std::uint8_t>(4 + 2 * rows));
-        patch.patches.replace(dbCell, recordAt(patch.stream, dbCell).end() - dbCell, record);
+    for (auto& [dbCell, rows] : patch.changedBlocks) {
+        addRowsWithCells(patch, dbCell, rows);
+        const std::size_t count = std::min(rows.size(), maxRowsInDbCell);
+        patch.patches.replace(dbCell, recordAt(patch.stream, dbCell).end() - dbCell, unfilledDbCell(count));
     }
 }
 
@@ -51,7 +47,7 @@ void patchIndex(SheetPatch& patch, std::span<const CellChange> fresh) {
     std::vector<std::uint8_t> payload(index.payload.begin(), index.payload.end());
     store32(&payload[4], rows.first);
     store32(&payload[8], rows.end);
-    const std::size_t blocks = patch.layout.blocks.size() + patch.newBlocks;
+    const std::size_t blocks = patch.layout.dbCells + patch.newBlocks;
     if (patch.newBlocks > 0) payload.resize(indexHead + 4 * std::min(blocks, maxIndexed));
     std::vector<std::uint8_t> record;
     appendRecord(record, RecordType::Index, payload);
@@ -128,9 +124,8 @@ private:
     }
 
     void takeDbCell(const Record& record) {
-        if (blockStart_ == absent) return;
         dbCells_.push_back(record.offset);
-        if (record.u32(0) == 0) fill(record);
+        if (record.u32(0) == unfilledBlock && blockStart_ != absent) fill(record);
         blockStart_ = absent;
         rows_.clear();
         lastRow_ = 0;
@@ -140,10 +135,12 @@ private:
         std::uint8_t* payload = &out_[record.offset + recordHeaderSize];
         store32(payload, record.offset - blockStart_);
         auto reference = static_cast<std::uint32_t>(blockStart_ + rowRecordSize);
-        for (std::size_t i = 0; i < rows_.size() && 4 + 2 * i + 2 <= record.payload.size(); ++i) {
-            if (rows_[i].firstCell == absent) continue;
-            store16(payload + 4 + 2 * i, rows_[i].firstCell - reference);
-            reference = rows_[i].firstCell;
+        std::uint8_t* entry = payload + 4;
+        for (const RowCells& row : rows_) {
+            if (row.firstCell == absent || entry + 2 > payload + record.payload.size()) continue;
+            store16(entry, row.firstCell - reference);
+            reference = row.firstCell;
+            entry += 2;
         }
     }
 

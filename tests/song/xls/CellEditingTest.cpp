@@ -1,0 +1,268 @@
+#include "song/xls/records/CellRecord.h"
+#include "tests/song/xls/XlsFiles.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+using namespace zvonika::xls;
+using namespace xlstest;
+
+namespace {
+
+Rec row(int number, int first, int end, int options = 0x0100, int format = 15) {
+    const auto u = [](int value) { return static_cast<std::uint64_t>(value); };
+    return {0x0208, le(2, {u(number), u(first), u(end), 255, 0, 0, u(options), u(format)})};
+}
+
+Rec mulRk(int rowNumber, int first, const std::vector<int>& integers) {
+    const auto u = [](int value) { return static_cast<std::uint64_t>(value); };
+    Bytes data = le(2, {u(rowNumber), u(first)});
+    for (std::size_t i = 0; i < integers.size(); ++i)
+        data = data + le(2, {20 + i}) + le(4, {u(integers[i]) << 2 | 2});
+    return {0x00BD, data + le(2, {u(first) + integers.size() - 1})};
+}
+
+Rec rk(int rowNumber, int column, int format, int integer) {
+    const auto u = [](int value) { return static_cast<std::uint64_t>(value); };
+    return {0x027E, le(2, {u(rowNumber), u(column), u(format)}) + le(4, {u(integer) << 2 | 2})};
+}
+
+Rec blank(int rowNumber, int column, int format) {
+    const auto u = [](int value) { return static_cast<std::uint64_t>(value); };
+    return {0x0201, le(2, {u(rowNumber), u(column), u(format)})};
+}
+
+Rec boolean(int rowNumber, int column, int format, bool value) {
+    return {0x0205, blank(rowNumber, column, format).data + Bytes{value, 0}};
+}
+
+/// A formula with this result and these tokens.
+Rec formula(int rowNumber, int column, const Bytes& result, const Bytes& tokens) {
+    return {0x0006, blank(rowNumber, column, 15).data + result + le(2, {8}) + le(4, {0}) +
+                        le(2, {tokens.size()}) + tokens};
+}
+
+const Bytes textResult{0, 0, 0, 0, 0, 0, 0xFF, 0xFF};
+
+Bytes sharedWith(unsigned rowNumber, unsigned column) {
+    return Bytes{0x01} + le(2, {rowNumber, column});
+}
+
+/// The table's records after these values were set.
+std::vector<Rec> edited(const std::vector<Rec>& table, const std::vector<std::pair<CellRef, Value>>& values) {
+    Workbook book = Workbook::open(fileWithTable(table));
+    for (const auto& [cell, value] : values)
+        book.setValue(0, cell, value);
+    const Bytes file = book.save();
+    EXPECT_EQ(offsetFaults(file), "");
+    return tableOf(file);
+}
+
+void expectTable(const std::vector<Rec>& actual, const std::vector<Rec>& expected) {
+    ASSERT_EQ(actual.size(), expected.size());
+    for (std::size_t i = 0; i < actual.size(); ++i)
+        EXPECT_EQ(actual[i], expected[i]) << "record " << i;
+}
+
+TEST(MulRk, SplitsAtTheChangedCell) {
+    const std::vector<Rec> table{row(0, 1, 6), mulRk(0, 1, {10, 11, 12, 13, 14})};
+    expectTable(edited(table, {{{0, 3}, true}}),
+                {table[0],
+                 mulRk(0, 1, {10, 11}),
+                 boolean(0, 3, 22, true),
+                 {0x00BD, le(2, {0, 4, 23}) + le(4, {13 << 2 | 2}) + le(2, {24}) + le(4, {14 << 2 | 2}) +
+                              le(2, {5})}});
+    expectTable(edited(table, {{{0, 1}, true}, {{0, 5}, false}, {{0, 3}, Value()}}),
+                {table[0], boolean(0, 1, 20, true), rk(0, 2, 21, 11), blank(0, 3, 22), rk(0, 4, 23, 13),
+                 boolean(0, 5, 24, false)});
+    expectTable(edited(table, {{{0, 2}, 99.0}, {{0, 4}, 1e300}}),
+                {table[0], mulRk(0, 1, {10, 99, 12}), numberCell(0, 4, 1e300, 23), rk(0, 5, 24, 14)});
+    expectTable(edited(table, {{{0, 0}, true}, {{0, 6}, true}}),
+                {row(0, 0, 7), boolean(0, 0, 15, true), table[1], boolean(0, 6, 15, true)});
+}
+
+TEST(MulBlank, SplitsAtTheChangedCell) {
+    const std::vector<Rec> table{row(2, 0, 4), {0x00BE, le(2, {2, 0, 30, 31, 32, 33, 3})}};
+    expectTable(edited(table, {{{2, 1}, 5.0}}),
+                {table[0], blank(2, 0, 30), rk(2, 1, 31, 5), {0x00BE, le(2, {2, 2, 32, 33, 3})}});
+    expectTable(
+        edited(table, {{{2, 0}, true}, {{2, 3}, true}}),
+        {table[0], boolean(2, 0, 30, true), {0x00BE, le(2, {2, 1, 31, 32, 2})}, boolean(2, 3, 33, true)});
+}
+
+TEST(Formula, TakesItsStoredTextWithItWhenReplaced) {
+    const Rec text{0x0207, le(2, {3}) + Bytes{0, 'a', 'b', 'c'}};
+    const std::vector<Rec> table{row(0, 0, 3), formula(0, 0, textResult, {0x17, 1, 0, 'x'}), text,
+                                 numberCell(0, 1, 7.5),
+                                 formula(0, 2, {1, 0, 1, 0, 0, 0, 0xFF, 0xFF}, {0x1D, 1})};
+    Workbook book = Workbook::open(fileWithTable(table));
+    EXPECT_EQ(book.value(0, {0, 0}), Value(std::u16string(u"abc")));
+    EXPECT_EQ(book.value(0, {0, 2}), Value(true));
+    EXPECT_TRUE(book.isFormula(0, {0, 0}));
+    EXPECT_FALSE(book.isFormula(0, {0, 1}));
+    book.setValue(0, {0, 0}, std::u16string(u"abc"));
+    EXPECT_FALSE(book.isFormula(0, {0, 0}));
+    EXPECT_TRUE(book.isModified()) << "a formula is replaced even by its own result";
+    expectTable(edited(table, {{{0, 0}, 1.0}}), {table[0], rk(0, 0, 15, 1), table[3], table[4]});
+    expectTable(edited(table, {{{0, 1}, 1.0}}), {table[0], table[1], table[2], rk(0, 1, 15, 1), table[4]});
+}
+
+TEST(SharedFormula, MovesOnToTheNextCellThatUsesIt) {
+    const Bytes zero(8);
+    const Rec shared{0x04BC, le(2, {0, 3}) + Bytes{0, 0, 0, 4} + le(2, {3}) + Bytes{0x1E, 5, 0}};
+    const Rec text{0x0207, le(2, {1}) + Bytes{0, 'b'}};
+    const std::vector<Rec> table{row(0, 0, 1),
+                                 row(1, 0, 1),
+                                 row(2, 0, 1),
+                                 row(3, 0, 1),
+                                 formula(0, 0, zero, sharedWith(0, 0)),
+                                 shared,
+                                 formula(1, 0, zero, sharedWith(0, 0)),
+                                 formula(2, 0, textResult, sharedWith(0, 0)),
+                                 text,
+                                 formula(3, 0, zero, sharedWith(0, 0))};
+    const std::vector<Rec> rows(table.begin(), table.begin() + 4);
+    std::vector<Rec> expected = rows;
+    expected.insert(expected.end(), {rk(0, 0, 15, 9), formula(1, 0, zero, sharedWith(1, 0)), shared,
+                                     formula(2, 0, textResult, sharedWith(1, 0)), text,
+                                     formula(3, 0, zero, sharedWith(1, 0))});
+    expectTable(edited(table, {{{0, 0}, 9.0}}), expected);
+    expected = rows;
+    expected.insert(expected.end(),
+                    {rk(0, 0, 15, 9), rk(1, 0, 15, 8), formula(2, 0, textResult, sharedWith(2, 0)), shared,
+                     text, formula(3, 0, zero, sharedWith(2, 0))});
+    expectTable(edited(table, {{{0, 0}, 9.0}, {{1, 0}, 8.0}}), expected);
+    expected = table;
+    expected[6] = rk(1, 0, 15, 8);
+    expectTable(edited(table, {{{1, 0}, 8.0}}), expected);
+    expected = rows;
+    expected.insert(expected.end(), {rk(0, 0, 15, 1), rk(1, 0, 15, 1), rk(2, 0, 15, 1), rk(3, 0, 15, 1)});
+    expectTable(edited(table, {{{0, 0}, 1.0}, {{1, 0}, 1.0}, {{2, 0}, 1.0}, {{3, 0}, 1.0}}), expected);
+}
+
+TEST(ArrayFormula, IsChangedAsAWholeOrNotAtAll) {
+    const Bytes zero(8);
+    const auto array = [](std::uint8_t lastColumn) {
+        return Rec{0x0221, le(2, {0, 0}) + Bytes{0, lastColumn} + le(2, {0}) + le(4, {0}) + le(2, {3}) +
+                               Bytes{0x1E, 5, 0}};
+    };
+    const std::vector<Rec> wide{row(0, 0, 2), formula(0, 0, zero, sharedWith(0, 0)), array(1),
+                                formula(0, 1, zero, sharedWith(0, 0))};
+    Workbook book = Workbook::open(fileWithTable(wide));
+    EXPECT_THROW(book.setValue(0, {0, 0}, 1.0), std::invalid_argument);
+    EXPECT_THROW(book.setValue(0, {0, 1}, 1.0), std::invalid_argument);
+    EXPECT_FALSE(book.isModified());
+    const std::vector<Rec> single{row(0, 0, 1), formula(0, 0, zero, sharedWith(0, 0)), array(0)};
+    expectTable(edited(single, {{{0, 0}, 1.0}}), {single[0], rk(0, 0, 15, 1)});
+    const std::vector<Rec> dataTable{row(0, 0, 1), formula(0, 0, zero, Bytes{0x02} + le(2, {0, 0}))};
+    book = Workbook::open(fileWithTable(dataTable));
+    EXPECT_THROW(book.setValue(0, {0, 0}, 1.0), std::invalid_argument);
+}
+
+TEST(NewCell, TakesTheFormatOfItsRowThenItsColumn) {
+    std::vector<Rec> all = recordsOf(fileWithTable(
+        {row(0, 0, 1, 0x0180, 25), row(1, 0, 1, 0x0100, 26), numberCell(0, 0, 1.5), numberCell(1, 0, 1.5)}));
+    all.insert(std::ranges::find(all, 0x0055, &Rec::id) + 1, {0x007D, le(2, {3, 3, 1000, 40, 0, 0})});
+    Workbook book = Workbook::open(fileAround(bytesOf(all)));
+    for (const CellRef& cell : {CellRef{0, 3}, CellRef{1, 3}, CellRef{1, 4}, CellRef{2, 3}, CellRef{2, 2}})
+        book.setValue(0, cell, true);
+    expectTable(tableOf(book.save()),
+                {row(0, 0, 4, 0x0180, 25), row(1, 0, 5, 0x0100, 26), row(2, 2, 4), numberCell(0, 0, 1.5),
+                 boolean(0, 3, 25, true), numberCell(1, 0, 1.5), boolean(1, 3, 40, true),
+                 boolean(1, 4, 15, true), boolean(2, 2, 15, true), boolean(2, 3, 40, true)});
+}
+
+TEST(NewCell, StandsInOrderWhereverTheRowsAre) {
+    // No Row records: none are added. Rows before their own cells: so are new ones.
+    expectTable(edited({numberCell(1, 1, 1.5), numberCell(5, 1, 1.5)},
+                       {{{1, 0}, true}, {{3, 0}, true}, {{0, 9}, true}, {{6, 0}, true}}),
+                {boolean(0, 9, 15, true), boolean(1, 0, 15, true), numberCell(1, 1, 1.5),
+                 boolean(3, 0, 15, true), numberCell(5, 1, 1.5), boolean(6, 0, 15, true)});
+    expectTable(edited({row(1, 1, 2), numberCell(1, 1, 1.5), row(5, 1, 2), numberCell(5, 1, 1.5)},
+                       {{{3, 0}, true}, {{6, 0}, true}, {{5, 2}, true}}),
+                {row(1, 1, 2), numberCell(1, 1, 1.5), row(3, 0, 1), boolean(3, 0, 15, true), row(5, 1, 3),
+                 numberCell(5, 1, 1.5), boolean(5, 2, 15, true), row(6, 0, 1), boolean(6, 0, 15, true)});
+    expectTable(edited({row(1, 1, 2), row(2, 0, 0), numberCell(1, 1, 1.5)}, {{{2, 7}, true}, {{0, 0}, true}}),
+                {row(0, 0, 1), row(1, 1, 2), row(2, 7, 8), boolean(0, 0, 15, true), numberCell(1, 1, 1.5),
+                 boolean(2, 7, 15, true)});
+}
+
+TEST(Cells, OutOfOrderAndTwiceAreFound) {
+    const std::vector<Rec> table{numberCell(5, 1, 1.5), numberCell(1, 1, 2.5), numberCell(5, 1, 3.5)};
+    Workbook book = Workbook::open(fileWithTable(table));
+    EXPECT_EQ(book.value(0, {5, 1}), Value(3.5)) << "the later record counts";
+    expectTable(edited(table, {{{5, 1}, true}, {{1, 1}, false}}),
+                {table[0], boolean(1, 1, 15, false), boolean(5, 1, 15, true)});
+}
+
+TEST(Cells, OfEveryKindAreRead) {
+    const Rec label{0x0204, blank(0, 0, 15).data + le(2, {2}) + Bytes{1} + le(2, {0x010D, 'a'})};
+    const Rec rich{0x00D6, blank(0, 1, 15).data + le(2, {2}) + Bytes{0, 'o', 'k'} + le(2, {1, 0, 1})};
+    const Rec error{0x0205, blank(0, 2, 15).data + Bytes{0x17, 1}};
+    const Rec emptyText = formula(0, 3, {3, 0, 0, 0, 0, 0, 0xFF, 0xFF}, {0x1E, 5, 0});
+    const Rec errorResult = formula(0, 4, {2, 0, 0x07, 0, 0, 0, 0xFF, 0xFF}, {0x1E, 5, 0});
+    const Workbook book =
+        Workbook::open(fileWithTable({label, rich, error, emptyText, errorResult, blank(0, 5, 15)}));
+    const Value expected[] = {std::u16string(u"ča"), std::u16string(u"ok"), ErrorValue{0x17},
+                              std::u16string(),      ErrorValue{0x07},      Value()};
+    for (int column = 0; column < 6; ++column)
+        EXPECT_EQ(book.value(0, {0, column}), expected[column]) << column;
+    EXPECT_EQ(book.usedColumns(0), 5);
+}
+
+TEST(NestedChart, IsNotTakenForTheSheet) {
+    const Rec bof{0x0809, le(2, {0x0600, 0x0020, 0, 0, 0, 0, 0, 0})};
+    const std::vector<Rec> table{
+        numberCell(0, 0, 1.5), bof, numberCell(0, 0, 99.5), {0x000A, {}}, numberCell(7, 0, 2.5)};
+    Workbook book = Workbook::open(fileWithTable(table));
+    EXPECT_EQ(book.value(0, {0, 0}), Value(1.5));
+    EXPECT_EQ(book.value(0, {7, 0}), Value(2.5));
+    book.setValue(0, {0, 0}, true);
+    const std::vector<Rec> all = recordsOf(book.save());
+    EXPECT_NE(std::ranges::find(all, table[2]), all.end());
+}
+
+TEST(RowBlocks, GrowWithTheSheet) {
+    Workbook book = Workbook::create(u"List");
+    for (const int rowNumber : {40, 41, 100, 7, 300})
+        book.setValue(0, {rowNumber, 3}, 1.0 * rowNumber);
+    book = Workbook::open(book.save());
+    for (const int rowNumber : {0, 6, 8, 39, 42, 71, 72, 99, 131, 132, 299, 1000})
+        for (const int column : {0, 3, 5})
+            book.setValue(0, {rowNumber, column},
+                          u"ř" + std::u16string(static_cast<std::size_t>(rowNumber % 9), u'x'));
+    const Bytes file = book.save();
+    EXPECT_EQ(offsetFaults(file), "");
+    const std::vector<Rec> all = recordsOf(file);
+    const Rec* index = find(all, 0x020B);
+    EXPECT_EQ(index->u32(4), 0U);
+    EXPECT_EQ(index->u32(8), 1001U);
+    EXPECT_EQ((index->data.size() - 16) / 4,
+              static_cast<std::size_t>(std::ranges::count(all, 0x00D7, &Rec::id)));
+    const Rec* dimensions = find(all, 0x0200);
+    EXPECT_EQ(dimensions->data, le(4, {0, 1001}) + le(2, {0, 6, 0}));
+    int last = -1;
+    for (const Rec& record : all) {
+        if (record.id != 0x0208) continue;
+        EXPECT_GT(int(record.u16(0)), last);
+        last = record.u16(0);
+    }
+    const Workbook read = Workbook::open(file);
+    for (int rowNumber = 0; rowNumber < 1001; ++rowNumber)
+        for (int column = 0; column < 6; ++column)
+            EXPECT_EQ(read.value(0, {rowNumber, column}), book.value(0, {rowNumber, column}));
+}
+
+TEST(Dimensions, AreNotAddedAndNeverEmptyRanges) {
+    std::vector<Rec> all = recordsOf(fileWithTable({numberCell(3, 1, 1.5)}));
+    std::erase_if(all, [](const Rec& record) { return record.id == 0x0200; });
+    Workbook book = Workbook::open(fileAround(bytesOf(all)));
+    book.setValue(0, {5, 5}, 1.0);
+    EXPECT_EQ(find(recordsOf(book.save()), 0x0200), nullptr);
+    // A sheet whose range is empty although it has cells: the range covers them, too.
+    book = Workbook::open(fileWithTable({numberCell(3, 1, 1.5)}));
+    book.setValue(0, {5, 5}, 1.0);
+    EXPECT_EQ(find(recordsOf(book.save()), 0x0200)->data, le(4, {3, 6}) + le(2, {1, 6, 0}));
+}
+
+} // namespace

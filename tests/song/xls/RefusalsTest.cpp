@@ -1,0 +1,113 @@
+#include "song/xls/container/CompoundFile.h"
+#include "tests/song/xls/XlsFiles.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+using namespace zvonika::xls;
+using namespace xlstest;
+
+namespace {
+
+Bytes text(const std::string& characters) {
+    return Bytes(characters.begin(), characters.end());
+}
+
+Bytes withStreamNamed(const char* name) {
+    return CompoundFile::withEmptyStream(name).withStream(1, Bytes(5000, 1));
+}
+
+Bytes withFirst(std::uint16_t id, const Bytes& data) {
+    std::vector<Rec> all = recordsOf(Workbook::create(u"List").save());
+    all.insert(all.begin() + 1, {id, data});
+    return fileAround(bytesOf(all));
+}
+
+Bytes withVersion(std::uint16_t version) {
+    std::vector<Rec> all = recordsOf(Workbook::create(u"List").save());
+    all.front().data[0] = static_cast<std::uint8_t>(version);
+    all.front().data[1] = static_cast<std::uint8_t>(version >> 8);
+    return fileAround(bytesOf(all));
+}
+
+TEST(Refusals, NameWhatTheFileIs) {
+    const struct {
+        const char* what;
+        Bytes file;
+        Refusal refusal;
+    } table[] = {
+        {"nothing", {}, Refusal::Empty},
+        {"xlsx",
+         text("PK\x03\x04"
+              "rest of it"),
+         Refusal::OtherFormat},
+        {"pdf", text("%PDF-1.4 \x01"), Refusal::OtherFormat},
+        {"rtf", text("{\\rtf1 }"), Refusal::OtherFormat},
+        {"html", text("\n <html><table>"), Refusal::OtherFormat},
+        {"xml with a mark", text("\xEF\xBB\xBF<?xml version"), Refusal::OtherFormat},
+        {"csv", text("Koč;c1\r\nka;d1\r\n"), Refusal::OtherFormat},
+        {"csv in UTF-16", Bytes{0xFF, 0xFE, 'a', 0, ';', 0}, Refusal::OtherFormat},
+        {"rubbish", Bytes{1, 2, 3, 4, 0, 99}, Refusal::NotXls},
+        {"zeros", Bytes(3000), Refusal::NotXls},
+        {"BIFF2", Bytes{9, 0, 4, 0, 2, 0, 0x10, 0}, Refusal::OldFormat},
+        {"BIFF4", Bytes{9, 4, 6, 0, 0, 4, 0x10, 0, 0, 0}, Refusal::OldFormat},
+        {"half a signature", Bytes{0xD0, 0xCF, 0x11}, Refusal::Truncated},
+        {"half a header",
+         [] {
+             Bytes b = Workbook::create(u"x").save();
+             b.resize(300);
+             return b;
+         }(),
+         Refusal::Truncated},
+        {"Word document", withStreamNamed("WordDocument"), Refusal::OtherFormat},
+        {"encrypted xlsx", withStreamNamed("EncryptedPackage"), Refusal::Encrypted},
+        {"some container", withStreamNamed("Contents"), Refusal::NotXls},
+        {"no Bof", withStreamNamed("Workbook"), Refusal::Damaged},
+        {"BIFF5", withVersion(0x0500), Refusal::OldFormat},
+        {"unknown version", withVersion(0x0700), Refusal::Damaged},
+        {"password", withFirst(0x002F, Bytes(54, 1)), Refusal::Encrypted},
+    };
+    for (const auto& [what, file, refusal] : table)
+        try {
+            Workbook::open(file);
+            ADD_FAILURE() << what << " was opened";
+        } catch (const FormatError& error) {
+            EXPECT_EQ(error.refusal(), refusal) << what << ": " << error.what();
+        }
+}
+
+TEST(Refusals, ContradictionsInTheWorkbook) {
+    const std::vector<Rec> good = recordsOf(fileWithTable({numberCell(0, 0, 1.5)}));
+    const auto sheet = std::ranges::find(good, 0x0085, &Rec::id) - good.begin();
+    const auto cell = std::ranges::find(good, 0x0203, &Rec::id) - good.begin();
+    const auto check = [&](const char* place, Refusal refusal, auto change) {
+        std::vector<Rec> all = good;
+        change(all);
+        try {
+            Workbook::open(fileAround(bytesOf(all)));
+            ADD_FAILURE() << place << " was opened";
+        } catch (const FormatError& error) {
+            EXPECT_EQ(error.place(), place) << error.what();
+            EXPECT_EQ(error.refusal(), refusal) << error.what();
+            EXPECT_NE(std::string(error.what()).find("expected"), std::string::npos);
+        }
+    };
+    check("BoundSheet", Refusal::Damaged, [&](auto& all) { all[std::size_t(sheet)].data[0] ^= 4; });
+    check("BoundSheet", Refusal::Damaged,
+          [&](auto& all) { all.insert(all.begin() + sheet, all[std::size_t(sheet)]); });
+    check("BoundSheet", Refusal::Damaged, [&](auto& all) { all[std::size_t(sheet)].data[5] = 2; });
+    check("Number", Refusal::Damaged, [&](auto& all) { all[std::size_t(cell)].data.pop_back(); });
+    check("Number", Refusal::Damaged, [&](auto& all) { all[std::size_t(cell)].data[3] = 1; });
+    check("LabelSst", Refusal::Damaged, [&](auto& all) {
+        all[std::size_t(cell)] = {0x00FD, le(2, {0, 0, 15}) + le(4, {0})};
+    });
+}
+
+TEST(Refusals, DoNotAskForMemoryThatCountsPretend) {
+    std::vector<Rec> all = recordsOf(Workbook::create(u"List").save());
+    auto sst = std::ranges::find(all, 0x00FC, &Rec::id);
+    sst->data = le(4, {0xFFFFFFFF, 0xFFFFFFFF});
+    EXPECT_EQ(Workbook::open(fileAround(bytesOf(all))).sheetCount(), 1);
+}
+
+} // namespace
