@@ -58,8 +58,17 @@ SheetWindow::SheetWindow(SheetCommands& commands)
     setCentralWidget(makePages());
     setMinimumSize(320, 150);
     resize(1180, 420);
+    table_->setFocus();
     wireUser();
     setDocument(nullptr);
+}
+
+// The parts go after this object's own and would still tell it of their going.
+SheetWindow::~SheetWindow() {
+    setDocument(nullptr);
+    table_->disconnect(this);
+    line_->disconnect(this);
+    footer_->tabs()->disconnect(this);
 }
 
 QWidget* SheetWindow::makeTop() {

@@ -23,6 +23,7 @@ class SheetWindow : public QMainWindow, public SheetView {
 public:
     /// `commands` must outlive the window.
     explicit SheetWindow(SheetCommands& commands);
+    ~SheetWindow() override;
 
     void setVisible(bool visible) override;
     void raise() override;

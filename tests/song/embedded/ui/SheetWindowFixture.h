@@ -1,0 +1,89 @@
+#pragma once
+
+#include "platform/HomeDrive.h"
+#include "platform/IniSettingsStore.h"
+#include "song/embedded/EmbeddedApplication.h"
+#include "song/embedded/ui/SheetTable.h"
+#include "song/embedded/ui/SheetTabs.h"
+#include "song/embedded/ui/SheetWindow.h"
+#include "tests/support/ScriptedDialogs.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QLineEdit>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace zvonika::testing {
+
+/// Counts what the program is told of the user's doings.
+class CountingListener : public SpreadsheetListener {
+public:
+    void cursorMoved() override { ++moves; }
+    void cellsEdited() override { ++edits; }
+
+    int moves = 0;
+    int edits = 0;
+};
+
+/// The built-in application with its real window on an empty workbook.
+class SheetWindowFixture : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(folder.isValid());
+        application.setDefaultFilePath(folder.path());
+        application.setListener(&listener);
+        application.setVisible(true);
+        ASSERT_NE(window, nullptr);
+        window->resize(1366, 190);
+        window->raise();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+        application.addWorkbook();
+        table().setFocus();
+    }
+
+    SheetTable& table() const { return *window->findChild<SheetTable*>(); }
+    SheetTabs& tabs() const { return *window->findChild<SheetTabs*>(); }
+    QLineEdit& line() const { return *window->findChild<QLineEdit*>(QStringLiteral("obsahBunky")); }
+    QLineEdit* editor() const { return window->findChild<QLineEdit*>(QStringLiteral("editBunky")); }
+    QAction& action(const char* name) const { return *window->findChild<QAction*>(QLatin1String(name)); }
+
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const {
+        QWidget* focus = QApplication::focusWidget();
+        QTest::keyClick(focus ? focus : window, key, modifiers);
+        QApplication::processEvents(); // an editor commits after it has seen the key
+    }
+    /// Key by key: the first one may open an editor, which then gets the others.
+    void type(const char* text) const {
+        for (; *text; ++text)
+            QTest::keyClick(QApplication::focusWidget(), *text);
+    }
+    QModelIndex indexOf(const char* address) const {
+        const auto range = parseAddress(QString::fromLatin1(address));
+        return table().model()->index(range->first.row - 1, range->first.column - 1);
+    }
+    void click(const char* address) const {
+        const QPoint centre = table().visualRect(indexOf(address)).center();
+        QTest::mouseClick(table().viewport(), Qt::LeftButton, {}, centre);
+    }
+    QString text(const char* address) const { return cellText(application.value(QLatin1String(address))); }
+    QString shown(const char* address) const { return indexOf(address).data().toString(); }
+    std::string cursor() const { return application.activeAddress().toStdString(); }
+
+    QTemporaryDir folder;
+    HomeDrive drive{folder.path(), folder.path()};
+    ScriptedDialogs dialogs;
+    IniSettingsStore settings{folder.filePath(QStringLiteral("nastaveni.ini"))};
+    CountingListener listener;
+    SheetWindow* window = nullptr;
+    EmbeddedApplication application{drive, dialogs, settings, [this](SheetCommands& commands) {
+                                        auto made = std::make_unique<SheetWindow>(commands);
+                                        window = made.get();
+                                        return made;
+                                    }};
+};
+
+} // namespace zvonika::testing

@@ -1,0 +1,185 @@
+#include "song/xls/Workbook.h"
+#include "tests/song/embedded/ui/SheetWindowFixture.h"
+
+#include <QFile>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace zvonika::testing {
+namespace {
+
+class SheetFile : public SheetWindowFixture {
+protected:
+    void saveAs(const char* name) {
+        application.saveActiveWorkbookAs({folder.filePath(QLatin1String(name))});
+    }
+    bool emptyPageIsUp() const {
+        const auto* page = window->findChild<QLabel*>(QStringLiteral("prazdnaStranka"));
+        return !page->isHidden();
+    }
+};
+
+TEST_F(SheetFile, SavesByKeyAndShowsItInTheTitle) {
+    saveAs("pisen.xls");
+    EXPECT_EQ(window->windowTitle(), QStringLiteral("pisen.xls[*] – Tabulka Zvoniky"));
+    click("A1");
+    type("pes");
+    press(Qt::Key_Return);
+    EXPECT_TRUE(window->isWindowModified());
+    press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_FALSE(window->isWindowModified());
+
+    QFile file(folder.filePath(QStringLiteral("pisen.xls")));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray bytes = file.readAll();
+    const auto book = xls::Workbook::open({bytes.begin(), bytes.end()});
+    EXPECT_EQ(book.usedRows(0), 1);
+}
+
+TEST_F(SheetFile, ClosingTheWindowClosesTheWorkbook) {
+    saveAs("pisen.xls");
+    EXPECT_FALSE(window->close());
+    EXPECT_EQ(application.activeWorkbookName(), QString());
+    EXPECT_TRUE(emptyPageIsUp());
+    EXPECT_EQ(window->windowTitle(), QStringLiteral("Tabulka Zvoniky"));
+    EXPECT_FALSE(action("akceUlozit").isEnabled());
+    EXPECT_TRUE(action("akceUkoncit").isEnabled());
+    EXPECT_THROW(application.activateWindow(QStringLiteral("pisen.xls")), AutomationError);
+
+    window->show();
+    window->close();
+    EXPECT_FALSE(window->isVisible()) << "without a workbook it just goes";
+
+    application.openWorkbook(folder.filePath(QStringLiteral("pisen.xls")));
+    EXPECT_TRUE(window->isVisible()) << "it comes back with the next workbook";
+    EXPECT_FALSE(emptyPageIsUp());
+}
+
+TEST_F(SheetFile, AsksBeforeChangesAreLost) {
+    click("A1");
+    type("x");
+    press(Qt::Key_Return);
+    dialogs.expect(jmenoTabulky, QStringLiteral("Chcete uložit změny"), Answer::Cancel);
+    window->close();
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(text("A1"), QStringLiteral("x"));
+
+    dialogs.expect(jmenoTabulky, QStringLiteral("Chcete uložit změny"), Answer::No);
+    press(Qt::Key_W, Qt::ControlModifier);
+    EXPECT_EQ(application.activeWorkbookName(), QString());
+}
+
+TEST_F(SheetFile, QuittingEndsTheApplication) {
+    press(Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_FALSE(window->isVisible());
+    try {
+        application.activeRow();
+        ADD_FAILURE() << "the application is gone";
+    } catch (const AutomationError& gone) {
+        EXPECT_EQ(gone.number(), error::objectNotSet);
+    }
+}
+
+TEST_F(SheetFile, OneWorkbookIsShownOfSeveral) {
+    application.setValue(QStringLiteral("A1"), QStringLiteral("první"));
+    const QString first = application.activeWorkbookName();
+    application.addWorkbook();
+    EXPECT_EQ(shown("A1"), QString());
+    application.activateWindow(first);
+    EXPECT_EQ(shown("A1"), QStringLiteral("první"));
+
+    auto* menu = window->findChild<QMenuBar*>()->actions().first()->menu();
+    Q_EMIT menu->aboutToShow();
+    QMenu* books = menu->findChild<QMenu*>();
+    ASSERT_EQ(books->actions().size(), 2);
+    EXPECT_TRUE(books->actions().first()->isChecked());
+    books->actions().last()->trigger();
+    EXPECT_NE(application.activeWorkbookName(), first);
+    EXPECT_EQ(shown("A1"), QString());
+}
+
+TEST_F(SheetFile, ATabIsRenamedInItsPlace) {
+    const QString before = application.activeSheetName();
+    const QPoint centre = tabs().tabRect(0).center();
+    QTest::mouseDClick(&tabs(), Qt::LeftButton, {}, centre);
+    auto* name = tabs().findChild<QLineEdit*>();
+    ASSERT_NE(name, nullptr);
+    EXPECT_EQ(name->text(), before);
+    QTest::keyClicks(name, QStringLiteral("a/b"));
+    dialogs.expect(jmenoTabulky, QString());
+    QTest::keyClick(name, Qt::Key_Return);
+    EXPECT_EQ(application.activeSheetName(), before) << "refused, and open for another try";
+    name->setText(QStringLiteral("C & G dur"));
+    QTest::keyClick(name, Qt::Key_Return);
+    EXPECT_EQ(application.activeSheetName(), QStringLiteral("C & G dur"));
+    EXPECT_EQ(tabs().tabText(0), QStringLiteral("C && G dur"));
+    EXPECT_EQ(listener.edits, 1);
+
+    QTest::mouseDClick(&tabs(), Qt::LeftButton, {}, centre);
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("x"));
+    press(Qt::Key_Escape);
+    EXPECT_EQ(application.activeSheetName(), QStringLiteral("C & G dur"));
+}
+
+TEST_F(SheetFile, ShowsFiveRowsAndAllColumnsOfAGripInALowWindow) {
+    window->resize(1366, 190);
+    QApplication::processEvents();
+    EXPECT_GE(table().viewport()->height(), 5 * table().rowHeight(0));
+    EXPECT_LT(table().columnViewportPosition(22), table().viewport()->width() - 20) << "column W";
+    window->resize(470, 700);
+    EXPECT_EQ(window->width(), 470) << "fits beside the main window";
+}
+
+TEST_F(SheetFile, WidthsComeFromTheFileAndGoIntoIt) {
+    EXPECT_EQ(table().columnWidth(0), 110);
+    table().setColumnWidth(0, 205);
+    EXPECT_TRUE(window->isWindowModified());
+    saveAs("siroka.xls");
+    application.closeActiveWorkbook();
+    application.openWorkbook(folder.filePath(QStringLiteral("siroka.xls")));
+    EXPECT_NEAR(table().columnWidth(0), 205, 2);
+    EXPECT_EQ(table().columnWidth(1), 52);
+}
+
+TEST_F(SheetFile, SixthFunctionKeyGoesToTheProgram) {
+    int presses = 0;
+    QObject::connect(window, &SheetWindow::f6Pressed, [&presses] { ++presses; });
+    press(Qt::Key_F6);
+    click("A1");
+    type("x");
+    press(Qt::Key_F6);
+    EXPECT_EQ(presses, 2);
+}
+
+TEST_F(SheetFile, StatusSaysWhatIsShown) {
+    const auto* status = window->findChild<QLabel*>(QStringLiteral("stavTabulky"));
+    application.setValue(QStringLiteral("B1"), QStringLiteral("c1,"));
+    application.setValue(QStringLiteral("B2"), QStringLiteral("d1,"));
+    const std::pair<const char*, const char*> cases[] = {
+        {"B1", "Hmat 1 z 2  ·  B: tón"},
+        {"W2", "Hmat 2 z 2  ·  W: tónina"},
+        {"J3", "Volný řádek 3 (poslední hmat 2)"},
+        {"B1:C2", "Hmat 1 z 2  ·  výběr B1:C2"},
+    };
+    for (const auto& [address, expected] : cases) {
+        application.selectRange(QLatin1String(address));
+        EXPECT_EQ(status->text(), QString::fromUtf8(expected));
+    }
+}
+
+TEST_F(SheetFile, EveryPartHasAName) {
+    const auto parts = window->findChildren<QWidget*>();
+    for (const QWidget* part : parts) {
+        const bool toolkits =
+            part->objectName().startsWith(QStringLiteral("qt_")) || part->parent() == &tabs();
+        if (toolkits || part->focusPolicy() == Qt::NoFocus || !part->isVisibleTo(window)) continue;
+        EXPECT_FALSE(part->accessibleName().isEmpty()) << part->metaObject()->className();
+    }
+    EXPECT_EQ(table().model()->headerData(0, Qt::Horizontal, Qt::AccessibleTextRole),
+              QStringLiteral("A slabika"));
+    EXPECT_EQ(table().model()->index(1, 1).data(Qt::AccessibleTextRole), QStringLiteral("B2 tón: prázdná"));
+}
+
+} // namespace
+} // namespace zvonika::testing
