@@ -26,7 +26,32 @@ void Napis::nastav(const QString& text) {
     rozvrzen_ = false;
     for (const auto cast : QStringView(text_).split(u'\n')) {
         const QString radek = bezCarky(cast.trimmed().toString());
-        if (!radek.isEmpty()) radky_.push_back({radek, QStaticText(radek), {}});
+        if (!radek.isEmpty()) radky_.push_back({radek, QStaticText(radek), {}, 0});
+    }
+}
+
+qreal Napis::zmer(const QFontMetricsF& miry) {
+    qreal nejsirsi = 0;
+    for (Radek& radek : radky_) {
+        radek.sirka = miry.horizontalAdvance(radek.text);
+        nejsirsi = std::max(nejsirsi, radek.sirka);
+    }
+    return nejsirsi;
+}
+
+void Napis::zvolPismo(const QRectF& misto, const QFont& pismo) {
+    pismo_ = pismo;
+    pismo_.setPixelSize(
+        std::max(nejmensiPismo, static_cast<int>(misto.height() / double(radky_.size()) * pismoVRadku)));
+    qreal sirka = zmer(QFontMetricsF(pismo_));
+    if (sirka <= misto.width()) return;
+    // Narrow letters are read more easily than small ones.
+    pismo_.setStretch(std::max(nejuzsiPismo, static_cast<int>(100 * misto.width() / sirka)));
+    sirka = zmer(QFontMetricsF(pismo_));
+    while (sirka > misto.width() && pismo_.pixelSize() > nejmensiPismo) {
+        const int podleSirky = static_cast<int>(pismo_.pixelSize() * misto.width() / sirka);
+        pismo_.setPixelSize(std::clamp(podleSirky, nejmensiPismo, pismo_.pixelSize() - 1));
+        sirka = zmer(QFontMetricsF(pismo_));
     }
 }
 
@@ -35,34 +60,16 @@ void Napis::rozvrhni(const QRectF& misto, const QFont& pismo, Qt::Alignment zaro
     zaklad_ = pismo;
     zarovnani_ = zarovnani;
     rozvrzen_ = true;
+    zvolPismo(misto, pismo);
+    const QFontMetricsF miry(pismo_);
     const qreal vyskaRadku = misto.height() / double(radky_.size());
-    pismo_ = pismo;
-    pismo_.setPixelSize(std::max(nejmensiPismo, static_cast<int>(vyskaRadku * pismoVRadku)));
-    const auto sirka = [this](const QFontMetricsF& miry) {
-        qreal nejsirsi = 0;
-        for (const Radek& radek : radky_)
-            nejsirsi = std::max(nejsirsi, miry.horizontalAdvance(radek.text));
-        return nejsirsi;
-    };
-    QFontMetricsF miry(pismo_);
-    // Narrow letters are read more easily than small ones.
-    if (sirka(miry) > misto.width()) {
-        pismo_.setStretch(std::max(nejuzsiPismo, static_cast<int>(100 * misto.width() / sirka(miry))));
-        miry = QFontMetricsF(pismo_);
-    }
-    while (sirka(miry) > misto.width() && pismo_.pixelSize() > nejmensiPismo) {
-        const int podleSirky = static_cast<int>(pismo_.pixelSize() * misto.width() / sirka(miry));
-        pismo_.setPixelSize(std::clamp(podleSirky, nejmensiPismo, pismo_.pixelSize() - 1));
-        miry = QFontMetricsF(pismo_);
-    }
     qreal stred = misto.top() + vyskaRadku / 2;
     for (Radek& radek : radky_) {
-        const qreal volno = misto.width() - miry.horizontalAdvance(radek.text);
+        const qreal volno = misto.width() - radek.sirka;
         const qreal x = zarovnani & Qt::AlignLeft ? 0 : zarovnani & Qt::AlignRight ? volno : volno / 2;
         // Centred by its capitals, but with the tail of a "g" still in the box.
         const qreal ucari = std::min(stred + miry.capHeight() / 2, misto.bottom() - miry.descent());
         radek.kde = QPointF(misto.left() + x, ucari - miry.ascent());
-        radek.sazba.prepare({}, pismo_);
         stred += vyskaRadku;
     }
 }

@@ -5,6 +5,7 @@
 #include <QString>
 #include <QVector>
 
+class QFontMetricsF;
 class QPainter;
 
 namespace zvonika {
@@ -29,7 +30,10 @@ private:
         QString text;
         QStaticText sazba;
         QPointF kde;
+        qreal sirka = 0;
     };
+    qreal zmer(const QFontMetricsF& miry);
+    void zvolPismo(const QRectF& misto, const QFont& pismo);
     void rozvrhni(const QRectF& misto, const QFont& pismo, Qt::Alignment zarovnani);
 
     QString text_;

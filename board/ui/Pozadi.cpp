@@ -24,25 +24,27 @@ QBrush vyplnDreva(const QRectF& telo) {
     return leta;
 }
 
-void nakresliTelo(QPainter& painter, const QRectF& telo) {
+QPainterPath obly(const QRectF& telo, qreal okraj) {
     constexpr qreal polomer = 260;
     QPainterPath obrys;
-    obrys.addRoundedRect(telo, polomer, polomer);
-    painter.fillPath(obrys.translated(10, 25), QColor(0, 0, 0, 60));
-    painter.fillPath(obrys, vyplnDreva(telo));
+    obrys.addRoundedRect(telo.adjusted(okraj, okraj, -okraj, -okraj), polomer - okraj, polomer - okraj);
+    return obrys;
+}
+
+// Lines are drawn as filled bodies in each other: stroking such large outlines costs several times as much.
+void nakresliTelo(QPainter& painter, const QRectF& telo) {
+    painter.fillPath(obly(telo, 0).translated(10, 25), QColor(0, 0, 0, 60));
+    painter.fillPath(obly(telo, 0), QColor(58, 36, 22));
+    painter.fillPath(obly(telo, 22), vyplnDreva(telo));
+    QPainterPath linka = obly(telo, 48);
+    linka.addPath(obly(telo, 62));
+    painter.fillPath(linka, QColor(224, 184, 112, 170));
     QLinearGradient svetlo(telo.topLeft(), telo.bottomLeft());
     svetlo.setColorAt(0, QColor(255, 226, 190, 50));
     svetlo.setColorAt(0.25, QColor(255, 226, 190, 0));
     svetlo.setColorAt(0.8, QColor(0, 0, 0, 0));
     svetlo.setColorAt(1, QColor(0, 0, 0, 60));
-    painter.fillPath(obrys, svetlo);
-    painter.setPen(QPen(QColor(58, 36, 22), 22));
-    painter.drawPath(obrys);
-    QPainterPath linka;
-    linka.addRoundedRect(telo.adjusted(48, 48, -48, -48), polomer - 48, polomer - 48);
-    painter.setPen(QPen(QColor(224, 184, 112, 170), 14));
-    painter.drawPath(linka);
-    painter.setPen(Qt::NoPen);
+    painter.fillPath(obly(telo, 22), svetlo);
 }
 
 void nakresliDrazku(QPainter& painter, const QRectF& drazka) {

@@ -86,6 +86,7 @@ int main(int argc, char** argv) {
     const QDir kam(argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral("."));
     kam.mkpath(QStringLiteral("."));
     zmer();
+    zmer(); // once more with the fonts loaded
     for (const double meritko : {0.87, 1.0, 2.0}) {
         Sestava s(meritko);
         uloz(s, kam.filePath(QStringLiteral("volny-%1.png").arg(meritko)));
