@@ -11,7 +11,7 @@ public:
     explicit ElidovanyPopisek(const QString& jmeno, QWidget* parent = nullptr);
 
     void nastavText(const QString& text);
-    /// Nothing follows the window's text colour.
+    /// An invalid colour follows the window's text colour.
     void nastavBarvu(const QColor& barva);
     void nastavTucne(bool tucne);
     /// Letter height by that of the widget's font: at best and, where the text does not fit, at least.
