@@ -14,7 +14,7 @@ const QVector<TlacitkoPrikazu>& tlacitkaPrikazu() {
         {"cmdStupnice",
          "Vyberte tóninu",
          "Zapsaná stupnice: volba tóniny",
-         {13920, 5870, 2020, 390},
+         {14080, 5870, 1860, 390},
          Druh::Bezne,
          "Ctrl+T"},
         // recording
@@ -45,20 +45,20 @@ const QVector<TlacitkoPrikazu>& tlacitkaPrikazu() {
         {"cmdZvuk(1)", "Midi", "Přehrát Midi", {13370, 9940, 1260, 390}},
         {"cmdZvuk(2)", "Wav", "Přehrát Wav", {14680, 9940, 1260, 390}},
         // releasing
-        {"cmdUvolDiskant", "Uvolnit diskant", "", {7560, 5290, 1620, 370}},
-        {"cmdUvolBasy", "Uvolnit basy", "", {7560, 5690, 1620, 370}},
-        {"cmdUvolNoty", "Uvolnit noty", "", {7560, 6090, 1620, 370}},
-        {"cmdUvolniPultony", "b", "Uvolnit půltóny", {7560, 6490, 480, 370}},
-        {"cmdUvolOdrazky", "Uvolnit odrážky", "", {8070, 6490, 1110, 370}},
-        {"cmdUvolKnofl", "Uvolnit vše", "", {7560, 6890, 1620, 420}, Druh::Hlavni, "F4"},
+        {"cmdUvolDiskant", "Uvolnit diskant", "", {7680, 5290, 1500, 370}},
+        {"cmdUvolBasy", "Uvolnit basy", "", {7680, 5690, 1500, 370}},
+        {"cmdUvolNoty", "Uvolnit noty", "", {7680, 6090, 1500, 370}},
+        {"cmdUvolniPultony", "b", "Uvolnit půltóny", {7680, 6490, 480, 370}},
+        {"cmdUvolOdrazky", "Uvolnit odrážky", "", {8190, 6490, 990, 370}},
+        {"cmdUvolKnofl", "Uvolnit vše", "", {7680, 6890, 1500, 420}, Druh::Hlavni, "F4"},
         // intervals
-        {"cmdInterval", "Vrchní interval", "Interval nad zvoleným tónem", {7560, 7560, 1620, 400}},
-        {"cmdSpodInterval", "Spodní interval", "Interval pod zvoleným tónem", {7560, 8000, 1620, 400}},
+        {"cmdInterval", "Vrchní interval", "Interval nad zvoleným tónem", {7680, 7560, 1500, 400}},
+        {"cmdSpodInterval", "Spodní interval", "Interval pod zvoleným tónem", {7680, 8000, 1500, 400}},
         {"cmdIntervalOdNejnizsiho",
          "Od nejnižšího tónu",
          "Interval od nejnižšího tónu hmatu",
-         {7560, 8440, 1620, 400}},
-        {"cmdOPrg", "O programu", "", {7560, 9940, 1620, 390}},
+         {7680, 8440, 1500, 400}},
+        {"cmdOPrg", "O programu", "", {7680, 9940, 1500, 390}},
     };
     return tabulka;
 }

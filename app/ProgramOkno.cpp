@@ -53,8 +53,8 @@ void Program::postavHmatnik() {
 void Program::postavOsnovy() {
     QWidget* scena = okno_->centralWidget();
     auto* pas = new PasWidget(modely_.pas, scena);
-    okno_->umisti(pas, {7560, 60, 8380, 2920});
-    okno_->umisti(new ZobrazovaciOsnovaWidget(modely_.zobrazovaciOsnova, scena), {7560, 3060, 1620, 2150});
+    okno_->umisti(pas, {7680, 60, 8260, 2920});
+    okno_->umisti(new ZobrazovaciOsnovaWidget(modely_.zobrazovaciOsnova, scena), {7680, 3060, 1500, 2150});
     auto* zapis = new ZapisovaciOsnova(modely_.zapisovaciOsnova, konverzace_.notyZapis, scena);
     okno_->umisti(zapis, {12060, 3060, 3880, 2240});
     okno_->umisti(new PanelTextu(modely_.panel, scena), {60, 8100, 3720, 2240});

@@ -130,7 +130,7 @@ void Form1::postavPopisky() {
     lblLadeni_->setToolTip(QStringLiteral("Ladění"));
     umisti(lblLadeni_, {2520, 530, 1260, 380});
     umisti(popisek(QStringLiteral("lblPopisStupnice"), QStringLiteral("Zapsaná stupnice:"), scena_),
-           {12060, 5870, 1830, 390});
+           {12060, 5870, 2000, 390});
     lblTon_ = popisek(QStringLiteral("lblTon"), {}, scena_);
     lblTon_->setAlignment(Qt::AlignCenter);
     lblTon_->setAccessibleName(QStringLiteral("Číslo hmatu"));

@@ -7,11 +7,13 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QPainter>
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include <stdexcept>
 
@@ -32,7 +34,8 @@ Ukazka::Ukazka(Program& program, const QString& slozkaObrazku)
     : program_(program), slozka_(slozkaObrazku), hmaty_(kockaLezeDirou()) {}
 
 void Ukazka::prehraj() {
-    cekej([this] { return program_.okno().isActiveWindow() || program_.okno().isVisible(); }, "hlavní okno");
+    if (!QTest::qWaitForWindowActive(&program_.okno(), trpelivost))
+        throw std::runtime_error("hlavní okno není vidět");
     obrazek("spusteno");
     zvolToninu();
     zalozPisen();
@@ -171,20 +174,27 @@ void Ukazka::dvojklikni(const QString& jmeno) {
 }
 
 void Ukazka::sOknem(const std::function<void()>& akce, const std::function<void(QWidget*)>& obsluha) {
-    QWidget* predchozi = QApplication::activeModalWidget();
+    const QWidget* predchozi = QApplication::activeModalWidget();
+    QElapsedTimer hodiny;
+    hodiny.start();
     bool obslouzeno = false;
     std::exception_ptr chyba;
     QTimer hlidka;
     QObject::connect(&hlidka, &QTimer::timeout, [&] {
         QWidget* okno = QApplication::activeModalWidget();
-        if (!okno || okno == predchozi || obslouzeno) return;
-        obslouzeno = true;
-        hlidka.stop();
-        try {
-            obsluha(okno);
-        } catch (...) {
-            chyba = std::current_exception();
+        if (!okno || okno == predchozi) return;
+        if (hodiny.elapsed() > trpelivost) { // nobody closes it any more
+            chyba = std::make_exception_ptr(
+                std::runtime_error("okno zůstalo otevřené: " + okno->windowTitle().toStdString()));
             okno->close();
+        } else if (!obslouzeno && okno->windowHandle() && okno->windowHandle()->isExposed()) {
+            obslouzeno = true;
+            try {
+                obsluha(okno);
+            } catch (...) {
+                chyba = std::current_exception();
+                okno->close();
+            }
         }
     });
     hlidka.start(5);
@@ -198,7 +208,9 @@ void Ukazka::cekej(const std::function<bool()>& podminka, const QString& nac) {
 }
 
 void Ukazka::obrazek(const QString& nazev) {
-    QTest::qWait(0); // let pending paints through
+    QTest::qWait(0); // pending paints first
+    for (QWidget* okno : QApplication::topLevelWidgets())
+        if (okno->isVisible()) okno->repaint();
     QCoreApplication::processEvents();
     ++obrazku_;
     const QString soubor =
