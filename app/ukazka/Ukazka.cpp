@@ -3,13 +3,10 @@
 #include "app/Program.h"
 #include "app/ui/Form1.h"
 
-#include <QAbstractButton>
-#include <QAbstractItemView>
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QLineEdit>
-#include <QPainter>
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
@@ -100,17 +97,20 @@ void Ukazka::zapisHmat(const HmatUkazky& hmat) {
 void Ukazka::napisSlabiky() {
     klikni("cmdPrvni");
     QTest::keyClick(&program_.okno(), Qt::Key_F6);
-    auto* mrizka = tabulka()->findChild<QAbstractItemView*>();
-    mrizka->setFocus();
-    QTest::keyClick(mrizka, Qt::Key_Left); // from the grip's column B to the syllables in A
+    QWidget* okno = tabulka();
+    if (!QTest::qWaitForWindowActive(okno, trpelivost))
+        throw std::runtime_error("okno tabulky se neprobudilo");
+    QTest::keyClick(QApplication::focusWidget(),
+                    Qt::Key_Left); // from the grip's column B to the syllables in A
     for (const HmatUkazky& hmat : hmaty_) {
-        napis(mrizka, hmat.slabika.left(1)); // opens the cell's editor
-        QWidget* editor = QApplication::focusWidget();
-        napis(editor, hmat.slabika.mid(1));
-        QTest::keyClick(editor, Qt::Key_Return);
+        for (const QChar znak : hmat.slabika) // the first one opens the cell's editor, which takes the rest
+            napis(QApplication::focusWidget(), QString(znak));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     }
     obrazek("slabiky-v-tabulce");
-    QTest::keyClick(mrizka, Qt::Key_F6);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6);
+    if (!QTest::qWaitForWindowActive(&program_.okno(), trpelivost))
+        throw std::runtime_error("hlavní okno se neprobudilo");
 }
 
 void Ukazka::ukonciPisen() {
@@ -159,18 +159,20 @@ QWidget* Ukazka::prvek(const QString& jmeno) const {
 
 QWidget* Ukazka::tabulka() const {
     for (QWidget* okno : QApplication::topLevelWidgets())
-        if (okno != &program_.okno() && okno->isVisible() && okno->findChild<QAbstractItemView*>() &&
-            okno->isWindow() && !okno->inherits("QDialog"))
-            return okno;
+        if (okno->objectName() == QLatin1String("oknoTabulky") && okno->isVisible()) return okno;
     throw std::runtime_error("okno tabulky není vidět");
 }
 
 void Ukazka::klikni(const QString& jmeno) {
-    QTest::mouseClick(prvek(jmeno), Qt::LeftButton);
+    QWidget* cil = prvek(jmeno);
+    QTest::mouseClick(cil->window()->windowHandle(), Qt::LeftButton, {},
+                      cil->mapTo(cil->window(), cil->rect().center()));
 }
 
 void Ukazka::dvojklikni(const QString& jmeno) {
-    QTest::mouseDClick(prvek(jmeno), Qt::LeftButton);
+    QWidget* cil = prvek(jmeno);
+    QTest::mouseDClick(cil->window()->windowHandle(), Qt::LeftButton, {},
+                       cil->mapTo(cil->window(), cil->rect().center()));
 }
 
 void Ukazka::sOknem(const std::function<void()>& akce, const std::function<void(QWidget*)>& obsluha) {
