@@ -55,7 +55,7 @@ void refuseOtherForms(const SaveAsArguments& arguments) {
 EmbeddedApplication::EmbeddedApplication(Drive& drive, Dialogs& dialogs, SettingsStore& settings,
                                          SheetViewFactory makeView)
     : drive_(drive), settings_(settings), makeView_(std::move(makeView)),
-      defaultFilePath_(startFolder(drive, settings)), session_(dialogs), commands_(session_) {
+      defaultFilePath_(startFolder(drive, settings)), commands_(session_), session_(dialogs) {
     session_.setFolder(drive_.nativePath(defaultFilePath_));
 }
 

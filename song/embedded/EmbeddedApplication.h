@@ -82,8 +82,8 @@ private:
     SheetViewFactory makeView_;
     QString defaultFilePath_;
     CellBlock clipboard_;
+    SheetCommands commands_; ///< before the session, whose window uses it to the end
     Session session_;
-    SheetCommands commands_;
 };
 
 } // namespace zvonika

@@ -1,13 +1,14 @@
 #pragma once
 
 // The contract that every spreadsheet application behind the port keeps. A back end's test program includes
-// this file once and instantiates the suite:
+// this file once, with XLS_DATA defined as the folder of sample workbooks, and instantiates the suite:
 //
 //     INSTANTIATE_TEST_SUITE_P(Embedded, SpreadsheetContract,
 //                              ::testing::Values(SpreadsheetRigFactory{"embedded", makeEmbeddedRig}));
 
 #include "song/SpreadsheetApplication.h"
 
+#include <QFile>
 #include <QFileInfo>
 
 #include <functional>
@@ -237,6 +238,30 @@ TEST_P(SpreadsheetContract, SheetsAreNamedCountedAndWalked) {
     for (const char* name : {"", "a/b", "a:b", "a*b", "[a]", "12345678901234567890123456789012"})
         EXPECT_EQ(raised([&] { app.renameActiveSheet(QString::fromUtf8(name)); }), 1004) << name;
     EXPECT_EQ(app.activeSheetName(), QStringLiteral("Tonavox XII"));
+}
+
+TEST_P(SpreadsheetContract, EachSheetOfAForeignFileHasItsOwnCellsAndCursor) {
+    ASSERT_TRUE(QFile::copy(QStringLiteral(XLS_DATA "/xlwt.xls"), file(QStringLiteral("cizí.xls"))));
+    app.openWorkbook(file(QStringLiteral("cizí.xls")));
+    EXPECT_EQ(app.sheetCount(), 2);
+    app.selectSheet(1);
+    app.selectRange(QStringLiteral("B3"));
+    app.selectNextSheet();
+    EXPECT_EQ(app.activeSheetName(), QStringLiteral("Druhý"));
+    EXPECT_EQ(app.activeSheetIndex(), 2);
+    EXPECT_EQ(text(QStringLiteral("A1")), QStringLiteral("druhý list"));
+    EXPECT_EQ(raised([&] { app.renameActiveSheet(QStringLiteral("Píseň")); }), 1004);
+    app.selectRange(QStringLiteral("C5"));
+    app.selectSheet(QStringLiteral("Píseň"));
+    EXPECT_EQ(app.activeAddress(), QStringLiteral("$B$3"));
+    app.selectSheet(2);
+    app.saveActiveWorkbook();
+    app.closeActiveWorkbook();
+    app.openWorkbook(file(QStringLiteral("cizí.xls")));
+    EXPECT_EQ(app.activeSheetIndex(), 2);
+    EXPECT_EQ(app.activeAddress(), QStringLiteral("$C$5"));
+    app.selectSheet(1);
+    EXPECT_EQ(app.activeAddress(), QStringLiteral("$B$3"));
 }
 
 TEST_P(SpreadsheetContract, CellsKeepTheirTypes) {

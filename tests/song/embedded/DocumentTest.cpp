@@ -198,4 +198,20 @@ TEST_F(DocumentTest, ColumnWidthsAreKeptInTheFile) {
     EXPECT_FALSE(opened->isModified());
 }
 
+TEST_F(DocumentTest, FormulasAreReplacedOnPurposeAndNeverMoved) {
+    const QString copy = folder.filePath(QStringLiteral("vzorce.xls"));
+    ASSERT_TRUE(QFile::copy(QStringLiteral(XLS_DATA "/libreoffice.xls"), copy));
+    const auto formulas = Document::open(copy);
+    const CellPosition cell = at("F1");
+    ASSERT_TRUE(formulas->isFormula(1, cell));
+    for (const auto& refusal :
+         {refusalOf([&] { formulas->insertRow(1, 1); }), refusalOf([&] { formulas->deleteRow(1, 1); })})
+        EXPECT_EQ(refusal, QStringLiteral("1004 Řádky nelze posunout: v buňce $F$1 je vzorec."));
+    EXPECT_FALSE(formulas->isModified());
+    EXPECT_TRUE(formulas->edit(1, cell, {{formulas->value(1, cell)}}, psani));
+    EXPECT_FALSE(formulas->isFormula(1, cell));
+    formulas->write(1, at("F2"), {{formulas->value(1, at("F2"))}});
+    EXPECT_FALSE(formulas->isFormula(1, at("F2")));
+}
+
 } // namespace zvonika::testing

@@ -61,6 +61,16 @@ TEST_F(SheetCommandsTest, TypingMeansNumbersAndTexts) {
     EXPECT_EQ(block("A1:D1"), CellBlock({{3.5, 15.0, QStringLiteral("15"), QStringLiteral("=A1")}}));
 }
 
+TEST_F(SheetCommandsTest, ConfirmingWhatTheEditorShowedKeepsAFormula) {
+    const QString copy = path(QStringLiteral("vzorce.xls"));
+    ASSERT_TRUE(QFile::copy(QStringLiteral(XLS_DATA "/libreoffice.xls"), copy));
+    app.openWorkbook(copy);
+    Document& document = *user.document();
+    user.type({1, 6}, document.editText(1, {1, 6}));
+    EXPECT_TRUE(document.isFormula(1, {1, 6}));
+    EXPECT_EQ(listener.take(), QString());
+}
+
 TEST_F(SheetCommandsTest, CopiedCellsKeepTheirTypesAndForeignTextIsReadAsTyped) {
     app.writeBlock(QStringLiteral("A1"), {{QStringLiteral("15"), 15.0}, {QStringLiteral("c"), {}}});
     select("A1:B2");
