@@ -42,8 +42,7 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
         const QRect room = option.rect.adjusted(margin, 0, -margin, 0);
         painter->setPen(textColour(text));
         painter->setFont(option.font);
-        painter->drawText(room, int(alignment),
-                          option.fontMetrics.elidedText(text, Qt::ElideRight, room.width()));
+        painter->drawText(room, int(alignment) | Qt::TextSingleLine, text);
     }
     if (index != current) return;
     painter->setPen(QPen(sheet::activeCell, 2));

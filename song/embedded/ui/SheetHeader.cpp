@@ -36,8 +36,9 @@ QSize SheetHeader::sizeHint() const {
 
 void SheetHeader::setCurrent(int section) {
     if (section == current_) return;
+    updateSection(current_);
+    updateSection(section);
     current_ = section;
-    viewport()->update();
 }
 
 void SheetHeader::paintSection(QPainter* painter, const QRect& rect, int section) const {

@@ -76,11 +76,17 @@ void SheetTable::show(const Selection& selection) {
 void SheetTable::setActive(CellPosition cell) {
     const QModelIndex index = static_cast<const SheetModel*>(model())->indexOf(cell);
     if (index == active_) return;
+    updateRow(active_.row());
+    updateRow(index.row());
     active_ = index;
     columns_->setCurrent(index.column());
     rows_->setCurrent(index.row());
-    viewport()->update(); // the ground of two whole rows has changed
     scrollTo(index);
+}
+
+// The ground of a whole row goes with the active cell.
+void SheetTable::updateRow(int row) {
+    if (row >= 0) viewport()->update(0, rowViewportPosition(row), viewport()->width(), rowHeight(row));
 }
 
 Selection SheetTable::shownSelection() const {

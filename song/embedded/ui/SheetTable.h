@@ -39,6 +39,7 @@ private:
     Selection shownSelection() const;
     void show(const Selection& selection);
     void setActive(CellPosition cell);
+    void updateRow(int row);
 
     SheetHeader* columns_;
     SheetHeader* rows_;

@@ -76,8 +76,9 @@ QWidget* SheetWindow::makeTop() {
     auto* row = new QHBoxLayout(top);
     row->setContentsMargins(0, 1, 0, 1);
     row->setSpacing(4);
-    row->addWidget(menu_);
+    row->addWidget(menu_, 0, Qt::AlignVCenter);
     row->addWidget(line_, 1);
+    row->addStretch(0); // keeps the menus at the left when there is no cell to edit
     return top;
 }
 
