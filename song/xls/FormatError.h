@@ -20,7 +20,8 @@ enum class Refusal {
 /// Thrown by every reader of the engine. `what()` names place, expected and found, for a log or a bug report.
 class FormatError : public std::runtime_error {
 public:
-    FormatError(Refusal refusal, std::string place, std::size_t offset, std::string expected, std::string found);
+    FormatError(Refusal refusal, std::string place, std::size_t offset, std::string expected,
+                std::string found);
 
     Refusal refusal() const noexcept { return refusal_; }
     /// Record or container structure concerned, e.g. "BOUNDSHEET" or "FAT sector".

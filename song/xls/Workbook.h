@@ -13,7 +13,7 @@ namespace zvonika::xls {
 
 using Bytes = std::vector<std::uint8_t>;
 
-constexpr int maxRows = 65536; ///< rows of a sheet in BIFF8
+constexpr int maxRows = 65536;  ///< rows of a sheet in BIFF8
 constexpr int maxColumns = 256; ///< columns of a sheet in BIFF8
 
 /// Cell position, counted from 0: row 0..65535, column 0..255.
@@ -45,13 +45,17 @@ public:
 
     int sheetCount() const;
     std::u16string sheetName(int sheet) const;
-    /// Throws std::invalid_argument when the name is empty, longer than 31 units, contains one of : \ / ? * [ ]
-    /// or is already another sheet's name (compared without regard to ASCII case).
+    /// Throws std::invalid_argument when the name is empty, longer than 31 units, contains one of : \ / ? * [
+    /// ] or is already another sheet's name (compared without regard to ASCII case).
     void renameSheet(int sheet, const std::u16string& name);
 
     Value value(int sheet, CellRef cell) const;
     /// Replaces the cell's contents; std::monostate empties it (the cell's format stays). A formula there is
     /// replaced. A text may have up to 32,767 UTF-16 units (std::invalid_argument beyond).
+    /// A number that is not finite becomes the error #NUM!. Throws std::invalid_argument for a part of an
+    /// array formula over several cells or of a data table, which can only be changed as a whole. A formula
+    /// that other cells share goes on to the next of them. Results of formulas that depend on the cell stay
+    /// as stored.
     void setValue(int sheet, CellRef cell, const Value& value);
     bool isFormula(int sheet, CellRef cell) const;
 
@@ -59,8 +63,10 @@ public:
     int usedRows(int sheet) const;
     int usedColumns(int sheet) const;
 
-    /// Column width in units of 1/256 of a character of the default font; the sheet's default where none is set.
+    /// Column width in units of 1/256 of a character of the default font; the sheet's default where none is
+    /// set.
     int columnWidth(int sheet, int column) const;
+    /// `width` is brought into 0..65535; 0 hides the column.
     void setColumnWidth(int sheet, int column, int width);
 
     int activeSheet() const;
@@ -71,7 +77,8 @@ public:
 
     /// True when `save` would give other bytes than were read (always for a created workbook).
     bool isModified() const;
-    /// True when the file is of an older BIFF version that `save` writes back as BIFF8.
+    /// True when the file is of an older BIFF version that `save` writes back as BIFF8. (So far `open`
+    /// refuses such files as OldFormat.)
     bool isConverted() const;
 
 private:

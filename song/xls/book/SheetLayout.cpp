@@ -124,6 +124,7 @@ private:
             throw FormatError(Refusal::Damaged, "LabelSst", record.offset,
                               "a shared string below " + std::to_string(sharedStrings_),
                               std::to_string(record.u32(6)));
+        layout_.sharedTexts += record.is(RecordType::LabelSst);
         const std::uint32_t row = cellRow(record);
         for (std::uint32_t i = 0; i < run.count; ++i)
             layout_.cells.push_back({cellKey(row, run.first + i), record.offset});

@@ -43,10 +43,11 @@ public:
     std::uint32_t scl = absent;
     std::vector<std::uint32_t> selections;
     std::vector<std::uint32_t> colInfos;
-    std::vector<CellSlot> cells;  ///< sorted by key; of duplicates the later record comes last
-    std::vector<RowSlot> rows;    ///< sorted by row
-    std::uint32_t dbCells = 0;    ///< DbCell records, those of no rows included
-    std::vector<RowBlock> blocks; ///< in the order of the stream; empty when the sheet has no DbCell records
+    std::vector<CellSlot> cells;   ///< sorted by key; of duplicates the later record comes last
+    std::vector<RowSlot> rows;     ///< sorted by row
+    std::uint32_t sharedTexts = 0; ///< LabelSst records
+    std::uint32_t dbCells = 0;     ///< DbCell records, those of no rows included
+    std::vector<RowBlock> blocks;  ///< in the order of the stream; empty when the sheet has no DbCell records
 
     /// The record that holds a cell; null when there is none.
     const CellSlot* findCell(CellKey key) const;

@@ -19,7 +19,6 @@ constexpr std::size_t smallestText = 3;
 SharedStrings::SharedStrings(ByteView stream, std::uint32_t offset) : stream_(stream), recordOffset_(offset) {
     const Record sst = recordAt(stream, offset);
     sst.require(countsSize);
-    references_ = sst.u32(0);
     findChunks();
     findTexts(sst.u32(4));
     starts_.shrink_to_fit();

@@ -27,8 +27,6 @@ public:
     std::vector<std::optional<std::uint32_t>> find(const TextPool& pool) const;
 
     std::uint32_t recordOffset() const { return recordOffset_; }
-    /// How many cells refer to the table, as the file says.
-    std::uint32_t references() const { return references_; }
     /// Where the last text ends, and the record (Sst or Continue) it ends in.
     std::uint32_t textsEnd() const { return textsEnd_; }
     std::uint32_t lastRecordOffset() const { return lastRecordOffset_; }
@@ -42,7 +40,6 @@ private:
 
     ByteView stream_;
     std::uint32_t recordOffset_ = 0;
-    std::uint32_t references_ = 0;
     std::uint32_t textsEnd_ = 0;
     std::uint32_t lastRecordOffset_ = 0;
     std::uint32_t end_ = 0;

@@ -19,6 +19,13 @@ std::uint32_t usedInLastRecord(const WorkbookModel& model) {
                                       recordHeaderSize);
 }
 
+std::uint32_t oldReferences(const WorkbookModel& model) {
+    std::uint32_t count = 0;
+    for (const SheetLayout& layout : model.layouts)
+        count += layout.sharedTexts;
+    return count;
+}
+
 } // namespace
 
 SharedStringsPatch::SharedStringsPatch(const WorkbookModel& model, const TextPool& pool,
@@ -45,27 +52,26 @@ void SharedStringsPatch::layOut() {
         places_.push_back(writer_.add(*text));
 }
 
-void SharedStringsPatch::apply(std::int64_t references, PatchList& patches) {
+void SharedStringsPatch::apply(std::uint32_t references, PatchList& patches) {
     if (model_.globals.sst == absent) {
         if (!fresh_.empty()) createTable(references, patches);
         return;
     }
-    if (fresh_.empty() && references == 0) return;
+    if (fresh_.empty() && references == oldReferences(model_)) return;
     const Record sst = recordAt(model_.stream, model_.globals.sst);
-    const std::int64_t total = std::max<std::int64_t>(0, model_.strings.references() + references);
     std::uint8_t counts[countsSize];
-    store32(counts, static_cast<std::uint32_t>(total));
+    store32(counts, references);
     store32(counts + 4, fresh_.empty() ? sst.u32(4) : newSize());
     patches.replace(static_cast<std::uint32_t>(sst.offset + recordHeaderSize), countsSize, counts);
     if (!fresh_.empty()) appendTexts(patches);
     if (!fresh_.empty() && model_.globals.extSst != absent) patchIndex(patches);
 }
 
-void SharedStringsPatch::createTable(std::int64_t references, PatchList& patches) const {
+void SharedStringsPatch::createTable(std::uint32_t references, PatchList& patches) const {
     std::vector<std::uint8_t> table;
     append16(table, static_cast<std::uint16_t>(RecordType::Sst));
     append16(table, static_cast<std::uint32_t>(countsSize + writer_.addedToFirst()));
-    append32(table, static_cast<std::uint32_t>(references));
+    append32(table, references);
     append32(table, newSize());
     table.insert(table.end(), writer_.bytes().begin(), writer_.bytes().end());
     patches.insert(model_.globals.eof, table);

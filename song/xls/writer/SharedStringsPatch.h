@@ -18,14 +18,14 @@ public:
     /// Index of a used text in the table that is written.
     std::uint32_t index(std::uint32_t poolId) const { return indexes_[poolId]; }
 
-    /// `references`: how many more cells (or fewer) refer to the table than before.
-    void apply(std::int64_t references, PatchList& patches);
+    /// `references`: how many cells refer to the table now.
+    void apply(std::uint32_t references, PatchList& patches);
     /// Fills in the offsets of the index in the new stream.
     void fix(std::vector<std::uint8_t>& out, const PatchList& patches) const;
 
 private:
     void layOut();
-    void createTable(std::int64_t references, PatchList& patches) const;
+    void createTable(std::uint32_t references, PatchList& patches) const;
     void appendTexts(PatchList& patches) const;
     void patchIndex(PatchList& patches) const;
     std::uint32_t newSize() const;

@@ -30,7 +30,7 @@ public:
     std::vector<std::uint8_t> write() {
         SharedStringsPatch texts(model_, edits_.texts, usedTexts());
         resolveTexts(texts);
-        texts.apply(addedReferences(), patches_);
+        texts.apply(references(), patches_);
         for (std::size_t i = 0; i < changes_.size(); ++i)
             patchSheet(i);
         if (edits_.activeSheet) patchActiveSheet(model_, *edits_.activeSheet, patches_);
@@ -71,15 +71,18 @@ private:
                 if (isText(change)) change.content.text = texts.index(change.content.text);
     }
 
-    std::int64_t addedReferences() const {
-        std::int64_t added = 0;
+    /// How many cells refer to the shared strings now. Counted, because some writers' counts are wrong.
+    std::uint32_t references() const {
+        std::int64_t count = 0;
+        for (const SheetLayout& layout : model_.layouts)
+            count += layout.sharedTexts;
         for (std::size_t i = 0; i < changes_.size(); ++i)
             for (const CellChange& change : changes_[i]) {
                 const CellSlot* old = model_.layouts[i].findCell(change.key);
-                if (old && recordAt(model_.stream, old->record).is(RecordType::LabelSst)) --added;
-                if (isText(change)) ++added;
+                if (old && recordAt(model_.stream, old->record).is(RecordType::LabelSst)) --count;
+                if (isText(change)) ++count;
             }
-        return added;
+        return static_cast<std::uint32_t>(count);
     }
 
     void patchSheet(std::size_t i) {
