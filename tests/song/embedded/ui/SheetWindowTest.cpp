@@ -99,6 +99,26 @@ TEST_F(SheetFile, OneWorkbookIsShownOfSeveral) {
     EXPECT_EQ(shown("A1"), QString());
 }
 
+TEST_F(SheetFile, ATabShowsItsSheetBothWays) {
+    const QString copy = folder.filePath(QStringLiteral("listy.xls"));
+    ASSERT_TRUE(QFile::copy(QStringLiteral(XLS_DATA "/libreoffice.xls"), copy));
+    application.openWorkbook(copy);
+    ASSERT_GE(application.sheetCount(), 2);
+    application.selectSheet(2);
+    EXPECT_EQ(tabs().currentIndex(), 1);
+    application.selectRange(QStringLiteral("C4"));
+    application.setValue(QStringLiteral("C4"), QStringLiteral("druhý"));
+    const int before = listener.moves;
+
+    QTest::mouseClick(&tabs(), Qt::LeftButton, {}, tabs().tabRect(0).center());
+    EXPECT_EQ(application.activeSheetIndex(), 1);
+    EXPECT_EQ(listener.moves, before + 1);
+    EXPECT_NE(shown("C4"), QStringLiteral("druhý"));
+    QTest::mouseClick(&tabs(), Qt::LeftButton, {}, tabs().tabRect(1).center());
+    EXPECT_EQ(shown("C4"), QStringLiteral("druhý"));
+    EXPECT_EQ(table().activeCell(), indexOf("C4")) << "each sheet keeps its cell";
+}
+
 TEST_F(SheetFile, ATabIsRenamedInItsPlace) {
     const QString before = application.activeSheetName();
     const QPoint centre = tabs().tabRect(0).center();
