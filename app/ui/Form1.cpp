@@ -12,6 +12,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QMenuBar>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QStatusBar>
@@ -106,7 +107,10 @@ void Form1::postavTlacitka() {
         tlacitko->setObjectName(radek.jmeno);
         const QString nazev = radek.pristupne.isEmpty() ? radek.popisek : radek.pristupne;
         tlacitko->setAccessibleName(nazev);
-        if (!radek.zkratka.isEmpty()) tlacitko->setShortcut(QKeySequence(radek.zkratka));
+        // Not the button's own shortcut, which only acts a tenth of a second later.
+        if (!radek.zkratka.isEmpty())
+            connect(new QShortcut(QKeySequence(radek.zkratka), this), &QShortcut::activated, tlacitko,
+                    &QPushButton::click);
         tlacitko->setToolTip(radek.zkratka.isEmpty() ? nazev
                                                      : nazev + QStringLiteral(" (%1)").arg(radek.zkratka));
         connect(tlacitko, &QPushButton::clicked, this, [this, jmeno = radek.jmeno] { Q_EMIT prikaz(jmeno); });
