@@ -42,7 +42,6 @@ public:
     /// The program has written into these cells: drops them from every step, and a step that would put the
     /// row in question in or out, with the steps beyond it.
     void forget(int sheet, const CellRange& range);
-    void clear();
 
     QString backLabel() const;  ///< "" when nothing can be taken back
     QString againLabel() const; ///< "" when nothing can be done again
