@@ -88,11 +88,6 @@ void History::forget(int sheet, const CellRange& range) {
     dropEmpty(undone_);
 }
 
-void History::clear() {
-    done_.clear();
-    undone_.clear();
-}
-
 QString History::backLabel() const {
     return lastLabel(done_);
 }
