@@ -106,6 +106,9 @@ void Ukazka::napisSlabiky() {
         for (const QChar znak : hmat.slabika) // the first one opens the cell's editor, which takes the rest
             napis(QApplication::focusWidget(), QString(znak));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QCoreApplication::sendPostedEvents(nullptr,
+                                           QEvent::DeferredDelete); // the editor goes, the cells get the keys
+        QCoreApplication::processEvents();
     }
     obrazek("slabiky-v-tabulce");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6);
