@@ -1,0 +1,71 @@
+#!/usr/bin/env python3
+"""summary.py FOLDER: what kroky.json and start.json in FOLDER say, beside what is aimed at."""
+import json
+import os
+import sys
+
+# Benchmark: (median, 99th percentile) aimed at, in ms; None where nothing is set.
+AIMS = {"cmdDalsi": (8, 16), "cmdJakDal": (8, 16), "cmdTah": (16, None)}
+AIM_START_MS = 150
+AIM_RESIDENT_MB = 60
+
+
+def read(folder, name):
+    path = os.path.join(folder, name)
+    if not os.path.exists(path):
+        return None
+    with open(path) as source:
+        return json.load(source)
+
+
+def verdict(pairs):
+    missed = any(aim is not None and value > aim for value, aim in pairs)
+    aimed = any(aim is not None for _, aim in pairs)
+    return "" if not aimed else "missed" if missed else "reached"
+
+
+def steps(results):
+    context = results["context"]
+    print(f"From the click to the painted frames of both windows, ms "
+          f"({context['platform']}, main window {context['main_window']})")
+    print(f"{'command':<12}{'grips':>6}{'median':>9}{'p99':>9}{'max':>9}{'logic':>9}{'paint':>9}"
+          f"{'display':>9}{'cpu p99':>9}  aim")
+    for result in results["benchmarks"]:
+        command, grips = result["name"].split("/")[:2]
+        if result.get("error_occurred"):
+            print(f"{command:<12}{grips:>6}  {result['error_message']}")
+            continue
+        median, p99 = result["total_median_ms"], result["total_p99_ms"]
+        parts = [median, p99, result["total_max_ms"], result["logic_median_ms"], result["paint_median_ms"],
+                 result["display_median_ms"], result["cpu_p99_ms"]]
+        aims = AIMS.get(command, (None, None))
+        print(f"{command:<12}{grips:>6}" + "".join(f"{part:9.2f}" for part in parts) +
+              "  " + verdict(zip((median, p99), aims)))
+
+
+def start(results):
+    print("Start to first painted window (others: first mapped window) and resident memory, medians")
+    print(f"{'program':<14}{'ms':>9}{'slowest':>9}{'MB':>9}  aim")
+    for name, median in results["programs"].items():
+        aims = (AIM_START_MS, AIM_RESIDENT_MB) if name == "Zvonika" else (None, None)
+        print(f"{name:<14}{median['first_paint']:9.1f}{median['slowest']:9.1f}{median['rss_mb']:9.1f}  "
+              + verdict(zip((median["first_paint"], median["rss_mb"]), aims)))
+    for name, median in results["programs"].items():
+        if "marks" in median:
+            print(f"  {name}: " + ", ".join(f"{stage} {ms:.1f}" for stage, ms in median["marks"].items()))
+    for what in ("missing", "failed"):
+        if results[what]:
+            print(f"  {what}: {', '.join(results[what])}")
+
+
+def main():
+    folder = sys.argv[1]
+    for name, show in (("kroky.json", steps), ("start.json", start)):
+        results = read(folder, name)
+        if results:
+            show(results)
+            print()
+
+
+if __name__ == "__main__":
+    main()
