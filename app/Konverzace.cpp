@@ -27,7 +27,7 @@ Konverzace::Konverzace(Modely& modely, const Prostredi& prostredi, std::function
       klikDiskantu(modely.diskant, notyZapis, modely.tonina, prostredi.dialogs,
                    {std::move(otevriVyberStupnice),
                     [&modely](const QString& veta) { modely.panel.upozorneni = veta; }}),
-      zapisNoty(modely.zapisovaciOsnova, notyZapis, klikDiskantu),
+      zapisNoty(modely.zapisovaciOsnova, klikDiskantu),
       zapisBasu(modely.basy, modely.tabulkaBasu, prostredi.dialogs),
       poZapisu(modely.pisen, modely.panel, modely.stavy, *this), zapisHmatu(okoliZapisu(), modely.diskant),
       zapisHmatuZNot(okoliZapisu(), modely.zapisovaciOsnova, notyZapis),

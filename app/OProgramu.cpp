@@ -23,7 +23,7 @@ void cmdOPrg(Dialogs& dialogs) {
         {QStringLiteral("Program Zvonika verze 2.2"), radky.join(QLatin1Char('\n')), Icon::Information});
 }
 
-void mnuMailAutorovi(Dialogs& dialogs, Shell& shell) {
+bool mnuMailAutorovi(Dialogs& dialogs, Shell& shell) {
     dialogs.message(
         {QStringLiteral("Děkuji za Váš příspěvek."),
          QStringLiteral(
@@ -33,8 +33,8 @@ void mnuMailAutorovi(Dialogs& dialogs, Shell& shell) {
              "okamžité připojení k internetu. Zpráva se odešle automaticky až se připojíte kdykoliv později. "
              "Vaše písničky jsou na disku C v adresáři Dokumenty/Heligonka."),
          Icon::Information});
-    shell.open(QStringLiteral("\"mailto:%1?subject=Z Drafudo verze 2.1&body=Dobrý den & attach = ")
-                   .arg(adresaAutora));
+    return shell.open(QStringLiteral("\"mailto:%1?subject=Z Drafudo verze 2.1&body=Dobrý den & attach = ")
+                          .arg(adresaAutora));
 }
 
 bool mnuKonec(Dialogs& dialogs) {

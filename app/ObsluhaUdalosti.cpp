@@ -1,14 +1,10 @@
 #include "app/ObsluhaUdalosti.h"
 
-#include "platform/Contact.h"
+#include "song/Hlaseni.h"
 
 #include <QScopedValueRollback>
 
 namespace zvonika {
-
-QString textNeocekavaneChyby(int cislo) {
-    return QStringLiteral("Kontaktujte firmu %1 a sdělte číslo chyby %2").arg(kontakt).arg(cislo);
-}
 
 bool ObsluhaUdalosti::proved(const std::function<void()>& procedura) {
     if (bezi_) return false;
@@ -25,9 +21,9 @@ bool ObsluhaUdalosti::proved(const std::function<void()>& procedura) {
 }
 
 void ObsluhaUdalosti::ohlas(const RuntimeError& chyba) {
-    QString text = textNeocekavaneChyby(chyba.number());
-    if (!chyba.cause().isEmpty()) text += QLatin1Char('\n') + chyba.cause();
-    dialogs_.message({QStringLiteral("Neočekávaná chyba !"), text, Icon::Critical});
+    Message zprava = neocekavanaChyba(chyba.number());
+    if (!chyba.cause().isEmpty()) zprava.text += QLatin1Char('\n') + chyba.cause();
+    dialogs_.message(zprava);
 }
 
 void ObsluhaUdalosti::provedBezZachyceni(const std::function<void()>& procedura) {

@@ -31,7 +31,4 @@ private:
     bool bezi_ = false;
 };
 
-/// The text that asks the user to tell the maker the number of an unexpected error.
-QString textNeocekavaneChyby(int cislo);
-
 } // namespace zvonika

@@ -41,7 +41,6 @@ KrokySpusteni Program::krokySpusteni() {
             SpustExcel(prostredi_.spoustecExcelu, modely_.pisen);
             modely_.pisen.excel().setListener(this);
         },
-        [] {}, // the staff pictures are drawn when they are first shown
         [this](bool obracene) { modely_.diskant.nastavObraceneCislovani(obracene); },
         [this](bool zapnuto) { modely_.diskant.nastavNazvy(zapnuto, tonina()); },
         [this](bool zapnuto) { modely_.diskant.nastavCislovani(zapnuto); },
@@ -75,7 +74,11 @@ void Program::zaregistrujPrikazy() {
         {"cmdJakDal", [&k] { k.navigace.cmdJakDal(); }},
         {"cmdJakDalZpet", [&k] { k.navigace.cmdJakDalZpet(); }},
         {"cmdOPrg", [this] { cmdOPrg(prostredi_.dialogs); }},
-        {"mnuMailAutorovi", [this] { mnuMailAutorovi(prostredi_.dialogs, prostredi_.shell); }},
+        {"mnuMailAutorovi",
+         [this] {
+             if (!mnuMailAutorovi(prostredi_.dialogs, prostredi_.shell))
+                 modely_.panel.upozorneni = QStringLiteral("Nenašel se program, který by zprávu odeslal.");
+         }},
     };
     for (const PrikazUvolneni& radek : prikazyUvolneni())
         prikazy_.insert(radek.tlacitko, [&k, tlacitko = radek.tlacitko] { k.uvolneni.proved(tlacitko); });

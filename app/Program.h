@@ -47,6 +47,7 @@ private:
     void postavOsnovy();
     void pripojOsnovuZapisu(ZapisovaciOsnova& zapis);
     void ukazToninu();
+    void prejdiNaPozici(int pozice);
     void propojModely();
     void nastavPoradiFokusu();
     KrokySpusteni krokySpusteni();

@@ -54,6 +54,7 @@ void Program::postavOsnovy() {
     QWidget* scena = okno_->centralWidget();
     auto* pas = new PasWidget(modely_.pas, scena);
     okno_->umisti(pas, {7680, 60, 8260, 2920});
+    connect(pas, &PasWidget::zvolenaPozice, this, &Program::prejdiNaPozici);
     okno_->umisti(new ZobrazovaciOsnovaWidget(modely_.zobrazovaciOsnova, scena), {7680, 3060, 1500, 2150});
     auto* zapis = new ZapisovaciOsnova(modely_.zapisovaciOsnova, konverzace_.notyZapis, scena);
     okno_->umisti(zapis, {12060, 3060, 3880, 2240});
@@ -62,24 +63,25 @@ void Program::postavOsnovy() {
 }
 
 void Program::pripojOsnovuZapisu(ZapisovaciOsnova& zapis) {
-    KlikDiskantu& klik = konverzace_.klikDiskantu;
-    const auto pridana = [this, &klik](int slot) {
-        if (const auto& nota = modely_.zapisovaciOsnova.nota(slot)) klik.notaPridana(nota->ton);
-    };
-    const auto zmenena = [this, &klik, pridana](int slot, CisloTonu puvodni) {
-        provedUdalost([&] {
-            klik.notaOdebrana(puvodni);
-            pridana(slot);
-        });
+    const auto zmenena = [this](int slot, CisloTonu puvodni) {
+        provedUdalost([&] { konverzace_.zapisNoty.notaZmenena(slot, puvodni); });
     };
     connect(&zapis, &ZapisovaciOsnova::notaVlozena, this,
-            [=, this](int slot) { provedUdalost([&] { pridana(slot); }); });
+            [this](int slot) { provedUdalost([&] { konverzace_.zapisNoty.notaVlozena(slot); }); });
     connect(&zapis, &ZapisovaciOsnova::notaPosunuta, this, zmenena);
     connect(&zapis, &ZapisovaciOsnova::znamenkoZmeneno, this, zmenena);
-    connect(&zapis, &ZapisovaciOsnova::notaOdebrana, this,
-            [this, &klik](int, CisloTonu puvodni) { provedUdalost([&] { klik.notaOdebrana(puvodni); }); });
+    connect(&zapis, &ZapisovaciOsnova::notaOdebrana, this, [this](int, CisloTonu puvodni) {
+        provedUdalost([&] { konverzace_.zapisNoty.notaOdebrana(puvodni); });
+    });
     connect(&zapis, &ZapisovaciOsnova::odmitnuto, this,
             [this](const QString& duvod) { provedUdalost([&] { modely_.panel.upozorneni = duvod; }); });
+}
+
+void Program::prejdiNaPozici(int pozice) {
+    provedUdalost([&] {
+        SongSheet(modely_.pisen).vyberRadek(modely_.pas.prvniRadekPasu + pozice - 1);
+        konverzace_.navigace.sledujKurzor();
+    });
 }
 
 void Program::propojModely() {
@@ -91,8 +93,10 @@ void Program::propojModely() {
 }
 
 void Program::ukazToninu() {
-    if (auto* tlacitko = qobject_cast<QAbstractButton*>(okno_->prvek(QStringLiteral("cmdStupnice"))))
+    if (auto* tlacitko = qobject_cast<QAbstractButton*>(okno_->prvek(QStringLiteral("cmdStupnice")))) {
         tlacitko->setText(tonina());
+        tlacitko->setAccessibleName(QStringLiteral("Zapsaná stupnice: ") + tonina());
+    }
 }
 
 void Program::vyberStupnici() {

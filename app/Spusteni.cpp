@@ -17,7 +17,6 @@ std::vector<Spusteni::Prikaz> Spusteni::posloupnost() {
     std::vector<Prikaz> prikazy = {
         kroky_.nastavVzdyNahore,
         kroky_.spustExcel,
-        kroky_.nactiObrazkyOsnovy,
         [this] { ctiBajt(QStringLiteral("Znaceni")); },
         [this] { kroky_.obratCislovani(bajt_ == 1); },
         [this] { ctiBajt(QStringLiteral("PopisKnof")); },

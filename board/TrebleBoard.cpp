@@ -87,6 +87,7 @@ void TrebleBoard::nastavNazvy(bool zapnuto, const QString& stupnice) {
         nastavPopis(n, prepnuto ? novy : prejmenuj(popis(n), stary, novy));
         nastavPopisPomocneho(n, prepnuto ? novy : prejmenuj(popisPomocneho(n), stary, novy));
     }
+    if (prepnuto) Q_EMIT nazvyZmeneny();
 }
 
 void TrebleBoard::vyprazdniPopisy() {

@@ -70,7 +70,7 @@ Q_SIGNALS:
     void klavesaZmenena(int n); ///< colour or label of key n
     void zabranyZmeneny();
     void cislovaniZmeneno();
-    void nazvyZmeneny(); ///< nastavNazvy was called
+    void nazvyZmeneny(); ///< names switched on or off
 
 private:
     struct Knoflik {

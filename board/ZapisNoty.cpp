@@ -4,34 +4,19 @@
 
 namespace zvonika {
 
-bool ZapisNoty::pridejNotu(int jednotky) {
-    return proved([&] { return noty_.pridejNotu(jednotky).has_value(); });
+void ZapisNoty::notaVlozena(int slot) {
+    if (const auto nota = osnova_.nota(slot))
+        diskant_.notaPridana(nota->ton); // the check may change the staff
 }
 
-bool ZapisNoty::posunNotu(int slot, int jednotky) {
-    return proved([&] { return noty_.posunNotu(slot, jednotky); });
+void ZapisNoty::notaZmenena(int slot, CisloTonu puvodni) {
+    // A sign that leaves the tone as it was (a natural before a plain note) changes nothing on the board.
+    if (!osnova_.slotTonu(puvodni)) diskant_.notaOdebrana(puvodni);
+    notaVlozena(slot);
 }
 
-bool ZapisNoty::nastavZnamenko(int slot, Znamenko znamenko) {
-    return proved([&] { return noty_.nastavZnamenko(slot, znamenko); });
-}
-
-void ZapisNoty::odeberNotu(int slot) {
-    proved([&] {
-        noty_.odeberNotu(slot);
-        return true;
-    });
-}
-
-bool ZapisNoty::proved(const std::function<bool()>& zmena) {
-    const NotovaOsnova::Noty puvodni = osnova_.noty();
-    if (!zmena()) return false;
-    const NotovaOsnova::Noty nove = osnova_.noty(); // the checks below may change the staff again
-    for (const auto& nota : puvodni)
-        if (nota && !osnova_.slotTonu(nota->ton)) diskant_.notaOdebrana(nota->ton);
-    for (const auto& nota : nove)
-        if (nota) diskant_.notaPridana(nota->ton);
-    return true;
+void ZapisNoty::notaOdebrana(CisloTonu puvodni) {
+    diskant_.notaOdebrana(puvodni);
 }
 
 } // namespace zvonika

@@ -1,32 +1,25 @@
 #pragma once
 
-#include "theory/PolohaNoty.h"
-#include "theory/clsNotyZapis.h"
-
-#include <functional>
+#include "theory/NotovaOsnova.h"
 
 namespace zvonika {
 
 class KlikDiskantu;
 
-/// Working on the entry staff with the mouse: after every change of a note the board follows. A button whose
-/// note has gone is released, the button of a new note is marked and the note is checked against the key.
+/// The board follows the entry staff: told of each note that the player has put, changed or taken away there,
+/// it releases the button whose note has gone and marks the button of the new one, which is checked against
+/// the key.
 class ZapisNoty {
 public:
-    ZapisNoty(NotovaOsnova& osnova, clsNotyZapis& noty, KlikDiskantu& diskant)
-        : osnova_(osnova), noty_(noty), diskant_(diskant) {}
+    ZapisNoty(const NotovaOsnova& osnova, KlikDiskantu& diskant) : osnova_(osnova), diskant_(diskant) {}
 
-    /// Puts a note into the next free slot; `jednotky` in staff units. False when it cannot stand there.
-    bool pridejNotu(int jednotky);
-    bool posunNotu(int slot, int jednotky); ///< false: the note stays
-    bool nastavZnamenko(int slot, Znamenko znamenko);
-    void odeberNotu(int slot);
+    void notaVlozena(int slot);
+    /// The note of the slot was moved or got another sign; `puvodni`: the tone that stood there before.
+    void notaZmenena(int slot, CisloTonu puvodni);
+    void notaOdebrana(CisloTonu puvodni);
 
 private:
-    bool proved(const std::function<bool()>& zmena);
-
-    NotovaOsnova& osnova_;
-    clsNotyZapis& noty_;
+    const NotovaOsnova& osnova_;
     KlikDiskantu& diskant_;
 };
 

@@ -108,9 +108,11 @@ void Form1::postavTlacitka() {
         const QString nazev = radek.pristupne.isEmpty() ? radek.popisek : radek.pristupne;
         tlacitko->setAccessibleName(nazev);
         // Not the button's own shortcut, which only acts a tenth of a second later.
-        if (!radek.zkratka.isEmpty())
-            connect(new QShortcut(QKeySequence(radek.zkratka), this), &QShortcut::activated, tlacitko,
-                    &QPushButton::click);
+        if (!radek.zkratka.isEmpty()) {
+            auto* zkratka = new QShortcut(QKeySequence(radek.zkratka), this);
+            zkratka->setAutoRepeat(false); // a key held down must not record grip after grip
+            connect(zkratka, &QShortcut::activated, tlacitko, &QPushButton::click);
+        }
         tlacitko->setToolTip(radek.zkratka.isEmpty() ? nazev
                                                      : nazev + QStringLiteral(" (%1)").arg(radek.zkratka));
         connect(tlacitko, &QPushButton::clicked, this, [this, jmeno = radek.jmeno] { Q_EMIT prikaz(jmeno); });
@@ -118,7 +120,8 @@ void Form1::postavTlacitka() {
         umisti(tlacitko, radek.twips);
         tlacitko->setEnabled(stavy_.povolen(radek.jmeno));
     }
-    tlacitka_[QStringLiteral("cmdJakDal")]->nastavSipku('>');
+    tlacitka_[QStringLiteral("cmdJakDal")]->nastavObrazek(PrikazoveTlacitko::Obrazek::Sipka);
+    tlacitka_[QStringLiteral("cmdZvuk(0)")]->nastavObrazek(PrikazoveTlacitko::Obrazek::Nota);
 }
 
 void Form1::postavPopisky() {

@@ -25,6 +25,30 @@ bool jeTmava(const QColor& barva) {
     return qGray(barva.rgb()) < 128;
 }
 
+QPainterPath sipka(const QRectF& misto) {
+    const double vyska = misto.height() * 0.52;
+    const QPointF stred = misto.center();
+    QPainterPath obrys(stred + QPointF(-vyska / 2, -vyska / 2));
+    obrys.lineTo(stred + QPointF(vyska / 2, 0));
+    obrys.lineTo(stred + QPointF(-vyska / 2, vyska / 2));
+    obrys.closeSubpath();
+    return obrys;
+}
+
+/// A pair of quavers: two heads, two stems, one beam.
+QPainterPath nota(const QRectF& misto) {
+    const double v = misto.height() * 0.8;
+    const QPointF o(misto.center().x() - v * 0.4, misto.center().y() - v / 2);
+    QPainterPath obrys;
+    obrys.setFillRule(Qt::WindingFill);
+    for (const double x : {0.0, 0.5}) {
+        obrys.addEllipse(QRectF(o.x() + x * v, o.y() + 0.72 * v, 0.32 * v, 0.24 * v));
+        obrys.addRect(QRectF(o.x() + (x + 0.25) * v, o.y() + 0.08 * v, 0.07 * v, 0.76 * v));
+    }
+    obrys.addRect(QRectF(o.x() + 0.25 * v, o.y() + 0.06 * v, 0.57 * v, 0.13 * v));
+    return obrys;
+}
+
 } // namespace
 
 PrikazoveTlacitko::PrikazoveTlacitko(const QString& popisek, Vyznam vyznam, QWidget* parent)
@@ -39,8 +63,8 @@ void PrikazoveTlacitko::nastavBarvu(std::optional<QColor> barva) {
     update();
 }
 
-void PrikazoveTlacitko::nastavSipku(char sipka) {
-    sipka_ = sipka;
+void PrikazoveTlacitko::nastavObrazek(Obrazek obrazek) {
+    obrazek_ = obrazek;
     update();
 }
 
@@ -72,8 +96,10 @@ void PrikazoveTlacitko::paintEvent(QPaintEvent*) {
     const QRect misto = rect().adjusted(3, 2, -3, -3);
     if (!text().isEmpty())
         kresliPopisek(painter, misto, pismo);
-    else if (sipka_ != 0)
-        kresliSipku(painter, misto, pismo);
+    else if (obrazek_ == Obrazek::Sipka)
+        painter.fillPath(sipka(misto), pismo);
+    else if (obrazek_ == Obrazek::Nota)
+        painter.fillPath(nota(misto), pismo);
 }
 
 void PrikazoveTlacitko::kresliPopisek(QPainter& painter, const QRect& misto, const QColor& barva) const {
@@ -87,18 +113,6 @@ void PrikazoveTlacitko::kresliPopisek(QPainter& painter, const QRect& misto, con
     painter.setFont(pismo);
     painter.setPen(barva);
     painter.drawText(misto, vlajky, text());
-}
-
-void PrikazoveTlacitko::kresliSipku(QPainter& painter, const QRect& misto, const QColor& barva) const {
-    const double vyska = misto.height() * 0.52;
-    const double smer = sipka_ == '>' ? 1 : -1;
-    const QPointF stred = QRectF(misto).center();
-    QPainterPath sipka;
-    sipka.moveTo(stred + QPointF(-smer * vyska * 0.5, -vyska / 2));
-    sipka.lineTo(stred + QPointF(smer * vyska * 0.5, 0));
-    sipka.lineTo(stred + QPointF(-smer * vyska * 0.5, vyska / 2));
-    sipka.closeSubpath();
-    painter.fillPath(sipka, barva);
 }
 
 } // namespace zvonika

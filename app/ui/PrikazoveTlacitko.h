@@ -17,8 +17,9 @@ public:
 
     /// Face colour; nothing for the usual one.
     void nastavBarvu(std::optional<QColor> barva);
-    /// A drawn mark for buttons without text: '>' or '<', or 0.
-    void nastavSipku(char sipka);
+    /// The drawn picture of a button without text.
+    enum class Obrazek { Zadny, Sipka, Nota };
+    void nastavObrazek(Obrazek obrazek);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -28,11 +29,10 @@ protected:
 private:
     QColor plocha() const;
     void kresliPopisek(QPainter& painter, const QRect& misto, const QColor& barva) const;
-    void kresliSipku(QPainter& painter, const QRect& misto, const QColor& barva) const;
 
     Vyznam vyznam_;
     std::optional<QColor> barva_;
-    char sipka_ = 0;
+    Obrazek obrazek_ = Obrazek::Zadny;
 };
 
 } // namespace zvonika

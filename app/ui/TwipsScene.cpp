@@ -18,9 +18,9 @@ TwipsScene::TwipsScene(QSize twips, QWidget* parent) : QWidget(parent), twips_(t
 }
 
 void TwipsScene::place(QWidget* widget, const QRect& twips) {
-    if (widget->parentWidget() != this)
-        widget->setParent(this);
-    const auto known = std::find_if(placed_.begin(), placed_.end(), [&](const Placed& item) { return item.widget == widget; });
+    if (widget->parentWidget() != this) widget->setParent(this);
+    const auto known = std::find_if(placed_.begin(), placed_.end(),
+                                    [&](const Placed& item) { return item.widget == widget; });
     if (known != placed_.end())
         known->twips = twips;
     else

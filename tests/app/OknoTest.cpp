@@ -113,6 +113,40 @@ TEST_F(OknoSPisni, AGripGoesFromTheBoardIntoTheSheetAndBack) {
     EXPECT_EQ(program->modely().panel.barvaKroku, BarvaKroku::Tlak);
 }
 
+TEST_F(OknoSPisni, CheckMarksTellWhatIsSwitchedOn) {
+    EXPECT_FALSE(akce("mnu2Rady")->isChecked());
+    program->modely().diskant.nastavNazvy(true, "G dur");
+    EXPECT_TRUE(akce("mnu2Rady")->isChecked());
+    EXPECT_FALSE(akce("mnuCislovat")->isChecked());
+    program->modely().diskant.nastavCislovani(true);
+    EXPECT_TRUE(akce("mnuCislovat")->isChecked());
+}
+
+TEST_F(OknoSPisni, ANoteOnTheStaffMarksItsButtonAndSignsFollow) {
+    QWidget* osnova = prvek("osnovaZapisu");
+    osnova->setFocus();
+    QTest::keyClick(osnova, Qt::Key_Return); // the first note a player puts by keyboard: g1
+    EXPECT_TRUE(program->modely().diskant.oznacen(16));
+    QTest::keyClick(osnova, 'n'); // a natural before a plain note changes nothing but the look
+    EXPECT_TRUE(program->modely().diskant.oznacen(16));
+    QTest::keyClick(osnova, '#');
+    EXPECT_FALSE(program->modely().diskant.oznacen(16));
+    EXPECT_TRUE(program->modely().diskant.oznacen(17));
+    QTest::keyClick(osnova, Qt::Key_Delete);
+    EXPECT_FALSE(program->modely().diskant.oznacen(17));
+}
+
+TEST_F(OknoSPisni, AClickOnTheStripGoesToThatGrip) {
+    novaPisen();
+    for (const char* bunka : {"B1", "B2", "B3"})
+        excel->put(bunka, "g1,");
+    klikni("cmdPrvni");
+    QWidget* pas = prvek("pas");
+    QTest::mouseClick(pas, Qt::LeftButton, {}, prvek("lblSlabika2(3)")->mapTo(pas, QPoint(4, 4)));
+    EXPECT_EQ(program->aktualniRadek(), 3);
+    EXPECT_EQ(program->modely().pas.poziceVPasu, 3);
+}
+
 TEST_F(OknoSPisni, TheSheetLeadsAndTheBoardFollows) {
     novaPisen();
     for (const char* bunka : {"B1", "B2", "B3"})

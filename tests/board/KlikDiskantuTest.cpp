@@ -1,5 +1,8 @@
+#include "board/KlikDiskantu.h"
+
 #include "board/ZapisNoty.h"
 #include "tests/board/ZapisovaniFixture.h"
+#include "theory/clsNotyZapis.h"
 
 namespace zvonika {
 namespace {
@@ -34,7 +37,31 @@ protected:
                       tonina,
                       dialogs,
                       {[this] { vDialoguStupnice(); }, [this](const QString& veta) { oznameni << veta; }}};
-    ZapisNoty zapisNoty{osnova, noty, klik};
+    ZapisNoty zapisNoty{osnova, klik};
+
+    // What the entry staff does and then tells.
+    bool pridejNotu(int jednotky) {
+        const auto slot = noty.pridejNotu(jednotky);
+        if (slot) zapisNoty.notaVlozena(*slot);
+        return slot.has_value();
+    }
+    bool zmenNotu(int slot, const std::function<bool()>& zmena) {
+        const CisloTonu puvodni = osnova.nota(slot)->ton;
+        if (!zmena()) return false;
+        zapisNoty.notaZmenena(slot, puvodni);
+        return true;
+    }
+    bool posunNotu(int slot, int jednotky) {
+        return zmenNotu(slot, [&] { return noty.posunNotu(slot, jednotky); });
+    }
+    bool nastavZnamenko(int slot, Znamenko znamenko) {
+        return zmenNotu(slot, [&] { return noty.nastavZnamenko(slot, znamenko); });
+    }
+    void odeberNotu(int slot) {
+        const CisloTonu puvodni = osnova.nota(slot)->ton;
+        noty.odeberNotu(slot);
+        zapisNoty.notaOdebrana(puvodni);
+    }
 };
 
 TEST_F(KlikDiskantuTest, AClickMarksAndAnotherReleases) {
@@ -131,32 +158,43 @@ TEST_F(KlikDiskantuTest, NamesFollowTheKey) {
 }
 
 TEST_F(KlikDiskantuTest, ANoteOnTheStaffMarksItsButton) {
-    EXPECT_TRUE(zapisNoty.pridejNotu(420));
+    EXPECT_TRUE(pridejNotu(420));
     ocekavejOznaceny(9, "c1,");
-    EXPECT_FALSE(zapisNoty.pridejNotu(420)); // it stands there already
-    EXPECT_FALSE(zapisNoty.pridejNotu(0));   // below the board
-    zapisNoty.odeberNotu(0);
+    EXPECT_FALSE(pridejNotu(420)); // it stands there already
+    EXPECT_FALSE(pridejNotu(0));   // below the board
+    odeberNotu(0);
     ocekavejVolny(9);
 }
 
 TEST_F(KlikDiskantuTest, AMovedNoteTakesItsMarkAlong) {
-    zapisNoty.pridejNotu(420);
-    EXPECT_TRUE(zapisNoty.posunNotu(0, 480));
+    pridejNotu(420);
+    EXPECT_TRUE(posunNotu(0, 480));
     ocekavejVolny(9);
     ocekavejOznaceny(11, "d1,");
-    EXPECT_TRUE(zapisNoty.nastavZnamenko(0, Znamenko::Krizek));
+    EXPECT_TRUE(nastavZnamenko(0, Znamenko::Krizek));
     ocekavejVolny(11);
     ocekavejOznaceny(12, "dis1,");
-    EXPECT_FALSE(zapisNoty.posunNotu(0, 5000));
+    EXPECT_FALSE(posunNotu(0, 5000));
     ocekavejOznaceny(12, "dis1,");
     EXPECT_TRUE(oznameni.isEmpty());
 }
 
+TEST_F(KlikDiskantuTest, ASignThatLeavesTheToneKeepsItsNoteAndMark) {
+    zvolToninu("C dur");
+    pridejNotu(420);
+    for (const Znamenko znamenko : {Znamenko::Odrazka, Znamenko::Zadne}) {
+        EXPECT_TRUE(nastavZnamenko(0, znamenko));
+        ASSERT_TRUE(osnova.nota(0));
+        EXPECT_EQ(osnova.nota(0)->poloha.znamenko, znamenko);
+        ocekavejOznaceny(9, "c1,");
+    }
+}
+
 TEST_F(KlikDiskantuTest, ARefusedNoteLeavesBoardAndStaff) {
     zvolToninu("C dur");
-    zapisNoty.pridejNotu(420);
+    pridejNotu(420);
     dialogs.expect(mimoStupnici, "cis1,", Answer::Cancel);
-    zapisNoty.nastavZnamenko(0, Znamenko::Krizek);
+    nastavZnamenko(0, Znamenko::Krizek);
     ocekavejVolny(9);
     ocekavejVolny(10);
 }
@@ -165,8 +203,8 @@ TEST_F(KlikDiskantuTest, MovingANoteAsksNothingAboutTheOthers) {
     zvolToninu("C dur");
     dialogs.expect(mimoStupnici, "cis1,", Answer::Yes);
     klik.klik(10);
-    zapisNoty.pridejNotu(540);
-    zapisNoty.posunNotu(1, 600);
+    pridejNotu(540);
+    posunNotu(1, 600);
     EXPECT_EQ(dialogs.count, 1);
     EXPECT_EQ(osnova.slotTonu(CisloTonu(10)), 0);
     ocekavejOznaceny(10, "cis1,");
@@ -176,7 +214,7 @@ TEST_F(KlikDiskantuTest, MovingANoteAsksNothingAboutTheOthers) {
 TEST_F(KlikDiskantuTest, AMarkedButtonWhoseNoteIsEnteredKeepsItsMark) {
     klik.klik(9);
     osnova.odeberNoty();
-    EXPECT_TRUE(zapisNoty.pridejNotu(420));
+    EXPECT_TRUE(pridejNotu(420));
     ocekavejOznaceny(9, "c1,");
 }
 
