@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QGuiApplication>
+#include <QWindow>
 
 #include <cstdio>
 #include <cstdlib>
@@ -48,7 +49,11 @@ void StartClock::watch(QWidget& window) {
 }
 
 bool StartClock::eventFilter(QObject* target, QEvent* event) {
+    if (event->type() == QEvent::Expose && window_ &&
+        target == static_cast<QObject*>(window_->windowHandle()))
+        mark("exposed");
     if (event->type() != QEvent::Paint || target != window_) return false;
+    mark("painting");
     QCoreApplication::instance()->removeEventFilter(this);
     // The frame is complete and handed to the display when the event that paints it has been handled.
     QMetaObject::invokeMethod(this, &StartClock::finish, Qt::QueuedConnection);

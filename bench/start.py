@@ -17,6 +17,7 @@ import tempfile
 import time
 
 PATIENCE = 30  # seconds until a start counts as failed
+AT_REST = 2  # seconds after its first window until a foreign program's memory is read
 PEERS = {"TuxGuitar": ["tuxguitar"], "MuseScore 3": ["mscore3", "musescore3"]}
 
 
@@ -62,7 +63,10 @@ def end_group(process):
 def first_window(command, folder):
     """Starts a foreign program and watches the display until a new window is mapped."""
     before = mapped_windows()
-    environment = dict(os.environ, HOME=folder, XDG_CONFIG_HOME=folder + "/config", SWT_GTK3="1")
+    # A home of its own for each turn: one of them refuses to start beside what its last run has left there.
+    home = tempfile.mkdtemp(dir=folder)
+    environment = dict(os.environ, HOME=home, XDG_CONFIG_HOME=home,
+                       JAVA_TOOL_OPTIONS=f"-Duser.home={home} -Djava.io.tmpdir={home}")
     start = time.monotonic()
     process = subprocess.Popen(command, env=environment, stdout=subprocess.DEVNULL,
                                stderr=subprocess.DEVNULL, start_new_session=True)
@@ -70,6 +74,7 @@ def first_window(command, folder):
         while time.monotonic() - start < PATIENCE:
             if mapped_windows() - before:
                 elapsed = (time.monotonic() - start) * 1000
+                time.sleep(AT_REST)
                 return {"first_paint": elapsed, "rss_mb": process_group_rss(process.pid)}
             if process.poll() is not None:
                 return None
@@ -77,6 +82,8 @@ def first_window(command, folder):
         return None
     finally:
         end_group(process)
+        while mapped_windows() - before and time.monotonic() - start < PATIENCE:
+            time.sleep(0.05)
 
 
 def candidates(bin_folder):

@@ -18,7 +18,8 @@ def read(folder, name):
         return json.load(source)
 
 
-def verdict(pairs):
+def verdict(values, aims):
+    pairs = list(zip(values, aims))
     missed = any(aim is not None and value > aim for value, aim in pairs)
     aimed = any(aim is not None for _, aim in pairs)
     return "" if not aimed else "missed" if missed else "reached"
@@ -40,16 +41,16 @@ def steps(results):
                  result["display_median_ms"], result["cpu_p99_ms"]]
         aims = AIMS.get(command, (None, None))
         print(f"{command:<12}{grips:>6}" + "".join(f"{part:9.2f}" for part in parts) +
-              "  " + verdict(zip((median, p99), aims)))
+              "  " + verdict((median, p99), aims))
 
 
 def start(results):
     print("Start to first painted window (others: first mapped window) and resident memory, medians")
-    print(f"{'program':<14}{'ms':>9}{'slowest':>9}{'MB':>9}  aim")
+    print(f"{'program':<14}{'ms':>9}{'slowest':>9}{'MB':>9}{'turns':>7}  aim")
     for name, median in results["programs"].items():
         aims = (AIM_START_MS, AIM_RESIDENT_MB) if name == "Zvonika" else (None, None)
-        print(f"{name:<14}{median['first_paint']:9.1f}{median['slowest']:9.1f}{median['rss_mb']:9.1f}  "
-              + verdict(zip((median["first_paint"], median["rss_mb"]), aims)))
+        print(f"{name:<14}{median['first_paint']:9.1f}{median['slowest']:9.1f}{median['rss_mb']:9.1f}{median['turns']:7}  "
+              + verdict((median["first_paint"], median["rss_mb"]), aims))
     for name, median in results["programs"].items():
         if "marks" in median:
             print(f"  {name}: " + ", ".join(f"{stage} {ms:.1f}" for stage, ms in median["marks"].items()))
