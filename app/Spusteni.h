@@ -14,7 +14,6 @@ namespace zvonika {
 struct KrokySpusteni {
     std::function<void()> nastavVzdyNahore;    ///< keep the window above all others
     std::function<void()> spustExcel;          ///< start the spreadsheet application
-    std::function<void()> nactiObrazkyOsnovy;  ///< staff pictures
     std::function<void(bool)> obratCislovani;  ///< reversed layout of the number labels
     std::function<void(bool)> zapniNazvy;      ///< mnu2Rady and the names on the buttons
     std::function<void(bool)> zapniCislovani;  ///< mnuCislovat and the 32 number labels
