@@ -20,19 +20,19 @@ QString textUkonceni(int cislo) {
 void UkonceniExcelu::UkonciExcel() {
     if (!pisen_.aplikaceExcel) return;
     ohlasene_.clear();
-    pokus([this] { ulozPisen(); });
+    pokus(Krok::Ulozeni, [this] { ulozPisen(); });
     bool hotovo = false;
     for (int i = 0; i < pokusuOUkonceni && !hotovo; ++i)
-        hotovo = pokus([this] { ukonciAVratCestu(); });
+        hotovo = ukonciAVratCestu();
     pisen_.aplikaceExcel.reset();
 }
 
-bool UkonceniExcelu::pokus(const std::function<void()>& kroky) {
+bool UkonceniExcelu::pokus(Krok krok, const std::function<void()>& provedeni) {
     try {
-        kroky();
+        provedeni();
         return true;
     } catch (const RuntimeError& chyba) {
-        ohlas(chyba.number());
+        if (ohlasene_.insert({krok, chyba.number()}).second) ohlas(chyba.number());
         return false;
     }
 }
@@ -42,13 +42,13 @@ void UkonceniExcelu::ulozPisen() const {
 }
 
 // The folder is given back after quitting, not before: quitting would store the program's own folder.
-void UkonceniExcelu::ukonciAVratCestu() const {
-    pisen_.excel().quit();
-    pisen_.excel().setDefaultFilePath(pisen_.puvodniCestaExcelu);
+bool UkonceniExcelu::ukonciAVratCestu() {
+    return pokus(Krok::Ukonceni, [this] { pisen_.excel().quit(); }) && pokus(Krok::VraceniCesty, [this] {
+               pisen_.excel().setDefaultFilePath(pisen_.puvodniCestaExcelu);
+           });
 }
 
-void UkonceniExcelu::ohlas(int cislo) {
-    if (!ohlasene_.insert(cislo).second) return;
+void UkonceniExcelu::ohlas(int cislo) const {
     if (cislo == error::objectNotSet || cislo == error::applicationDefined)
         dialogs_.message({QStringLiteral("Nestandardní ukončení."), textUkonceni(cislo), Icon::Exclamation});
     else
