@@ -116,6 +116,15 @@ TEST_F(UkonceniExceluTest, LaterFailuresEnterTheSameTrapAndNeverLastForever) {
     EXPECT_EQ(dialogs.last.icon, Icon::Critical);
 }
 
+TEST_F(UkonceniExceluTest, EachStepReportsItsOwnFailureAlsoOfTheSameNumber) {
+    otevriPisen();
+    excel->fail("saveActiveWorkbook", 1004);
+    excel->fail("setDefaultFilePath", 1004, 1000);
+    for (int krok = 0; krok < 2; ++krok)
+        dialogs.expect(nestandardni, "Chyba při ukládání souboru !\nData v písni mohou být ztracena.");
+    ukonci();
+}
+
 TEST_F(UkonceniExceluTest, AFailedReturnOfTheFolderResumesAtQuit) {
     excel->fail("setDefaultFilePath", 1004);
     dialogs.expect(nestandardni, "Chyba při ukládání");
@@ -135,16 +144,38 @@ TEST(SpusteniExcelu, TheFirstInstanceSetsTheFolderAndTheSecondStays) {
     EXPECT_EQ(pisen.excel().defaultFilePath(), pracovniAdresar);
 }
 
-TEST(SpusteniExcelu, AnApplicationThatDoesNotStartLeavesNone) {
-    Pisen pisen;
-    int pokusy = 0;
-    Zaznam zaznam;
-    const SpreadsheetLauncher spoustec = [&]() -> std::unique_ptr<SpreadsheetApplication> {
-        if (++pokusy == 2) throw AutomationError(429);
-        return std::make_unique<ZapisovanyExcel>(zaznam);
+TEST(SpusteniExcelu, AFailedStartLeavesNoApplicationAndTheFolderOfTheUser) {
+    struct Pripad {
+        int nespustenyOd, nespustenyDo; ///< starts that fail
+        QString selze;                  ///< what fails in the instance that is number `instance`
+        int instance;
+        QString cesta; ///< the default folder afterwards
     };
-    ocekavejChybu(429, [&] { SpustExcel(spoustec, pisen); });
-    EXPECT_EQ(pisen.aplikaceExcel, nullptr);
+    const Pripad pripady[] = {
+        {1, 1, "", 0, "C:\\Moje"},                   // not even the first one: nothing was changed
+        {2, 2, "", 0, "C:\\Moje"},                   // given back by a third one
+        {2, 3, "", 0, pracovniAdresar},              // nobody left to give it back
+        {0, 0, "quit", 1, "C:\\Moje"},               // given back by the first one itself
+        {0, 0, "setDefaultFilePath", 1, "C:\\Moje"}, // never changed
+        {0, 0, "setVisible", 2, "C:\\Moje"},         // the second one started and failed then
+    };
+    for (const auto& [od, az, selze, instance, cesta] : pripady) {
+        SCOPED_TRACE(QStringLiteral("%1 %2 %3").arg(od).arg(az).arg(selze).toStdString());
+        Pisen pisen;
+        int pokusy = 0;
+        Zaznam zaznam{{}, "C:\\Moje"};
+        const SpreadsheetLauncher spoustec = [&, od = od, az = az, selze = selze, instance = instance] {
+            ++pokusy;
+            if (pokusy >= od && pokusy <= az) throw AutomationError(429);
+            auto aplikace = std::make_unique<ZapisovanyExcel>(zaznam);
+            if (pokusy == instance) aplikace->fail(selze, 429);
+            return aplikace;
+        };
+        ocekavejChybu(429, [&] { SpustExcel(spoustec, pisen); });
+        EXPECT_EQ(pisen.aplikaceExcel, nullptr);
+        EXPECT_EQ(zaznam.cesta, cesta);
+        EXPECT_GE(zaznam.kroky.count("quit"), zaznam.kroky.count("release")) << "none is left running";
+    }
 }
 
 } // namespace zvonika::testing
