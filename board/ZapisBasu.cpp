@@ -48,7 +48,7 @@ void ZapisBasu::ohlasPrebytek() {
 void ZapisBasu::ohlasTabulku() {
     dialogs_.message(
         {QStringLiteral("Bas nebyl zapsán !"),
-         tabulka_.chyba() + QStringLiteral("\r\nOznačené basy, jejichž jméno tabulka neuvádí, nebyly "
+         tabulka_.chyba() + QStringLiteral("\nOznačené basy, jejichž jméno tabulka neuvádí, nebyly "
                                            "zapsány. Ostatní data o hmatu zůstanou zachována."),
          Icon::Critical});
 }

@@ -171,8 +171,9 @@ TEST_F(ZapisHmatuTest, WithoutABassTableTheTonesAreRecorded) {
     EXPECT_EQ(s(bunky(1, u'B', u'M')), "e, - - - - - - Tah - - - -");
 
     diskant.nastavZnacku(1, false); // basses without a name alone are no grip
-    dialogs.expect("Bas nebyl zapsán !", "zůstanou zachována");
+    dialogs.expect("Bas nebyl zapsán !", "\nOznačené basy, jejichž jméno tabulka neuvádí");
     zapis.cmdTah();
+    EXPECT_FALSE(dialogs.last.text.contains(u'\r')) << "lines end as in every box";
     EXPECT_EQ(s(excel->activeAddress()), "$B$2");
 }
 
