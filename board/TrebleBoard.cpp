@@ -84,8 +84,8 @@ void TrebleBoard::nastavNazvy(bool zapnuto, const QString& stupnice) {
         ladeni.DejTonVeStupnici(CisloTonu(n), klic);
         const QString novy = zapnuto ? ladeni.nazevTonu().text() : QString();
         const QString stary = std::exchange(knoflik(n).nazev, novy);
-        nastavPopis(n, prepnuto ? novy : prejmenuj(popis(n), stary, novy));
-        nastavPopisPomocneho(n, prepnuto ? novy : prejmenuj(popisPomocneho(n), stary, novy));
+        nastavPopis(n, prejmenuj(popis(n), stary, novy));
+        nastavPopisPomocneho(n, prejmenuj(popisPomocneho(n), stary, novy));
     }
     if (prepnuto) Q_EMIT nazvyZmeneny();
 }

@@ -39,7 +39,7 @@ public:
     QString popisPomocneho(int n) const; ///< caption of lblSynchro(n)
     void nastavPopis(int n, const QString& popis);
     void nastavPopisPomocneho(int n, const QString& popis);
-    /// Switches the tone names on the buttons; `stupnice` is the key they are spelled in.
+    /// Switches the tone names on the buttons; `stupnice` is the key they are spelled in. Fingers stay.
     void nastavNazvy(bool zapnuto, const QString& stupnice);
     bool nazvyZapnuty() const { return nazvy_; }
     /// Empties all captions, down to the names where these are switched on.

@@ -66,6 +66,18 @@ TEST(TrebleBoard, FingersStayAboveANameThatFollowsTheKey) {
     EXPECT_EQ(deska.popis(7), QStringLiteral("3\r\nb,"));
 }
 
+TEST(TrebleBoard, FingersStayWhenTheNamesAreSwitched) {
+    TrebleBoard deska;
+    deska.nastavPopis(7, QStringLiteral("3\r\n"));
+    deska.nastavPopisPomocneho(7, QStringLiteral("5\r\n4\r\n"));
+    deska.nastavNazvy(true, QStringLiteral("F dur"));
+    EXPECT_EQ(deska.popis(7), QStringLiteral("3\r\nb,"));
+    EXPECT_EQ(deska.popisPomocneho(7), QStringLiteral("5\r\n4\r\nb,"));
+    deska.nastavNazvy(false, QStringLiteral("F dur"));
+    EXPECT_EQ(deska.popis(7), QStringLiteral("3\r\n"));
+    EXPECT_EQ(deska.popisPomocneho(7), QStringLiteral("5\r\n4\r\n"));
+}
+
 TEST(TrebleBoard, EmptyingTheCaptionsRestoresTheNames) {
     TrebleBoard deska;
     deska.nastavPopis(2, QStringLiteral("1\r\n"));
