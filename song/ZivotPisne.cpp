@@ -187,6 +187,7 @@ void ZivotPisne::NaplnListy() {
 void ZivotPisne::stavBezPisne() {
     okoli_.pisen.aktualniPisen.clear();
     ZakazPrikazyPisne(okoli_.prikazy);
+    okoli_.prikazy.povol(QStringLiteral("Combo1"), false);
     vyprazdniTexty();
     s_.pas.vyprazdni();
     povolZahajeniPisne(okoli_.prikazy, true);

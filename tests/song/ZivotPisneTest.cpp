@@ -25,7 +25,7 @@ protected:
         ocekavejPrikazy(false);
     }
     void ocekavejPrikazy(bool pisenOtevrena) {
-        for (const char* prikaz : {"cmdTah", "cmdEndEdit", "cmdDalsi", "mnuKonecPisne", "Slider1"})
+        for (const char* prikaz : {"cmdTah", "cmdEndEdit", "cmdDalsi", "mnuKonecPisne", "Slider1", "Combo1"})
             EXPECT_EQ(prikazy.povolen(prikaz), pisenOtevrena) << prikaz;
         for (const char* prikaz : {"cmdEdit", "cmdNovaSkladba", "mnuOtevrit", "mnuNovaPisen"})
             EXPECT_EQ(prikazy.povolen(prikaz), !pisenOtevrena) << prikaz;
