@@ -38,6 +38,8 @@ public:
     void UvolniIntervaly(); ///< what the interval display shows in brown; a marked button is red again
     void UvolniBasy();
     void UvolniNoty();
+    // The signs of the staff only: a note without its sign is another tone there, while the button that was
+    // marked with it stays marked on the board.
     void UvolniPultony();
     void UvolniOdrazky();
 
