@@ -31,8 +31,9 @@ bool UkonceniExcelu::pokus(Krok krok, const std::function<void()>& provedeni) {
     try {
         provedeni();
         return true;
-    } catch (const RuntimeError& chyba) {
-        if (ohlasene_.insert({krok, chyba.number()}).second) ohlas(chyba.number());
+    } catch (const std::exception& vyjimka) {
+        const int cislo = chybaSCislem(vyjimka).number();
+        if (ohlasene_.insert({krok, cislo}).second) ohlas(cislo);
         return false;
     }
 }

@@ -41,7 +41,14 @@ Message hlaseniZalozeni(int cislo) {
 void zavriTise(SpreadsheetApplication& excel) {
     try {
         excel.closeActiveWorkbook();
-    } catch (const AutomationError&) {
+    } catch (const std::exception&) {
+    }
+}
+
+void zavriTise(const Pisen& pisen) {
+    try {
+        if (pisen.AktivujPisen()) pisen.excel().closeActiveWorkbook();
+    } catch (const std::exception&) {
     }
 }
 
@@ -70,7 +77,8 @@ void ZivotPisne::zalozPisen(const QString& plneJmeno) {
     try {
         zalozSesit(plneJmeno);
         ozivNovouPisen();
-    } catch (const AutomationError& chyba) {
+    } catch (const std::exception& vyjimka) {
+        const RuntimeError chyba = chybaSCislem(vyjimka);
         zahodRozdelanou();
         okoli_.dialogs.message(hlaseniZalozeni(chyba.number()));
         okoli_.panel.upozorneni = chyba.cause();
@@ -84,7 +92,7 @@ void ZivotPisne::zalozSesit(const QString& plneJmeno) {
     try {
         excel.saveActiveWorkbookAs({plneJmeno});
         okoli_.pisen.aktualniPisen = excel.activeWorkbookName();
-    } catch (const AutomationError&) {
+    } catch (...) {
         zavriTise(excel); // no nameless workbook may stay behind in front of the user
         throw;
     }
@@ -111,7 +119,7 @@ void ZivotPisne::cmdEdit() {
     try {
         okoli_.pisen.aktualniPisen = excel.activeWorkbookName();
         ukazOtevrenouPisen();
-    } catch (const AutomationError&) {
+    } catch (...) {
         if (!okoli_.pisen.otevrena()) zavriTise(excel);
         zahodRozdelanou();
         throw;
@@ -131,7 +139,7 @@ void ZivotPisne::ukazOtevrenouPisen() {
 void ZivotPisne::Combo1Click(const QString& list) {
     try {
         ukazList(list);
-    } catch (const AutomationError&) {
+    } catch (...) {
         okoli_.panel.oznamZmenu(); // the list shows the sheet that is really there again
         throw;
     }
@@ -156,7 +164,8 @@ void ZivotPisne::cmdEndEdit() {
     QString pricina;
     try {
         ulozAZavri();
-    } catch (const AutomationError& chyba) {
+    } catch (const std::exception& vyjimka) {
+        const RuntimeError chyba = chybaSCislem(vyjimka);
         okoli_.dialogs.message(hlaseniUlozeni(chyba.number()));
         pricina = chyba.cause();
     }
@@ -213,7 +222,7 @@ void ZivotPisne::vyprazdniTexty() {
 /// Back to no song after a failure half way; the failure itself is the caller's to report.
 void ZivotPisne::zahodRozdelanou() {
     if (!okoli_.pisen.otevrena()) return;
-    if (okoli_.pisen.AktivujPisen()) zavriTise(okoli_.pisen.excel());
+    zavriTise(okoli_.pisen);
     stavBezPisne();
     s_.zobrazeni.odeberHmat();
 }

@@ -27,10 +27,32 @@ public:
     using FakeSpreadsheet::put;
     void put(const QString& address, const char* text) { put(address, QString::fromUtf8(text)); }
     QString refusal; ///< cause of every refused save under a new name; "" where none is refused
+    /// The next call of this operation fails with an exception that has no number.
+    QString withoutNumber;
 
     void saveActiveWorkbookAs(const SaveAsArguments& arguments) override {
         if (!refusal.isEmpty()) throw AutomationError(error::applicationDefined, refusal);
+        tripWithoutNumber("saveActiveWorkbookAs");
         FakeSpreadsheet::saveActiveWorkbookAs(arguments);
+    }
+    void activateWindow(const QString& name) override {
+        tripWithoutNumber("activateWindow");
+        FakeSpreadsheet::activateWindow(name);
+    }
+    void saveActiveWorkbook() override {
+        tripWithoutNumber("saveActiveWorkbook");
+        FakeSpreadsheet::saveActiveWorkbook();
+    }
+    QString activeSheetName() const override {
+        const_cast<ExplainingSpreadsheet*>(this)->tripWithoutNumber("activeSheetName");
+        return FakeSpreadsheet::activeSheetName();
+    }
+
+private:
+    void tripWithoutNumber(const char* operation) {
+        if (withoutNumber != QLatin1String(operation)) return;
+        withoutNumber.clear();
+        throw std::out_of_range(operation);
     }
 };
 

@@ -18,12 +18,14 @@ class ZapisovanyExcel : public FakeSpreadsheet {
 public:
     explicit ZapisovanyExcel(Zaznam& zaznam) : zaznam_(zaznam) {}
     ~ZapisovanyExcel() override { zaznam_.kroky.append("release"); }
+    bool bezPameti = false; ///< saving fails without a number
     void quit() override {
         zaznam_.kroky.append("quit");
         FakeSpreadsheet::quit();
     }
     void saveActiveWorkbook() override {
         zaznam_.kroky.append("save");
+        if (bezPameti) throw std::bad_alloc();
         FakeSpreadsheet::saveActiveWorkbook();
     }
     QString defaultFilePath() const override { return zaznam_.cesta; }
@@ -103,6 +105,14 @@ TEST_F(UkonceniExceluTest, ARefusedSaveIsReportedAndTheShutdownGoesOn) {
     dialogs.expect(nestandardni, "Chyba při ukládání souboru !\nData v písni mohou být ztracena.");
     ukonci();
     EXPECT_EQ(dialogs.last.icon, Icon::Exclamation);
+    EXPECT_EQ(zaznam.kroky, (QStringList{"save", "quit", "path", "release"}));
+}
+
+TEST_F(UkonceniExceluTest, AFailureWithoutANumberDoesNotStopTheShutdown) {
+    otevriPisen();
+    excel->bezPameti = true;
+    dialogs.expect("Neočekávaná chyba !", "Kontaktujte firmu " + kontakt + " a sdělte číslo chyby 0");
+    ukonci();
     EXPECT_EQ(zaznam.kroky, (QStringList{"save", "quit", "path", "release"}));
 }
 

@@ -216,6 +216,40 @@ TEST_F(ZivotPisneTest, AnotherSheetKeepsTheRowAndIsSaved) {
     ocekavejChybu(9, [this] { zivot.Combo1Click("G dur"); });
 }
 
+TEST_F(ZivotPisneTest, AFailureWithoutANumberLeavesNoSongEither) {
+    const auto ocekavejHlaseni = [this] {
+        dialogs.expect("Neočekávaná chyba !", "Kontaktujte firmu " + kontakt + " a sdělte číslo chyby 0");
+    };
+    for (const char* krok : {"saveActiveWorkbookAs", "activeSheetName"}) {
+        SCOPED_TRACE(krok);
+        excel->withoutNumber = krok;
+        zadejNazev("Polka");
+        ocekavejHlaseni();
+        zivot.cmdNovaSkladba();
+        ocekavejBezPisne();
+        EXPECT_EQ(otevrenychSesitu(), 0);
+    }
+    excel->withoutNumber = "activeSheetName";
+    EXPECT_THROW(otevriPolku(1), std::out_of_range);
+    ocekavejBezPisne();
+    EXPECT_EQ(otevrenychSesitu(), 0);
+
+    otevriPolku(1);
+    excel->withoutNumber = "saveActiveWorkbook";
+    ocekavejHlaseni();
+    zivot.cmdEndEdit();
+    ocekavejBezPisne();
+    EXPECT_TRUE(panel.upozorneni.contains("saveActiveWorkbook")) << "the cause for who is asked for help";
+}
+
+TEST_F(ZivotPisneTest, TidyingUpThatFailsAsWellLeavesNoSong) {
+    excel->fail("readBlock", 1004);
+    excel->withoutNumber = "activateWindow"; // called first when the song is thrown away
+    ocekavejChybu(1004, [this] { otevriPolku(1); });
+    EXPECT_EQ(excel->withoutNumber, "") << "it did fail";
+    ocekavejBezPisne();
+}
+
 TEST_F(ZivotPisneTest, EndSavesAndClosesTheSongAlsoFromBehind) {
     for (const bool vPozadi : {false, true}) {
         otevriPolku(3);
