@@ -12,7 +12,8 @@ namespace zvonika::bench {
 /// Times a start-up from the moment the process was started (environment variable ZVONIKA_BENCH_START:
 /// CLOCK_MONOTONIC in nanoseconds; the moment of construction where it is not set) until a window's first
 /// frame has reached the display. Then prints one line of JSON and ends the process:
-/// {"marks": {"<stage>": ms, ...}, "first_paint": ms, "rss_mb": MB}
+/// {"marks": {"<stage>": ms, ...}, "first_paint": ms, "cpu": ms, "rss_mb": MB}; "cpu" is the
+/// processor time up to the first frame.
 class StartClock : public QObject {
     Q_OBJECT
 public:
@@ -40,6 +41,7 @@ private:
     std::vector<Mark> marks_;
     QPointer<QWidget> window_;
     double firstPaint_ = 0;
+    double processor_ = 0;
 };
 
 } // namespace zvonika::bench

@@ -116,6 +116,7 @@ def summary(reports):
     medians["slowest"] = max(report["first_paint"] for report in reports)
     medians["turns"] = len(reports)
     if "marks" in reports[0]:
+        medians["cpu"] = statistics.median(report["cpu"] for report in reports)
         medians["marks"] = {stage: statistics.median(report["marks"][stage] for report in reports)
                             for stage in reports[0]["marks"]}
     return medians

@@ -53,7 +53,8 @@ def start(results):
               + verdict((median["first_paint"], median["rss_mb"]), aims))
     for name, median in results["programs"].items():
         if "marks" in median:
-            print(f"  {name}: " + ", ".join(f"{stage} {ms:.1f}" for stage, ms in median["marks"].items()))
+            print(f"  {name}: " + ", ".join(f"{stage} {ms:.1f}" for stage, ms in median["marks"].items())
+                  + f"; processor {median['cpu']:.1f}")
     for what in ("missing", "failed"):
         if results[what]:
             print(f"  {what}: {', '.join(results[what])}")
