@@ -58,7 +58,8 @@ public:
     virtual QString defaultFilePath() const = 0;
     virtual void setDefaultFilePath(const QString& path) = 0;
     virtual void setVisible(bool visible) = 0;
-    /// Closes what is open without asking. On an application that the user has quit: 91 once, then it succeeds.
+    /// Closes what is open; asks only for workbooks with unsaved changes, and what the user then does not save is
+    /// lost. On an application that the user has quit: 91 once, then it succeeds.
     virtual void quit() = 0;
     virtual void setListener(SpreadsheetListener* listener) = 0;
     /// Brings the application's window to the front and gives it the keyboard.

@@ -1,6 +1,7 @@
 #include "song/embedded/EmbeddedApplication.h"
 
 #include "song/embedded/FileSentences.h"
+#include "song/embedded/Saving.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -86,6 +87,7 @@ void EmbeddedApplication::setVisible(bool visible) {
 }
 
 void EmbeddedApplication::quit() {
+    Saving(session_).offerUnsaved();
     const Session::State before = session_.state();
     session_.end(Session::State::Ended);
     if (before == Session::State::QuitByUser)

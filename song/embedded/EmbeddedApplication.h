@@ -30,6 +30,7 @@ public:
     /// A folder that does not exist is kept; the next instance then starts with "C:\Dokumenty".
     void setDefaultFilePath(const QString& path) override;
     void setVisible(bool visible) override;
+    /// Asks as `Saving::offerUnsaved`; what the user does not save is dropped.
     void quit() override;
     void setListener(SpreadsheetListener* listener) override;
     void showToUser() override;

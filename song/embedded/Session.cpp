@@ -14,6 +14,10 @@ Document* Session::find(const QString& name) const {
     return found == documents_.end() ? nullptr : found->get();
 }
 
+bool Session::isOpen(const Document& document) const {
+    return std::ranges::any_of(documents_, [&](const auto& open) { return open.get() == &document; });
+}
+
 QString Session::nextName() {
     return QStringLiteral("Sešit%1").arg(++named_);
 }

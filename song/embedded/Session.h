@@ -26,6 +26,7 @@ public:
     Document* active() const { return active_; } ///< nullptr without a workbook
     Document* find(const QString& name) const; ///< by file name, case does not matter; nullptr when not open
     const std::vector<std::unique_ptr<Document>>& documents() const { return documents_; }
+    bool isOpen(const Document& document) const;
     /// Name of the next new workbook: "Sešit1", "Sešit2" ...
     QString nextName();
     /// Takes the workbook over and makes it the active one.
@@ -41,7 +42,7 @@ public:
     const QString& folder() const { return folder_; }
     void setFolder(const QString& native) { folder_ = native; }
     State state() const { return state_; }
-    /// Drops every workbook without asking and hides the window.
+    /// Drops every workbook, saved or not, without asking and hides the window.
     void end(State state);
 
     // --- the window ---

@@ -65,8 +65,6 @@ private:
 
     template <typename Action>
     bool attempt(Action action);
-    template <typename Save>
-    bool saved(Save save);
     Place place() const;
     void report(const Place& before, bool edited);
     bool mayClose(Document& document);

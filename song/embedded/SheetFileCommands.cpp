@@ -1,54 +1,17 @@
-#include "platform/RuntimeError.h"
+#include "song/embedded/Saving.h"
 #include "song/embedded/Session.h"
 #include "song/embedded/SheetCommands.h"
 
-#include <QDir>
-#include <QFileInfo>
-
 namespace zvonika {
-
-namespace {
-
-const QString xlsEnding = QStringLiteral(".xls");
-
-QString withEnding(const QString& name) {
-    return name.endsWith(xlsEnding, Qt::CaseInsensitive) ? name : name + xlsEnding;
-}
-
-} // namespace
-
-template <typename Save>
-bool SheetCommands::saved(Save save) {
-    try {
-        save();
-        return true;
-    } catch (const RuntimeError& refusal) {
-        session_.dialogs().message({jmenoTabulky, refusal.cause(), Icon::Exclamation});
-        return false;
-    }
-}
 
 bool SheetCommands::save() {
     Document* document = session_.active();
-    if (!document) return false;
-    if (document->path().isEmpty()) return saveAs();
-    return saved([&] { document->save(); });
+    return document && Saving(session_).save(*document);
 }
 
 bool SheetCommands::saveAs() {
     Document* document = session_.active();
-    if (!document) return false;
-    const QString suggested = document->path().isEmpty()
-                                  ? QDir(session_.folder()).filePath(withEnding(document->name()))
-                                  : document->path();
-    const auto chosen = session_.dialogs().saveFile(QStringLiteral("Uložit jako"),
-                                                    QStringLiteral("Excel Files,*.xls"), suggested);
-    if (!chosen || session_.active() != document) return false;
-    return saved([&] {
-        const QString path = withEnding(*chosen);
-        session_.refuseTwin(QFileInfo(path).fileName(), document);
-        document->saveAs(path);
-    });
+    return document && Saving(session_).saveAs(*document);
 }
 
 bool SheetCommands::mayClose(Document& document) {

@@ -28,6 +28,8 @@ public:
     virtual QString folder() const = 0;
     /// The user's answer to the next file choice; nothing for Cancel.
     virtual void willChoose(const std::optional<QString>& file) = 0;
+    /// The user's answer when `quit` asks about the next workbook with unsaved changes.
+    virtual void willSaveChanges(bool save) = 0;
     virtual void userClosesWorkbook(SpreadsheetApplication& application) = 0;
     virtual void userQuits(SpreadsheetApplication& application) = 0;
 };
@@ -131,6 +133,23 @@ TEST_P(SpreadsheetContract, AfterTheUserHasQuitEverythingRaises91) {
     EXPECT_EQ(raised([&] { app.quit(); }), 91);
     EXPECT_EQ(raised([&] { app.quit(); }), 0);
     EXPECT_EQ(raised([&] { app.setDefaultFilePath(rig->folder()); }), 0);
+}
+
+TEST_P(SpreadsheetContract, QuittingAsksOnlyForWorkbooksWithUnsavedChanges) {
+    for (const bool saved : {true, false}) {
+        auto quitting = rig->launch();
+        quitting->addWorkbook();
+        for (const char* name : {"beze_změn", "změněný"}) {
+            quitting->addWorkbook();
+            quitting->saveActiveWorkbookAs(
+                {file(QStringLiteral("%1%2.xls").arg(QString::fromUtf8(name)).arg(saved))});
+        }
+        quitting->setValue(QStringLiteral("B1"), QStringLiteral("c"));
+        rig->willSaveChanges(saved);
+        quitting->quit();
+        app.openWorkbook(file(QStringLiteral("změněný%1.xls").arg(saved)));
+        EXPECT_EQ(text(QStringLiteral("B1")), saved ? QStringLiteral("c") : QString());
+    }
 }
 
 TEST_P(SpreadsheetContract, TheDefaultFolderOutlivesQuitAndReachesTheNextInstance) {

@@ -98,6 +98,34 @@ TEST_F(EmbeddedApplicationTest, TheFileChoiceStartsInTheDefaultFolder) {
     EXPECT_EQ(dialogs.lastFolder, path(QStringLiteral("Dokumenty/Heligonka/Zvonika")));
 }
 
+TEST_F(EmbeddedApplicationTest, WhatCannotBeSavedOnQuittingMayBeSavedElsewhere) {
+    const QString question = QStringLiteral("Sešit „%1“ má neuložené změny. Chcete ho uložit?");
+    const QString saveAs = QStringLiteral("Uložit jako");
+    ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("pryč")));
+    app.addWorkbook();
+    app.saveActiveWorkbookAs({path(QStringLiteral("pryč/pisen.xls"))});
+    app.setValue(QStringLiteral("B1"), QStringLiteral("c"));
+    ASSERT_TRUE(QDir(path(QStringLiteral("pryč"))).removeRecursively());
+    for (const char* text : {"d", "e"}) {
+        app.addWorkbook();
+        app.setValue(QStringLiteral("B1"), QString::fromLatin1(text));
+    }
+    const QString unsaved = path(QStringLiteral("pryč/jinam.xls"));
+    dialogs.expect(jmenoTabulky, question.arg(QStringLiteral("pisen.xls")), Answer::Yes)
+        .expect(jmenoTabulky, QStringLiteral("neexistuje"))
+        .expectFile(saveAs, unsaved)
+        .expect(jmenoTabulky, QStringLiteral("neexistuje"))
+        .expectFile(saveAs, path(QStringLiteral("zachráněná")))
+        .expect(jmenoTabulky, question.arg(QStringLiteral("Sešit2")), Answer::Yes)
+        .expectFile(saveAs, {})
+        .expect(jmenoTabulky, question.arg(QStringLiteral("Sešit3")), Answer::No);
+    app.quit();
+    EXPECT_TRUE(dialogs.done());
+    EXPECT_EQ(files(), QStringList{QStringLiteral("zachráněná.xls")});
+    const auto rescued = Document::open(path(QStringLiteral("zachráněná.xls")));
+    EXPECT_EQ(cellText(rescued->value(1, {1, 2})), QStringLiteral("c"));
+}
+
 TEST_F(EmbeddedApplicationTest, TheWindowIsMadeWhenItIsFirstShownAndFollowsTheActiveWorkbook) {
     app.addWorkbook();
     app.setVisible(false);

@@ -12,6 +12,10 @@ public:
     void willChoose(const std::optional<QString>& file) override {
         world_.dialogs.expectFile(QStringLiteral("Vyberte písničku"), file);
     }
+    void willSaveChanges(bool save) override {
+        world_.dialogs.expect(jmenoTabulky, QStringLiteral("má neuložené změny. Chcete ho uložit?"),
+                              save ? Answer::Yes : Answer::No);
+    }
     void userClosesWorkbook(SpreadsheetApplication& application) override { commands(application).close(); }
     void userQuits(SpreadsheetApplication& application) override { commands(application).quit(); }
 

@@ -1,0 +1,83 @@
+#include "song/embedded/Saving.h"
+
+#include "platform/RuntimeError.h"
+#include "song/embedded/Session.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace zvonika {
+
+namespace {
+
+const QString xlsEnding = QStringLiteral(".xls");
+
+QString withEnding(const QString& name) {
+    return name.endsWith(xlsEnding, Qt::CaseInsensitive) ? name : name + xlsEnding;
+}
+
+QString suggestedName(const Session& session, const Document& document) {
+    return document.path().isEmpty() ? QDir(session.folder()).filePath(withEnding(document.name()))
+                                     : document.path();
+}
+
+} // namespace
+
+bool Saving::save(Document& document) {
+    return store(document) == Outcome::Saved;
+}
+
+bool Saving::saveAs(Document& document) {
+    return storeElsewhere(document) == Outcome::Saved;
+}
+
+Saving::Outcome Saving::store(Document& document) {
+    if (document.path().isEmpty()) return storeElsewhere(document);
+    return attempt([&] { document.save(); });
+}
+
+Saving::Outcome Saving::storeElsewhere(Document& document) {
+    const auto chosen =
+        session_.dialogs().saveFile(QStringLiteral("Uložit jako"), QStringLiteral("Excel Files,*.xls"),
+                                    suggestedName(session_, document));
+    if (!chosen || !session_.isOpen(document)) return Outcome::GivenUp;
+    return attempt([&] {
+        const QString path = withEnding(*chosen);
+        session_.refuseTwin(QFileInfo(path).fileName(), &document);
+        document.saveAs(path);
+    });
+}
+
+Saving::Outcome Saving::attempt(const std::function<void()>& store) {
+    try {
+        store();
+        return Outcome::Saved;
+    } catch (const RuntimeError& refusal) {
+        session_.dialogs().message({jmenoTabulky, refusal.cause(), Icon::Exclamation});
+        return Outcome::Refused;
+    }
+}
+
+// Boxes let other things happen, so the list is not walked while they are up.
+void Saving::offerUnsaved() {
+    std::vector<Document*> open;
+    for (const auto& document : session_.documents())
+        open.push_back(document.get());
+    for (Document* document : open) {
+        if (!session_.isOpen(*document) || !document->isModified() || !wanted(*document)) continue;
+        Outcome outcome = store(*document);
+        while (outcome == Outcome::Refused && session_.isOpen(*document))
+            outcome = storeElsewhere(*document);
+    }
+}
+
+bool Saving::wanted(Document& document) {
+    session_.activate(document);
+    const Answer answer = session_.dialogs().message(
+        {jmenoTabulky,
+         QStringLiteral("Sešit „%1“ má neuložené změny. Chcete ho uložit?").arg(document.name()),
+         Icon::Exclamation, Buttons::YesNo});
+    return answer == Answer::Yes && session_.isOpen(document);
+}
+
+} // namespace zvonika
