@@ -12,12 +12,12 @@ OkoliPisne okoliPisne(Modely& modely, Dialogs& dialogs) {
 
 Konverzace::Konverzace(Modely& modely, const Prostredi& prostredi, std::function<void()> otevriVyberStupnice)
     : modely_(modely), dialogs_(prostredi.dialogs), notyZapis(modely.zapisovaciOsnova, prostredi.dialogs),
-      prstoklad(prostredi.dialogs), zobrazeniPrstokladu(modely.pisen, modely.diskant, prostredi.dialogs),
+      prstoklad(prostredi.dialogs), zobrazeniPrstokladu(modely.diskant, prostredi.dialogs),
       uvolneni(modely.diskant, modely.basy, modely.zapisovaciOsnova, modely.zobrazovaciOsnova),
       zobrazeniHmatu(
           modely.pisen,
           {modely.diskant, modely.basy, modely.tabulkaBasu, modely.zobrazovaciOsnova, modely.panel},
-          [this](const QString& zaznam) { zobrazeniPrstokladu.zobraz(zaznam); }),
+          [this](const QString& zaznam) { zobrazeniPrstokladu.ZobrazPrstoklad(zaznam); }),
       pasPisne(modely.pisen, modely.pas),
       navigace(okoliPisne(modely, prostredi.dialogs), zobrazeniHmatu, pasPisne, modely.diskant,
                [this] { uvolneni.uvolniVse(); }),

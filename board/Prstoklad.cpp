@@ -1,7 +1,6 @@
 #include "board/Prstoklad.h"
 
 #include "board/TrebleBoard.h"
-#include "song/SongSheet.h"
 
 #include <utility>
 
@@ -13,6 +12,44 @@ namespace {
 struct NeplatnyZaznam {};
 /// The kind of an entry is neither "l" nor "s".
 struct NeznamyDruh {};
+
+struct Polozka {
+    QChar druh; ///< 'l' or 's'
+    int knoflik = 0;
+    QString prst;
+};
+
+Polozka prectiPolozku(const QString& text) {
+    const auto strednik = text.indexOf(u';');
+    if (strednik < 1) throw NeplatnyZaznam();
+    const QChar druh = text.front();
+    if (druh != u'l' && druh != u's') throw NeznamyDruh();
+
+    bool jeCislo = false;
+    const int n = text.mid(1, strednik - 1).toInt(&jeCislo);
+    if (!jeCislo || n < 1 || n > pocetKnofliku || (druh == u's' && !maPomocny(n))) throw NeplatnyZaznam();
+    return {druh, n, text.mid(strednik + 1)};
+}
+
+/// Hands over entry after entry, so that what stands before a faulty one counts.
+template <typename Co>
+void ctiPolozky(const QString& zaznam, const Co& co) {
+    for (qsizetype zacatek = 0; zacatek < zaznam.size();) {
+        const auto konec = zaznam.indexOf(u'\\', zacatek);
+        if (konec < 0) throw NeplatnyZaznam();
+        co(prectiPolozku(zaznam.mid(zacatek, konec - zacatek)));
+        zacatek = konec + 1;
+    }
+}
+
+void vyznac(TrebleBoard& diskant, const Polozka& polozka) {
+    const QString prst = polozka.prst + QStringLiteral("\r\n");
+    const int n = polozka.knoflik;
+    if (polozka.druh == u'l')
+        diskant.nastavPopis(n, prst + diskant.popis(n));
+    else
+        diskant.nastavPopisPomocneho(n, prst + diskant.popisPomocneho(n));
+}
 
 } // namespace
 
@@ -28,27 +65,9 @@ void Prstoklad::pridej(QChar druh, int n) {
     prstoklad_ += druh + QString::number(n) + u';' + prst + u'\\';
 }
 
-void ZobrazeniPrstokladu::ZobrazPrstoklad() {
-    QString zaznam;
+void ZobrazeniPrstokladu::ZobrazPrstoklad(const QString& zaznam) {
     try {
-        auto& excel = pisen_.excel();
-        excel.activateWindow(pisen_.aktualniPisen);
-        zaznam = cellText(excel.value(QStringLiteral("V%1").arg(excel.activeRow())));
-    } catch (const AutomationError&) {
-        ohlasNeplatnyZaznam();
-        return;
-    }
-    zobraz(zaznam);
-}
-
-void ZobrazeniPrstokladu::zobraz(const QString& zaznam) {
-    try {
-        for (qsizetype zacatek = 0; zacatek < zaznam.size();) {
-            const auto konec = zaznam.indexOf(u'\\', zacatek);
-            if (konec < 0) throw NeplatnyZaznam();
-            vyznacPolozku(zaznam.mid(zacatek, konec - zacatek));
-            zacatek = konec + 1;
-        }
+        ctiPolozky(zaznam, [this](const Polozka& polozka) { vyznac(diskant_, polozka); });
     } catch (const NeznamyDruh&) {
         dialogs_.message({QStringLiteral("Chyba !"),
                           QStringLiteral("Neočekávaná hodnota ve značení prstokladu."), Icon::Critical});
@@ -57,21 +76,15 @@ void ZobrazeniPrstokladu::zobraz(const QString& zaznam) {
     }
 }
 
-void ZobrazeniPrstokladu::vyznacPolozku(const QString& polozka) {
-    const auto strednik = polozka.indexOf(u';');
-    if (strednik < 1) throw NeplatnyZaznam();
-    const QChar druh = polozka.front();
-    if (druh != u'l' && druh != u's') throw NeznamyDruh();
-
-    bool jeCislo = false;
-    const int n = polozka.mid(1, strednik - 1).toInt(&jeCislo);
-    if (!jeCislo || n < 1 || n > pocetKnofliku || (druh == u's' && !maPomocny(n))) throw NeplatnyZaznam();
-
-    const QString prst = polozka.mid(strednik + 1) + QStringLiteral("\r\n");
-    if (druh == u'l')
-        diskant_.nastavPopis(n, prst + diskant_.popis(n));
-    else
-        diskant_.nastavPopisPomocneho(n, prst + diskant_.popisPomocneho(n));
+bool ZobrazeniPrstokladu::jePlatny(const QString& zaznam) {
+    try {
+        ctiPolozky(zaznam, [](const Polozka&) {});
+        return true;
+    } catch (const NeznamyDruh&) {
+        return false;
+    } catch (const NeplatnyZaznam&) {
+        return false;
+    }
 }
 
 void ZobrazeniPrstokladu::ohlasNeplatnyZaznam() {

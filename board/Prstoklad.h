@@ -6,7 +6,6 @@
 
 namespace zvonika {
 
-struct Pisen;
 class TrebleBoard;
 
 /// Fingering marks collected for the grip being recorded: entries "l12;1\" (main button 12, thumb) and
@@ -32,20 +31,17 @@ private:
 /// Shows the fingering of a stored grip on the buttons.
 class ZobrazeniPrstokladu {
 public:
-    ZobrazeniPrstokladu(const Pisen& pisen, TrebleBoard& diskant, Dialogs& dialogs)
-        : pisen_(pisen), diskant_(diskant), dialogs_(dialogs) {}
+    ZobrazeniPrstokladu(TrebleBoard& diskant, Dialogs& dialogs) : diskant_(diskant), dialogs_(dialogs) {}
 
-    /// Reads column V of the current row and stacks its fingers on the captions of the buttons. Every
-    /// failure, also of the spreadsheet application, is reported to the user here.
-    void ZobrazPrstoklad();
-    /// The same for entries that have been read already.
-    void zobraz(const QString& zaznam);
+    /// Stacks the fingers of a record, the text of column V, on the captions of the buttons. A record that
+    /// cannot be read to its end is reported to the user here; what was read before stays shown.
+    void ZobrazPrstoklad(const QString& zaznam);
+    /// True when `ZobrazPrstoklad` would have nothing to report.
+    static bool jePlatny(const QString& zaznam);
 
 private:
-    void vyznacPolozku(const QString& polozka);
     void ohlasNeplatnyZaznam();
 
-    const Pisen& pisen_;
     TrebleBoard& diskant_;
     Dialogs& dialogs_;
 };

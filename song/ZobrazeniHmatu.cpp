@@ -2,11 +2,10 @@
 
 #include "board/BassBoard.h"
 #include "board/BassTable.h"
+#include "board/Prstoklad.h"
 #include "board/TrebleBoard.h"
 #include "song/ZobrazovaciOsnova.h"
 #include "theory/Tonavox12.h"
-
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <utility>
@@ -27,20 +26,6 @@ bool zHmatu(Stav stav) {
 template <typename Stav>
 Stav stavPodleZnacky(bool oznacen) {
     return oznacen ? Stav::Cerveny : Stav::Volny;
-}
-
-/// True when every entry names a button that exists.
-bool platnyPrstoklad(const QString& zaznam) {
-    static const QRegularExpression tvar(QStringLiteral(R"(^(?:[ls][0-9]{1,2};[^\\]*\\)*$)"));
-    static const QRegularExpression polozka(QStringLiteral(R"(([ls])([0-9]{1,2});[^\\]*\\)"));
-    if (!tvar.match(zaznam).hasMatch()) return false;
-    for (auto nalez = polozka.globalMatch(zaznam); nalez.hasNext();) {
-        const auto jedna = nalez.next();
-        const int knoflik = jedna.captured(2).toInt();
-        if (knoflik < 1 || knoflik > pocetKnofliku) return false;
-        if (jedna.captured(1) == u's' && !maPomocny(knoflik)) return false;
-    }
-    return true;
 }
 
 CisloTonu cisloTonu(const QString& nazev) {
@@ -79,7 +64,7 @@ SmerMechu ZobrazeniHmatu::ZobrazHmatPotichu() {
     const SmerMechu smer = smerMechu(okoli.hmat().smer);
     if (smer != SmerMechu::Neuveden) zobrazenTlak_ = smer == SmerMechu::Tlak;
     ukazHmat(okoli);
-    if (platnyPrstoklad(okoli.hmat().prstoklad))
+    if (ZobrazeniPrstokladu::jePlatny(okoli.hmat().prstoklad))
         ukazPrstoklad_(okoli.hmat().prstoklad);
     else
         plochy_.panel.upozorneni += QStringLiteral(" Prstoklad ve sloupci V není platný.");
