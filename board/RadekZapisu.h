@@ -13,8 +13,6 @@ public:
     /// The row of the active cell of the song's window, which is brought to the front; column B is selected.
     explicit RadekZapisu(const Pisen& pisen);
 
-    int radek() const { return radek_; }
-
     void zapisTony(const QStringList& tony);  ///< B..H, at most 7; what is left over, and I, becomes empty
     void prepisTony(const QStringList& tony); ///< from B on, as many cells as there are tones
     QStringList tony() const;                 ///< B..H up to the first empty cell

@@ -14,19 +14,10 @@ namespace {
 
 using Krok = KrokUvolneni;
 
-struct ProvedeniKroku {
-    Krok krok;
-    void (Uvolneni::*provedeni)();
-};
-
+/// In the order of the steps.
 constexpr std::array provedeniKroku{
-    ProvedeniKroku{Krok::Diskant, &Uvolneni::UvolniDiskant},
-    ProvedeniKroku{Krok::Klavesy, &Uvolneni::UvolniKlavesy},
-    ProvedeniKroku{Krok::Intervaly, &Uvolneni::UvolniIntervaly},
-    ProvedeniKroku{Krok::Basy, &Uvolneni::UvolniBasy},
-    ProvedeniKroku{Krok::Noty, &Uvolneni::UvolniNoty},
-    ProvedeniKroku{Krok::Pultony, &Uvolneni::UvolniPultony},
-    ProvedeniKroku{Krok::Odrazky, &Uvolneni::UvolniOdrazky},
+    &Uvolneni::UvolniDiskant, &Uvolneni::UvolniKlavesy, &Uvolneni::UvolniIntervaly, &Uvolneni::UvolniBasy,
+    &Uvolneni::UvolniNoty,    &Uvolneni::UvolniPultony, &Uvolneni::UvolniOdrazky,
 };
 
 void zbavHnede(TrebleBoard& diskant, int n) {
@@ -67,7 +58,7 @@ bool Uvolneni::proved(const QString& prikaz) {
     });
     if (nalezeny == prikazy.end()) return false;
     for (const Krok krok : nalezeny->kroky)
-        (this->*provedeniKroku.at(static_cast<std::size_t>(krok) - 1).provedeni)();
+        (this->*provedeniKroku.at(static_cast<std::size_t>(krok) - 1))();
     return true;
 }
 

@@ -1,5 +1,7 @@
 #include "song/SongSheet.h"
 
+#include "song/Address.h"
+
 #include <algorithm>
 
 namespace zvonika {
@@ -44,21 +46,13 @@ bool Pisen::AktivujPisen() const {
     }
 }
 
-Grip SongSheet::grip(int radek) const {
-    return gripy(radek, 1).constFirst();
-}
-
 QVector<Grip> SongSheet::gripy(int prvni, int pocet) const {
     QVector<Grip> gripy(pocet);
-    const int posledni = std::min(prvni + pocet - 1, posledniRadekListu);
+    const int posledni = std::min(prvni + pocet - 1, lastRow);
     if (posledni < prvni) return gripy;
     const CellBlock blok = pisen_.excel().readBlock(QStringLiteral("A%1:W%2").arg(prvni).arg(posledni));
     std::transform(blok.cbegin(), blok.cend(), gripy.begin(), gripZBunek);
     return gripy;
-}
-
-QString SongSheet::slabika(int radek) const {
-    return cellText(pisen_.excel().value(QStringLiteral("A%1").arg(radek)));
 }
 
 int SongSheet::aktualniRadek() const {

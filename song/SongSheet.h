@@ -21,10 +21,8 @@ struct Pisen {
     bool otevrena() const { return !aktualniPisen.isEmpty(); }
 };
 
-constexpr int prvniSloupecTonu = 2; ///< B
 constexpr int maxTonu = 7;
 constexpr int maxBasu = 7;
-constexpr int posledniRadekListu = 65536;
 
 /// The song's rows in their fixed layout, read and written through the application's active sheet.
 /// Rows count from 1. Every call may throw AutomationError.
@@ -32,11 +30,9 @@ class SongSheet {
 public:
     explicit SongSheet(const Pisen& pisen) : pisen_(pisen) {}
 
-    Grip grip(int radek) const;
     /// `pocet` consecutive rows from `prvni` in one call to the application; rows beyond the edge of the
     /// sheet are empty grips.
     QVector<Grip> gripy(int prvni, int pocet) const;
-    QString slabika(int radek) const;
 
     int aktualniRadek() const;
     /// Selects column B of the active cell's row.
