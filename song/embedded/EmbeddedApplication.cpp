@@ -87,6 +87,7 @@ void EmbeddedApplication::setVisible(bool visible) {
 }
 
 void EmbeddedApplication::quit() {
+    const Session::ProgramCall call(session_);
     Saving(session_).offerUnsaved();
     const Session::State before = session_.state();
     session_.end(Session::State::Ended);
@@ -105,6 +106,7 @@ void EmbeddedApplication::showToUser() {
 
 void EmbeddedApplication::addWorkbook() {
     requireRunning();
+    const Session::ProgramCall call(session_);
     session_.add(std::make_unique<Document>(session_.nextName()));
 }
 
@@ -118,6 +120,7 @@ QString EmbeddedApplication::nativeFile(const QString& fullName) const {
 
 void EmbeddedApplication::openWorkbook(const QString& fullName) {
     requireRunning();
+    const Session::ProgramCall call(session_);
     const QString path = nativeFile(fullName);
     session_.refuseTwin(QFileInfo(path).fileName());
     session_.add(Document::open(path));
@@ -136,6 +139,7 @@ QString EmbeddedApplication::saveName(const QString& filename) const {
 
 void EmbeddedApplication::saveActiveWorkbookAs(const SaveAsArguments& arguments) {
     document();
+    const Session::ProgramCall call(session_);
     refuseOtherForms(arguments);
     saveUnder(saveName(arguments.filename));
 }
@@ -157,6 +161,7 @@ bool EmbeddedApplication::mayReplace(const QString& name) {
 }
 
 void EmbeddedApplication::saveActiveWorkbook() {
+    const Session::ProgramCall call(session_);
     Document& saved = document();
     if (saved.path().isEmpty())
         saveUnder(saveName(saved.name()));
@@ -165,6 +170,7 @@ void EmbeddedApplication::saveActiveWorkbook() {
 }
 
 void EmbeddedApplication::closeActiveWorkbook() {
+    const Session::ProgramCall call(session_);
     session_.remove(document());
 }
 
@@ -179,6 +185,8 @@ void EmbeddedApplication::activateWindow(const QString& name) {
     if (!found)
         throw AutomationError(error::subscriptOutOfRange,
                               QStringLiteral("Sešit „%1“ není otevřen.").arg(name));
+    if (found == session_.active()) return;
+    const Session::ProgramCall call(session_);
     session_.activate(*found);
 }
 

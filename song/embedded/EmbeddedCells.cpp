@@ -47,14 +47,15 @@ void EmbeddedApplication::selectSheet(int index) {
     if (index < 1 || index > active.sheetCount())
         throw AutomationError(error::subscriptOutOfRange,
                               QStringLiteral("List číslo %1 v sešitu není.").arg(index));
+    if (index == active.activeSheet()) return;
+    const Session::ProgramCall call(session_);
     active.activateSheet(index);
 }
 
 void EmbeddedApplication::selectSheet(const QString& name) {
     Document& active = document();
     for (int sheet = 1; sheet <= active.sheetCount(); ++sheet)
-        if (active.sheetName(sheet).compare(name, Qt::CaseInsensitive) == 0)
-            return active.activateSheet(sheet);
+        if (active.sheetName(sheet).compare(name, Qt::CaseInsensitive) == 0) return selectSheet(sheet);
     throw AutomationError(error::subscriptOutOfRange, QStringLiteral("List „%1“ v sešitu není.").arg(name));
 }
 
@@ -62,7 +63,7 @@ void EmbeddedApplication::selectNextSheet() {
     Document& active = document();
     if (active.activeSheet() == active.sheetCount())
         throw AutomationError(error::objectNotSet, QStringLiteral("Za posledním listem už žádný není."));
-    active.activateSheet(active.activeSheet() + 1);
+    selectSheet(active.activeSheet() + 1);
 }
 
 void EmbeddedApplication::selectRange(const QString& address) {

@@ -1,8 +1,10 @@
 #include "song/embedded/Session.h"
 
 #include "platform/RuntimeError.h"
+#include "song/SpreadsheetApplication.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace zvonika {
 
@@ -61,6 +63,32 @@ void Session::end(State state) {
         view_->setVisible(false);
     }
     documents_.clear();
+}
+
+// The listener may do anything, so each call asks for it anew.
+void Session::report(bool edited, bool moved) {
+    owesEdited_ |= edited;
+    owesMoved_ |= moved;
+    if (programCalls_ > 0) return;
+    if (std::exchange(owesEdited_, false) && listener_) listener_->cellsEdited();
+    if (std::exchange(owesMoved_, false) && listener_) listener_->cursorMoved();
+}
+
+// By the event loop and not here, where the program is still in its own step. A box may run that loop within
+// another call of the program; then the end of that call comes here again.
+void Session::tellOwed() {
+    if (!owesEdited_ && !owesMoved_) return;
+    QMetaObject::invokeMethod(
+        &later_, [this] { report(false, false); }, Qt::QueuedConnection);
+}
+
+Session::ProgramCall::ProgramCall(Session& session) : session_(session) {
+    ++session_.programCalls_;
+    if (session_.view_ && session_.programCalls_ == 1) session_.view_->commitPending();
+}
+
+Session::ProgramCall::~ProgramCall() {
+    if (--session_.programCalls_ == 0) session_.tellOwed();
 }
 
 void Session::setView(std::unique_ptr<SheetView> view) {

@@ -55,14 +55,33 @@ public:
 
     // --- others ---
     Dialogs& dialogs() const { return dialogs_; }
-    SpreadsheetListener* listener() const { return listener_; }
     void setListener(SpreadsheetListener* listener) { listener_ = listener; }
+    /// Tells the listener what the user has done: at once, or after the program's call if one is under way.
+    void report(bool edited, bool moved);
+
+    /// A call of the program that leaves what is shown, or reads all of it: begins by taking what the user is
+    /// just typing. The listener hears of that when the call is over.
+    class ProgramCall {
+    public:
+        explicit ProgramCall(Session& session);
+        ~ProgramCall();
+        ProgramCall(const ProgramCall&) = delete;
+        ProgramCall& operator=(const ProgramCall&) = delete;
+
+    private:
+        Session& session_;
+    };
 
 private:
     void showActive();
+    void tellOwed();
 
     Dialogs& dialogs_;
     SpreadsheetListener* listener_ = nullptr;
+    int programCalls_ = 0;
+    bool owesEdited_ = false; ///< the listener is still to be told
+    bool owesMoved_ = false;
+    QObject later_; ///< with it goes what is still to be told
     std::vector<std::unique_ptr<Document>> documents_;
     Document* active_ = nullptr;
     State state_ = State::Running;

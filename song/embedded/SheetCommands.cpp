@@ -1,7 +1,6 @@
 #include "song/embedded/SheetCommands.h"
 
 #include "platform/RuntimeError.h"
-#include "song/SpreadsheetApplication.h"
 #include "song/embedded/CellEntry.h"
 #include "song/embedded/Session.h"
 #include "song/embedded/TabSeparatedText.h"
@@ -73,7 +72,7 @@ bool SheetCommands::attempt(Action action) {
     } catch (const RuntimeError& refusal) {
         session_.dialogs().message({jmenoTabulky, refusal.cause(), Icon::Exclamation});
     }
-    report(before, edited);
+    session_.report(edited, !(place() == before));
     return edited;
 }
 
@@ -81,13 +80,6 @@ SheetCommands::Place SheetCommands::place() const {
     const Document* document = session_.active();
     if (!document) return {};
     return {document, document->activeSheet(), document->selection().active};
-}
-
-/// The listener may do anything, so each call asks for it anew.
-void SheetCommands::report(const Place& before, bool edited) {
-    const bool moved = !(place() == before);
-    if (edited && session_.listener()) session_.listener()->cellsEdited();
-    if (moved && session_.listener()) session_.listener()->cursorMoved();
 }
 
 void SheetCommands::showDocument(const QString& name) {

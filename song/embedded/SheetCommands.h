@@ -66,7 +66,6 @@ private:
     template <typename Action>
     bool attempt(Action action);
     Place place() const;
-    void report(const Place& before, bool edited);
     bool mayClose(Document& document);
 
     Session& session_;

@@ -17,7 +17,10 @@ public:
     virtual void setVisible(bool visible) = 0;
     /// To the front, with the keyboard.
     virtual void raise() = 0;
-    /// The document to show from now on, nullptr for none. The one shown before may be gone after the return.
+    /// Hands what is being typed, in a cell or above the cells, to the document shown, as if by Enter.
+    virtual void commitPending() = 0;
+    /// Shows this document from now on, nullptr for none; what is being typed is dropped. The
+    /// one shown before may be gone after the return.
     virtual void setDocument(Document* document) = 0;
 };
 

@@ -37,6 +37,16 @@ void EditLine::showCell(CellPosition cell, const QString& contents) {
     contents_->setModified(false);
 }
 
+void EditLine::commitPending() {
+    if (contents_->isModified()) commit();
+}
+
+void EditLine::clear() {
+    shown_.clear();
+    takeBack();
+    address_->clear();
+}
+
 bool EditLine::eventFilter(QObject* watched, QEvent* event) {
     if (watched == contents_ && event->type() == QEvent::KeyPress &&
         static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
@@ -45,7 +55,7 @@ bool EditLine::eventFilter(QObject* watched, QEvent* event) {
         return true;
     }
     // What was typed belongs to the cell also when the user goes on with the mouse.
-    if (watched == contents_ && event->type() == QEvent::FocusOut && contents_->isModified()) commit();
+    if (watched == contents_ && event->type() == QEvent::FocusOut) commitPending();
     return QWidget::eventFilter(watched, event);
 }
 

@@ -18,6 +18,10 @@ public:
 
     /// Shows a cell, unless the user is just typing into another one.
     void showCell(CellPosition cell, const QString& contents);
+    /// Commits what was typed and not yet committed.
+    void commitPending();
+    /// Drops what was typed and shows nothing.
+    void clear();
 
 Q_SIGNALS:
     void committed(zvonika::CellPosition cell, const QString& contents);

@@ -76,6 +76,7 @@ QAction* SheetMenu::add(QMenu* menu, const QString& name, const QString& text,
     QAction* entry = menu->addAction(text);
     entry->setObjectName(name);
     entry->setShortcuts(keys);
+    connect(entry, &QAction::triggered, this, &SheetMenu::aboutToAct);
     connect(entry, &QAction::triggered, this, std::move(action));
     needDocument_.push_back(entry);
     return entry;
@@ -105,6 +106,7 @@ void SheetMenu::showWorkbooks() {
         QAction* entry = workbooks_->addAction(QString(name).replace(QLatin1Char('&'), QStringLiteral("&&")));
         entry->setCheckable(true);
         entry->setChecked(document_ && document_->name() == name);
+        connect(entry, &QAction::triggered, this, &SheetMenu::aboutToAct);
         connect(entry, &QAction::triggered, this, [this, name] { commands_.showDocument(name); });
     }
     workbooks_->menuAction()->setVisible(names.size() > 1);

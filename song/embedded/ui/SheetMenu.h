@@ -20,6 +20,9 @@ public:
 
     void setDocument(Document* document);
 
+Q_SIGNALS:
+    void aboutToAct(); ///< before every command
+
 private:
     void fillFile(QMenu* menu);
     void fillEdit(QMenu* menu);

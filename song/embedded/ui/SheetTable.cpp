@@ -61,6 +61,19 @@ void SheetTable::follow(const Selection& selection) {
         show(selection);
 }
 
+void SheetTable::commitPending() {
+    QWidget* editor = state() == EditingState ? indexWidget(currentIndex()) : nullptr;
+    if (!editor) return;
+    commitData(editor);
+    closeEditor(editor, QAbstractItemDelegate::NoHint);
+}
+
+// What was to be shown after the editing belonged to another document.
+void SheetTable::reset() {
+    QTableView::reset();
+    waiting_.reset();
+}
+
 void SheetTable::show(const Selection& selection) {
     const QScopedValueRollback guard(following_, true);
     const auto* cells = static_cast<const SheetModel*>(model());

@@ -22,10 +22,13 @@ public:
     /// Shows a selection and scrolls its active cell into sight. While a cell is being edited this waits for
     /// the end of the editing.
     void follow(const Selection& selection);
+    /// Ends the editing of a cell, keeping what was typed; the active cell stays.
+    void commitPending();
     /// The user goes on to a cell, from outside of the table.
     void step(int rows, int columns);
     /// The cell with the frame; with several cells selected it is the one in which typing starts.
     QModelIndex activeCell() const { return active_; }
+    void reset() override;
 
 Q_SIGNALS:
     void userSelected(const zvonika::Selection& selection);

@@ -16,6 +16,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QScopedValueRollback>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -106,8 +107,11 @@ void SheetWindow::wireUser() {
         table_->setFocus();
         showSelection();
     });
-    connect(footer_->tabs(), &QTabBar::currentChanged, this,
-            [this](int tab) { commands_.selectSheet(tab + 1); });
+    connect(menu_, &SheetMenu::aboutToAct, this, &SheetWindow::commitPending);
+    connect(footer_->tabs(), &QTabBar::currentChanged, this, [this](int tab) {
+        commitPending(); // still on the sheet where it was typed
+        commands_.selectSheet(tab + 1);
+    });
     footer_->tabs()->setRename([this](int tab, const QString& name) { return renameSheet(tab + 1, name); });
     connect(new QShortcut(QKeySequence(Qt::Key_F6), this), &QShortcut::activated, this,
             &SheetWindow::f6Pressed);
@@ -128,6 +132,7 @@ void SheetWindow::setDocument(Document* document) {
     if (document_) document_->disconnect(this);
     document_ = document;
     shownSheet_ = document ? document->activeSheet() : 0;
+    line_->clear();
     model_->setDocument(document);
     menu_->setDocument(document);
     widths_->setDocument(document);
@@ -138,6 +143,14 @@ void SheetWindow::setDocument(Document* document) {
     wireDocument();
     showSheets();
     showSelection();
+}
+
+// A refusal shows a box, and in the meantime the program may ask for the same.
+void SheetWindow::commitPending() {
+    if (committing_) return;
+    const QScopedValueRollback guard(committing_, true);
+    table_->commitPending();
+    line_->commitPending();
 }
 
 void SheetWindow::wireDocument() {
@@ -189,6 +202,7 @@ void SheetWindow::closeEvent(QCloseEvent* event) {
         return;
     }
     event->ignore();
+    commitPending();
     commands_.close();
 }
 

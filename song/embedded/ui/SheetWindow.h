@@ -28,6 +28,7 @@ public:
     void setVisible(bool visible) override;
     void raise() override;
     void setDocument(Document* document) override;
+    void commitPending() override;
 
 Q_SIGNALS:
     void f6Pressed(); ///< the user wants to go to the program's window
@@ -49,6 +50,7 @@ private:
     SheetCommands& commands_;
     Document* document_ = nullptr;
     int shownSheet_ = 0;
+    bool committing_ = false;
     SheetModel* model_;
     SheetTable* table_;
     SheetMenu* menu_;

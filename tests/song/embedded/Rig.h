@@ -40,6 +40,7 @@ struct ViewLog {
     int raised = 0;
     Document* document = nullptr;
     SheetCommands* commands = nullptr;
+    std::function<void()> typing; ///< what the user has typed and not committed
 };
 
 class RecordingView : public SheetView {
@@ -47,6 +48,9 @@ public:
     explicit RecordingView(ViewLog& log) : log_(log) {}
     void setVisible(bool visible) override { log_.visible = visible; }
     void raise() override { ++log_.raised; }
+    void commitPending() override {
+        if (log_.typing) std::exchange(log_.typing, nullptr)();
+    }
     void setDocument(Document* document) override { log_.document = document; }
 
 private:

@@ -55,6 +55,30 @@ TEST_F(SheetCommandsTest, TheProgramHearsOfCursorAndCells) {
     EXPECT_EQ(listener.take(), QString());
 }
 
+TEST_F(SheetCommandsTest, TheProgramsCallTakesTheTypingAndReportsItWhenItIsOver) {
+    const auto isTyping = [&](const char* text) {
+        view.typing = [this, text] { user.type({1, 1}, QString::fromLatin1(text)); };
+    };
+    isTyping("Koc");
+    saveAs(QStringLiteral("pisen.xls"));
+    EXPECT_EQ(cellText(app.value(QStringLiteral("A1"))), QStringLiteral("Koc"));
+    EXPECT_FALSE(app.session().active()->isModified()) << "it is in the file";
+    EXPECT_EQ(listener.take(), QString());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(listener.take(), QStringLiteral("b"));
+    isTyping("ka");
+    app.addWorkbook();
+    EXPECT_EQ(cellText(app.value(QStringLiteral("A1"))), QString()) << "it belongs to the other workbook";
+    app.activateWindow(QStringLiteral("pisen.xls"));
+    EXPECT_EQ(cellText(app.value(QStringLiteral("A1"))), QStringLiteral("ka"));
+    isTyping("le");
+    dialogs.expect(jmenoTabulky, QStringLiteral("pisen.xls"), Answer::Yes);
+    app.quit();
+    QCoreApplication::processEvents();
+    const auto opened = Document::open(path(QStringLiteral("pisen.xls")));
+    EXPECT_EQ(cellText(opened->value(1, {1, 1})), QStringLiteral("le"));
+}
+
 TEST_F(SheetCommandsTest, TypingMeansNumbersAndTexts) {
     for (const char* typed : {"3,5", "15", "'15", "=A1"})
         user.type({1, app.session().active()->usedColumns(1) + 1}, QString::fromLatin1(typed));

@@ -1,5 +1,9 @@
 #include "tests/song/embedded/ui/SheetWindowFixture.h"
 
+#include <QFile>
+
+#include <functional>
+
 namespace zvonika::testing {
 namespace {
 
@@ -53,6 +57,88 @@ TEST_F(SheetEditing, EnterAndTabMoveWithoutEditing) {
         press(key, modifiers);
         EXPECT_EQ(cursor(), expected);
     }
+}
+
+TEST_F(SheetEditing, EveryCommandFirstTakesWhatIsBeingTyped) {
+    const QString file = folder.filePath(QStringLiteral("pisen.xls"));
+    const std::pair<const char*, std::function<void()>> commands[] = {
+        {"save by key", [&] { press(Qt::Key_S, Qt::ControlModifier); }},
+        {"save as",
+         [&] {
+             dialogs.expectFile(QStringLiteral("Uložit jako"), file);
+             action("akceUlozitJako").trigger();
+         }},
+        {"close",
+         [&] {
+             dialogs.expect(jmenoTabulky, QStringLiteral("Chcete uložit změny"), Answer::Yes);
+             action("akceZavrit").trigger();
+         }},
+        {"close the window",
+         [&] {
+             dialogs.expect(jmenoTabulky, QStringLiteral("Chcete uložit změny"), Answer::Yes);
+             window->close();
+         }},
+        {"saved by the program", [&] { application.saveActiveWorkbook(); }},
+    };
+    application.saveActiveWorkbookAs({file});
+    for (const auto& [name, command] : commands) {
+        for (const bool inLine : {false, true}) {
+            SCOPED_TRACE(name);
+            application.clearContents(QStringLiteral("A1"));
+            application.saveActiveWorkbook();
+            click("A1");
+            if (inLine) line().setFocus();
+            type("Koc");
+            command();
+            if (application.activeWorkbookName().isEmpty()) application.openWorkbook(file);
+            EXPECT_FALSE(window->isWindowModified());
+            EXPECT_EQ(text("A1"), QStringLiteral("Koc"));
+        }
+    }
+}
+
+TEST_F(SheetEditing, UndoTakesBackWhatIsBeingTyped) {
+    click("A1");
+    type("a");
+    press(Qt::Key_Return);
+    type("b");
+    action("akceZpet").trigger();
+    EXPECT_EQ(text("A1"), QStringLiteral("a"));
+    EXPECT_EQ(text("A2"), QString());
+    EXPECT_EQ(editor() && editor()->isVisible(), false);
+}
+
+TEST_F(SheetEditing, TypingStaysInItsWorkbookAndOnItsSheet) {
+    const QString first = application.activeWorkbookName();
+    const QString copy = folder.filePath(QStringLiteral("listy.xls"));
+    ASSERT_TRUE(QFile::copy(QStringLiteral(XLS_DATA "/libreoffice.xls"), copy));
+    for (const bool inLine : {false, true}) {
+        application.activateWindow(first);
+        click("K2");
+        if (inLine) line().setFocus();
+        type("ne");
+        inLine ? application.activateWindow(QStringLiteral("listy.xls")) : application.openWorkbook(copy);
+        application.selectSheet(1);
+        application.selectRange(QStringLiteral("K2"));
+        EXPECT_EQ(text("K2"), QString());
+        EXPECT_EQ(line().text(), QString());
+        application.activateWindow(first);
+        EXPECT_EQ(text("K2"), QStringLiteral("ne"));
+        application.clearContents(QStringLiteral("K2"));
+        application.activateWindow(QStringLiteral("listy.xls"));
+
+        click("K3");
+        if (inLine) line().setFocus();
+        type("ano");
+        QTest::mouseClick(&tabs(), Qt::LeftButton, {}, tabs().tabRect(1).center());
+        EXPECT_EQ(text("K3"), QString());
+        application.selectSheet(1);
+        EXPECT_EQ(text("K3"), QStringLiteral("ano"));
+        application.clearContents(QStringLiteral("K3"));
+    }
+    dialogs.expect(jmenoTabulky, QStringLiteral("má neuložené změny"), Answer::No)
+        .expect(jmenoTabulky, QStringLiteral("má neuložené změny"), Answer::No);
+    application.quit();
 }
 
 TEST_F(SheetEditing, UndoAndRedoSayWhatTheyDo) {
