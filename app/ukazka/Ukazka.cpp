@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QLineEdit>
+#include <QPointer>
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
@@ -62,18 +63,14 @@ void Ukazka::zvolToninu() {
 void Ukazka::zalozPisen() {
     sOknem([this] { klikni("cmdNovaSkladba"); },
            [this](QWidget* okno) {
-               if (!okno->findChild<QLineEdit*>()) { // the folder is missing and will be created
-                   sOknem([okno] { QTest::keyClick(okno, Qt::Key_Return); },
-                          [this](QWidget* vstup) {
-                              napis(vstup->findChild<QLineEdit*>(), nazevPisne);
-                              obrazek("nazev-pisne");
-                              QTest::keyClick(vstup->findChild<QLineEdit*>(), Qt::Key_Return);
-                          });
+               auto* vstup = okno->findChild<QLineEdit*>();
+               if (!vstup) { // first the box which says that the folder will be made
+                   QTest::keyClick(okno, Qt::Key_Return);
                    return;
                }
-               napis(okno->findChild<QLineEdit*>(), nazevPisne);
+               napis(vstup, nazevPisne);
                obrazek("nazev-pisne");
-               QTest::keyClick(okno->findChild<QLineEdit*>(), Qt::Key_Return);
+               QTest::keyClick(vstup, Qt::Key_Return);
            });
     cekej([this] { return program_.okno().windowTitle() == nazevPisne + ".xls"; }, "založená píseň");
     soubor_ = program_.pracovniSlozka() + QDir::separator() + nazevPisne + ".xls";
@@ -88,6 +85,7 @@ void Ukazka::zapisHmat(const HmatUkazky& hmat) {
                QTest::keyClick(vstup->findChild<QLineEdit*>(), Qt::Key_Return);
            });
     klikni(QStringLiteral("ImgBas(%1)").arg(hmat.bas));
+    if (radek == 3) obrazek("oznaceny-hmat");
     klikni(hmat.tlak ? "cmdTlak" : "cmdTah");
     cekej([&] { return program_.aktualniRadek() == radek + 1; },
           QStringLiteral("zapsaný hmat %1").arg(radek));
@@ -179,7 +177,7 @@ void Ukazka::dvojklikni(const QString& jmeno) {
 }
 
 void Ukazka::sOknem(const std::function<void()>& akce, const std::function<void(QWidget*)>& obsluha) {
-    const QWidget* predchozi = QApplication::activeModalWidget();
+    QPointer<QWidget> obslouzene = QApplication::activeModalWidget();
     QElapsedTimer hodiny;
     hodiny.start();
     bool obslouzeno = false;
@@ -187,12 +185,13 @@ void Ukazka::sOknem(const std::function<void()>& akce, const std::function<void(
     QTimer hlidka;
     QObject::connect(&hlidka, &QTimer::timeout, [&] {
         QWidget* okno = QApplication::activeModalWidget();
-        if (!okno || okno == predchozi) return;
+        if (!okno) return;
         if (hodiny.elapsed() > trpelivost) { // nobody closes it any more
-            chyba = std::make_exception_ptr(
-                std::runtime_error("okno zůstalo otevřené: " + okno->windowTitle().toStdString()));
+            const std::string titulek = okno->windowTitle().toStdString();
+            chyba = std::make_exception_ptr(std::runtime_error("okno zůstalo otevřené: " + titulek));
             okno->close();
-        } else if (!obslouzeno && okno->windowHandle() && okno->windowHandle()->isExposed()) {
+        } else if (okno != obslouzene && okno->windowHandle() && okno->windowHandle()->isExposed()) {
+            obslouzene = okno;
             obslouzeno = true;
             try {
                 obsluha(okno);

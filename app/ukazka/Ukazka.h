@@ -39,7 +39,7 @@ private:
     void dvojklikni(const QString& jmeno);
     QWidget* prvek(const QString& jmeno) const;
     QWidget* tabulka() const;
-    /// Runs `akce`, during which a modal window comes up; `obsluha` is what the player does with it.
+    /// Runs `akce`, during which modal windows come up; `obsluha` is what the player does with each of them.
     void sOknem(const std::function<void()>& akce, const std::function<void(QWidget*)>& obsluha);
     void cekej(const std::function<bool()>& podminka, const QString& nac);
     void obrazek(const QString& nazev);
