@@ -66,7 +66,7 @@ bool Document::isConverted() const {
 }
 
 void Document::save() {
-    writeCursor();
+    refusingToSave(path_, [this] { writeCursor(); });
     writeWorkbook(path_, book_);
     setModified(false);
 }
@@ -74,8 +74,8 @@ void Document::save() {
 void Document::saveAs(const QString& nativePath) {
     const bool sameFile = !path_.isEmpty() && FileLock::lockName(nativePath) == FileLock::lockName(path_);
     FileLock lock = sameFile ? std::move(lock_) : FileLock::acquire(nativePath);
-    writeCursor();
     try {
+        refusingToSave(nativePath, [this] { writeCursor(); });
         writeWorkbook(nativePath, book_);
     } catch (...) {
         if (sameFile) lock_ = std::move(lock);

@@ -3,6 +3,7 @@
 #include "song/embedded/XlsValue.h"
 
 #include <algorithm>
+#include <new>
 #include <stdexcept>
 
 namespace zvonika {
@@ -79,6 +80,8 @@ void Document::put(int sheet, CellPosition cell, const CellValue& value) {
     } catch (const std::invalid_argument&) {
         refuse(
             QStringLiteral("Buňku %1 nelze změnit: patří k maticovému vzorci.").arg(absoluteAddress(cell)));
+    } catch (const std::bad_alloc&) {
+        refuse(QStringLiteral("Buňku %1 nelze změnit: nestačí paměť počítače.").arg(absoluteAddress(cell)));
     }
 }
 

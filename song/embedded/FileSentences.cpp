@@ -66,6 +66,7 @@ constexpr SaveReason saveReasons[] = {
     {std::errc::read_only_file_system, u"disk je jen pro čtení"},
     {std::errc::no_space_on_device, u"na disku není dost místa"},
     {std::errc::file_too_large, u"na disku není dost místa"},
+    {std::errc::not_enough_memory, u"nestačí paměť počítače"},
     {std::errc::is_a_directory, u"pod tímto jménem je na disku složka"},
     {std::errc::no_such_device, u"pod tímto jménem není obyčejný soubor"},
     {std::errc::too_many_symbolic_link_levels, u"odkaz, který na něj vede, nikam nevede"},
@@ -98,6 +99,11 @@ QString openRefused(const QString& nativePath, std::errc error) {
 QString saveRefused(const QString& nativePath, const std::error_code& error) {
     return QStringLiteral("Soubor „%1“ nelze uložit: %2.")
         .arg(fileName(nativePath), saveReason(nativePath, error));
+}
+
+QString saveRefused(const QString& nativePath) {
+    return QStringLiteral("Soubor „%1“ nelze uložit: obsah sešitu se nepodařilo sestavit.")
+        .arg(fileName(nativePath));
 }
 
 QString driveMissing(const QString& path) {

@@ -1,6 +1,6 @@
 #include "song/embedded/Saving.h"
 
-#include "platform/RuntimeError.h"
+#include "song/embedded/Failures.h"
 #include "song/embedded/Session.h"
 
 #include <QDir>
@@ -49,13 +49,7 @@ Saving::Outcome Saving::storeElsewhere(Document& document) {
 }
 
 Saving::Outcome Saving::attempt(const std::function<void()>& store) {
-    try {
-        store();
-        return Outcome::Saved;
-    } catch (const RuntimeError& refusal) {
-        session_.dialogs().message({jmenoTabulky, refusal.cause(), Icon::Exclamation});
-        return Outcome::Refused;
-    }
+    return runForUser(session_.dialogs(), store) ? Outcome::Saved : Outcome::Refused;
 }
 
 // Boxes let other things happen, so the list is not walked while they are up.

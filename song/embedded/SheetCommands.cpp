@@ -1,11 +1,12 @@
 #include "song/embedded/SheetCommands.h"
 
-#include "platform/RuntimeError.h"
 #include "song/embedded/CellEntry.h"
+#include "song/embedded/Failures.h"
 #include "song/embedded/Session.h"
 #include "song/embedded/TabSeparatedText.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace zvonika {
 
@@ -67,11 +68,7 @@ bool SheetCommands::attempt(Action action) {
     if (!document) return false;
     const Place before = place();
     bool edited = false;
-    try {
-        edited = action(*document);
-    } catch (const RuntimeError& refusal) {
-        session_.dialogs().message({jmenoTabulky, refusal.cause(), Icon::Exclamation});
-    }
+    runForUser(session_.dialogs(), [&] { edited = action(*document); });
     session_.report(edited, !(place() == before));
     return edited;
 }
@@ -121,13 +118,19 @@ void SheetCommands::clear() {
 QString SheetCommands::copy() {
     const Document* document = session_.active();
     if (!document) return {};
-    copied_ = document->block(document->activeSheet(), copiedPart(*document));
-    copiedText_ = tabbed(copied_);
-    return copiedText_;
+    QString text;
+    runForUser(session_.dialogs(), [&] {
+        CellBlock block = document->block(document->activeSheet(), copiedPart(*document));
+        text = tabbed(block);
+        copied_ = std::move(block);
+        copiedText_ = text;
+    });
+    return text;
 }
 
 QString SheetCommands::cut() {
     const QString text = copy();
+    if (text.isEmpty()) return text; // nothing is taken out that was not copied
     attempt([](Document& document) {
         return document.editFill(document.activeSheet(), document.selection().range, {},
                                  QStringLiteral("Vyjmutí"));
@@ -136,9 +139,9 @@ QString SheetCommands::cut() {
 }
 
 void SheetCommands::paste(const QString& tabbedText) {
-    const CellBlock block = tabbedText == copiedText_ ? copied_ : typedBlock(tabbedText);
-    if (block.isEmpty()) return;
     attempt([&](Document& document) {
+        const CellBlock block = tabbedText == copiedText_ ? copied_ : typedBlock(tabbedText);
+        if (block.isEmpty()) return false;
         const int sheet = document.activeSheet();
         const CellRange range = document.selection().range;
         const QString label = QStringLiteral("Vložení");
@@ -179,8 +182,10 @@ void SheetCommands::renameSheet(int sheet, const QString& name) {
 }
 
 void SheetCommands::setColumnWidth(int column, double characters) {
-    if (Document* document = session_.active())
-        document->setColumnWidth(document->activeSheet(), column, characters);
+    attempt([&](Document& document) {
+        document.setColumnWidth(document.activeSheet(), column, characters);
+        return false;
+    });
 }
 
 } // namespace zvonika

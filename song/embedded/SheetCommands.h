@@ -11,8 +11,9 @@ namespace zvonika {
 class Session;
 
 /// What the user does in the sheet window, each method one action on the active document (without one,
-/// nothing happens). Tells the program's listener; refusals are shown in a box, nothing is thrown. The window
-/// calls these only for the user's own actions, never while it follows a signal of the document.
+/// nothing happens). Tells the program's listener; refusals and failures of every kind are shown in a box,
+/// nothing is thrown. The window calls these only for the user's own actions, never while it follows a signal
+/// of the document.
 class SheetCommands {
 public:
     explicit SheetCommands(Session& session) : session_(session) {}

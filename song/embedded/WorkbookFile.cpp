@@ -46,17 +46,29 @@ xls::Workbook readWorkbook(const QString& nativePath) {
         return xls::Workbook::open(readBytes(nativePath));
     } catch (const xls::FormatError& refusal) {
         refuse(openRefused(nativePath, refusal.refusal()));
-    } catch (const std::bad_alloc&) {
+    } catch (const RuntimeError&) {
+        throw;
+    } catch (const std::exception&) { // lengths that no memory holds, places that are not there
         refuse(openRefused(nativePath, xls::Refusal::Damaged));
     }
 }
 
-void writeWorkbook(const QString& nativePath, const xls::Workbook& book) {
+void refusingToSave(const QString& nativePath, const std::function<void()>& steps) {
     try {
-        writeAtomically(nativePath, book.save());
+        steps();
+    } catch (const RuntimeError&) {
+        throw;
     } catch (const std::system_error& failure) {
         refuse(saveRefused(nativePath, failure.code()));
+    } catch (const std::bad_alloc&) {
+        refuse(saveRefused(nativePath, std::make_error_code(std::errc::not_enough_memory)));
+    } catch (const std::exception&) {
+        refuse(saveRefused(nativePath));
     }
+}
+
+void writeWorkbook(const QString& nativePath, const xls::Workbook& book) {
+    refusingToSave(nativePath, [&] { writeAtomically(nativePath, book.save()); });
 }
 
 } // namespace zvonika

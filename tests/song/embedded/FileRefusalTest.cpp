@@ -1,7 +1,10 @@
 #include "song/embedded/Document.h"
 #include "song/embedded/FileSentences.h"
+#include "song/embedded/WorkbookFile.h"
 #include "tests/song/embedded/Rig.h"
 
+#include <functional>
+#include <stdexcept>
 #include <unistd.h>
 
 namespace zvonika::testing {
@@ -112,6 +115,20 @@ TEST_F(FileRefusalTest, SystemErrorsHaveTheirSentences) {
     for (const auto& [number, reason] : cases)
         EXPECT_EQ(saveRefused(good, std::error_code(number, std::generic_category())),
                   QStringLiteral("Soubor „dobrá.xls“ nelze uložit: %1.").arg(QString::fromUtf8(reason)));
+}
+
+TEST_F(FileRefusalTest, WhateverFailsInASaveIsARefusal) {
+    const std::pair<std::function<void()>, const char*> cases[] = {
+        {[] { throw std::bad_alloc(); }, "nestačí paměť počítače"},
+        {[] { throw std::length_error("x"); }, "obsah sešitu se nepodařilo sestavit"},
+        {[] { throw std::system_error(ENOSPC, std::generic_category()); }, "na disku není dost místa"},
+    };
+    for (const auto& [steps, reason] : cases)
+        EXPECT_EQ(refusalOf([&] { refusingToSave(good, steps); }),
+                  QStringLiteral("1004 Soubor „dobrá.xls“ nelze uložit: %1.").arg(QString::fromUtf8(reason)));
+    EXPECT_EQ(
+        refusalOf([&] { refusingToSave(good, [] { throw RuntimeError(9, QStringLiteral("Už víme.")); }); }),
+        QStringLiteral("9 Už víme."));
 }
 
 TEST_F(FileRefusalTest, ASaveWithoutAChangeKeepsEveryByte) {

@@ -1,4 +1,7 @@
+#include "song/embedded/Failures.h"
 #include "tests/song/embedded/Rig.h"
+
+#include <new>
 
 namespace zvonika::testing {
 
@@ -133,6 +136,19 @@ TEST_F(SheetCommandsTest, RefusalsAreShownNotThrown) {
     dialogs.expect(jmenoTabulky, QStringLiteral("Jméno listu „a/b“ nelze použít"));
     user.renameSheet(1, QStringLiteral("a/b"));
     EXPECT_EQ(listener.take(), QString());
+}
+
+TEST_F(SheetCommandsTest, NoFailureReachesTheEventLoop) {
+    const QString unexpected = QStringLiteral("V tabulce nastala neočekávaná chyba.");
+    dialogs.expect(jmenoTabulky, unexpected)
+        .expect(jmenoTabulky, unexpected)
+        .expect(jmenoTabulky, unexpected);
+    user.select(single({0, 0}), {0, 0});
+    user.selectSheet(7);
+    user.setColumnWidth(999, 10);
+    dialogs.expect(jmenoTabulky, QStringLiteral("Nestačí paměť"));
+    EXPECT_FALSE(runForUser(dialogs, [] { throw std::bad_alloc(); }));
+    EXPECT_TRUE(dialogs.done());
 }
 
 TEST_F(SheetCommandsTest, SavingAsksForANameOnce) {
