@@ -70,11 +70,6 @@ void clsNotyZapis::odeberNotu(int slot) {
     osnova_.odeberNotu(slot);
 }
 
-std::optional<int> clsNotyZapis::pridejTon(CisloTonu ton, const Key& stupnice) {
-    const auto poloha = polohaTonu(ton, stupnice);
-    return poloha ? zakresliNotu({ton, pojmenuj(ton, stupnice), *poloha}) : std::nullopt;
-}
-
 std::optional<int> clsNotyZapis::zakresliNotu(const KreslenaNota& nota) {
     if (const auto slot = osnova_.slotTonu(nota.ton)) return slot;
     const auto slot = osnova_.volnySlot();

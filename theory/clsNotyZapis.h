@@ -47,11 +47,9 @@ public:
     bool nastavZnamenko(int slot, Znamenko znamenko);
     void odeberNotu(int slot);
 
-    /// Puts a tone of the board on the staff as it is spelled in the key. The slot; nothing when all are
-    /// taken. A tone that is there already stays as it is written.
-    std::optional<int> pridejTon(CisloTonu ton, const Key& stupnice);
-    /// The same for a note that has been spelled and placed. A plain note gets a natural where the player
-    /// asked for it or where the key signature would make another tone of it.
+    /// Puts a tone of the board on the staff, spelled and placed already. The slot; nothing when all are
+    /// taken. A tone that is there already stays as it is written. A plain note gets a natural where the
+    /// player asked for it or where the key signature would make another tone of it.
     std::optional<int> zakresliNotu(const KreslenaNota& nota);
     void odeberTon(CisloTonu ton);
 

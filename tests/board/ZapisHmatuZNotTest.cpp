@@ -1,4 +1,5 @@
 #include "tests/board/ZapisovaniFixture.h"
+#include "tests/theory/KresleniTonu.h"
 
 namespace zvonika {
 namespace {
@@ -9,7 +10,7 @@ class ZapisHmatuZNotTest : public testing::Zapisovani {
 protected:
     void polozTony(const std::vector<int>& tony) {
         for (const int ton : tony)
-            ASSERT_TRUE(noty.pridejTon(CisloTonu(ton), tonina.stupnice()));
+            ASSERT_TRUE(noty.zakresliNotu(testing::kreslenaNota(ton, tonina.stupnice(), dialogs)));
     }
     void serad() {
         RadekZapisu radek(pisen);
