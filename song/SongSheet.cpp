@@ -23,10 +23,18 @@ QStringList textyDoPrvniPrazdne(const QVector<CellValue>& bunky, int prvni, int 
     return texty;
 }
 
+bool dalsiZaMezerou(const QVector<CellValue>& bunky, int prvni, int nejvys, const QStringList& precteno) {
+    return std::any_of(bunky.cbegin() + prvni + precteno.size(), bunky.cbegin() + prvni + nejvys,
+                       [](const CellValue& bunka) { return !isEmpty(bunka); });
+}
+
 Grip gripZBunek(const QVector<CellValue>& bunky) {
-    return {cellText(bunky.at(sloupecA)), textyDoPrvniPrazdne(bunky, sloupecB, maxTonu),
-            cellText(bunky.at(sloupecI)), textyDoPrvniPrazdne(bunky, sloupecM, maxBasu),
-            cellText(bunky.at(sloupecV)), cellText(bunky.at(sloupecW))};
+    Grip grip{cellText(bunky.at(sloupecA)), textyDoPrvniPrazdne(bunky, sloupecB, maxTonu),
+              cellText(bunky.at(sloupecI)), textyDoPrvniPrazdne(bunky, sloupecM, maxBasu),
+              cellText(bunky.at(sloupecV)), cellText(bunky.at(sloupecW))};
+    grip.tonyZaMezerou = dalsiZaMezerou(bunky, sloupecB, maxTonu, grip.tony);
+    grip.basyZaMezerou = dalsiZaMezerou(bunky, sloupecM, maxBasu, grip.basy);
+    return grip;
 }
 
 } // namespace

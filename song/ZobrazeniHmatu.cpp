@@ -100,7 +100,7 @@ void ZobrazeniHmatu::ukazHmat(const OkoliRadku& okoli) {
     const QStringList ciziBasy = ukazBasy(hmat.basy);
     plochy_.osnova.ukaz(hmat.tony);
     ukazTexty(okoli);
-    plochy_.panel.upozorneni = upozorneni(ciziTony, ciziBasy);
+    plochy_.panel.upozorneni = upozorneni(hmat, ciziTony, ciziBasy);
 }
 
 void ZobrazeniHmatu::ukazTexty(const OkoliRadku& okoli) {
@@ -153,7 +153,8 @@ QStringList ZobrazeniHmatu::ukazBasy(const QStringList& basy) {
     return cizi;
 }
 
-QString ZobrazeniHmatu::upozorneni(const QStringList& ciziTony, const QStringList& ciziBasy) const {
+QString ZobrazeniHmatu::upozorneni(const Grip& hmat, const QStringList& ciziTony,
+                                   const QStringList& ciziBasy) const {
     QStringList vety;
     if (!ciziTony.isEmpty())
         vety.append(QStringLiteral("Neznámý tón v tabulce: %1.").arg(ciziTony.join(u' ')));
@@ -161,6 +162,8 @@ QString ZobrazeniHmatu::upozorneni(const QStringList& ciziTony, const QStringLis
         vety.append(QStringLiteral("Neznámý bas v tabulce: %1.").arg(ciziBasy.join(u' ')));
         vety.append(plochy_.tabulkaBasu.chyba());
     }
+    if (hmat.tonyZaMezerou) vety.append(QStringLiteral("Tóny za prázdnou buňkou se nečtou."));
+    if (hmat.basyZaMezerou) vety.append(QStringLiteral("Basy za prázdnou buňkou se nečtou."));
     return vety.join(u' ').trimmed();
 }
 

@@ -36,7 +36,7 @@ public:
     bool zobrazenTlak() const { return zobrazenTlak_; }
 
     /// The grip of the current row on the side of `zobrazenTlak`. What it cannot show (foreign tones, unknown
-    /// basses) stands in `panel.upozorneni`, which it always sets.
+    /// basses, what follows an empty cell) stands in `panel.upozorneni`, which it always sets.
     void ZobrazHmat();
     void cmdReadTah();  ///< pull side, then the cursor to column B
     void cmdReadTlak(); ///< push side, then the cursor to column B
@@ -65,7 +65,7 @@ private:
     void uvolniObrazky();
     QStringList ukazTony(const QStringList& tony);
     QStringList ukazBasy(const QStringList& basy);
-    QString upozorneni(const QStringList& ciziTony, const QStringList& ciziBasy) const;
+    QString upozorneni(const Grip& hmat, const QStringList& ciziTony, const QStringList& ciziBasy) const;
 
     SongSheet list_;
     PlochyHmatu plochy_;

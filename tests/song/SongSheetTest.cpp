@@ -30,6 +30,7 @@ TEST_F(SongSheetTest, ReadsEveryColumnOfARow) {
     excel->put("I3", "Tlak");
     for (const char* bunka : {"M3", "N3", "O3", "P3", "Q3", "R3", "S3"})
         excel->put(bunka, QString("b") + bunka[0]);
+    excel->put("H4", "poslední");
     for (const char* cizi : {"J3", "K3", "L3", "T3", "U3", "X3"})
         excel->put(cizi, "cizí");
     excel->put("V3", "l12;1\\");
@@ -41,6 +42,8 @@ TEST_F(SongSheetTest, ReadsEveryColumnOfARow) {
     const auto hmaty = list.gripy(3, 2);
     EXPECT_EQ(hmaty[0], ocekavany);
     EXPECT_TRUE(hmaty[1].prazdny());
+    EXPECT_TRUE(hmaty[1].tonyZaMezerou);
+    EXPECT_FALSE(hmaty[1].basyZaMezerou);
     EXPECT_EQ(excel->journal.size(), 2) << "the workbook, and one call for all rows";
 }
 
@@ -54,7 +57,9 @@ TEST_F(SongSheetTest, TonesEndAtTheFirstEmptyCellAndForeignContentsStayText) {
     const Grip grip = list.gripy(1, 1).constFirst();
     EXPECT_EQ(grip.tony, (QStringList{"5", "#N/A", "True"})) << "F stands behind a gap";
     EXPECT_EQ(smerMechu(grip.smer), SmerMechu::Neuveden);
+    EXPECT_TRUE(grip.tonyZaMezerou);
     EXPECT_TRUE(grip.basy.isEmpty()) << "N stands behind the empty M";
+    EXPECT_TRUE(grip.basyZaMezerou);
 }
 
 TEST_F(SongSheetTest, RowsBeyondTheEdgeOfTheSheetAreEmpty) {

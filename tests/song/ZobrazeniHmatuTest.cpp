@@ -93,6 +93,25 @@ TEST_F(ZobrazeniHmatuTest, ForeignTonesAndBassesAreLeftOutAndTold) {
     EXPECT_EQ(panel.upozorneni, "");
 }
 
+TEST_F(ZobrazeniHmatuTest, WhatFollowsAGapIsTold) {
+    const QString tony = "Tóny za prázdnou buňkou se nečtou.", basy = "Basy za prázdnou buňkou se nečtou.";
+    for (const auto& [bunka, ocekavano] : {std::pair{"D1", QString()},
+                                           {"E1", tony},
+                                           {"H1", tony},
+                                           {"I1", QString()},
+                                           {"N1", QString()},
+                                           {"O1", basy},
+                                           {"S1", basy},
+                                           {"T1", QString()}}) {
+        const bool bas = bunka[0] > 'I';
+        excel->put(bunka, bas ? "C" : "g1,");
+        zobrazeni.ZobrazHmat();
+        EXPECT_EQ(panel.upozorneni, ocekavano) << bunka;
+        EXPECT_EQ(panel.lblTony, bunka == QLatin1String("D1") ? "c1, e1, g1," : "c1, e1,") << bunka;
+        excel->put(bunka, CellValue());
+    }
+}
+
 TEST_F(ZobrazeniHmatuTest, TextPanelShowsTheRowAndItsNeighbours) {
     for (int radek = 1; radek <= 7; ++radek)
         excel->put(QStringLiteral("A%1").arg(radek), QStringLiteral("s%1").arg(radek));
