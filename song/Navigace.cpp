@@ -107,31 +107,37 @@ void Navigace::zustanNaRadku(int radek) {
 }
 
 void Navigace::cmdPredTah() {
+    const ZobrazeniHmatu::JedenPrikaz prikaz(zobrazeni_);
     cmdPredchozi();
     cmdReadTah();
 }
 
 void Navigace::cmdPredTlak() {
+    const ZobrazeniHmatu::JedenPrikaz prikaz(zobrazeni_);
     cmdPredchozi();
     cmdReadTlak();
 }
 
 void Navigace::cmdDalsiTah() {
+    const ZobrazeniHmatu::JedenPrikaz prikaz(zobrazeni_);
     cmdDalsi();
     cmdReadTah();
 }
 
 void Navigace::cmdDalsiTlak() {
+    const ZobrazeniHmatu::JedenPrikaz prikaz(zobrazeni_);
     cmdDalsi();
     cmdReadTlak();
 }
 
 void Navigace::cmdJakDal() {
+    const ZobrazeniHmatu::JedenPrikaz prikaz(zobrazeni_);
     cmdDalsi();
     UrciSmerMechu();
 }
 
 void Navigace::cmdJakDalZpet() {
+    const ZobrazeniHmatu::JedenPrikaz prikaz(zobrazeni_);
     cmdPredchozi();
     UrciSmerMechu();
 }

@@ -153,10 +153,15 @@ void ZivotPisne::ukazList(const QString& list) {
     list_.vyberRadek(radek);
     okoli_.panel.lblLadeni = list;
     okoli_.panel.Combo1 = list;
-    s_.navigace.UrciSmerMechu();
-    s_.zobrazeni.ZobrazHmat();
+    ukazRadekListu();
     s_.pas.ZobrazPas();
     excel.saveActiveWorkbook();
+}
+
+void ZivotPisne::ukazRadekListu() {
+    const ZobrazeniHmatu::JedenPrikaz prikaz(s_.zobrazeni);
+    s_.navigace.UrciSmerMechu();
+    s_.zobrazeni.ZobrazHmat();
 }
 
 void ZivotPisne::cmdEndEdit() {

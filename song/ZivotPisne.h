@@ -44,6 +44,7 @@ private:
     void ozivNovouPisen();
     void ukazOtevrenouPisen();
     void ukazList(const QString& list);
+    void ukazRadekListu();
     void ulozAZavri();
     void zahodRozdelanou();
     void vyprazdniTexty();

@@ -41,10 +41,15 @@ ZobrazeniHmatu::ZobrazeniHmatu(const Pisen& pisen, const PlochyHmatu& plochy, Uk
 
 void ZobrazeniHmatu::ZobrazHmat() {
     const OkoliRadku okoli = prectiOkoli();
+    const UkazanyPrstoklad prstoklad{okoli.radek, okoli.hmat().prstoklad};
+    const bool ukazanUz = ukazanyPrstoklad_ == prstoklad;
+    if (!ukazanUz) odeberPrstoklad();
     ukazHmat(okoli);
     plochy_.panel.oznamZmenu();
+    if (ukazanUz) return;
+    if (vPrikazu_) ukazanyPrstoklad_ = prstoklad;
     // Last, because it may show a box: everything else of the grip is visible behind it.
-    ukazPrstoklad_(okoli.hmat().prstoklad);
+    ukazPrstoklad_(prstoklad.zaznam);
 }
 
 void ZobrazeniHmatu::cmdReadTah() {
@@ -63,6 +68,7 @@ SmerMechu ZobrazeniHmatu::ZobrazHmatPotichu() {
     const OkoliRadku okoli = prectiOkoli();
     const SmerMechu smer = smerMechu(okoli.hmat().smer);
     if (smer != SmerMechu::Neuveden) zobrazenTlak_ = smer == SmerMechu::Tlak;
+    odeberPrstoklad();
     ukazHmat(okoli);
     if (ZobrazeniPrstokladu::jePlatny(okoli.hmat().prstoklad))
         ukazPrstoklad_(okoli.hmat().prstoklad);
@@ -80,8 +86,13 @@ void ZobrazeniHmatu::ZobrazTexty() {
 
 void ZobrazeniHmatu::odeberHmat() {
     uvolniObrazky();
-    plochy_.diskant.vyprazdniPopisy();
+    odeberPrstoklad();
     plochy_.osnova.vyprazdni();
+}
+
+void ZobrazeniHmatu::odeberPrstoklad() {
+    plochy_.diskant.vyprazdniPopisy();
+    ukazanyPrstoklad_.reset();
 }
 
 ZobrazeniHmatu::OkoliRadku ZobrazeniHmatu::prectiOkoli() const {
@@ -95,7 +106,7 @@ ZobrazeniHmatu::OkoliRadku ZobrazeniHmatu::prectiOkoli() const {
 
 void ZobrazeniHmatu::ukazHmat(const OkoliRadku& okoli) {
     const Grip& hmat = okoli.hmat();
-    odeberHmat();
+    uvolniObrazky();
     const QStringList ciziTony = ukazTony(hmat.tony);
     const QStringList ciziBasy = ukazBasy(hmat.basy);
     plochy_.osnova.ukaz(hmat.tony);

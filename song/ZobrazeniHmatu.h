@@ -4,6 +4,7 @@
 #include "song/SongSheet.h"
 
 #include <functional>
+#include <optional>
 
 namespace zvonika {
 
@@ -29,6 +30,24 @@ class ZobrazeniHmatu {
 public:
     /// Puts the fingering of column V on the buttons, with its own messages.
     using UkazPrstoklad = std::function<void(const QString& zaznam)>;
+
+    /// One command that shows its row more than once: as long as this lives, the fingering of a row is put on
+    /// once, so that its messages come once, and stays. Not to be nested.
+    class JedenPrikaz {
+    public:
+        explicit JedenPrikaz(ZobrazeniHmatu& zobrazeni) : zobrazeni_(zobrazeni) {
+            zobrazeni_.vPrikazu_ = true;
+        }
+        ~JedenPrikaz() {
+            zobrazeni_.vPrikazu_ = false;
+            zobrazeni_.ukazanyPrstoklad_.reset();
+        }
+        JedenPrikaz(const JedenPrikaz&) = delete;
+        JedenPrikaz& operator=(const JedenPrikaz&) = delete;
+
+    private:
+        ZobrazeniHmatu& zobrazeni_;
+    };
 
     ZobrazeniHmatu(const Pisen& pisen, const PlochyHmatu& plochy, UkazPrstoklad ukazPrstoklad);
 
@@ -59,10 +78,18 @@ private:
         const Grip& hmat() const { return hmaty.at(index); }
     };
 
+    /// A fingering that the running command has put on.
+    struct UkazanyPrstoklad {
+        int radek = 0;
+        QString zaznam;
+        friend bool operator==(const UkazanyPrstoklad&, const UkazanyPrstoklad&) = default;
+    };
+
     OkoliRadku prectiOkoli() const;
     void ukazHmat(const OkoliRadku& okoli);
     void ukazTexty(const OkoliRadku& okoli);
     void uvolniObrazky();
+    void odeberPrstoklad();
     QStringList ukazTony(const QStringList& tony);
     QStringList ukazBasy(const QStringList& basy);
     QString upozorneni(const Grip& hmat, const QStringList& ciziTony, const QStringList& ciziBasy) const;
@@ -71,6 +98,8 @@ private:
     PlochyHmatu plochy_;
     UkazPrstoklad ukazPrstoklad_;
     bool zobrazenTlak_ = false;
+    bool vPrikazu_ = false;
+    std::optional<UkazanyPrstoklad> ukazanyPrstoklad_; ///< nothing outside of `JedenPrikaz`
 };
 
 } // namespace zvonika

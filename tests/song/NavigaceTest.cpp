@@ -56,6 +56,34 @@ TEST_F(NavigaceTest, EveryMovementReleasesTheBoardAndShowsTheNewRow) {
     }
 }
 
+TEST_F(NavigaceTest, EachCommandReportsAFaultyFingeringOnce) {
+    otevriPolku(30);
+    for (int radek = 1; radek <= 30; ++radek)
+        excel->put(QStringLiteral("V%1").arg(radek), "l9;1\\x9;2\\");
+    for (const Pohyb& pohyb : pohyby) {
+        for (int stisk = 1; stisk <= 2; ++stisk) {
+            SCOPED_TRACE(QStringLiteral("%1, press %2").arg(pohyb.nazev).arg(stisk).toStdString());
+            naRadek(pohyb.z);
+            pasPisne.obnov();
+            dialogs.expect("Chyba !", "Neočekávaná hodnota ve značení prstokladu.");
+            (navigace.*pohyb.povel)();
+            EXPECT_EQ(diskant.popis(9), "1\r\n") << "what was read before the fault stays";
+        }
+    }
+    dialogs.expect("Chyba !", "").expect("Chyba !", "");
+    navigace.cmdReadTah();
+    navigace.cmdReadTah();
+}
+
+TEST_F(NavigaceTest, AFailedCommandForgetsWhatItReported) {
+    otevriPolku(3);
+    excel->put("V2", "x9;2\\");
+    dialogs.expect("Chyba !", "").expect("Chyba !", "");
+    excel->fail("value", 1004); // of column I, behind the grip that is shown already
+    ocekavejChybu(1004, [this] { navigace.cmdJakDal(); });
+    navigace.cmdReadTah();
+}
+
 TEST_F(NavigaceTest, ReadCommandsShowWithoutReleasing) {
     otevriPolku(3);
     uvolneno = 0;

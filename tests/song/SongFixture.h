@@ -2,6 +2,7 @@
 
 #include "board/BassBoard.h"
 #include "board/BassTable.h"
+#include "board/Prstoklad.h"
 #include "board/TrebleBoard.h"
 #include "song/Navigace.h"
 #include "song/PrikazyPisne.h"
@@ -124,6 +125,7 @@ protected:
     };
     ZobrazeniHmatu zobrazeni{pisen, {diskant, basy, tabulka, osnova, panel}, [this](const QString& zaznam) {
                                  prstoklady.append(zaznam);
+                                 ZobrazeniPrstokladu(diskant, dialogs).ZobrazPrstoklad(zaznam);
                              }};
     PasPisne pasPisne{pisen, pas};
     Navigace navigace{okoli, zobrazeni, pasPisne, diskant, uvolniVse};

@@ -187,9 +187,11 @@ TEST_F(ZivotPisneTest, AnotherSheetKeepsTheRowAndIsSaved) {
     excel->selectSheet(QStringLiteral("G dur"));
     excel->put("B4", "e1,");
     excel->put("I4", "Tlak");
+    excel->put("V4", "l13;1\\s1;1\\");
     excel->selectSheet(QStringLiteral("Tonavox XII"));
     excel->selectRange("B4");
     excel->addWorkbook(); // something else in front
+    dialogs.expect("Chyba č. 340.", "ve sloupci V");
     zivot.Combo1Click("G dur");
     EXPECT_EQ(excel->activeWorkbookName(), "Polka.xls");
     EXPECT_EQ(excel->activeSheetName(), "G dur");
@@ -197,6 +199,7 @@ TEST_F(ZivotPisneTest, AnotherSheetKeepsTheRowAndIsSaved) {
     EXPECT_EQ(panel.lblLadeni, "G dur");
     EXPECT_EQ(panel.Combo1, "G dur");
     EXPECT_EQ(diskant.stav(13), StavKnofliku::Tlak);
+    EXPECT_EQ(diskant.popis(13), "1\r\n");
     EXPECT_EQ(panel.barvaKroku, BarvaKroku::Tlak);
     EXPECT_EQ(pas.prvniRadekPasu, 4);
     EXPECT_EQ(excel->calls("saveActiveWorkbook"), 1);

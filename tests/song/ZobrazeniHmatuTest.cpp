@@ -145,7 +145,7 @@ TEST_F(ZobrazeniHmatuTest, FingersReplaceThoseOfTheGripBefore) {
     diskant.nastavPopis(9, "3\r\n");
     excel->put("V1", "l9;1\\");
     zobrazeni.ZobrazHmat();
-    EXPECT_EQ(diskant.popis(9), "") << "emptied before the fingering is put on";
+    EXPECT_EQ(diskant.popis(9), "1\r\n");
     EXPECT_EQ(prstoklady, QStringList{"l9;1\\"});
 }
 
