@@ -8,6 +8,7 @@
 
 #include <QObject>
 
+#include <exception>
 #include <memory>
 #include <vector>
 
@@ -75,11 +76,13 @@ public:
     void setColumnWidth(int sheet, int column, double characters);
 
     // --- what the program writes: not to be taken back, and out of reach for what the user takes back ---
+    // A part of an array formula is refused (1004), as a rule before anything is written. Where other
+    // formulas are replaced by the same call, these may be done by then: signals tell what has changed.
     /// Writes the block with its first cell at `first`; 1004 where it would cross the edge of the sheet.
     void write(int sheet, CellPosition first, const CellBlock& block);
     void fill(int sheet, const CellRange& range, const CellValue& value); ///< empties with an empty value
 
-    // --- what the user does: one step each, to be taken back ---
+    // --- what the user does: one step each, to be taken back, also what was done before a refusal ---
     /// False when nothing changed.
     bool edit(int sheet, CellPosition first, const CellBlock& block, const QString& label);
     bool editFill(int sheet, const CellRange& range, const CellValue& value, const QString& label);
@@ -109,6 +112,11 @@ private:
     void put(int sheet, CellPosition cell, const CellValue& value);
     bool differs(int sheet, CellPosition cell, const CellValue& value) const;
     CellRange usedPart(int sheet, const CellRange& range) const;
+    std::vector<CellChange> changesBy(int sheet, CellPosition first, const CellBlock& block) const;
+    std::vector<CellChange> changesBy(int sheet, const CellRange& range, const CellValue& value) const;
+    std::exception_ptr putAll(int sheet, std::vector<CellChange>& changes);
+    void writeAll(int sheet, const CellRange& place, std::vector<CellChange> changes);
+    bool commitCells(UndoStep step);
     bool commit(UndoStep step);
     void exchange(const UndoStep& step, bool back);
     void showStep(const UndoStep& step);

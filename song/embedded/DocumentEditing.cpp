@@ -30,7 +30,7 @@ qsizetype widest(const CellBlock& block) {
     return columns;
 }
 
-/// The place of a block that fits on the sheet in every respect, so that writing it cannot stop half-way.
+/// The place of a block that fits on the sheet, each of its texts into a cell.
 CellRange placeFor(CellPosition first, const CellBlock& block) {
     const auto rows = block.size(), columns = widest(block);
     if (!isOnSheet(first) || first.row + rows - 1 > lastRow || first.column + columns - 1 > lastColumn)
@@ -98,56 +98,81 @@ CellRange Document::usedPart(int sheet, const CellRange& range) const {
             {std::min(range.last.row, usedRows(sheet)), std::min(range.last.column, usedColumns(sheet))}};
 }
 
+std::vector<CellChange> Document::changesBy(int sheet, CellPosition first, const CellBlock& block) const {
+    std::vector<CellChange> changes;
+    forCells(first, block, [&](CellPosition cell, const CellValue& after) {
+        if (differs(sheet, cell, after)) changes.push_back({cell, value(sheet, cell), after});
+    });
+    return changes;
+}
+
+std::vector<CellChange> Document::changesBy(int sheet, const CellRange& range, const CellValue& after) const {
+    refuseLongText(after);
+    const CellRange part = zvonika::isEmpty(after) ? usedPart(sheet, range) : range;
+    refuseLargeFill(part);
+    std::vector<CellChange> changes;
+    forCells(part, [&](CellPosition cell) {
+        if (differs(sheet, cell, after)) changes.push_back({cell, value(sheet, cell), after});
+    });
+    return changes;
+}
+
+/// Stops at a refusal, which is returned, and leaves in `changes` what was done. Formulas come first: whether
+/// a cell is a part of an array formula shows only when it is written, and no other cell can be refused.
+std::exception_ptr Document::putAll(int sheet, std::vector<CellChange>& changes) {
+    std::ranges::stable_partition(changes, [&](const auto& change) { return isFormula(sheet, change.cell); });
+    for (auto next = changes.begin(); next != changes.end(); ++next) {
+        try {
+            put(sheet, next->cell, next->after);
+        } catch (const RuntimeError&) {
+            changes.erase(next, changes.end());
+            return std::current_exception();
+        }
+    }
+    return nullptr;
+}
+
+void Document::writeAll(int sheet, const CellRange& place, std::vector<CellChange> changes) {
+    const auto refusal = putAll(sheet, changes);
+    if (!refusal || !changes.empty()) {
+        history_.forget(sheet, place);
+        Q_EMIT historyChanged();
+    }
+    if (!changes.empty()) changed(sheet, around(changes));
+    if (refusal) std::rethrow_exception(refusal);
+}
+
 void Document::write(int sheet, CellPosition first, const CellBlock& block) {
     const CellRange place = placeFor(first, block);
-    history_.forget(sheet, place);
-    bool any = false;
-    forCells(first, block, [&](CellPosition cell, const CellValue& value) {
-        if (!differs(sheet, cell, value)) return;
-        put(sheet, cell, value);
-        any = true;
-    });
-    Q_EMIT historyChanged();
-    if (any) changed(sheet, place);
+    writeAll(sheet, place, changesBy(sheet, first, block));
 }
 
 void Document::fill(int sheet, const CellRange& range, const CellValue& value) {
-    refuseLongText(value);
-    const CellRange part = zvonika::isEmpty(value) ? usedPart(sheet, range) : range;
-    refuseLargeFill(part);
-    history_.forget(sheet, range);
-    bool any = false;
-    forCells(part, [&](CellPosition cell) {
-        if (!differs(sheet, cell, value)) return;
-        put(sheet, cell, value);
-        any = true;
-    });
-    Q_EMIT historyChanged();
-    if (any) changed(sheet, range);
+    writeAll(sheet, range, changesBy(sheet, range, value));
 }
 
 bool Document::edit(int sheet, CellPosition first, const CellBlock& block, const QString& label) {
     placeFor(first, block);
-    UndoStep step{UndoStep::Kind::Cells, label, sheet, 0, {}};
-    forCells(first, block, [&](CellPosition cell, const CellValue& after) {
-        if (differs(sheet, cell, after)) step.changes.push_back({cell, value(sheet, cell), after});
-    });
-    return commit(std::move(step));
+    return commitCells({UndoStep::Kind::Cells, label, sheet, 0, changesBy(sheet, first, block)});
 }
 
 bool Document::editFill(int sheet, const CellRange& range, const CellValue& after, const QString& label) {
-    refuseLongText(after);
-    const CellRange part = zvonika::isEmpty(after) ? usedPart(sheet, range) : range;
-    refuseLargeFill(part);
-    UndoStep step{UndoStep::Kind::Cells, label, sheet, 0, {}};
-    forCells(part, [&](CellPosition cell) {
-        if (differs(sheet, cell, after)) step.changes.push_back({cell, value(sheet, cell), after});
-    });
-    return commit(std::move(step));
+    return commitCells({UndoStep::Kind::Cells, label, sheet, 0, changesBy(sheet, range, after)});
+}
+
+bool Document::commitCells(UndoStep step) {
+    const auto refusal = putAll(step.sheet, step.changes);
+    const bool any = !step.changes.empty();
+    if (any) {
+        changed(step.sheet, around(step.changes));
+        history_.add(std::move(step));
+        Q_EMIT historyChanged();
+    }
+    if (refusal) std::rethrow_exception(refusal);
+    return any;
 }
 
 bool Document::commit(UndoStep step) {
-    if (step.kind == UndoStep::Kind::Cells && step.changes.empty()) return false;
     exchange(step, false);
     history_.add(std::move(step));
     Q_EMIT historyChanged();

@@ -35,11 +35,6 @@ bool isFullName(const QString& name) {
     return hasDrive(name) || (!name.isEmpty() && isSlash(name.front()));
 }
 
-QString startFolder(const Drive& drive, const SettingsStore& settings) {
-    const QString kept = settings.getOr(section, folderKey, documentsFolder);
-    return !kept.isEmpty() && drive.folderExists(kept) ? kept : documentsFolder;
-}
-
 /// The one form of saving that this application knows.
 void refuseOtherForms(const SaveAsArguments& arguments) {
     const SaveAsArguments known;
@@ -56,8 +51,9 @@ void refuseOtherForms(const SaveAsArguments& arguments) {
 EmbeddedApplication::EmbeddedApplication(Drive& drive, Dialogs& dialogs, SettingsStore& settings,
                                          SheetViewFactory makeView)
     : drive_(drive), settings_(settings), makeView_(std::move(makeView)),
-      defaultFilePath_(startFolder(drive, settings)), commands_(session_), session_(dialogs) {
-    session_.setFolder(drive_.nativePath(defaultFilePath_));
+      defaultFilePath_(settings.getOr(section, folderKey, documentsFolder)), commands_(session_),
+      session_(dialogs) {
+    session_.setFolder([this] { return drive_.nativePath(defaultFilePath()); });
 }
 
 EmbeddedApplication::~EmbeddedApplication() = default;
@@ -74,9 +70,15 @@ Document& EmbeddedApplication::document() const {
     return *session_.active();
 }
 
+QString EmbeddedApplication::defaultFilePath() const {
+    // Looked at each time: the folder may come into being while the application runs.
+    const bool lost = defaultFilePath_.isEmpty() || !drive_.folderExists(defaultFilePath_);
+    return inherited_ && lost ? documentsFolder : defaultFilePath_;
+}
+
 void EmbeddedApplication::setDefaultFilePath(const QString& path) {
     defaultFilePath_ = path;
-    session_.setFolder(drive_.nativePath(path));
+    inherited_ = false;
     settings_.save(section, folderKey, path);
 }
 
@@ -114,7 +116,7 @@ QString EmbeddedApplication::nativeFile(const QString& fullName) const {
     if (fullName.isEmpty()) refuse(QStringLiteral("Chybí jméno souboru."));
     const bool full = isFullName(fullName);
     const QString native = full ? drive_.nativePath(fullName) : session_.folder();
-    if (native.isEmpty()) refuse(driveMissing(full ? fullName : defaultFilePath_));
+    if (native.isEmpty()) refuse(driveMissing(full ? fullName : defaultFilePath()));
     return full ? native : native + QLatin1Char('/') + fullName;
 }
 

@@ -26,8 +26,8 @@ public:
     SheetCommands& commands() { return commands_; }
     const Session& session() const { return session_; }
 
-    QString defaultFilePath() const override { return defaultFilePath_; }
-    /// A folder that does not exist is kept; the next instance then starts with "C:\Dokumenty".
+    QString defaultFilePath() const override;
+    /// A folder that does not exist is kept; the next instance has "C:\Dokumenty" for as long as it is missing.
     void setDefaultFilePath(const QString& path) override;
     void setVisible(bool visible) override;
     /// Asks as `Saving::offerUnsaved`; what the user does not save is dropped.
@@ -82,6 +82,7 @@ private:
     SettingsStore& settings_;
     SheetViewFactory makeView_;
     QString defaultFilePath_;
+    bool inherited_ = true; ///< the default folder comes from an earlier instance
     CellBlock clipboard_;
     SheetCommands commands_; ///< before the session, whose window uses it to the end
     Session session_;

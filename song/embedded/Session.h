@@ -4,6 +4,7 @@
 #include "song/embedded/Document.h"
 #include "song/embedded/SheetView.h"
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -39,8 +40,8 @@ public:
 
     // --- the application ---
     /// Native folder for workbooks that were not given any; where file choices start.
-    const QString& folder() const { return folder_; }
-    void setFolder(const QString& native) { folder_ = native; }
+    QString folder() const { return folder_ ? folder_() : QString(); }
+    void setFolder(std::function<QString()> native) { folder_ = std::move(native); }
     State state() const { return state_; }
     /// Drops every workbook, saved or not, without asking and hides the window.
     void end(State state);
@@ -85,7 +86,7 @@ private:
     std::vector<std::unique_ptr<Document>> documents_;
     Document* active_ = nullptr;
     State state_ = State::Running;
-    QString folder_;
+    std::function<QString()> folder_;
     int named_ = 0; ///< new workbooks named so far
     bool visible_ = false;
     std::unique_ptr<SheetView> view_; ///< last, so that it goes before what it shows

@@ -68,7 +68,9 @@ bool SheetCommands::attempt(Action action) {
     if (!document) return false;
     const Place before = place();
     bool edited = false;
-    runForUser(session_.dialogs(), [&] { edited = action(*document); });
+    const auto touched = QObject::connect(document, &Document::cellsChanged, [&edited] { edited = true; });
+    runForUser(session_.dialogs(), [&] { edited = action(*document); }); // a refusal may come half-way
+    QObject::disconnect(touched);
     session_.report(edited, !(place() == before));
     return edited;
 }

@@ -1,0 +1,107 @@
+#include "tests/song/embedded/Rig.h"
+#include "tests/song/xls/XlsFiles.h"
+
+namespace zvonika::testing {
+
+namespace {
+
+using xls::Bytes;
+using xlstest::le;
+using xlstest::Rec;
+using xlstest::operator+;
+
+Rec formula(unsigned column, const Bytes& tokens) {
+    return {0x0006,
+            le(2, {0, column, 15}) + Bytes(8) + le(2, {8}) + le(4, {0}) + le(2, {tokens.size()}) + tokens};
+}
+
+/// A sheet whose first row is: a formula, an array formula over two cells, a number.
+QByteArray sheetWithArray() {
+    const Bytes five{0x1E, 5, 0}, ofArray = Bytes{0x01} + le(2, {0, 1});
+    const Bytes array = le(2, {0, 0}) + Bytes{1, 2} + le(2, {0}) + le(4, {0}) + le(2, {3}) + five;
+    const Bytes file = xlstest::fileWithTable({{0x0208, le(2, {0, 0, 4, 255, 0, 0, 0x0100, 15})},
+                                               formula(0, five),
+                                               formula(1, ofArray),
+                                               {0x0221, array},
+                                               formula(2, ofArray),
+                                               xlstest::numberCell(0, 3, 1.5)});
+    return {reinterpret_cast<const char*>(file.data()), static_cast<qsizetype>(file.size())};
+}
+
+class EditCounter : public SpreadsheetListener {
+public:
+    void cursorMoved() override {}
+    void cellsEdited() override { ++edits; }
+    int edits = 0;
+};
+
+class ArrayFormulaTest : public ::testing::Test, protected World {
+protected:
+    ArrayFormulaTest() {
+        store(path(QStringLiteral("pole.xls")), sheetWithArray());
+        app.openWorkbook(path(QStringLiteral("pole.xls")));
+        app.setListener(&listener);
+    }
+    Document& document() { return *app.session().active(); }
+
+    const QString refused = QStringLiteral("1004 Buňku $B$1 nelze změnit: patří k maticovému vzorci.");
+    EditCounter listener;
+    std::unique_ptr<EmbeddedApplication> owned = launch();
+    EmbeddedApplication& app = *owned;
+};
+
+} // namespace
+
+TEST_F(ArrayFormulaTest, IsRefusedBeforeAnythingIsWritten) {
+    document().edit(1, {1, 4}, {{2.5}}, QStringLiteral("Psaní"));
+    document().save();
+    QSignalSpy cells(&document(), &Document::cellsChanged);
+    const std::pair<const char*, std::function<void()>> calls[] = {
+        {"write",
+         [&] {
+             document().write(1, {1, 2}, {{1.0, 2.0, 3.0}, {4.0}});
+         }},
+        {"fill",
+         [&] {
+             document().fill(1, {{1, 2}, {3, 4}}, 7.0);
+         }},
+        {"edit",
+         [&] {
+             document().edit(1, {1, 2}, {{1.0, 2.0, 3.0}, {4.0}}, {});
+         }},
+        {"editFill",
+         [&] {
+             document().editFill(1, {{1, 2}, {3, 4}}, {}, {});
+         }},
+    };
+    for (const auto& [name, call] : calls)
+        EXPECT_EQ(refusalOf(call), refused) << name;
+    EXPECT_EQ(document().value(1, {1, 4}), CellValue(2.5));
+    EXPECT_EQ(document().usedRows(1), 1);
+    EXPECT_EQ(cells.count(), 0);
+    EXPECT_FALSE(document().isModified());
+    EXPECT_EQ(document().undoLabel(), QStringLiteral("Psaní")) << "what was not written takes nothing away";
+}
+
+TEST_F(ArrayFormulaTest, WhatTheProgramWroteBeforeTheRefusalIsTold) {
+    QSignalSpy cells(&document(), &Document::cellsChanged);
+    EXPECT_EQ(refusalOf([&] { app.writeBlock(QStringLiteral("A1"), {{1.0, 2.0}, {3.0, 4.0}}); }), refused);
+    ASSERT_EQ(cells.count(), 1);
+    EXPECT_EQ(cells.first().at(1).value<CellRange>(), single({1, 1}));
+    EXPECT_EQ(app.value(QStringLiteral("A1")), CellValue(1.0));
+    EXPECT_EQ(document().usedRows(1), 1);
+    EXPECT_TRUE(document().isModified());
+    document().save();
+}
+
+TEST_F(ArrayFormulaTest, WhatTheUserDidBeforeTheRefusalIsToldAndCanBeTakenBack) {
+    const CellValue before = app.value(QStringLiteral("A1"));
+    dialogs.expect(jmenoTabulky, QStringLiteral("maticovému vzorci"));
+    app.commands().paste(QStringLiteral("1\t2\n3\t4"));
+    EXPECT_EQ(app.value(QStringLiteral("A1")), CellValue(1.0));
+    EXPECT_EQ(listener.edits, 1);
+    app.commands().undo();
+    EXPECT_EQ(app.value(QStringLiteral("A1")), before);
+}
+
+} // namespace zvonika::testing
