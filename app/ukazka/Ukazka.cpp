@@ -125,6 +125,8 @@ void Ukazka::otevriPisen() {
            [this](QWidget* vyber) {
                obrazek("vyber-souboru");
                auto* jmeno = vyber->findChild<QLineEdit*>();
+               if (!jmeno)
+                   throw std::runtime_error("soubor nelze vybrat: " + vyber->windowTitle().toStdString());
                jmeno->selectAll();
                napis(jmeno, nazevPisne + ".xls");
                QTest::keyClick(jmeno, Qt::Key_Return);
@@ -182,26 +184,25 @@ void Ukazka::sOknem(const std::function<void()>& akce, const std::function<void(
     hodiny.start();
     bool obslouzeno = false;
     std::exception_ptr chyba;
-    QTimer hlidka;
-    QObject::connect(&hlidka, &QTimer::timeout, [&] {
+    QObject hlidka; // its going ends the watch
+    const std::function<void()> hlidej = [&] {
+        // Armed again first: a window that comes up while another one is being dealt with is seen as well.
+        QTimer::singleShot(5, &hlidka, hlidej);
         QWidget* okno = QApplication::activeModalWidget();
-        if (!okno) return;
-        if (hodiny.elapsed() > trpelivost) { // nobody closes it any more
-            const std::string titulek = okno->windowTitle().toStdString();
-            chyba = std::make_exception_ptr(std::runtime_error("okno zůstalo otevřené: " + titulek));
-            okno->close();
-        } else if (okno != obslouzene && okno->windowHandle() && okno->windowHandle()->isExposed()) {
+        if (!okno || !okno->windowHandle() || !okno->windowHandle()->isExposed()) return;
+        try {
+            if (hodiny.elapsed() > trpelivost)
+                throw std::runtime_error("okno zůstalo otevřené: " + okno->windowTitle().toStdString());
+            if (okno == obslouzene) return;
             obslouzene = okno;
             obslouzeno = true;
-            try {
-                obsluha(okno);
-            } catch (...) {
-                chyba = std::current_exception();
-                okno->close();
-            }
+            obsluha(okno);
+        } catch (...) {
+            if (!chyba) chyba = std::current_exception();
+            okno->close();
         }
-    });
-    hlidka.start(5);
+    };
+    hlidej();
     akce();
     if (chyba) std::rethrow_exception(chyba);
     if (!obslouzeno) throw std::runtime_error("očekávané okno se neobjevilo");
