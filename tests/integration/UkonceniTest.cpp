@@ -1,0 +1,125 @@
+// The shutdown, and whose default folder the spreadsheet has before, during and after the run.
+#include "tests/integration/CelyProgram.h"
+
+#include <QDir>
+#include <QSettings>
+
+namespace zvonika::testing {
+
+namespace {
+
+class UkonceniTest : public CelyProgram {
+protected:
+    void SetUp() override {} // started by the cases
+
+    /// What really stands in the file, read by somebody else.
+    QString vychoziSlozka() const {
+        const QSettings ini(souborNastaveniTabulky(), QSettings::IniFormat);
+        return ini.value("Tabulka/DefaultFilePath").toString();
+    }
+    void spustSeSlozkouUzivatele() {
+        QDir(domov()).mkpath("Dokumenty/Ucetnictvi");
+        vlastniNastaveniTabulky.save("Tabulka", "DefaultFilePath", uzivatelova);
+        spust();
+    }
+    void zmizPracovniSlozku() const {
+        QDir(QDir(pracovni()).absolutePath()).removeRecursively();
+        ASSERT_FALSE(QDir(pracovni()).exists());
+    }
+    void ocekavejUkonceni() const {
+        EXPECT_FALSE(program->okno().isVisible());
+        EXPECT_EQ(program->modely().pisen.aplikaceExcel, nullptr);
+        EXPECT_EQ(vychoziSlozka(), uzivatelova);
+    }
+    /// The program's one message; then the sheet's own question about what it still holds.
+    void zavriSOdmitnutymUlozenim(Answer ulozitJeste, const std::function<void()>& potom = {}) {
+        dialogs.expect("Nestandardní ukončení.",
+                       "Chyba při ukládání souboru !\nData v písni mohou být ztracena.");
+        dialogs.expect(jmenoTabulky, neulozene, ulozitJeste);
+        if (potom) potom();
+        zavriOkno();
+        EXPECT_TRUE(dialogs.done());
+        ocekavejUkonceni();
+    }
+
+    const QString neulozene = QStringLiteral("Sešit „Polka.xls“ má neuložené změny. Chcete ho uložit?");
+    const QString uzivatelova = QStringLiteral("C:\\Dokumenty\\Ucetnictvi");
+};
+
+} // namespace
+
+TEST_F(UkonceniTest, TheUsersFolderComesBackAfterTheRun) {
+    spustSeSlozkouUzivatele();
+    EXPECT_EQ(vychoziSlozka(), pracovniAdresar);
+    EXPECT_EQ(excel->defaultFilePath(), pracovniAdresar);
+    EXPECT_TRUE(tabulka->isVisible());
+    dialogs.expectFile("Vyberte písničku, kterou chcete zkoušet !", std::nullopt);
+    klikni("cmdEdit");
+    EXPECT_EQ(dialogs.lastFolder, pracovni());
+    ocekavejStavBezPisne();
+    zavriOkno();
+    EXPECT_EQ(dialogs.count, 0) << "nothing is said without a song";
+    ocekavejUkonceni();
+}
+
+TEST_F(UkonceniTest, ClosingSavesTheSongAndEndsTheSheet) {
+    spustSeSlozkouUzivatele();
+    novaPisen();
+    zapisHmat({"lbl(9)"}, true);
+    zavriOkno();
+    EXPECT_EQ(dialogs.count, 0);
+    ocekavejUkonceni();
+    EXPECT_TRUE(tabulka.isNull());
+    EXPECT_EQ(textBunky(sesit(pisen("Polka.xls")), "B1"), "c1,");
+    EXPECT_EQ(soubory(), QStringList{"Polka.xls"});
+}
+
+TEST_F(UkonceniTest, ASongWhoseFolderVanishedIsOneMessage) {
+    spustSeSlozkouUzivatele();
+    novaPisen();
+    zapisHmat({"lbl(9)"}, true);
+    zmizPracovniSlozku();
+    zavriSOdmitnutymUlozenim(Answer::No);
+    EXPECT_EQ(dialogs.count, 2);
+}
+
+TEST_F(UkonceniTest, ASongThatCannotBeSavedInItsPlaceMaySaveItselfElsewhere) {
+    spustSeSlozkouUzivatele();
+    novaPisen();
+    zapisHmat({"lbl(9)"}, true);
+    zmizPracovniSlozku();
+    const QString jinde = domov() + "/Dokumenty/Polka.xls";
+    zavriSOdmitnutymUlozenim(Answer::Yes, [&] {
+        dialogs.expect(jmenoTabulky, "Soubor „Polka.xls“ nelze uložit: složka");
+        dialogs.expectFile("Uložit jako", jinde);
+    });
+    EXPECT_EQ(textBunky(sesit(jinde), "B1"), "c1,");
+}
+
+TEST_F(UkonceniTest, ASongWhoseFolderBecameAFileIsOneMessage) {
+    spustSeSlozkouUzivatele();
+    novaPisen();
+    zapisHmat({"lbl(9)"}, true);
+    zmizPracovniSlozku();
+    ulozSoubor(pracovni(), "tady bývala složka");
+    zavriSOdmitnutymUlozenim(Answer::No);
+    EXPECT_EQ(obsahSouboru(pracovni()), "tady bývala složka");
+}
+
+TEST_F(UkonceniTest, AnEndOfSongThatCannotBeSavedForgetsTheSong) {
+    spustSeSlozkouUzivatele();
+    novaPisen();
+    zapisHmat({"lbl(9)"}, true);
+    zmizPracovniSlozku();
+    dialogs.expect("Neočekávaná chyba !", "a sdělte číslo chyby 1004");
+    klikni("cmdEndEdit");
+    EXPECT_FALSE(program->modely().pisen.otevrena());
+    EXPECT_TRUE(napis("lblStav").contains("Soubor „Polka.xls“ nelze uložit: složka"))
+        << napis("lblStav").toStdString();
+    EXPECT_EQ(excel->activeWorkbookName(), "Polka.xls") << "what could not be saved stays in the sheet";
+    dialogs.expect(jmenoTabulky, neulozene, Answer::No);
+    zavriOkno();
+    ocekavejUkonceni();
+}
+
+} // namespace zvonika::testing
