@@ -43,9 +43,9 @@ void SheetMenu::fillFile(QMenu* menu) {
     add(menu, QStringLiteral("akceZavrit"), QStringLiteral("&Zavřít sešit"),
         {QKeySequence(Qt::CTRL | Qt::Key_W)}, [this] { commands_.close(); });
     menu->addSeparator();
-    add(menu, QStringLiteral("akceUkoncit"), QStringLiteral("U&končit tabulku"),
-        {QKeySequence(Qt::CTRL | Qt::Key_Q)}, [this] { commands_.quit(); });
-    needDocument_.pop_back(); // quitting needs no workbook
+    add(menu, QStringLiteral("akceUkoncit"), QStringLiteral("U&končit tabulku"), {},
+        [this] { commands_.quit(); }); // no key: in the program's window the usual one ends the program
+    needDocument_.pop_back();          // quitting needs no workbook
 }
 
 void SheetMenu::fillEdit(QMenu* menu) {

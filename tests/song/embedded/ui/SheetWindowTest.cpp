@@ -70,8 +70,10 @@ TEST_F(SheetFile, AsksBeforeChangesAreLost) {
     EXPECT_EQ(application.activeWorkbookName(), QString());
 }
 
-TEST_F(SheetFile, QuittingEndsTheApplication) {
+TEST_F(SheetFile, QuittingEndsTheApplicationByTheMenuOnly) {
     press(Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_EQ(application.activeRow(), 1) << "the key that ends the program does nothing here";
+    action("akceUkoncit").trigger();
     EXPECT_FALSE(window->isVisible());
     try {
         application.activeRow();
