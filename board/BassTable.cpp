@@ -34,8 +34,9 @@ bool BassTable::nacti() {
 QString BassTable::nactiSoubor(QByteArray& obsah) const {
     QFile soubor(soubor_);
     if (!soubor.exists()) return nadpisChyby + QStringLiteral("nebyla ve složce programu nalezena.");
+    // The system's own words would come in its language, not the user's.
     if (!soubor.open(QIODevice::ReadOnly))
-        return nadpisChyby + QStringLiteral("nejde přečíst: %1.").arg(soubor.errorString());
+        return nadpisChyby + QStringLiteral("nejde přečíst: není to soubor, nebo k němu nemáte oprávnění.");
     obsah = soubor.readAll();
     return {};
 }
