@@ -70,7 +70,8 @@ TEST_F(TabulkaBasuTest, AnIncompleteTableLosesOnlyWhatItDoesNotName) {
 TEST_F(TabulkaBasuTest, AFolderInPlaceOfTheTable) {
     ASSERT_TRUE(QFile::remove(soubor()) && QDir().mkdir(soubor()));
     spust();
-    EXPECT_TRUE(napis("lblStav").startsWith("Tabulka basů tonavox.xml nejde přečíst"));
+    EXPECT_EQ(napis("lblStav"),
+              "Tabulka basů tonavox.xml nejde přečíst: není to soubor, nebo k němu nemáte oprávnění.");
     ocekavejZapisBezBasu("nejde přečíst", "");
 }
 
