@@ -10,9 +10,8 @@
 
 #include <QAbstractButton>
 #include <QMenuBar>
+#include <QMultiMap>
 #include <QShortcut>
-
-#include <algorithm>
 
 namespace zvonika {
 
@@ -117,13 +116,13 @@ void Program::nastavZkratky() {
 }
 
 void Program::nastavPoradiFokusu() {
-    QList<QWidget*> prvky;
-    for (QWidget* prvek : okno_->centralWidget()->findChildren<QWidget*>())
-        if (prvek->focusPolicy() != Qt::NoFocus || !prvek->objectName().isEmpty()) prvky << prvek;
-    std::stable_sort(prvky.begin(), prvky.end(), [](const QWidget* a, const QWidget* b) {
-        return poradiFokusu(a->objectName()) < poradiFokusu(b->objectName());
-    });
-    okno_->nastavPoradi(prvky);
+    QMultiMap<int, QWidget*> podleMista;
+    const QList<QWidget*> prvky = okno_->centralWidget()->findChildren<QWidget*>();
+    // Backwards: of equal keys the one inserted last comes first.
+    for (auto prvek = prvky.crbegin(); prvek != prvky.crend(); ++prvek)
+        if (!(*prvek)->objectName().isEmpty())
+            podleMista.insert(poradiFokusu((*prvek)->objectName()), *prvek);
+    okno_->nastavPoradi(podleMista.values());
 }
 
 void Program::prejdiNaTabulku() {

@@ -7,6 +7,8 @@ namespace zvonika {
 
 namespace {
 
+constexpr int vlajkyPopisku = Qt::AlignCenter | Qt::TextWordWrap;
+
 QColor zakladniBarva(PrikazoveTlacitko::Vyznam vyznam) {
     switch (vyznam) {
     case PrikazoveTlacitko::Vyznam::Tah:
@@ -102,17 +104,22 @@ void PrikazoveTlacitko::paintEvent(QPaintEvent*) {
         painter.fillPath(nota(misto), pismo);
 }
 
-void PrikazoveTlacitko::kresliPopisek(QPainter& painter, const QRect& misto, const QColor& barva) const {
-    constexpr int vlajky = Qt::AlignCenter | Qt::TextWordWrap;
-    QFont pismo = font();
-    for (int velikost = pismo.pixelSize(); velikost > 7; --velikost) {
-        pismo.setPixelSize(velikost);
-        const QRect potreba = QFontMetrics(pismo).boundingRect(misto, vlajky, text());
-        if (potreba.width() <= misto.width() && potreba.height() <= misto.height()) break;
+void PrikazoveTlacitko::prizpusobPismo(const QRect& misto) {
+    Prizpusobene& p = prizpusobene_;
+    if (p.zaklad == font() && p.text == text() && p.misto == misto.size()) return;
+    p = {font(), font(), text(), misto.size()};
+    for (int velikost = p.zaklad.pixelSize(); velikost > 7; --velikost) {
+        p.pismo.setPixelSize(velikost);
+        const QRect potreba = QFontMetrics(p.pismo).boundingRect(misto, vlajkyPopisku, text());
+        if (potreba.width() <= misto.width() && potreba.height() <= misto.height()) return;
     }
-    painter.setFont(pismo);
+}
+
+void PrikazoveTlacitko::kresliPopisek(QPainter& painter, const QRect& misto, const QColor& barva) {
+    prizpusobPismo(misto);
+    painter.setFont(prizpusobene_.pismo);
     painter.setPen(barva);
-    painter.drawText(misto, vlajky, text());
+    painter.drawText(misto, vlajkyPopisku, text());
 }
 
 } // namespace zvonika

@@ -28,9 +28,18 @@ protected:
 
 private:
     QColor plocha() const;
-    void kresliPopisek(QPainter& painter, const QRect& misto, const QColor& barva) const;
+    void kresliPopisek(QPainter& painter, const QRect& misto, const QColor& barva);
+    void prizpusobPismo(const QRect& misto);
+
+    /// The font that was fitted last, and what it was fitted to.
+    struct Prizpusobene {
+        QFont zaklad, pismo;
+        QString text;
+        QSize misto;
+    };
 
     Vyznam vyznam_;
+    Prizpusobene prizpusobene_;
     std::optional<QColor> barva_;
     Obrazek obrazek_ = Obrazek::Zadny;
 };

@@ -9,6 +9,7 @@ namespace zvonika {
 
 namespace {
 constexpr int nejmensiPismo = 6; // px
+constexpr int krokSevreni = 8;   // percent
 constexpr int nejuzsiPismo = 78; // percent of the normal width
 constexpr qreal pismoVRadku =
     0.98; // letter size to line height: names have few descenders, lines may stand close
@@ -45,8 +46,9 @@ void Napis::zvolPismo(const QRectF& misto, const QFont& pismo) {
         std::max(nejmensiPismo, static_cast<int>(misto.height() / double(radky_.size()) * pismoVRadku)));
     qreal sirka = zmer(QFontMetricsF(pismo_));
     if (sirka <= misto.width()) return;
-    // Narrow letters are read more easily than small ones.
-    pismo_.setStretch(std::max(nejuzsiPismo, static_cast<int>(100 * misto.width() / sirka)));
+    // Narrow letters are read more easily than small ones. In few steps: every width costs a font of its own.
+    const int sevreni = static_cast<int>(100 * misto.width() / sirka);
+    pismo_.setStretch(std::max(nejuzsiPismo, sevreni - sevreni % krokSevreni));
     sirka = zmer(QFontMetricsF(pismo_));
     while (sirka > misto.width() && pismo_.pixelSize() > nejmensiPismo) {
         const int podleSirky = static_cast<int>(pismo_.pixelSize() * misto.width() / sirka);

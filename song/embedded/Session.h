@@ -50,8 +50,9 @@ public:
     void setView(std::unique_ptr<SheetView> view);
     bool hasView() const { return view_ != nullptr; }
     void setVisible(bool visible);
+    /// To the front, also the empty window that was hidden with its last workbook.
     void raise();
-    /// Hides the window until a workbook is shown again.
+    /// Hides the window until a workbook is shown again or the user is sent to it.
     void hideUntilNeeded();
 
     // --- others ---
