@@ -30,6 +30,8 @@ const QString windowName = QStringLiteral("Tabulka Zvoniky");
 QWidget* makeEmptyPage() {
     auto* page = new QLabel(QStringLiteral("Žádný sešit není otevřen."));
     page->setObjectName(QStringLiteral("prazdnaStranka"));
+    page->setAccessibleName(page->text());
+    page->setFocusPolicy(Qt::StrongFocus);
     page->setAlignment(Qt::AlignCenter);
     QPalette palette = page->palette();
     palette.setColor(QPalette::Window, sheet::emptyPage);
@@ -125,7 +127,13 @@ void SheetWindow::raise() {
     isMinimized() ? showNormal() : show();
     QMainWindow::raise();
     activateWindow();
-    table_->setFocus();
+    takeFocus();
+}
+
+// What is hidden cannot have the keyboard, and without it the way back by F6 would be lost.
+void SheetWindow::takeFocus() {
+    QWidget* place = document_ ? static_cast<QWidget*>(table_) : pages_->currentWidget();
+    place->setFocus();
 }
 
 void SheetWindow::setDocument(Document* document) {

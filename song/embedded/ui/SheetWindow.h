@@ -39,6 +39,7 @@ protected:
 private:
     QWidget* makeTop();
     QWidget* makePages();
+    void takeFocus();
     void wireUser();
     void wireDocument();
     void showTitle();

@@ -56,6 +56,34 @@ TEST_F(SheetFile, ClosingTheWindowClosesTheWorkbook) {
     EXPECT_FALSE(emptyPageIsUp());
 }
 
+TEST_F(SheetFile, TheEmptyWindowComesBackWhenTheProgramSendsTheUserThere) {
+    QWidget program;
+    const auto goThere = [&] {
+        program.show();
+        program.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&program));
+        application.showToUser();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+        const QWidget* focus = QApplication::focusWidget();
+        EXPECT_TRUE(focus && focus->isVisible()) << "keys have somewhere to go";
+    };
+    int presses = 0;
+    QObject::connect(window, &SheetWindow::f6Pressed, [&presses] { ++presses; });
+    press(Qt::Key_W, Qt::ControlModifier);
+    for (int time = 1; time <= 2; ++time) {
+        ASSERT_FALSE(window->isVisible());
+        goThere();
+        EXPECT_TRUE(emptyPageIsUp());
+        press(Qt::Key_F6);
+        EXPECT_EQ(presses, time);
+        window->close();
+    }
+    goThere();
+    application.addWorkbook();
+    EXPECT_FALSE(emptyPageIsUp());
+    EXPECT_EQ(QApplication::focusWidget(), &table());
+}
+
 TEST_F(SheetFile, AsksBeforeChangesAreLost) {
     click("A1");
     type("x");
