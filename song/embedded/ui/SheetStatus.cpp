@@ -12,7 +12,7 @@ namespace {
 QString place(const Document& document) {
     const int row = document.selection().active.row;
     const int last = document.usedRows(document.activeSheet());
-    if (row > last) return QStringLiteral("Volný řádek %1 (poslední hmat %2)").arg(row).arg(last);
+    if (row > last) return QStringLiteral("Volný řádek %1, hmatů %2").arg(row).arg(last);
     return QStringLiteral("Hmat %1 z %2").arg(row).arg(last);
 }
 

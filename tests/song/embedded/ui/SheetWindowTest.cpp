@@ -209,7 +209,7 @@ TEST_F(SheetFile, StatusSaysWhatIsShown) {
     const std::pair<const char*, const char*> cases[] = {
         {"B1", "Hmat 1 z 2  ·  B: tón"},
         {"W2", "Hmat 2 z 2  ·  W: tónina"},
-        {"J3", "Volný řádek 3 (poslední hmat 2)"},
+        {"J3", "Volný řádek 3, hmatů 2"},
         {"B1:C2", "Hmat 1 z 2  ·  výběr B1:C2"},
     };
     for (const auto& [address, expected] : cases) {
