@@ -31,6 +31,7 @@ bool Program::Main() {
     modely_.panel.upozorneni = modely_.tabulkaBasu.chyba();
     poPrikazu();
     okno_->show();
+    prejdiNaHlavniOkno(); // the sheet's window came up first
     return cele;
 }
 

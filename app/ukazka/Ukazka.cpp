@@ -32,8 +32,14 @@ Ukazka::Ukazka(Program& program, const QString& slozkaObrazku)
     : program_(program), slozka_(slozkaObrazku), hmaty_(kockaLezeDirou()) {}
 
 void Ukazka::prehraj() {
-    if (!QTest::qWaitForWindowActive(&program_.okno(), trpelivost))
+    // Two windows come up at once and either may get the keyboard: the player turns to the main one.
+    if (!QTest::qWaitForWindowExposed(&program_.okno(), trpelivost))
         throw std::runtime_error("hlavní okno není vidět");
+    for (int pokus = 0; pokus < 10 && !program_.okno().isActiveWindow(); ++pokus) {
+        program_.prejdiNaHlavniOkno();
+        QTest::qWaitForWindowActive(&program_.okno(), trpelivost / 10);
+    }
+    if (!program_.okno().isActiveWindow()) throw std::runtime_error("hlavní okno nedostalo klávesnici");
     obrazek("spusteno");
     zvolToninu();
     zalozPisen();
