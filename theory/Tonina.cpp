@@ -1,7 +1,5 @@
 #include "theory/Tonina.h"
 
-#include "theory/Toniny.h"
-
 namespace zvonika {
 
 Tonina::Tonina(QObject* parent) : QObject(parent) {}
@@ -10,10 +8,6 @@ void Tonina::nastavStupnici(const Key& stupnice) {
     if (stupnice == stupnice_) return;
     stupnice_ = stupnice;
     Q_EMIT changed();
-}
-
-bool Tonina::jeZvolena() const {
-    return najdiToninu(stupnice_) != nullptr;
 }
 
 } // namespace zvonika

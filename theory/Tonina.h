@@ -16,9 +16,6 @@ public:
     const Key& stupnice() const { return stupnice_; }
     void nastavStupnici(const Key& stupnice);
 
-    /// One of the 15 keys is chosen.
-    bool jeZvolena() const;
-
 Q_SIGNALS:
     void changed();
 

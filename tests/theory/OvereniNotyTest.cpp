@@ -183,7 +183,6 @@ TEST_F(VolbaStupniceTest, OkChoosesTheKeyAndPreparesTheStaff) {
                        "As dur,Des dur,Ges dur,Ces dur")
             .split(QLatin1Char(','));
     EXPECT_EQ(tonina.stupnice(), stupnice("Vyberte tóninu"));
-    EXPECT_FALSE(tonina.jeZvolena());
     int zmen = 0;
     QObject::connect(&tonina, &Tonina::changed, [&] { ++zmen; });
     for (int i = 0; i < 15; ++i) {
@@ -191,7 +190,6 @@ TEST_F(VolbaStupniceTest, OkChoosesTheKeyAndPreparesTheStaff) {
         EXPECT_EQ(tonina.stupnice().text(), popisky[i]);
         EXPECT_EQ(osnova.stupnice(), tonina.stupnice());
         EXPECT_EQ(osnova.predznamenani().pocet(), i < 8 ? i : i - 7);
-        EXPECT_TRUE(tonina.jeZvolena());
     }
     EXPECT_EQ(zmen, 15);
 }
