@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <array>
+#include <pugixml.hpp>
 
 namespace zvonika {
 
@@ -29,8 +30,7 @@ public:
     const QString& chyba() const { return chyba_; }
 
 private:
-    QString nactiSoubor(QByteArray& obsah) const;
-    QString nactiPolozky(const QByteArray& obsah);
+    QString nactiPolozky(const pugi::xml_document& dokument);
     bool pridej(int bas, const QString& nazev);
 
     QString soubor_;

@@ -1,0 +1,40 @@
+#include "theory/TabulkaNot.h"
+
+#include "platform/XmlTable.h"
+
+#include <algorithm>
+
+namespace zvonika {
+
+namespace {
+
+/// The fewest entries that conversion and intervals together reach for: the heading and 57 tones.
+constexpr int nejmenePolozek = 58;
+
+bool jeMimoStupnici(const pugi::xml_node& polozka) {
+    return !polozka.attribute("mimoStupnici").empty();
+}
+
+} // namespace
+
+TabulkaNot::TabulkaNot(const QString& slozkaProgramu) {
+    const QString jmeno = QStringLiteral("Tabulka tónů konverze.xml");
+    chyba_ = loadXmlTable(slozkaProgramu + QStringLiteral("/konverze.xml"), jmeno, dokument_);
+    for (const auto& nalez : dokument_.select_nodes("//nota"))
+        polozky_.push_back(nalez.node());
+    const auto prvniMimo = std::find_if(polozky_.cbegin(), polozky_.cend(), jeMimoStupnici);
+    pocetStupnu_ = static_cast<int>(prvniMimo - polozky_.cbegin());
+    if (chyba_.isEmpty() && pocet() < nejmenePolozek)
+        chyba_ = jmeno + QStringLiteral(" není celá: položek nota má mít nejméně %1, má jich %2.")
+                             .arg(nejmenePolozek)
+                             .arg(pocet());
+}
+
+std::optional<QString> TabulkaNot::ton(int polozka, const QString& tonina) const {
+    if (polozka < 0 || polozka >= pocet()) return std::nullopt;
+    const auto prvek = polozky_[static_cast<std::size_t>(polozka)].child(tonina.toUtf8().constData());
+    if (!prvek) return std::nullopt;
+    return QString::fromUtf8(prvek.text().get());
+}
+
+} // namespace zvonika
