@@ -1,59 +1,23 @@
 #include "song/embedded/EmbeddedApplication.h"
 
-#include "song/embedded/FileSentences.h"
 #include "song/embedded/Saving.h"
 
-#include <QDir>
 #include <QFileInfo>
 
 namespace zvonika {
 
 namespace {
 
-const QString section = QStringLiteral("Tabulka");
-const QString folderKey = QStringLiteral("DefaultFilePath");
-const QString documentsFolder = QStringLiteral("C:\\Dokumenty");
-const QString xlsEnding = QStringLiteral(".xls");
-
 [[noreturn]] void refuse(const QString& sentence) {
     throw AutomationError(error::applicationDefined, sentence);
-}
-
-bool hasDrive(const QString& path) {
-    return path.size() >= 2 && path.at(1) == QLatin1Char(':') && path.at(0).isLetter();
-}
-
-bool isSlash(QChar c) {
-    return c == QLatin1Char('/') || c == QLatin1Char('\\');
-}
-
-bool isBareName(const QString& name) {
-    return !hasDrive(name) && std::none_of(name.begin(), name.end(), isSlash);
-}
-
-bool isFullName(const QString& name) {
-    return hasDrive(name) || (!name.isEmpty() && isSlash(name.front()));
-}
-
-/// The one form of saving that this application knows.
-void refuseOtherForms(const SaveAsArguments& arguments) {
-    const SaveAsArguments known;
-    if (arguments.fileFormat != known.fileFormat)
-        refuse(QStringLiteral("Sešit lze uložit jen v běžném formátu .xls."));
-    if (!arguments.password.isEmpty() || !arguments.writeResPassword.isEmpty())
-        refuse(QStringLiteral("Sešit nelze uložit s heslem."));
-    if (arguments.readOnlyRecommended || arguments.createBackup)
-        refuse(QStringLiteral("Sešit nelze uložit se záložní kopií ani s doporučením jen ke čtení."));
 }
 
 } // namespace
 
 EmbeddedApplication::EmbeddedApplication(Drive& drive, Dialogs& dialogs, SettingsStore& settings,
                                          SheetViewFactory makeView)
-    : drive_(drive), settings_(settings), makeView_(std::move(makeView)),
-      defaultFilePath_(settings.getOr(section, folderKey, documentsFolder)), commands_(session_),
-      session_(dialogs) {
-    session_.setFolder([this] { return drive_.nativePath(defaultFilePath()); });
+    : places_(drive, settings), makeView_(std::move(makeView)), commands_(session_), session_(dialogs) {
+    session_.setFolder([this] { return places_.folder(); });
 }
 
 EmbeddedApplication::~EmbeddedApplication() = default;
@@ -71,15 +35,11 @@ Document& EmbeddedApplication::document() const {
 }
 
 QString EmbeddedApplication::defaultFilePath() const {
-    // Looked at each time: the folder may come into being while the application runs.
-    const bool lost = defaultFilePath_.isEmpty() || !drive_.folderExists(defaultFilePath_);
-    return inherited_ && lost ? documentsFolder : defaultFilePath_;
+    return places_.defaultFilePath();
 }
 
 void EmbeddedApplication::setDefaultFilePath(const QString& path) {
-    defaultFilePath_ = path;
-    inherited_ = false;
-    settings_.save(section, folderKey, path);
+    places_.setDefaultFilePath(path);
 }
 
 void EmbeddedApplication::setVisible(bool visible) {
@@ -112,18 +72,10 @@ void EmbeddedApplication::addWorkbook() {
     session_.add(std::make_unique<Document>(session_.nextName()));
 }
 
-QString EmbeddedApplication::nativeFile(const QString& fullName) const {
-    if (fullName.isEmpty()) refuse(QStringLiteral("Chybí jméno souboru."));
-    const bool full = isFullName(fullName);
-    const QString native = full ? drive_.nativePath(fullName) : session_.folder();
-    if (native.isEmpty()) refuse(driveMissing(full ? fullName : defaultFilePath()));
-    return full ? native : native + QLatin1Char('/') + fullName;
-}
-
 void EmbeddedApplication::openWorkbook(const QString& fullName) {
     requireRunning();
     const Session::ProgramCall call(session_);
-    const QString path = nativeFile(fullName);
+    const QString path = places_.nativeFile(fullName);
     session_.refuseTwin(QFileInfo(path).fileName());
     session_.add(Document::open(path));
 }
@@ -133,17 +85,11 @@ std::optional<QString> EmbeddedApplication::getOpenFilename(const QString& filte
     return session_.dialogs().openFile(title, filter, session_.folder());
 }
 
-QString EmbeddedApplication::saveName(const QString& filename) const {
-    const bool complete =
-        !isBareName(filename) || filename.isEmpty() || filename.endsWith(xlsEnding, Qt::CaseInsensitive);
-    return nativeFile(complete ? filename : filename + xlsEnding);
-}
-
 void EmbeddedApplication::saveActiveWorkbookAs(const SaveAsArguments& arguments) {
     document();
     const Session::ProgramCall call(session_);
     refuseOtherForms(arguments);
-    saveUnder(saveName(arguments.filename));
+    saveUnder(places_.saveName(arguments.filename));
 }
 
 void EmbeddedApplication::saveUnder(const QString& nativePath) {
@@ -166,7 +112,7 @@ void EmbeddedApplication::saveActiveWorkbook() {
     const Session::ProgramCall call(session_);
     Document& saved = document();
     if (saved.path().isEmpty())
-        saveUnder(saveName(saved.name()));
+        saveUnder(places_.saveName(saved.name()));
     else
         saved.save();
 }

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "platform/Drive.h"
-#include "platform/SettingsStore.h"
 #include "song/SpreadsheetApplication.h"
+#include "song/WorkbookPlaces.h"
 #include "song/embedded/Session.h"
 #include "song/embedded/SheetCommands.h"
 
@@ -27,7 +26,6 @@ public:
     const Session& session() const { return session_; }
 
     QString defaultFilePath() const override;
-    /// A folder that does not exist is kept; the next instance has "C:\Dokumenty" for as long as it is missing.
     void setDefaultFilePath(const QString& path) override;
     void setVisible(bool visible) override;
     /// Asks as `Saving::offerUnsaved`; what the user does not save is dropped.
@@ -73,16 +71,11 @@ public:
 private:
     void requireRunning() const;
     Document& document() const;
-    QString nativeFile(const QString& fullName) const;
-    QString saveName(const QString& filename) const;
     void saveUnder(const QString& nativePath);
     bool mayReplace(const QString& name);
 
-    Drive& drive_;
-    SettingsStore& settings_;
+    WorkbookPlaces places_;
     SheetViewFactory makeView_;
-    QString defaultFilePath_;
-    bool inherited_ = true; ///< the default folder comes from an earlier instance
     CellBlock clipboard_;
     SheetCommands commands_; ///< before the session, whose window uses it to the end
     Session session_;

@@ -1,4 +1,4 @@
-#include "song/embedded/CellSearch.h"
+#include "song/CellSearch.h"
 #include "song/embedded/EmbeddedApplication.h"
 
 namespace zvonika {
@@ -20,6 +20,18 @@ CellBlock blockOf(const Document& document, const CellRange& range) {
     if (qint64{range.rows()} * range.columns() > largestBlock)
         refuse(QStringLiteral("Oblast je příliš velká."));
     return document.block(document.activeSheet(), range);
+}
+
+/// The active sheet of `document`, which outlives the result.
+SearchedSheet searched(const Document& document) {
+    const int sheet = document.activeSheet();
+    const auto [range, active] = document.selection();
+    return {range,
+            active,
+            {document.usedRows(sheet), document.usedColumns(sheet)},
+            [&document, sheet](CellPosition cell) { return document.value(sheet, cell); },
+            [&document, sheet](CellPosition cell) { return document.displayText(sheet, cell); },
+            [&document, sheet](CellPosition cell) { return document.isFormula(sheet, cell); }};
 }
 
 } // namespace
@@ -116,7 +128,7 @@ void EmbeddedApplication::clearContents(const QString& address) {
 
 void EmbeddedApplication::findAndActivate(const FindArguments& arguments) {
     Document& active = document();
-    const auto found = findCell(active, arguments);
+    const auto found = findCell(searched(active), arguments);
     if (!found) throw AutomationError(error::objectNotSet, QStringLiteral("Hledaná buňka nebyla nalezena."));
     const CellRange selected = active.selection().range;
     active.select(selected.contains(*found) ? selected : single(*found), *found);

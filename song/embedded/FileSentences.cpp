@@ -106,10 +106,6 @@ QString saveRefused(const QString& nativePath) {
         .arg(fileName(nativePath));
 }
 
-QString driveMissing(const QString& path) {
-    return QStringLiteral("Disk „%1“ na tomto počítači není.").arg(path.left(2));
-}
-
 QString openElsewhere(const QString& nativePath, const QString& who) {
     const QString sentence = QStringLiteral("Soubor „%1“ je už otevřen jinde").arg(fileName(nativePath));
     return who.isEmpty() ? sentence + QLatin1Char('.') : QStringLiteral("%1 (%2).").arg(sentence, who);

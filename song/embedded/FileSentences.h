@@ -14,8 +14,6 @@ QString openRefused(const QString& nativePath, std::errc error);
 QString saveRefused(const QString& nativePath, const std::error_code& error);
 /// The file is all right; its contents could not be put together.
 QString saveRefused(const QString& nativePath);
-/// The drive letter of `path` ("D:\...") means nothing here.
-QString driveMissing(const QString& path);
 /// `who`: what is known of the one who has the file open, may be empty.
 QString openElsewhere(const QString& nativePath, const QString& who);
 

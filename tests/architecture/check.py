@@ -24,7 +24,7 @@ FLOORS = [
     (r"^board/(Prstoklad|KlikDiskantu|Uvolneni|ZapisHmatu|ZapisHmatuZNot|ZapisNoty|ZapisBasu|RadekZapisu|PoZapisu)\b", 4),
     (r"^conversion/|^aids/", 4),
     (r"^board/|^song/(Grip|SongSheet|SongPanel|Pas|ZobrazovaciOsnova|CommandStates)\b", 3),
-    (r"^song/(embedded|libreoffice|excel)/|^song/(SpreadsheetApplication|CellValue|Address)\b", 2),
+    (r"^song/(embedded|libreoffice|excel)/|^song/(SpreadsheetApplication|CellValue|CellSearch|Address|WorkbookPlaces)\b", 2),
     (r"^theory/|^song/xls/|^platform/", 1),
 ]
 

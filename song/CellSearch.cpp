@@ -1,6 +1,4 @@
-#include "song/embedded/CellSearch.h"
-
-#include "song/embedded/CellEntry.h"
+#include "song/CellSearch.h"
 
 #include <algorithm>
 
@@ -19,15 +17,14 @@ constexpr CellRange wholeSheet{{1, 1}, {lastRow, lastColumn}};
 
 class Matcher {
 public:
-    Matcher(const Document& document, const FindArguments& arguments)
-        : document_(document), arguments_(arguments),
+    Matcher(const SearchedSheet& sheet, const FindArguments& arguments)
+        : sheet_(sheet), arguments_(arguments),
           sensitivity_(arguments.matchCase ? Qt::CaseSensitive : Qt::CaseInsensitive) {}
 
     bool operator()(CellPosition cell) const {
-        const int sheet = document_.activeSheet();
-        const CellValue value = document_.value(sheet, cell);
-        if (!arguments_.what.isEmpty()) return matches(displayText(value));
-        return isEmpty(value) && (arguments_.lookIn != find::formulas || !document_.isFormula(sheet, cell));
+        if (!arguments_.what.isEmpty()) return matches(sheet_.shown(cell));
+        return isEmpty(sheet_.value(cell)) &&
+               (arguments_.lookIn != find::formulas || !sheet_.isFormula(cell));
     }
 
 private:
@@ -36,20 +33,10 @@ private:
                                                 : text.contains(arguments_.what, sensitivity_);
     }
 
-    const Document& document_;
+    const SearchedSheet& sheet_;
     const FindArguments& arguments_;
     Qt::CaseSensitivity sensitivity_;
 };
-
-/// Beyond the used part of the sheet every cell is as empty as the first one there.
-CellRange worthSearching(const Document& document) {
-    const auto [range, active] = document.selection();
-    const CellRange all = range.first == range.last ? wholeSheet : range;
-    const int sheet = document.activeSheet();
-    const int row = std::max({document.usedRows(sheet) + 1, active.row, all.first.row});
-    const int column = std::max({document.usedColumns(sheet) + 1, active.column, all.first.column});
-    return {all.first, {std::min(all.last.row, row), std::min(all.last.column, column)}};
-}
 
 /// The cells of a range in the order of a search, numbered from 0.
 struct SearchOrder {
@@ -71,10 +58,18 @@ struct SearchOrder {
 
 } // namespace
 
-std::optional<CellPosition> findCell(const Document& document, const FindArguments& arguments) {
-    const Matcher matches(document, arguments);
-    const SearchOrder order{worthSearching(document), arguments.searchOrder == find::byColumns};
-    const qint64 start = order.indexOf(document.selection().active), count = order.count();
+// Beyond the used part of the sheet every cell is as empty as the first one there.
+CellRange searchedPart(const SearchedSheet& sheet) {
+    const CellRange all = sheet.selection.first == sheet.selection.last ? wholeSheet : sheet.selection;
+    const int row = std::max({sheet.used.row + 1, sheet.active.row, all.first.row});
+    const int column = std::max({sheet.used.column + 1, sheet.active.column, all.first.column});
+    return {all.first, {std::min(all.last.row, row), std::min(all.last.column, column)}};
+}
+
+std::optional<CellPosition> findCell(const SearchedSheet& sheet, const FindArguments& arguments) {
+    const Matcher matches(sheet, arguments);
+    const SearchOrder order{searchedPart(sheet), arguments.searchOrder == find::byColumns};
+    const qint64 start = order.indexOf(sheet.active), count = order.count();
     const qint64 step = arguments.searchDirection == find::previous ? count - 1 : 1;
     for (qint64 done = 1, index = start; done <= count; ++done) {
         index = (index + step) % count;
