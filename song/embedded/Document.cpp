@@ -62,7 +62,7 @@ void Document::writeCursor() {
 }
 
 bool Document::isConverted() const {
-    return book_.isConverted();
+    return book_.isOldFormat();
 }
 
 void Document::save() {

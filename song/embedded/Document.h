@@ -110,6 +110,8 @@ private:
 
     void requireSheet(int sheet) const;
     void put(int sheet, CellPosition cell, const CellValue& value);
+    [[noreturn]] void refuseArray(int sheet, CellPosition cell) const;
+    CellChange changeTo(int sheet, CellPosition cell, const CellValue& after) const;
     bool differs(int sheet, CellPosition cell, const CellValue& value) const;
     CellRange usedPart(int sheet, const CellRange& range) const;
     std::vector<CellChange> changesBy(int sheet, CellPosition first, const CellBlock& block) const;

@@ -13,6 +13,10 @@ namespace {
 constexpr qsizetype longestText = 32767; ///< UTF-16 units in one cell
 constexpr qint64 largestFill = qint64{1} << 20;
 
+CellPosition position(xls::CellRef cell) {
+    return {cell.row + 1, cell.column + 1};
+}
+
 [[noreturn]] void refuse(const QString& sentence) {
     throw RuntimeError(error::applicationDefined, sentence);
 }
@@ -74,12 +78,19 @@ void refuseLargeFill(const CellRange& range) {
 
 } // namespace
 
+void Document::refuseArray(int sheet, CellPosition cell) const {
+    const auto array = book_.arrayAround(sheet - 1, {cell.row - 1, cell.column - 1});
+    if (!array) refuse(QStringLiteral("Buňku %1 nelze změnit.").arg(absoluteAddress(cell)));
+    const CellRange range{position(array->first), position(array->last)};
+    refuse(QStringLiteral("Buňku %1 nelze změnit samotnou: patří k maticovému vzorci v oblasti %2.")
+               .arg(absoluteAddress(cell), absoluteAddress(range)));
+}
+
 void Document::put(int sheet, CellPosition cell, const CellValue& value) {
     try {
         book_.setValue(sheet - 1, {cell.row - 1, cell.column - 1}, toXls(value));
     } catch (const std::invalid_argument&) {
-        refuse(
-            QStringLiteral("Buňku %1 nelze změnit: patří k maticovému vzorci.").arg(absoluteAddress(cell)));
+        refuseArray(sheet, cell);
     } catch (const std::bad_alloc&) {
         refuse(QStringLiteral("Buňku %1 nelze změnit: nestačí paměť počítače.").arg(absoluteAddress(cell)));
     }
@@ -98,10 +109,14 @@ CellRange Document::usedPart(int sheet, const CellRange& range) const {
             {std::min(range.last.row, usedRows(sheet)), std::min(range.last.column, usedColumns(sheet))}};
 }
 
+CellChange Document::changeTo(int sheet, CellPosition cell, const CellValue& after) const {
+    return {cell, value(sheet, cell), after, isFormula(sheet, cell)};
+}
+
 std::vector<CellChange> Document::changesBy(int sheet, CellPosition first, const CellBlock& block) const {
     std::vector<CellChange> changes;
     forCells(first, block, [&](CellPosition cell, const CellValue& after) {
-        if (differs(sheet, cell, after)) changes.push_back({cell, value(sheet, cell), after});
+        if (differs(sheet, cell, after)) changes.push_back(changeTo(sheet, cell, after));
     });
     return changes;
 }
@@ -112,7 +127,7 @@ std::vector<CellChange> Document::changesBy(int sheet, const CellRange& range, c
     refuseLargeFill(part);
     std::vector<CellChange> changes;
     forCells(part, [&](CellPosition cell) {
-        if (differs(sheet, cell, after)) changes.push_back({cell, value(sheet, cell), after});
+        if (differs(sheet, cell, after)) changes.push_back(changeTo(sheet, cell, after));
     });
     return changes;
 }
@@ -191,9 +206,8 @@ bool Document::deleteRow(int sheet, int row) {
     if (row > usedRows(sheet)) return false;
     refuseFormulas(sheet, row);
     UndoStep step{UndoStep::Kind::DeleteRow, QStringLiteral("Odstranění řádku"), sheet, row, {}};
-    forCells({{row, 1}, {row, usedColumns(sheet)}}, [&](CellPosition cell) {
-        step.changes.push_back({cell, value(sheet, cell), {}});
-    });
+    forCells({{row, 1}, {row, usedColumns(sheet)}},
+             [&](CellPosition cell) { step.changes.push_back(changeTo(sheet, cell, {})); });
     return commit(std::move(step));
 }
 
@@ -232,7 +246,10 @@ void Document::exchange(const UndoStep& step, bool back) {
     }
     if (cellsOnly || back)
         for (const auto& change : step.changes)
-            put(step.sheet, change.cell, back ? change.before : change.after);
+            if (back && change.wasFormula)
+                book_.restoreCell(step.sheet - 1, {change.cell.row - 1, change.cell.column - 1});
+            else
+                put(step.sheet, change.cell, back ? change.before : change.after);
     changed(step.sheet, cellsOnly ? around(step.changes) : below);
 }
 

@@ -21,6 +21,16 @@ QString reason(xls::Refusal refusal) {
         return QStringLiteral("je prázdný");
     case xls::Refusal::NotXls:
         return QStringLiteral("není to sešit ve formátu .xls");
+    case xls::Refusal::Xlsx:
+        return QStringLiteral("podle obsahu je to sešit v novějším formátu .xlsx");
+    case xls::Refusal::OpenDocument:
+        return QStringLiteral("podle obsahu je to sešit ve formátu OpenDocument (.ods)");
+    case xls::Refusal::Html:
+        return QStringLiteral("podle obsahu je to webová stránka (HTML)");
+    case xls::Refusal::Xml2003:
+        return QStringLiteral("podle obsahu je to tabulka XML 2003");
+    case xls::Refusal::PlainText:
+        return QStringLiteral("podle obsahu je to prostý text (CSV)");
     case xls::Refusal::OtherFormat:
         return QStringLiteral("podle obsahu je to jiný formát než .xls");
     case xls::Refusal::Encrypted:

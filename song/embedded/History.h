@@ -13,6 +13,7 @@ struct CellChange {
     CellPosition cell;
     CellValue before;
     CellValue after;
+    bool wasFormula = false; ///< before: taking back brings the formula, not only the value it showed
 };
 
 /// One thing that the user did, as he would take it back: cells changed, or one row put in or taken out.

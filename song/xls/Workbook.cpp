@@ -52,6 +52,10 @@ CellKey keyOf(CellRef cell) {
     return cellKey(static_cast<std::uint32_t>(cell.row), static_cast<std::uint32_t>(cell.column));
 }
 
+CellRef refOf(CellKey key) {
+    return {static_cast<int>(rowOf(key)), static_cast<int>(columnOf(key))};
+}
+
 /// Like ==, but tells -0.0 from 0.0 and knows a NaN again.
 bool sameValue(const Value& a, const Value& b) {
     const double* x = std::get_if<double>(&a);
@@ -199,7 +203,7 @@ void Workbook::setValue(int sheet, CellRef cell, const Value& value) {
     const auto* text = std::get_if<std::u16string>(&value);
     if (text && text->size() > maxTextUnits)
         throw std::invalid_argument("a cell holds at most 32767 characters");
-    if (isPartOfArray(impl_->model.stream, layout, key))
+    if (xls::arrayAround(impl_->model.stream, layout, key))
         throw std::invalid_argument("a part of an array formula or data table cannot be changed");
     auto& cells = impl_->edits.sheets[index].cells;
     if (!impl_->isFileFormula(index, key) && sameValue(value, impl_->fileValue(index, key)))
@@ -213,6 +217,19 @@ bool Workbook::isFormula(int sheet, CellRef cell) const {
     const std::size_t index = impl_->sheet(sheet);
     const CellKey key = keyOf(cell);
     return !impl_->edits.sheets[index].cells.contains(key) && impl_->isFileFormula(index, key);
+}
+
+void Workbook::restoreCell(int sheet, CellRef cell) {
+    const std::size_t index = impl_->sheet(sheet);
+    const CellKey key = keyOf(cell);
+    if (impl_->edits.sheets[index].cells.erase(key) == 0) return;
+    impl_->uses[index].changed(key, !std::holds_alternative<std::monostate>(impl_->fileValue(index, key)));
+}
+
+std::optional<CellSpan> Workbook::arrayAround(int sheet, CellRef cell) const {
+    const std::size_t index = impl_->sheet(sheet);
+    const auto span = xls::arrayAround(impl_->model.stream, impl_->model.layouts[index], keyOf(cell));
+    return span ? std::optional(CellSpan{refOf(span->first), refOf(span->last)}) : std::nullopt;
 }
 
 int Workbook::usedRows(int sheet) const {
@@ -258,7 +275,7 @@ CellRef Workbook::activeCell(int sheet) const {
     const auto& changed = impl_->edits.sheets[index].activeCell;
     const CellKey key =
         changed ? *changed : xls::activeCell(impl_->model.stream, impl_->model.layouts[index]);
-    return {static_cast<int>(rowOf(key)), static_cast<int>(columnOf(key))};
+    return refOf(key);
 }
 
 void Workbook::setActiveCell(int sheet, CellRef cell) {
@@ -274,7 +291,7 @@ bool Workbook::isModified() const {
     return impl_->created || edits.activeSheet || !std::ranges::all_of(edits.sheets, &SheetEdits::empty);
 }
 
-bool Workbook::isConverted() const {
+bool Workbook::isOldFormat() const {
     return false;
 }
 

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -21,6 +22,13 @@ struct CellRef {
     int row = 0;
     int column = 0;
     friend bool operator==(const CellRef&, const CellRef&) = default;
+};
+
+/// A rectangle of cells, both corners included.
+struct CellSpan {
+    CellRef first;
+    CellRef last;
+    friend bool operator==(const CellSpan&, const CellSpan&) = default;
 };
 
 /// An .xls workbook as an editor sees it: everything that was in the file stays in it, records and streams
@@ -52,12 +60,19 @@ public:
     Value value(int sheet, CellRef cell) const;
     /// Replaces the cell's contents; std::monostate empties it (the cell's format stays). A formula there is
     /// replaced. A text may have up to 32,767 UTF-16 units (std::invalid_argument beyond).
-    /// A number that is not finite becomes the error #NUM!. Throws std::invalid_argument for a part of an
-    /// array formula over several cells or of a data table, which can only be changed as a whole. A formula
-    /// that other cells share goes on to the next of them. Results of formulas that depend on the cell stay
-    /// as stored.
+    /// A number that is not finite becomes the error #NUM!. Throws std::invalid_argument for a cell that
+    /// `arrayAround` tells of. A formula that other cells share goes on to the next of them. Results of
+    /// formulas that depend on the cell stay as stored; `save` marks them as not calculated.
     void setValue(int sheet, CellRef cell, const Value& value);
+    /// True while the cell shows a formula of the file. Formulas are kept, never calculated or made here.
     bool isFormula(int sheet, CellRef cell) const;
+    /// Takes back what was written over the cell since `open`: it holds again what the file held, a formula
+    /// with its stored result, shared part and format included. A `save` in between makes no difference.
+    void restoreCell(int sheet, CellRef cell);
+    /// The cells of the array formula or data table that the cell is a part of: they can only be changed
+    /// together, and their contents depend on each other, so `setValue` refuses each of them. None for
+    /// all other cells, an array formula of a single cell among them.
+    std::optional<CellSpan> arrayAround(int sheet, CellRef cell) const;
 
     /// One past the last row/column that holds a value; 0 in an empty sheet.
     int usedRows(int sheet) const;
@@ -77,9 +92,10 @@ public:
 
     /// True when `save` would give other bytes than were read (always for a created workbook).
     bool isModified() const;
-    /// True when the file is of an older BIFF version that `save` writes back as BIFF8. (So far `open`
-    /// refuses such files as OldFormat.)
-    bool isConverted() const;
+    /// True when the file is of an older BIFF version than the engine writes: say so before the first save.
+    /// `save` without a change still gives the bytes that were read; with a change it writes a BIFF8
+    /// workbook.
+    bool isOldFormat() const;
 
 private:
     struct Impl;

@@ -73,6 +73,9 @@ private:
         case RecordType::DbCell:
             takeBlock(record);
             break;
+        case RecordType::Uncalced:
+            keepFirst(layout_.uncalced, record, 0);
+            break;
         case RecordType::Index:
             keepFirst(layout_.index, record, 16);
             break;
@@ -125,6 +128,7 @@ private:
                               "a shared string below " + std::to_string(sharedStrings_),
                               std::to_string(record.u32(6)));
         layout_.sharedTexts += record.is(RecordType::LabelSst);
+        layout_.formulas += record.is(RecordType::Formula);
         const std::uint32_t row = cellRow(record);
         for (std::uint32_t i = 0; i < run.count; ++i)
             layout_.cells.push_back({cellKey(row, run.first + i), record.offset});

@@ -33,6 +33,7 @@ class SheetLayout {
 public:
     std::uint32_t start = 0; ///< Bof
     std::uint32_t eof = 0;
+    std::uint32_t uncalced = absent;
     std::uint32_t index = absent;
     std::uint32_t dimensions = absent;
     std::uint32_t defColWidth = absent;
@@ -46,6 +47,7 @@ public:
     std::vector<CellSlot> cells;   ///< sorted by key; of duplicates the later record comes last
     std::vector<RowSlot> rows;     ///< sorted by row
     std::uint32_t sharedTexts = 0; ///< LabelSst records
+    std::uint32_t formulas = 0;    ///< Formula records
     std::uint32_t dbCells = 0;     ///< DbCell records, those of no rows included
     std::vector<RowBlock> blocks;  ///< in the order of the stream; empty when the sheet has no DbCell records
 

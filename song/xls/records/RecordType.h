@@ -33,6 +33,7 @@ namespace zvonika::xls {
     X(CodePage, 0x0042)                                                                                      \
     X(DefColWidth, 0x0055)                                                                                   \
     X(WriteAccess, 0x005C)                                                                                   \
+    X(Uncalced, 0x005E)                                                                                      \
     X(SaveRecalc, 0x005F)                                                                                    \
     X(ColInfo, 0x007D)                                                                                       \
     X(Guts, 0x0080)                                                                                          \

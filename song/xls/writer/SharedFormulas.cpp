@@ -19,9 +19,10 @@ std::uint32_t attached(ByteView stream, std::uint32_t offset, RecordType type) {
     return absent;
 }
 
-bool coversSeveralCells(const Record& array) {
-    if (array.payload.size() < 6) return true;
-    return array.u16(0) != array.u16(2) || array.u8(4) != array.u8(5);
+/// The range that an Array or Table record names.
+std::optional<ArrayCells> rangeOf(const Record& array) {
+    if (array.payload.size() < 6) return std::nullopt;
+    return ArrayCells{cellKey(array.u16(0), array.u8(4)), cellKey(array.u16(2), array.u8(5))};
 }
 
 using Members = std::vector<CellSlot>;
@@ -65,17 +66,22 @@ void moveTo(SheetPatch& patch, const Record& formula, const Members& heirs) {
 
 } // namespace
 
-bool isPartOfArray(ByteView stream, const SheetLayout& layout, CellKey key) {
+std::optional<ArrayCells> arrayAround(ByteView stream, const SheetLayout& layout, CellKey key) {
     const CellSlot* slot = layout.findCell(key);
-    if (!slot) return false;
+    if (!slot) return std::nullopt;
     const Record record = recordAt(stream, slot->record);
     const auto anchor = record.is(RecordType::Formula) ? formulaAnchor(record) : std::nullopt;
-    if (!anchor || anchor->isTable) return anchor.has_value();
+    if (!anchor) return std::nullopt;
+    const ArrayCells alone{key, key}; // damaged: a part of something whose extent is not known
     const CellSlot* holder = layout.findCell(anchor->key);
-    if (!holder) return false;
-    if (attached(stream, holder->record, RecordType::Table) != absent) return true;
+    if (!holder) return anchor->isTable ? std::optional(alone) : std::nullopt;
+    const std::uint32_t table = attached(stream, holder->record, RecordType::Table);
+    if (table != absent) return rangeOf(recordAt(stream, table)).value_or(alone);
     const std::uint32_t array = attached(stream, holder->record, RecordType::Array);
-    return array != absent && coversSeveralCells(recordAt(stream, array));
+    if (array == absent) return anchor->isTable ? std::optional(alone) : std::nullopt;
+    const ArrayCells range = rangeOf(recordAt(stream, array)).value_or(alone);
+    if (!anchor->isTable && range.first == range.last && range.first == key) return std::nullopt;
+    return range;
 }
 
 void moveSharedFormulas(SheetPatch& patch, std::span<const CellChange> changes) {

@@ -33,6 +33,8 @@ public:
         texts.apply(references(), patches_);
         for (std::size_t i = 0; i < changes_.size(); ++i)
             patchSheet(i);
+        if (std::ranges::any_of(changes_, [](const Changes& changes) { return !changes.empty(); }))
+            markFormulas();
         if (edits_.activeSheet) patchActiveSheet(model_, *edits_.activeSheet, patches_);
         patches_.finish();
         std::vector<std::uint8_t> out = patches_.apply(model_.stream);
@@ -109,6 +111,16 @@ private:
         CellInsertion(patch).insert(fresh);
         patchRowIndex(patch, fresh);
         return {!patch.changedBlocks.empty() || patch.newBlocks > 0, patch.newBlocks > 0};
+    }
+
+    /// Stored results may be out of date now. A program that calculates does it anew on opening where a sheet
+    /// says so; the formulas themselves keep every byte.
+    void markFormulas() {
+        std::vector<std::uint8_t> mark;
+        appendRecord(mark, RecordType::Uncalced, std::vector<std::uint8_t>(2));
+        for (const SheetLayout& layout : model_.layouts)
+            if (layout.formulas > 0 && layout.uncalced == absent)
+                patches_.insert(recordAt(model_.stream, layout.start).end(), mark);
     }
 
     void fixSheet(std::vector<std::uint8_t>& out, std::size_t i) const {

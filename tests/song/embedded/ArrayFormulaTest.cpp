@@ -44,7 +44,8 @@ protected:
     }
     Document& document() { return *app.session().active(); }
 
-    const QString refused = QStringLiteral("1004 Buňku $B$1 nelze změnit: patří k maticovému vzorci.");
+    const QString refused = QStringLiteral(
+        "1004 Buňku $B$1 nelze změnit samotnou: patří k maticovému vzorci v oblasti $B$1:$C$1.");
     EditCounter listener;
     std::unique_ptr<EmbeddedApplication> owned = launch();
     EmbeddedApplication& app = *owned;

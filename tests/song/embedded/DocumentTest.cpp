@@ -210,6 +210,11 @@ TEST_F(DocumentTest, FormulasAreReplacedOnPurposeAndNeverMoved) {
     EXPECT_FALSE(formulas->isModified());
     EXPECT_TRUE(formulas->edit(1, cell, {{formulas->value(1, cell)}}, psani));
     EXPECT_FALSE(formulas->isFormula(1, cell));
+    formulas->save();
+    EXPECT_TRUE(formulas->undo());
+    EXPECT_TRUE(formulas->isFormula(1, cell)) << "the formula comes back, not only what it showed";
+    EXPECT_TRUE(formulas->redo());
+    EXPECT_FALSE(formulas->isFormula(1, cell));
     formulas->write(1, at("F2"), {{formulas->value(1, at("F2"))}});
     EXPECT_FALSE(formulas->isFormula(1, at("F2")));
 }

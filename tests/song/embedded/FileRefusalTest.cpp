@@ -35,7 +35,7 @@ TEST_F(FileRefusalTest, OpeningSaysWhatIsWrong) {
     };
     make("prázdný.xls", {});
     make("dopis.xls", "Milá babičko, posílám Ti písničku.");
-    make("nový.xls", QByteArray("PK\x03\x04", 4) + QByteArray(100, '\0'));
+    make("nový.xls", QByteArray("PK\x03\x04", 4) + QByteArray(26, '\0') + "[Content_Types].xml");
     make("useknutý.xls", saved.left(saved.size() / 2));
     make("rozbitý.xls", QByteArray(saved).replace(30, 2, QByteArray(2, '\x55')));
     ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("složka.xls")));
@@ -43,8 +43,8 @@ TEST_F(FileRefusalTest, OpeningSaysWhatIsWrong) {
         {"není.xls", "neexistuje."},
         {"složka.xls", "je to složka."},
         {"prázdný.xls", "je prázdný."},
-        {"dopis.xls", "podle obsahu je to jiný formát než .xls."},
-        {"nový.xls", "podle obsahu je to jiný formát než .xls."},
+        {"dopis.xls", "podle obsahu je to prostý text (CSV)."},
+        {"nový.xls", "podle obsahu je to sešit v novějším formátu .xlsx."},
         {"useknutý.xls", "není celý, jeho konec chybí."},
         {"rozbitý.xls", "je poškozený."},
     };
@@ -61,7 +61,8 @@ TEST_F(FileRefusalTest, EveryRefusalOfTheEngineIsASentenceOfItsOwn) {
     using xls::Refusal;
     QStringList sentences;
     for (const auto refusal : {Refusal::Empty, Refusal::NotXls, Refusal::OtherFormat, Refusal::Encrypted,
-                               Refusal::OldFormat, Refusal::Truncated, Refusal::Damaged})
+                               Refusal::OldFormat, Refusal::Truncated, Refusal::Damaged, Refusal::Xlsx,
+                               Refusal::OpenDocument, Refusal::Html, Refusal::Xml2003, Refusal::PlainText})
         sentences << openRefused(good, refusal);
     EXPECT_EQ(sentences.removeDuplicates(), 0);
     EXPECT_EQ(sentences.value(3), QStringLiteral("Soubor „dobrá.xls“ nelze otevřít: je chráněn heslem."));

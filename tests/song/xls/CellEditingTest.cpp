@@ -107,6 +107,41 @@ TEST(Formula, TakesItsStoredTextWithItWhenReplaced) {
     expectTable(edited(table, {{{0, 1}, 1.0}}), {table[0], table[1], table[2], rk(0, 1, 15, 1), table[4]});
 }
 
+TEST(Formula, IsBackWhenItsCellIsRestored) {
+    const Rec text{0x0207, le(2, {3}) + Bytes{0, 'a', 'b', 'c'}};
+    const Bytes file = fileWithTable({row(0, 0, 2), formula(0, 0, textResult, {0x17, 1, 0, 'x'}), text});
+    Workbook book = Workbook::open(file);
+    book.setValue(0, {0, 0}, 1.0);
+    book.setValue(0, {7, 1}, 1.0);
+    EXPECT_NE(book.save(), file);
+    book.restoreCell(0, {0, 0});
+    book.restoreCell(0, {7, 1});
+    EXPECT_TRUE(book.isFormula(0, {0, 0}));
+    EXPECT_EQ(book.value(0, {0, 0}), Value(std::u16string(u"abc")));
+    EXPECT_EQ(book.usedRows(0), 1);
+    EXPECT_EQ(book.save(), file);
+}
+
+TEST(Formula, ResultsThatMayBeOutOfDateAreMarked) {
+    const Rec uncalced{0x005E, le(2, {0})};
+    const std::vector<Rec> table{row(0, 0, 2), formula(0, 0, Bytes(8), {0x1E, 5, 0}), numberCell(0, 1, 7.5)};
+    Workbook book = Workbook::open(fileWithTable(table));
+    book.setColumnWidth(0, 0, 999);
+    EXPECT_EQ(find(recordsOf(book.save()), uncalced.id), nullptr) << "a width is no value";
+    for (int turn = 0; turn < 2; ++turn) {
+        book.setValue(0, {0, 1}, 1.0 * turn);
+        const Bytes file = book.save();
+        EXPECT_EQ(offsetFaults(file), "");
+        const std::vector<Rec> all = recordsOf(file);
+        EXPECT_EQ(std::ranges::count(all, uncalced), 1);
+        EXPECT_EQ(*(std::ranges::find(all, uncalced) - 1), *(std::ranges::find(all, 0x020B, &Rec::id) - 2));
+        book = Workbook::open(file);
+    }
+    book = Workbook::open(fileWithTable({numberCell(0, 1, 7.5)}));
+    book.setValue(0, {0, 1}, 1.0);
+    EXPECT_EQ(find(recordsOf(book.save()), uncalced.id), nullptr) << "no formula, nothing to calculate";
+}
+
 TEST(SharedFormula, MovesOnToTheNextCellThatUsesIt) {
     const Bytes zero(8);
     const Rec shared{0x04BC, le(2, {0, 3}) + Bytes{0, 0, 0, 4} + le(2, {3}) + Bytes{0x1E, 5, 0}};
@@ -150,6 +185,8 @@ TEST(ArrayFormula, IsChangedAsAWholeOrNotAtAll) {
                                 formula(0, 1, zero, sharedWith(0, 0))};
     Workbook book = Workbook::open(fileWithTable(wide));
     EXPECT_THROW(book.setValue(0, {0, 0}, 1.0), std::invalid_argument);
+    EXPECT_EQ(book.arrayAround(0, {0, 1}), (CellSpan{{0, 0}, {0, 1}}));
+    EXPECT_EQ(book.arrayAround(0, {0, 2}), std::nullopt);
     EXPECT_THROW(book.setValue(0, {0, 1}, 1.0), std::invalid_argument);
     EXPECT_FALSE(book.isModified());
     const std::vector<Rec> single{row(0, 0, 1), formula(0, 0, zero, sharedWith(0, 0)), array(0)};

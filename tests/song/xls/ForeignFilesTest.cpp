@@ -52,9 +52,9 @@ TEST_P(ForeignFiles, WithoutAChangeAreSavedAsTheyWere) {
 }
 
 /// Records that a change of cells may touch: cells and what hangs on them, shared strings, rows and offsets.
-const std::set<std::uint16_t> mayChange{0x0006, 0x00BD, 0x00BE, 0x00D6, 0x00FD, 0x0201,
-                                        0x0203, 0x0204, 0x0205, 0x027E, 0x0207, 0x00D7,
-                                        0x0208, 0x020B, 0x0200, 0x00FC, 0x00FF, 0x0085};
+const std::set<std::uint16_t> mayChange{0x0006, 0x00BD, 0x00BE, 0x00D6, 0x00FD, 0x0201, 0x0203,
+                                        0x0204, 0x0205, 0x027E, 0x0207, 0x00D7, 0x0208, 0x020B,
+                                        0x0200, 0x00FC, 0x00FF, 0x0085, 0x005E};
 
 std::vector<Rec> untouchable(const Bytes& bytes) {
     std::vector<Rec> records = recordsOf(bytes);
@@ -98,12 +98,14 @@ TEST_P(ForeignFiles, ChangeOnlyTheRecordOfACellOfTheSameLength) {
     book.setValue(0, {2, 3}, 2e300);
     const Bytes saved = book.save();
     const std::vector<Rec> before = recordsOf(file);
-    const std::vector<Rec> after = recordsOf(saved);
+    std::vector<Rec> after = recordsOf(saved);
+    const std::size_t marks = std::erase_if(after, [](const Rec& record) { return record.id == 0x005E; });
+    EXPECT_EQ(marks, GetParam() == std::string("sheetjs.xls") ? 0U : 1U) << "the sheet with formulas";
     ASSERT_EQ(before.size(), after.size());
     int different = 0;
     for (std::size_t i = 0; i < before.size(); ++i)
-        different += !(before[i] == after[i]);
-    EXPECT_EQ(different, 1);
+        different += !(before[i] == after[i]) && before[i].id != 0x0085 && before[i].id != 0x020B;
+    EXPECT_EQ(different, 1) << "besides the offsets that the mark has moved";
 }
 
 TEST_P(ForeignFiles, SurviveManyRounds) {
