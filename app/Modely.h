@@ -7,6 +7,7 @@
 #include "song/Pas.h"
 #include "song/SongPanel.h"
 #include "song/SongSheet.h"
+#include "song/Timer1.h"
 #include "song/ZobrazovaciOsnova.h"
 #include "theory/NotovaOsnova.h"
 #include "theory/Tonina.h"
@@ -20,6 +21,7 @@ struct Modely {
     Pisen pisen;
     SongPanel panel;
     CommandStates stavy;
+    Timer1 timer1;
     Tonina tonina;
     TrebleBoard diskant;
     BassBoard basy;

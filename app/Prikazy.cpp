@@ -96,19 +96,8 @@ const QVector<Menu>& menuPrikazu() {
 
 const QStringList& dosudNedostupne() {
     static const QStringList tabulka = {
-        "mnuNastavCestu",
-        "mnuKonverze",
-        "mnuPrekrytRady",
-        "mnuOtocitHmatnik",
-        "mnu2Rady",
-        "mnuCislovat",
-        "mnuhtm",
-        "cmdInterval",
-        "cmdSpodInterval",
-        "cmdTimer",
-        "Slider1",
-        "lblTempo",
-        "cmdIntervalOdNejnizsiho",
+        "mnuNastavCestu", "mnuKonverze", "mnuPrekrytRady", "mnuOtocitHmatnik", "mnu2Rady",
+        "mnuCislovat",    "mnuhtm",      "cmdInterval",    "cmdSpodInterval",  "cmdIntervalOdNejnizsiho",
     };
     return tabulka;
 }

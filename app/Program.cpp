@@ -6,6 +6,8 @@
 #include "song/SpusteniExcelu.h"
 #include "song/StavovyRadek.h"
 
+#include <QApplication>
+
 #include <algorithm>
 
 namespace zvonika {
@@ -13,12 +15,13 @@ namespace zvonika {
 Program::Program(const Prostredi& prostredi)
     : prostredi_(prostredi), modely_(prostredi.drive.programFolder()),
       udalosti_(prostredi.dialogs, prostredi.shell),
-      konverzace_(modely_, prostredi_, [this] { vyberStupnici(); }) {
+      konverzace_(modely_, prostredi_, [this] { vyberStupnici(); }),
+      automat_(modely_.stavy, modely_.timer1, prostredi.hodiny, krokAutomatu()) {
     zaregistrujPrikazy();
     konverzace_.zivotPisne.stavBezPisne();
     for (const QString& prikaz : dosudNedostupne())
         modely_.stavy.zamkni(prikaz);
-    okno_ = std::make_unique<Form1>(modely_.panel, modely_.stavy, modely_.diskant);
+    okno_ = std::make_unique<Form1>(modely_.panel, modely_.stavy, modely_.diskant, modely_.timer1);
     postavNastroje();
     propojModely();
 }
@@ -74,6 +77,7 @@ void Program::zaregistrujPrikazy() {
         {"cmdReadTlak", [&k] { k.navigace.cmdReadTlak(); }},
         {"cmdJakDal", [&k] { k.navigace.cmdJakDal(); }},
         {"cmdJakDalZpet", [&k] { k.navigace.cmdJakDalZpet(); }},
+        {"cmdTimer", [this] { automat_.cmdTimer(); }},
         {"cmdOPrg", [this] { cmdOPrg(prostredi_.dialogs); }},
         {"mnuMailAutorovi",
          [this] {
@@ -98,11 +102,20 @@ void Program::proved(const QString& prikaz) {
     if (const Obsluha obsluha = prikazy_.value(prikaz)) provedUdalost(obsluha);
 }
 
-void Program::provedUdalost(const Obsluha& obsluha) {
-    if (udalosti_.bezi()) return;
+bool Program::provedUdalost(const Obsluha& obsluha) {
+    if (udalosti_.bezi()) return false;
     modely_.panel.upozorneni.clear();
-    udalosti_.proved(obsluha);
+    const bool provedeno = udalosti_.proved(obsluha);
     poPrikazu();
+    return provedeno;
+}
+
+KrokAutomatu Program::krokAutomatu() {
+    return {
+        [this] { return !udalosti_.bezi() && !QApplication::activeModalWidget(); },
+        [this] { okno_->domaluj(); },
+        [this] { return provedUdalost([this] { konverzace_.navigace.cmdJakDal(); }); },
+    };
 }
 
 void Program::poPrikazu() {
@@ -113,6 +126,7 @@ void Program::poPrikazu() {
     };
     StavProgramu stav;
     stav.pisenOtevrena = modely_.pisen.otevrena();
+    stav.automatBezi = modely_.timer1.zapnuty();
     stav.stupnice = tonina();
     stav.neniCoZapsat = !nejakyOznacen(modely_.diskant, pocetKnofliku) &&
                         !nejakyOznacen(modely_.basy, pocetBasu) && modely_.zapisovaciOsnova.volnySlot() == 0;
@@ -139,6 +153,7 @@ void Program::cellsEdited() {
 }
 
 void Program::Form_Unload() {
+    automat_.zastav();
     if (modely_.pisen.aplikaceExcel) modely_.pisen.aplikaceExcel->setListener(nullptr);
     konverzace_.ukonceniExcelu.UkonciExcel();
 }

@@ -4,6 +4,7 @@
 #include "app/ObsluhaUdalosti.h"
 #include "app/Spusteni.h"
 #include "app/ui/Form1.h"
+#include "song/Automat.h"
 
 #include <QHash>
 #include <QObject>
@@ -52,8 +53,9 @@ private:
     void nastavPoradiFokusu();
     KrokySpusteni krokySpusteni();
     void vyberStupnici();
+    KrokAutomatu krokAutomatu();
     void poPrikazu();
-    void provedUdalost(const Obsluha& obsluha);
+    bool provedUdalost(const Obsluha& obsluha);
     void Form_Unload();
     void prejdiNaTabulku();
     void nastavZkratky();
@@ -65,6 +67,7 @@ private:
     Modely modely_;
     ObsluhaUdalosti udalosti_;
     Konverzace konverzace_;
+    Automat automat_;
     QHash<QString, Obsluha> prikazy_;
     std::unique_ptr<Form1> okno_;
 };

@@ -24,6 +24,7 @@ void Program::postavNastroje() {
     connect(okno_.get(), &Form1::listVybran, this, [this](const QString& list) {
         provedUdalost([&] { konverzace_.zivotPisne.Combo1Click(list); });
     });
+    connect(okno_.get(), &Form1::tempoZmeneno, this, [this](int pozice) { automat_.Slider1Change(pozice); });
     okno_->priZavreni = [this] { Form_Unload(); };
 }
 
@@ -89,6 +90,8 @@ void Program::propojModely() {
         ukazToninu();
     });
     ukazToninu();
+    konverzace_.navigace.nastavZastaveniCasovace([this] { automat_.zastav(); });
+    connect(&modely_.timer1, &Timer1::zmeneno, this, &Program::poPrikazu);
 }
 
 void Program::ukazToninu() {

@@ -4,6 +4,7 @@
 #include "platform/Drive.h"
 #include "platform/SettingsStore.h"
 #include "platform/Shell.h"
+#include "platform/WakeUpClock.h"
 #include "song/SpreadsheetApplication.h"
 
 namespace zvonika {
@@ -15,6 +16,7 @@ struct Prostredi {
     Drive& drive;
     Shell& shell;
     SpreadsheetLauncher spoustecExcelu;
+    WakeUpClock& hodiny;
 };
 
 } // namespace zvonika

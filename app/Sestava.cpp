@@ -5,6 +5,7 @@
 #include "app/ui/IkonaProgramu.h"
 #include "platform/HomeDrive.h"
 #include "platform/IniSettingsStore.h"
+#include "platform/QtWakeUpClock.h"
 #include "platform/UserSettings.h"
 #include "platform/ui/CzechTranslator.h"
 #include "platform/ui/DesktopShell.h"
@@ -55,7 +56,8 @@ struct Sestava::Casti {
         : nastaveniProgramu(nastaveni(QStringLiteral("Tonavox12"), umisteni)),
           nastaveniTabulky(nastaveni(zvonika::nastaveniTabulky, umisteni)),
           drive(umisteni.domov.isEmpty() ? QDir::homePath() : umisteni.domov, slozkaProgramu()),
-          program({dialogs, *nastaveniProgramu, drive, shell, [this] { return novaTabulka(); }}) {
+          program({dialogs, *nastaveniProgramu, drive, shell, [this] { return novaTabulka(); },
+                   umisteni.hodiny ? *umisteni.hodiny : hodiny}) {
         dialogs.setMainWindow(&program.okno());
         const QScreen* obrazovka = QApplication::primaryScreen();
         okna = rozmistiOkna(obrazovka ? obrazovka->availableGeometry() : QRect(0, 0, 1366, 768));
@@ -87,6 +89,7 @@ struct Sestava::Casti {
     HomeDrive drive;
     QtDialogs dialogs;
     DesktopShell shell;
+    QtWakeUpClock hodiny;
     RozmisteniOken okna;
     Program program;
 };

@@ -11,11 +11,13 @@ class QApplication;
 namespace zvonika {
 
 class Program;
+class WakeUpClock;
 
-/// Where a run of the program finds and leaves things; empty: the places of the user.
+/// Where a run of the program finds and leaves things; empty: what the user has.
 struct Umisteni {
-    QString domov;     ///< native folder that is drive C:; empty: the home folder
-    QString nastaveni; ///< native folder of the settings files; empty: the user's configuration
+    QString domov;                 ///< native folder that is drive C:; empty: the home folder
+    QString nastaveni;             ///< native folder of the settings files; empty: the user's configuration
+    WakeUpClock* hodiny = nullptr; ///< the clock of automatic stepping, outliving the run; none: the system's
 };
 
 /// The composition root: chooses the adapters of every port, builds the program over them and puts its

@@ -9,6 +9,9 @@ namespace {
 QString coDal(const StavProgramu& stav) {
     if (!stav.pisenOtevrena)
         return QStringLiteral("Začněte tlačítkem Nová píseň, nebo otevřete hotovou tlačítkem Otevřít.");
+    if (stav.automatBezi)
+        return QStringLiteral("Automat jde písničkou sám, rychlost mění Tempo. Zastaví ho tlačítko Automat "
+                              "nebo klávesa F9.");
     if (!stav.neniCoZapsat) return QStringLiteral("Zapište hmat tlačítkem < Tah nebo > Tlak.");
     if (stav.radekPrazdny)
         return QStringLiteral(

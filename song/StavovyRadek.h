@@ -11,6 +11,7 @@ struct StavProgramu {
     bool neniCoZapsat = true; ///< no treble or bass button is marked and no note entered
     bool radekPrazdny = true; ///< the current row holds no grip
     QString upozorneni;       ///< what the last command has to tell
+    bool automatBezi = false; ///< the song is being stepped through automatically
 };
 
 /// The text of the status line: what the last command has to tell, otherwise what to do next, with a warning

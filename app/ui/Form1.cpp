@@ -1,6 +1,7 @@
 #include "app/ui/Form1.h"
 
 #include "app/Prikazy.h"
+#include "app/ui/OvladaniAutomatu.h"
 #include "app/ui/PrikazoveTlacitko.h"
 #include "app/ui/TwipsScene.h"
 #include "board/TrebleBoard.h"
@@ -10,11 +11,11 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QLabel>
 #include <QMenuBar>
 #include <QShortcut>
 #include <QSignalBlocker>
-#include <QSlider>
 #include <QStatusBar>
 
 #include <optional>
@@ -65,7 +66,7 @@ QLabel* popisek(const QString& jmeno, const QString& text, QWidget* rodic) {
 
 } // namespace
 
-Form1::Form1(SongPanel& panel, CommandStates& stavy, TrebleBoard& hmatnik)
+Form1::Form1(SongPanel& panel, CommandStates& stavy, TrebleBoard& hmatnik, Timer1& timer1)
     : panel_(panel), stavy_(stavy), hmatnik_(hmatnik),
       scena_(new TwipsScene({sirkaSceny, vyskaSceny}, this)) {
     setObjectName(QStringLiteral("Form1"));
@@ -73,6 +74,7 @@ Form1::Form1(SongPanel& panel, CommandStates& stavy, TrebleBoard& hmatnik)
     setContextMenuPolicy(Qt::NoContextMenu);
     postavTlacitka();
     postavPopisky();
+    postavAutomat(timer1);
     postavMenu();
     stav_ = popisek(QStringLiteral("lblStav"), {}, this);
     statusBar()->addWidget(stav_, 1);
@@ -90,6 +92,11 @@ void Form1::umisti(QWidget* prvek, const QRect& twips) {
 
 void Form1::nastavVzdyNahore() {
     setWindowFlag(Qt::WindowStaysOnTopHint, true);
+}
+
+void Form1::domaluj() {
+    QEvent pozadavek(QEvent::UpdateRequest);
+    QCoreApplication::sendEvent(this, &pozadavek);
 }
 
 void Form1::nastavPoradi(const QList<QWidget*>& poradi) {
@@ -147,17 +154,18 @@ void Form1::postavPopisky() {
     popisHmatu->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     umisti(popisHmatu, {14020, 8090, 900, 390});
 
-    auto* posuvnik = new QSlider(Qt::Horizontal, scena_);
-    posuvnik->setObjectName(QStringLiteral("Slider1"));
-    posuvnik->setRange(-5, 5);
-    posuvnik->setAccessibleName(QStringLiteral("Tempo automatického krokování"));
-    umisti(posuvnik, {13360, 9330, 2580, 300});
-    auto* tempo = popisek(QStringLiteral("lblTempo"), QStringLiteral("<--- Tempo --->"), scena_);
-    tempo->setAlignment(Qt::AlignCenter);
-    umisti(tempo, {13360, 9620, 2580, 240});
-    for (QWidget* prvek :
-         {static_cast<QWidget*>(combo_), static_cast<QWidget*>(posuvnik), static_cast<QWidget*>(tempo)})
-        prvek->setEnabled(stavy_.povolen(prvek->objectName()));
+    combo_->setEnabled(stavy_.povolen(combo_->objectName()));
+}
+
+void Form1::postavAutomat(Timer1& timer1) {
+    auto* ovladani =
+        new OvladaniAutomatu(*tlacitka_[QStringLiteral("cmdTimer")], timer1, scena_,
+                             [this](QWidget* prvek, const QRect& twips) { umisti(prvek, twips); });
+    connect(ovladani, &OvladaniAutomatu::tempoZmeneno, this, &Form1::tempoZmeneno);
+    for (const char* jmeno : {"Slider1", "lblTempo"}) {
+        QWidget* nalezeny = prvek(QString::fromLatin1(jmeno));
+        nalezeny->setEnabled(stavy_.povolen(nalezeny->objectName()));
+    }
 }
 
 void Form1::postavMenu() {

@@ -8,13 +8,13 @@
 class QAction;
 class QComboBox;
 class QLabel;
-class QSlider;
 
 namespace zvonika {
 
 class CommandStates;
 class PrikazoveTlacitko;
 class SongPanel;
+class Timer1;
 class TrebleBoard;
 class TwipsScene;
 
@@ -23,7 +23,7 @@ class TwipsScene;
 class Form1 : public QMainWindow {
     Q_OBJECT
 public:
-    Form1(SongPanel& panel, CommandStates& stavy, TrebleBoard& hmatnik);
+    Form1(SongPanel& panel, CommandStates& stavy, TrebleBoard& hmatnik, Timer1& timer1);
 
     /// Places a control of another folder in the scene.
     void umisti(QWidget* prvek, const QRect& twips);
@@ -31,6 +31,8 @@ public:
     void nastavVzdyNahore();
     /// Tab order of the scene: the controls in the order of the work.
     void nastavPoradi(const QList<QWidget*>& poradi);
+    /// Paints at once what waits to be painted.
+    void domaluj();
     QWidget* prvek(const QString& jmeno) const;
 
     /// Called by `closeEvent`, once; the window closes in any case.
@@ -39,6 +41,7 @@ public:
 Q_SIGNALS:
     void prikaz(const QString& jmeno);     ///< a button or menu entry was chosen
     void listVybran(const QString& nazev); ///< the user chose a sheet in Combo1
+    void tempoZmeneno(int pozice);         ///< the user moved Slider1
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -46,6 +49,7 @@ protected:
 private:
     void postavTlacitka();
     void postavPopisky();
+    void postavAutomat(Timer1& timer1);
     void postavMenu();
     void ukazPanel();
     void ukazListy();

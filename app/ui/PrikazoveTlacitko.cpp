@@ -37,6 +37,11 @@ QPainterPath sipka(const QRectF& misto) {
     return obrys;
 }
 
+QRectF ctverec(const QRectF& misto) {
+    const double strana = misto.height() * 0.44;
+    return QRectF(misto.center() - QPointF(strana / 2, strana / 2), QSizeF(strana, strana));
+}
+
 /// A pair of quavers: two heads, two stems, one beam.
 QPainterPath nota(const QRectF& misto) {
     const double v = misto.height() * 0.8;
@@ -95,13 +100,33 @@ void PrikazoveTlacitko::paintEvent(QPaintEvent*) {
     }
     QColor pismo = jeTmava(barva) ? QColor(Qt::white) : QColor(0x22, 0x1E, 0x18);
     if (!isEnabled()) pismo = QColor(0x9A, 0x94, 0x88);
-    const QRect misto = rect().adjusted(3, 2, -3, -3);
-    if (!text().isEmpty())
-        kresliPopisek(painter, misto, pismo);
-    else if (obrazek_ == Obrazek::Sipka)
-        painter.fillPath(sipka(misto), pismo);
-    else if (obrazek_ == Obrazek::Nota)
-        painter.fillPath(nota(misto), pismo);
+    QRect misto = rect().adjusted(3, 2, -3, -3);
+    if (text().isEmpty()) {
+        kresliObrazek(painter, misto, pismo);
+        return;
+    }
+    if (obrazek_ != Obrazek::Zadny) {
+        kresliObrazek(painter, {misto.topLeft(), QSize(misto.height() * 3 / 4, misto.height())}, pismo);
+        misto.setLeft(misto.left() + misto.height() * 3 / 4);
+    }
+    kresliPopisek(painter, misto, pismo);
+}
+
+void PrikazoveTlacitko::kresliObrazek(QPainter& painter, const QRect& misto, const QColor& barva) {
+    switch (obrazek_) {
+    case Obrazek::Sipka:
+    case Obrazek::Spustit:
+        painter.fillPath(sipka(misto), barva);
+        break;
+    case Obrazek::Nota:
+        painter.fillPath(nota(misto), barva);
+        break;
+    case Obrazek::Zastavit:
+        painter.fillRect(ctverec(misto), barva);
+        break;
+    case Obrazek::Zadny:
+        break;
+    }
 }
 
 void PrikazoveTlacitko::prizpusobPismo(const QRect& misto) {

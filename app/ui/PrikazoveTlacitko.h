@@ -17,8 +17,8 @@ public:
 
     /// Face colour; nothing for the usual one.
     void nastavBarvu(std::optional<QColor> barva);
-    /// The drawn picture of a button without text.
-    enum class Obrazek { Zadny, Sipka, Nota };
+    /// The drawn picture; it stands in the middle, or to the left of a caption.
+    enum class Obrazek { Zadny, Sipka, Nota, Spustit, Zastavit };
     void nastavObrazek(Obrazek obrazek);
 
 protected:
@@ -28,6 +28,7 @@ protected:
 
 private:
     QColor plocha() const;
+    void kresliObrazek(QPainter& painter, const QRect& misto, const QColor& barva);
     void kresliPopisek(QPainter& painter, const QRect& misto, const QColor& barva);
     void prizpusobPismo(const QRect& misto);
 

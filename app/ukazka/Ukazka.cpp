@@ -52,6 +52,7 @@ void Ukazka::prehraj() {
     ukonciPisen();
     otevriPisen();
     prejdiPisen();
+    krokujAutomatem();
     ukonciPisen();
 }
 
@@ -157,6 +158,17 @@ void Ukazka::prejdiPisen() {
               QStringLiteral("krok zpět na hmat %1").arg(radek));
     }
     obrazek("zpet-na-zacatku");
+}
+
+void Ukazka::krokujAutomatem() {
+    QWidget* tempo = prvek("Slider1");
+    for (int i = 0; i < 4; ++i)
+        QTest::keyClick(tempo, Qt::Key_Right);
+    klikni("cmdTimer");
+    cekej([this] { return program_.aktualniRadek() >= 6; }, "automatické krokování");
+    obrazek("automat-krokuje");
+    klikni("cmdTimer");
+    klikni("cmdPrvni");
 }
 
 QWidget* Ukazka::prvek(const QString& jmeno) const {

@@ -34,6 +34,7 @@ private:
     void ukonciPisen();
     void otevriPisen();
     void prejdiPisen();
+    void krokujAutomatem();
 
     void klikni(const QString& jmeno);
     void dvojklikni(const QString& jmeno);

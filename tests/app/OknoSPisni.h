@@ -5,6 +5,7 @@
 #include "tests/app/ZaznamovyShell.h"
 #include "tests/song/FakeDrive.h"
 #include "tests/support/FakeSpreadsheet.h"
+#include "tests/support/RucniHodiny.h"
 #include "tests/support/ScriptedDialogs.h"
 
 #include <QAction>
@@ -19,11 +20,13 @@ class OknoSPisni : public ::testing::Test {
 protected:
     void SetUp() override {
         drive.programFolderPath = QStringLiteral(ZVONIKA_RESOURCES);
-        program = std::make_unique<Program>(Prostredi{dialogs, nastaveni, drive, shell, [this] {
+        program = std::make_unique<Program>(Prostredi{dialogs, nastaveni, drive, shell,
+                                                      [this] {
                                                           auto novy = std::make_unique<FakeSpreadsheet>(disk);
                                                           excel = novy.get();
                                                           return novy;
-                                                      }});
+                                                      },
+                                                      hodiny});
         program->Main();
         program->okno().resize(1000, 720);
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&program->okno()));
@@ -50,6 +53,7 @@ protected:
     ScriptedDialogs dialogs;
     PametoveNastaveni nastaveni;
     ZaznamovyShell shell;
+    RucniHodiny hodiny;
     FakeSpreadsheet* excel = nullptr;
     std::unique_ptr<Program> program;
 };

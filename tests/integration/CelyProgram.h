@@ -8,6 +8,7 @@
 #include "song/embedded/ui/SheetWindow.h"
 #include "song/xls/Workbook.h"
 #include "tests/app/ZaznamovyShell.h"
+#include "tests/support/RucniHodiny.h"
 #include "tests/support/ScriptedDialogs.h"
 
 #include <QPointer>
@@ -81,6 +82,7 @@ protected:
     IniSettingsStore nastaveni;
     IniSettingsStore vlastniNastaveniTabulky;
     ZaznamovyShell shell;
+    RucniHodiny hodiny;
     QPointer<SheetWindow> tabulka;
     EmbeddedApplication* excel = nullptr; ///< the one started last
     std::unique_ptr<Program> program;

@@ -20,6 +20,7 @@ TEST(StavovyRadek, TellsTheNextStepAndWarnsOfAMissingKeyWhileWriting) {
         {{true, vyberte, false, true, ""}, "< Tah nebo > Tlak", true},
         {{true, "G dur", false, false, ""}, "< Tah nebo > Tlak", false},
         {{true, vyberte, true, false, ""}, "PageDown", false},
+        {{true, "G dur", true, false, "", true}, "klávesa F9", false},
         {{true, vyberte, true, true, "Neznámý tón."}, "Neznámý tón.", false},
     };
     for (const auto& [stav, obsahuje, varuje] : pripady) {
