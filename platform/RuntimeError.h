@@ -27,6 +27,7 @@ namespace error {
 constexpr int overflow = 6;             ///< a number does not fit its variable
 constexpr int subscriptOutOfRange = 9;  ///< no window, sheet or element of that name
 constexpr int typeMismatch = 13;        ///< a text is no number
+constexpr int permissionDenied = 70;    ///< a file cannot be deleted
 constexpr int objectNotSet = 91;        ///< the application, or what it was asked about, is gone
 constexpr int applicationDefined = 1004; ///< the spreadsheet application refused
 } // namespace error

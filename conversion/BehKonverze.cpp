@@ -1,0 +1,102 @@
+#include "conversion/BehKonverze.h"
+
+#include "song/Address.h"
+#include "theory/Tonavox12.h"
+
+namespace zvonika {
+
+namespace {
+
+bool jeSmer(const CellValue& hodnota) {
+    const QString text = cellText(hodnota);
+    return text == u"Tah" || text == u"Tlak";
+}
+
+bool jeTonNastroje(const QString& ton) {
+    Tonavox12 model;
+    model.DejCisloTonu(ToneName(ton));
+    return model.cisloTonu().jeVRozsahu();
+}
+
+constexpr int sloupecB = 2;
+constexpr int sloupecI = 9;
+
+} // namespace
+
+KonecBehu BehKonverze::odZacatku() {
+    for (;;) {
+        if (!isEmpty(excel().activeCellValue())) {
+            adresa_ = excel().activeAddress();
+            if (const auto konec = overStupnici()) return *konec;
+            if (const auto konec = prevedBunku()) return *konec;
+        } else if (!lzePreskocit()) {
+            return KonecBehu::Dokoncen;
+        }
+        if (const auto konec = posunVpravo()) return *konec;
+    }
+}
+
+KonecBehu BehKonverze::odAktivniBunky() {
+    adresa_ = excel().activeAddress();
+    if (const auto konec = prevedBunku()) return *konec;
+    if (const auto konec = posunVpravo()) return *konec;
+    return odZacatku();
+}
+
+/// Behind the tones of a small grip the row goes on with its direction; an empty first cell is the song's
+/// end.
+bool BehKonverze::lzePreskocit() const {
+    const auto misto = parseAddress(excel().activeAddress());
+    if (!misto || misto->first.column <= sloupecB || misto->first.column >= sloupecI) return false;
+    return jeSmer(excel().value(QStringLiteral("I%1").arg(misto->first.row)));
+}
+
+std::optional<KonecBehu> BehKonverze::overStupnici() {
+    const QString radek = QString::number(excel().activeRow());
+    const QString nova = cellText(excel().value(u'W' + radek));
+    if (nova == o_.stav.lblStupnice) return std::nullopt;
+    const QString odpoved = o_.konverze.ZmenaLadeni(o_.stav.lblStupnice, nova, radek);
+    if (odpoved == odpovediZmeny::storno) return KonecBehu::Storno;
+    o_.stav.lblStupnice = nova;
+    o_.stav.oznamZmenu();
+    if (odpoved == odpovediZmeny::zmenit) return KonecBehu::ZmenaStupnice;
+    return std::nullopt;
+}
+
+std::optional<KonecBehu> BehKonverze::prevedBunku() {
+    if (o_.stav.lblStupnice.isEmpty()) {
+        o_.dialogs.message(
+            {QStringLiteral("Neúplné údaje."),
+             QStringLiteral("Není uvedeno ladění zdrojového řádku. Konverze bude předčasně ukončena."),
+             Icon::Critical});
+        return KonecBehu::BezLadeni;
+    }
+    const CellValue puvodni = excel().value(adresa_);
+    const auto novy = o_.konverze.Konvertuj(o_.stav.lblStupnice, cilova_, cellText(puvodni));
+    excel().activateWindow(o_.pisen.aktualniPisen);
+    excel().setActiveCellValue(novy ? CellValue(*novy) : CellValue());
+    zaznamenejZtratu(puvodni, novy.value_or(QString()));
+    return std::nullopt;
+}
+
+void BehKonverze::zaznamenejZtratu(const CellValue& puvodni, const QString& novy) {
+    o_.ztraty.nastavChybuTabulky(o_.konverze.chybaTabulky());
+    if (isEmpty(puvodni)) return;
+    if (novy.isEmpty())
+        o_.ztraty.pridejBezProtejsku(excel().activeRow());
+    else if (!jeTonNastroje(novy))
+        o_.ztraty.pridejMimoNastroj(excel().activeRow());
+}
+
+/// On the direction the row is done: it gets its new key and the next one follows.
+std::optional<KonecBehu> BehKonverze::posunVpravo() {
+    excel().moveCursor(0, 1);
+    if (!jeSmer(excel().activeCellValue())) return std::nullopt;
+    const int radek = excel().activeRow();
+    excel().setValue(QStringLiteral("W%1").arg(radek), cilova_);
+    excel().selectRange(QStringLiteral("B%1").arg(radek + 1));
+    if (o_.poRadku(radek)) return std::nullopt;
+    return KonecBehu::Zastaven;
+}
+
+} // namespace zvonika

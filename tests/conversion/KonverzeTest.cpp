@@ -1,0 +1,342 @@
+#include "tests/conversion/KonverzeFixture.h"
+
+namespace zvonika::testing {
+namespace {
+
+class KonverzeTest : public KonverzeFixture {};
+
+const Radek tah{{"B", "c1,"}, {"C", "e1,"}, {"I", "Tah"}, {"W", "C dur"}};
+const Radek tlak{{"B", "d1,"}, {"I", "Tlak"}, {"W", "C dur"}};
+
+TEST_F(KonverzeTest, RewritesACopyAndLeavesTheSongAlone) {
+    const Radek plny{{"A", "slab-"}, {"B", "c1,"},    {"C", "d1,"},  {"D", "e1,"}, {"E", "f1,"},
+                     {"F", "g1,"},   {"G", "a1,"},    {"H", "h1,"},  {"I", "Tah"}, {"M", "C"},
+                     {"N", "C-dur"}, {"V", "l9;1\\"}, {"W", "C dur"}};
+    otevri({plny, tah, tlak, {{"A", "zbytek"}, {"V", "l9;1\\"}}});
+    excel->put("V14", "l1;1\\");
+    excel->put("V15", "l2;2\\"); // beyond the ten rows below the song
+    ocekavejHotovo();
+    preved("G dur");
+
+    EXPECT_EQ(dialogs.last.text,
+              "Skladba byla na aktivním listu překonvertována podle nastavených požadavků a "
+              "uložena do souboru \nPolka G dur.xls.");
+    EXPECT_EQ(dialogs.last.icon, Icon::Information);
+    EXPECT_EQ(radek(1), (Radek{{"A", "slab-"},
+                               {"B", "g,"},
+                               {"C", "a,"},
+                               {"D", "h,"},
+                               {"E", "c1,"},
+                               {"F", "d1,"},
+                               {"G", "e1,"},
+                               {"H", "fis1,"},
+                               {"I", "Tah"},
+                               {"M", "C"},
+                               {"N", "C-dur"},
+                               {"W", "G dur"}}));
+    EXPECT_EQ(radek(2), (Radek{{"B", "g,"}, {"C", "h,"}, {"I", "Tah"}, {"W", "G dur"}}));
+    EXPECT_EQ(radek(3), (Radek{{"B", "a,"}, {"I", "Tlak"}, {"W", "G dur"}}));
+    EXPECT_EQ(radek(4), (Radek{{"A", "zbytek"}}));
+    EXPECT_EQ(radek(14), Radek());
+    EXPECT_EQ(radek(15), (Radek{{"V", "l2;2\\"}}));
+    EXPECT_EQ(list(), "Tonavox XII");
+    EXPECT_EQ(excel->activeAddress(), "$B$1");
+    EXPECT_TRUE(stav.zavreno);
+    EXPECT_EQ(pisen.aktualniPisen, "Polka G dur.xls");
+    EXPECT_TRUE(konverze.predanaKopie());
+    EXPECT_EQ(konverze.veta(), "");
+
+    konverze.Form_Unload();
+    EXPECT_EQ(disk.at(pracovniAdresar + "\\Polka G dur.xls").sheet().at(1, 2), CellValue(QString("g,")));
+    EXPECT_EQ(disk.at(pracovniAdresar + "\\Polka.xls").sheet().at(1, 2), CellValue(QString("c1,")));
+    EXPECT_EQ(pisen.aktualniPisen, "Polka G dur.xls");
+}
+
+TEST_F(KonverzeTest, TheDialogShowsTheSongItWasOpenedWith) {
+    konverze.Form_Load();
+    EXPECT_TRUE(stav.vyberPovolen && stav.lzeKonvertovat && stav.lblStupnice.isEmpty());
+    otevri({{{"B", "c1,"}, {"W", "C Dur"}}});
+    konverze.Form_Load();
+    EXPECT_EQ(stav.lblStupnice, "C Dur");
+    EXPECT_EQ(stav.cmdVyberPisen, "Polka.xls");
+    EXPECT_FALSE(stav.vyberPovolen);
+    excel->put("W1", "");
+    konverze.Form_Load();
+    EXPECT_FALSE(stav.lzeKonvertovat);
+}
+
+TEST_F(KonverzeTest, NothingIsSavedBeforeEverythingIsKnown) {
+    dialogs.expect("Neočekávaná chyba.", "Píseň ze které se má konvertovat, není otevřena.");
+    preved("G dur");
+    otevri({tah});
+    konverze.Form_Load();
+    stav.optStupnice.reset();
+    dialogs.expect("Neúplné údaje.",
+                   "Neurčili jste do kterého ladění si přejete konverzi provést. Zaškrtněte "
+                   "požadovanou volbu a zkuste to znovu.");
+    konverze.cmdGo();
+    EXPECT_EQ(dialogs.last.icon, Icon::Exclamation);
+    dialogs.expect(
+        "Chyba při výběru ladění.",
+        "Ve Vámi zvoleném ladění byla píseň již zapsána. Konverze z C dur do C dur nebude provedena !");
+    preved("C dur");
+    EXPECT_EQ(dialogs.last.icon, Icon::Critical);
+    stav.lblStupnice.clear();
+    dialogs.expect("Neúplné údaje.",
+                   "Píseň neobsahuje záznam ve kterém ladění je zapsána. Konverze nebude provedena !");
+    konverze.cmdGo();
+    EXPECT_EQ(excel->calls("saveActiveWorkbook") + excel->calls("saveActiveWorkbookAs"), 0);
+    EXPECT_FALSE(stav.zavreno || stav.bezi);
+    EXPECT_EQ(konverze.veta(), "");
+}
+
+TEST_F(KonverzeTest, AnOlderCopyIsReplacedOnlyWhenTheUserAgrees) {
+    const QString kopie = pracovniAdresar + "\\Polka G dur.xls";
+    drive.files.insert(kopie);
+    otevri({tah});
+    dialogs.expect(kopie, "Soubor již existuje. Přejete si ho vymazat a nahradit novým ?", Answer::Cancel);
+    dialogs.expect("Storno převodu.", "Zpracování zrušeno uživatelem.");
+    preved("G dur");
+    EXPECT_TRUE(stav.zavreno && drive.files.contains(kopie));
+    EXPECT_FALSE(konverze.predanaKopie());
+
+    drive.failingDeletions = 1;
+    dialogs.expect(kopie, "", Answer::Ok);
+    EXPECT_THROW(konverze.cmdGo(), RuntimeError);
+    EXPECT_FALSE(stav.bezi);
+    EXPECT_EQ(excel->calls("saveActiveWorkbook"), 0);
+
+    dialogs.expect(kopie, "", Answer::Ok);
+    ocekavejHotovo();
+    konverze.cmdGo();
+    EXPECT_FALSE(drive.files.contains(kopie));
+    EXPECT_EQ(excel->lastSaveAs.filename, "Polka G dur");
+}
+
+TEST_F(KonverzeTest, AShortFileNameKeepsItsEnd) {
+    otevri({tah}, "Polk");
+    drive.files.insert(pracovniAdresar + "\\ G dur.xls");
+    ocekavejHotovo();
+    preved("G dur");
+    EXPECT_EQ(pisen.aktualniPisen, "Polk G dur.xls");
+}
+
+TEST_F(KonverzeTest, AnEmptySongLeavesACopyForWritingByHand) {
+    otevri({{{"W", "C dur"}}});
+    dialogs.expect("Přerušeno na začátku.",
+                   "Smažte soubor Polka G dur.xls\nEventuelně může být tento soubor použit");
+    preved("G dur");
+    EXPECT_EQ(list(), "G dur Nedokončeno");
+    EXPECT_TRUE(stav.zavreno && konverze.predanaKopie());
+}
+
+TEST_F(KonverzeTest, HeligonkaVersionsCarryTheNameOfATuning) {
+    const struct {
+        const char *cil, *list;
+    } radky[] = {{"F dur", "G dur-C dur-F dur"}, {"Es dur", "B-Es-As"},
+                 {"B dur", "B-Es-As"},           {"D dur", "A dur-D dur-G dur"},
+                 {"G dur", "G dur-C dur-F dur"}, {"E dur", "Změnit tento název listu"}};
+    for (const auto& [cil, nazev] : radky) {
+        otevri({tah});
+        stav.Check1 = true;
+        ocekavejHotovo();
+        preved(cil);
+        EXPECT_EQ(list(), QString::fromUtf8(nazev)) << cil;
+    }
+}
+
+TEST_F(KonverzeTest, RowsOfAnyShapeAreReadToTheirEnd) {
+    const struct {
+        const char* popis;
+        Radek puvodni, prevedeny;
+        bool dalsiRadek; ///< the row below is converted too
+    } radky[] = {
+        {"gap in the grip",
+         {{"B", "c1,"}, {"E", "e1,"}, {"I", "Tah"}},
+         {{"B", "g,"}, {"E", "h,"}, {"I", "Tah"}},
+         true},
+        {"direction too early",
+         {{"B", "c1,"}, {"C", "Tlak"}, {"D", "e1,"}},
+         {{"B", "g,"}, {"C", "Tlak"}, {"D", "e1,"}},
+         true},
+        {"no direction", {{"B", "c1,"}, {"C", "e1,"}}, {{"B", "g,"}, {"C", "h,"}}, false},
+        {"another direction", {{"B", "c1,"}, {"I", "tah"}}, {{"B", "g,"}, {"I", "tah"}}, false},
+        {"other text as direction",
+         {{"B", "c1,"},
+          {"C", "c1,"},
+          {"D", "c1,"},
+          {"E", "c1,"},
+          {"F", "c1,"},
+          {"G", "c1,"},
+          {"H", "c1,"},
+          {"I", "x"},
+          {"J", "e1,"},
+          {"L", "e1,"}},
+         {{"B", "g,"},
+          {"C", "g,"},
+          {"D", "g,"},
+          {"E", "g,"},
+          {"F", "g,"},
+          {"G", "g,"},
+          {"H", "g,"},
+          {"J", "h,"},
+          {"L", "e1,"}},
+         false},
+        {"no tones", {{"C", "c1,"}, {"I", "Tah"}}, {{"C", "c1,"}, {"I", "Tah"}}, false},
+    };
+    for (const auto& r : radky) {
+        Radek puvodni = r.puvodni, prevedeny = r.prevedeny;
+        puvodni["W"] = "C dur";
+        prevedeny["W"] = r.dalsiRadek ? "G dur" : "C dur";
+        otevri({tah, puvodni, tah});
+        ocekavejHotovo();
+        preved("G dur");
+        EXPECT_EQ(radek(2), prevedeny) << r.popis;
+        EXPECT_EQ(radek(3).value("B"), r.dalsiRadek ? "g," : "c1,") << r.popis;
+    }
+}
+
+TEST_F(KonverzeTest, TheKeyMayChangeInsideTheSong) {
+    const Radek druhy{{"B", "g,"}, {"C", "a,"}, {"I", "Tah"}, {"W", "G dur"}};
+    const auto zmena = [&](Answer odpoved) {
+        dialogs.expect("Přechod do jiné stupnice", "Na řádku 2 se mění původní stupnice z C dur do G dur.",
+                       odpoved);
+    };
+    otevri({tah, druhy, tah});
+    zmena(Answer::Cancel);
+    preved("D dur");
+    EXPECT_TRUE(stav.zavreno);
+    EXPECT_EQ(list(), "D dur Nedokončeno");
+    EXPECT_EQ(konverze.veta(), "Konverze není dokončena, list kopie se jmenuje „D dur Nedokončeno“.");
+
+    otevri({tah, druhy, druhy});
+    zmena(Answer::No); // the section goes into the same target
+    ocekavejHotovo();
+    preved("D dur");
+    EXPECT_EQ(radek(2), (Radek{{"B", "d1,"}, {"C", "e1,"}, {"I", "Tah"}, {"W", "D dur"}}));
+    EXPECT_EQ(radek(3).value("W"), "D dur");
+
+    otevri({tah, druhy, druhy, tah}, "Valčík.xls");
+    zmena(Answer::Yes);
+    preved("D dur");
+    EXPECT_EQ(stav.titulek, "Změňte stupnici a stikněte pokračovat.");
+    EXPECT_TRUE(stav.pokracovatViditelne && stav.ceka && !stav.bezi);
+    EXPECT_EQ(stav.lblStupnice, "G dur");
+    EXPECT_EQ(list(), "D dur Nedokončeno");
+    EXPECT_EQ(excel->activeAddress(), "$B$2");
+    excel->addWorkbook(); // another workbook comes to the front meanwhile
+    stav.optStupnice.reset();
+    dialogs.expect("Neúplné údaje.", "Neurčili jste");
+    konverze.cmdPokracovat();
+    vyber("F dur");
+    dialogs.expect("Přechod do jiné stupnice", "Na řádku 4 se mění původní stupnice z G dur do C dur.",
+                   Answer::No);
+    ocekavejHotovo();
+    konverze.cmdPokracovat();
+    EXPECT_EQ(radek(1).value("B"), "d1,");
+    EXPECT_EQ(radek(2), (Radek{{"B", "f1,"}, {"C", "g1,"}, {"I", "Tah"}, {"W", "F dur"}}));
+    EXPECT_EQ(radek(4).value("W"), "F dur");
+    EXPECT_EQ(list(), "Tonavox XII");
+}
+
+TEST_F(KonverzeTest, ARowWithoutAKeyEndsTheRun) {
+    otevri({tah, {{"B", "d1,"}, {"I", "Tah"}}});
+    dialogs.expect("Přechod do jiné stupnice", "z C dur do .", Answer::No);
+    dialogs.expect("Neúplné údaje.",
+                   "Není uvedeno ladění zdrojového řádku. Konverze bude předčasně ukončena.");
+    preved("G dur");
+    EXPECT_FALSE(stav.zavreno);
+    EXPECT_EQ(radek(2).value("B"), "d1,");
+    EXPECT_EQ(list(), "G dur Nedokončeno");
+}
+
+TEST_F(KonverzeTest, WhatIsLostIsTold) {
+    otevri({tah,
+            {{"B", "h3,"}, {"C", "cizí"}, {"I", "Tah"}, {"W", "C dur"}},
+            {{"B", "e4,"}, {"C", "x"}, {"D", "y"}, {"I", "Tlak"}, {"W", "C dur"}}});
+    excel->put("B1", CellValue(15.0)); // a number is no tone either
+    ocekavejHotovo();
+    preved("Fis dur");
+    EXPECT_EQ(radek(3).value("B"), "ais4,");
+    EXPECT_EQ(radek(1).value("B"), "");
+    EXPECT_EQ(konverze.veta(),
+              "Převod: v tabulce chybí 4 tóny (řádky 1–3), mimo rozsah nástroje 2 tóny (řádky 2–3).");
+
+    drive.programFolderPath = "/nikde";
+    otevri({tah, tlak});
+    ocekavejHotovo();
+    preved("G dur");
+    EXPECT_EQ(radek(1).value("B"), "");
+    EXPECT_TRUE(
+        konverze.veta().startsWith("Tabulka tónů konverze.xml nebyla ve složce programu nalezena. Převod: "));
+}
+
+TEST_F(KonverzeTest, ASongChosenInTheDialogIsClosedAgain) {
+    pisen.aktualniPisen = "zavřená ručně.xls";
+    konverze.Form_Load();
+    const auto vyberSoubor = [&](const std::optional<QString>& plneJmeno) {
+        excel->fileChoice = plneJmeno;
+        konverze.cmdVyberPisen();
+    };
+    vyberSoubor(std::nullopt);
+    EXPECT_EQ(excel->fileChoiceTitle, "Vyberte písničku, kterou chcete konvertovat !");
+    dialogs.expect("Nevhodný soubor.",
+                   "Vyberte jinou píseň.\nPokročilí uživatelé mohou zapsat ladění do sloupce W.");
+    vyberSoubor(soubor("Bez tóniny.xls", {{{"B", "c1,"}}}));
+    EXPECT_EQ(excel->activeWorkbookName(), "");
+    EXPECT_EQ(pisen.aktualniPisen, "zavřená ručně.xls");
+    EXPECT_TRUE(stav.vyberPovolen);
+    vyberSoubor(soubor("Polka.xls", {tah}));
+    EXPECT_EQ(stav.lblStupnice, "C dur");
+    EXPECT_EQ(stav.cmdVyberPisen, "Polka.xls");
+    EXPECT_FALSE(stav.vyberPovolen);
+    vyber("G dur");
+    ocekavejHotovo();
+    konverze.cmdGo();
+    konverze.Form_Unload();
+    EXPECT_FALSE(konverze.predanaKopie());
+    EXPECT_EQ(excel->activeWorkbookName(), "");
+    EXPECT_EQ(pisen.aktualniPisen, "zavřená ručně.xls");
+    EXPECT_EQ(konverze.veta(), "Kopie je v souboru „Polka G dur.xls“.");
+}
+
+TEST_F(KonverzeTest, ClicksThatComeInDuringTheRunStartNothing) {
+    otevri({tah, tlak, tlak});
+    zpravy = [&] {
+        EXPECT_TRUE(stav.bezi);
+        konverze.cmdGo();
+        konverze.cmdPokracovat();
+        konverze.cmdVyberPisen();
+    };
+    ocekavejHotovo();
+    preved("G dur");
+    EXPECT_EQ(excel->calls("saveActiveWorkbookAs"), 1);
+    EXPECT_EQ(radek(3).value("B"), "a,");
+}
+
+TEST_F(KonverzeTest, TheEndButtonStopsARunBehindItsRow) {
+    otevri({tah, tlak, tlak});
+    zpravy = [&] {
+        if (excel->activeRow() == 2) konverze.cmdKonec();
+    };
+    preved("G dur");
+    EXPECT_EQ(stav.radek, 2);
+    EXPECT_EQ(radek(2).value("W"), "G dur");
+    EXPECT_EQ(radek(3).value("W"), "C dur");
+    EXPECT_EQ(list(), "G dur Nedokončeno");
+    EXPECT_TRUE(stav.zavreno);
+}
+
+TEST_F(KonverzeTest, AFailureInTheRunLeavesTheDialogUsable) {
+    otevri({tah, tlak});
+    excel->fail("setActiveCellValue", 1004);
+    EXPECT_THROW(preved("G dur"), AutomationError);
+    EXPECT_FALSE(stav.bezi || stav.zavreno);
+    konverze.cmdKonec();
+    EXPECT_TRUE(stav.zavreno);
+    excel->userClosesWorkbook();
+    EXPECT_THROW(konverze.Form_Unload(), AutomationError);
+}
+
+} // namespace
+} // namespace zvonika::testing
