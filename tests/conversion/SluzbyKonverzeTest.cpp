@@ -54,22 +54,22 @@ TEST_F(SluzbyKonverze, ATonIsLookedUpByTheNamesOfItsKeys) {
 TEST_F(SluzbyKonverze, EveryNameComesBackFromEveryKey) {
     otevri({});
     const TabulkaNot tabulka(drive.programFolderPath);
-    QHash<QString, QHash<QString, QString>> prevody; // "C dur>G dur" → name → name
+    QMap<QString, QMap<QString, QMap<QString, QString>>> prevody; // source, target, name → name
     for (const DurovaTonina& z : toniny)
         for (const DurovaTonina& d : toniny)
             for (int i = 1; i <= 56; ++i) {
-                const QString ton = *tabulka.ton(i, z.nazev.toString().remove(u' '));
-                const auto novy = sluzby.Konvertuj(z.nazev.toString(), d.nazev.toString(), ton);
+                const QString zdroj = z.nazev.toString(), cil = d.nazev.toString();
+                const QString ton = *tabulka.ton(i, QString(zdroj).remove(u' '));
+                const auto novy = sluzby.Konvertuj(zdroj, cil, ton);
                 ASSERT_TRUE(novy) << ton.toStdString();
-                prevody[z.nazev + u'>' + d.nazev][ton] = *novy;
+                prevody[zdroj][cil][ton] = *novy;
             }
-    for (const DurovaTonina& z : toniny)
-        for (const DurovaTonina& d : toniny) {
-            const auto zpet = prevody.value(d.nazev + u'>' + z.nazev);
-            const auto tam = prevody.value(z.nazev + u'>' + d.nazev);
+    for (const QString& zdroj : prevody.keys())
+        for (const QString& cil : prevody.keys()) {
+            const auto& tam = prevody[zdroj][cil];
             ASSERT_EQ(tam.size(), 56);
             for (auto ton = tam.begin(); ton != tam.end(); ++ton)
-                EXPECT_EQ(zpet.value(ton.value()), ton.key());
+                EXPECT_EQ(prevody[cil][zdroj].value(ton.value()), ton.key());
         }
 }
 
