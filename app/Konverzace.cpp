@@ -32,6 +32,7 @@ Konverzace::Konverzace(Modely& modely, const Prostredi& prostredi, std::function
       poZapisu(modely.pisen, modely.panel, modely.stavy, *this), zapisHmatu(okoliZapisu(), modely.diskant),
       zapisHmatuZNot(okoliZapisu(), modely.zapisovaciOsnova, notyZapis),
       volbaStupnice(prostredi.dialogs, modely.tonina, modely.zapisovaciOsnova),
+      volbyHmatniku(modely.diskant, modely.tonina, prostredi.nastaveni, modely.stavy),
       ukonceniExcelu(modely.pisen, prostredi.dialogs) {}
 
 OkoliZapisu Konverzace::okoliZapisu() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "aids/VolbyHmatniku.h"
 #include "app/Modely.h"
 #include "app/Prostredi.h"
 #include "board/KlikDiskantu.h"
@@ -45,6 +46,7 @@ public:
     ZapisHmatu zapisHmatu;
     ZapisHmatuZNot zapisHmatuZNot;
     VolbaStupnice volbaStupnice;
+    VolbyHmatniku volbyHmatniku;
     UkonceniExcelu ukonceniExcelu;
 
 private:

@@ -96,8 +96,7 @@ const QVector<Menu>& menuPrikazu() {
 
 const QStringList& dosudNedostupne() {
     static const QStringList tabulka = {
-        "mnuNastavCestu", "mnuKonverze", "mnuPrekrytRady", "mnuOtocitHmatnik", "mnu2Rady",
-        "mnuCislovat",    "mnuhtm",      "cmdInterval",    "cmdSpodInterval",  "cmdIntervalOdNejnizsiho",
+        "mnuKonverze", "mnuhtm", "cmdInterval", "cmdSpodInterval", "cmdIntervalOdNejnizsiho",
     };
     return tabulka;
 }

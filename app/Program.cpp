@@ -1,6 +1,7 @@
 #include "app/Program.h"
 
 #include "app/OProgramu.h"
+#include "app/OknaPomucek.h"
 #include "app/Prikazy.h"
 #include "song/PrikazyPisne.h"
 #include "song/SpusteniExcelu.h"
@@ -87,6 +88,18 @@ void Program::zaregistrujPrikazy() {
     };
     for (const PrikazUvolneni& radek : prikazyUvolneni())
         prikazy_.insert(radek.tlacitko, [&k, tlacitko = radek.tlacitko] { k.uvolneni.proved(tlacitko); });
+    zaregistrujPomucky();
+}
+
+void Program::zaregistrujPomucky() {
+    VolbyHmatniku& volby = konverzace_.volbyHmatniku;
+    prikazy_.insert({
+        {"mnu2Rady", [&volby] { volby.mnu2Rady(); }},
+        {"mnuCislovat", [&volby] { volby.mnuCislovat(); }},
+        {"mnuOtocitHmatnik", [&volby] { volby.mnuOtocitHmatnik(); }},
+        {"mnuPrekrytRady", [this] { mnuPrekrytRady(*okno_, modely_.diskant, prostredi_); }},
+        {"mnuNastavCestu", [this] { mnuNastavCestu(*okno_, modely_.pisen, prostredi_); }},
+    });
 }
 
 void Program::proved(const QString& prikaz) {

@@ -43,6 +43,7 @@ private:
     using Obsluha = std::function<void()>;
 
     void zaregistrujPrikazy();
+    void zaregistrujPomucky();
     void postavNastroje();
     void postavHmatnik();
     void postavOsnovy();

@@ -1,6 +1,6 @@
 #include "app/Spusteni.h"
 
-#include "app/HodnotyNastaveni.h"
+#include "platform/HodnotyNastaveni.h"
 #include "platform/Contact.h"
 #include "platform/RuntimeError.h"
 

@@ -8,6 +8,14 @@ namespace zvonika {
 
 namespace {
 
+// "otočeno" from label 6 on; it reads downward, from 12 to 6.
+constexpr int prvniPismeno = 6;
+constexpr QStringView slovoOdzadu = u"onečoto";
+
+bool jePismeno(int index) {
+    return index >= prvniPismeno && index < prvniPismeno + slovoOdzadu.size();
+}
+
 /// Sets a value and tells whether it was another one before: who watches the board repaints only what
 /// changed.
 template <typename T>
@@ -131,7 +139,24 @@ bool TrebleBoard::zakryta(int rada) const {
 }
 
 void TrebleBoard::nastavCislovani(bool viditelne) {
-    if (zmen(cislovani_, viditelne)) Q_EMIT cislovaniZmeneno();
+    const bool slovoZmeneno = otoceno_ && zmen(slovoViditelne_, viditelne);
+    if (zmen(cislovani_, viditelne) || slovoZmeneno) Q_EMIT cislovaniZmeneno();
+}
+
+QString TrebleBoard::popisCisla(int index) const {
+    if (otoceno_ && jePismeno(index)) return slovoOdzadu.at(index - prvniPismeno);
+    return QString::number(textCisla(index));
+}
+
+bool TrebleBoard::cisloViditelne(int index) const {
+    return cislovani_ || (slovoViditelne_ && jePismeno(index));
+}
+
+void TrebleBoard::otoc() {
+    if (!zmen(otoceno_, true)) return;
+    slovoViditelne_ = true;
+    Q_EMIT hmatnikOtocen();
+    Q_EMIT cislovaniZmeneno();
 }
 
 void TrebleBoard::nastavObraceneCislovani(bool obracene) {

@@ -55,10 +55,17 @@ public:
 
     void nastavZabranu(int rada, bool zakryta); ///< row cover 1..5
     bool zakryta(int rada) const;
-    void nastavCislovani(bool viditelne); ///< number labels 0..31
+    void nastavCislovani(bool viditelne); ///< all number labels 0..31
     bool cislovani() const { return cislovani_; }
+    QString popisCisla(int index) const; ///< caption of lblCisKnofl(index), 0..31
+    bool cisloViditelne(int index) const;
     void nastavObraceneCislovani(bool obracene);
     bool obraceneCislovani() const { return obraceneCislovani_; }
+
+    /// Turns the board over for good: rows run the other way, and number labels 12 down to 6 appear and spell
+    /// "otočeno". Numbering switched on or off afterwards shows or hides them with the others.
+    void otoc();
+    bool otoceno() const { return otoceno_; }
 
     /// Pictures and marks of all buttons released.
     void uvolniDiskant();
@@ -70,6 +77,7 @@ Q_SIGNALS:
     void klavesaZmenena(int n); ///< colour or label of key n
     void zabranyZmeneny();
     void cislovaniZmeneno();
+    void hmatnikOtocen();
     void nazvyZmeneny(); ///< names switched on or off
 
 private:
@@ -89,6 +97,8 @@ private:
     bool nazvy_ = false;
     bool cislovani_ = false;
     bool obraceneCislovani_ = false;
+    bool otoceno_ = false;
+    bool slovoViditelne_ = false; ///< "otočeno"
 };
 
 } // namespace zvonika

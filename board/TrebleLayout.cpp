@@ -29,6 +29,28 @@ constexpr std::array<bool, 12> pultony{false, false, true,  false, true,  false,
 // Naturals below each of these twelve tones.
 constexpr std::array<int, 12> prirozenychPod{0, 1, 2, 2, 3, 3, 4, 4, 5, 6, 6, 7};
 
+// Turning over moves the topmost button of a row down by this and each following one by 1200 less. Counted
+// from row 1.
+constexpr std::array<int, pocetRad> posunNejvyssiho{9000, 9600, 9000, 8400, 9000};
+constexpr int posunKazdehoDalsiho = -2 * roztec;
+constexpr int prvnichSestnact = 16;
+constexpr int topSedmnacteho = 120; // row A has one button more, which is given its place
+
+int topNejvyssiho(int rada) {
+    constexpr std::array<int, pocetRad> topy{360, 120, 360, 720, 360};
+    return topy.at(static_cast<std::size_t>(rada - 1));
+}
+
+int otocenyTop(int rada, int top) {
+    const int shora = (top - topNejvyssiho(rada)) / roztec;
+    if (shora == prvnichSestnact) return topSedmnacteho;
+    return top + posunNejvyssiho.at(static_cast<std::size_t>(rada - 1)) + shora * posunKazdehoDalsiho;
+}
+
+Poloha vRade(int rada, int top, bool otoceno) {
+    return {levyOkrajRady(rada), otoceno ? otocenyTop(rada, top) : top};
+}
+
 int prirozenychPodKlavesou(int knoflik) {
     return (knoflik - 1) / 12 * 7 + prirozenychPod.at(static_cast<std::size_t>((knoflik - 1) % 12));
 }
@@ -53,14 +75,14 @@ int radaPomocneho(int knoflik) {
     return knoflik % 3 == 1 ? 5 : 1;
 }
 
-Poloha polohaKnofliku(int knoflik) {
+Poloha polohaKnofliku(int knoflik, bool otoceno) {
     const int nejnizsi = rada(knoflik) == 3 ? topRadyC : topRadAB;
-    return {levyOkrajRady(rada(knoflik)), nejnizsi - (knoflik - 1) / 3 * roztec};
+    return vRade(rada(knoflik), nejnizsi - (knoflik - 1) / 3 * roztec, otoceno);
 }
 
-Poloha polohaPomocneho(int knoflik) {
+Poloha polohaPomocneho(int knoflik, bool otoceno) {
     const int prvni = knoflik % 3 == 1 ? 4 : 2;
-    return {levyOkrajRady(radaPomocneho(knoflik)), topRadyC - (knoflik - prvni) / 3 * roztec};
+    return vRade(radaPomocneho(knoflik), topRadyC - (knoflik - prvni) / 3 * roztec, otoceno);
 }
 
 int levyOkrajRady(int rada) {

@@ -28,8 +28,10 @@ int rada(int knoflik);
 /// Row of the auxiliary button: 5 (outer left) or 1 (outer right); 0 when there is none.
 int radaPomocneho(int knoflik);
 
-Poloha polohaKnofliku(int knoflik);
-Poloha polohaPomocneho(int knoflik); ///< only where maPomocny()
+/// Place of a button. `otoceno`: on the board that is turned over, where every row runs the other way. Rows
+/// are reversed in place but for row B, which moves up by one button: 2 stands level with 1 again.
+Poloha polohaKnofliku(int knoflik, bool otoceno = false);
+Poloha polohaPomocneho(int knoflik, bool otoceno = false); ///< only where maPomocny()
 
 /// Left edge of row 1..5.
 int levyOkrajRady(int rada);
@@ -37,7 +39,7 @@ int levyOkrajRady(int rada);
 /// Number labels 0..31 beside the board: 0..15 on the right, 16..31 on the left. With `obracene` the labels
 /// 0..12 and 13..24 take the descending positions of the reversed layout, on top of others.
 Poloha polohaCisla(int index, bool obracene);
-/// What label 0..31 reads: "1" to "8" upward and "8" down to "1".
+/// What label 0..31 reads: "1" to "8" upward and "8" down to "1", the same on the board turned over.
 int textCisla(int index);
 
 /// Piano key of a tone: left and top edge, and its size.

@@ -181,7 +181,10 @@ void Form1::postavMenu() {
             akce->setCheckable(polozka.zaskrtavaci);
             akce->setShortcut(QKeySequence(polozka.zkratka));
             akce->setEnabled(stavy_.povolen(polozka.jmeno));
-            connect(akce, &QAction::triggered, this, [this, p = polozka.prikaz] { Q_EMIT prikaz(p); });
+            connect(akce, &QAction::triggered, this, [this, p = polozka.prikaz] {
+                Q_EMIT prikaz(p);
+                ukazZaskrtnuti(); // the entry has switched its mark by itself, done or not
+            });
             akce_.insert(polozka.jmeno, akce);
         }
     }

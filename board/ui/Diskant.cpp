@@ -21,27 +21,27 @@ constexpr int stranaKlikaciPlochy = 615;
 constexpr QSize velikostCisla(360, 330);
 constexpr int prvniZastavka = 9; // c1: where a hand finds the board
 
-/// Extent of a row of buttons.
-QRect plochaRady(int cisloRady) {
+/// The groove of a row of buttons, which its cover fills.
+QRect drazkaRady(int cisloRady, bool otoceno) {
     QRect plocha;
     for (int n = 1; n <= pocetKnofliku; ++n) {
         Poloha p;
         if (rada(n) == cisloRady)
-            p = polohaKnofliku(n);
+            p = polohaKnofliku(n, otoceno);
         else if (radaPomocneho(n) == cisloRady)
-            p = polohaPomocneho(n);
+            p = polohaPomocneho(n, otoceno);
         else
             continue;
         plocha |= QRect(p.left, p.top, sirkaKnofliku, vyskaKnofliku);
     }
-    return plocha;
+    return plocha.adjusted(15, -25, -15, 25);
 }
 
-Pozadi::Nacrt nacrtTela() {
+Pozadi::Nacrt nacrtTela(bool otoceno) {
     Pozadi::Nacrt nacrt;
     nacrt.telo = QRect(QPoint(3826, 20), QPoint(7591, 10439));
     for (int r = 1; r <= pocetRad; ++r)
-        nacrt.drazky.push_back(plochaRady(r).adjusted(15, -25, -15, 25));
+        nacrt.drazky.push_back(drazkaRady(r, otoceno));
     return nacrt;
 }
 
@@ -49,14 +49,17 @@ Pozadi::Nacrt nacrtTela() {
 class Diskant : public QObject {
 public:
     Diskant(QWidget* scena, const TrebleBoard& model, const ObsluhaDiskantu& obsluha, const Umisti& umisti)
-        : QObject(scena), scena_(scena), model_(model), umisti_(umisti) {
-        umisti_(new Pozadi(nacrtTela(), scena), nacrtTela().telo);
+        : QObject(scena), scena_(scena), model_(model), umisti_(umisti),
+          pozadi_(new Pozadi(nacrtTela(model.otoceno()), scena)) {
+        umisti_(pozadi_, nacrtTela(model.otoceno()).telo);
         vytvorKnofliky(obsluha);
         vytvorCisla();
         vytvorZabrany();
+        rozmisti();
         connect(&model, &TrebleBoard::knoflikZmenen, this, &Diskant::obnovKnoflik);
         connect(&model, &TrebleBoard::zabranyZmeneny, this, &Diskant::obnovZabrany);
         connect(&model, &TrebleBoard::cislovaniZmeneno, this, &Diskant::obnovCisla);
+        connect(&model, &TrebleBoard::hmatnikOtocen, this, &Diskant::rozmisti);
     }
 
 private:
@@ -82,16 +85,27 @@ private:
             connect(knoflik, &StiskaciPrvek::dvojklik, knoflik,
                     [dvojklik = obsluha.dvojklik, n, pomocny] { dvojklik(n, pomocny); });
         knoflik->vlozDoOstrova(ostrov);
-        const Poloha p = pomocny ? polohaPomocneho(n) : polohaKnofliku(n);
-        umisti_(knoflik, QRect(p.left, p.top, stranaKlikaciPlochy, stranaKlikaciPlochy));
         return knoflik;
+    }
+
+    void rozmisti() {
+        const bool otoceno = model_.otoceno();
+        const auto umistiKnoflik = [this](KnoflikDiskantu* knoflik, Poloha p) {
+            umisti_(knoflik, QRect(p.left, p.top, stranaKlikaciPlochy, stranaKlikaciPlochy));
+        };
+        pozadi_->prestav(nacrtTela(otoceno));
+        for (int n = 1; n <= pocetKnofliku; ++n) {
+            umistiKnoflik(hlavni_.at(idx(n)), polohaKnofliku(n, otoceno));
+            if (maPomocny(n)) umistiKnoflik(pomocne_.at(idx(n)), polohaPomocneho(n, otoceno));
+        }
+        for (int r = 1; r <= pocetRad; ++r)
+            umisti_(zabrany_.at(idx(r)), drazkaRady(r, otoceno));
     }
 
     void vytvorCisla() {
         for (int i = 0; i < pocetCisel; ++i) {
             auto* cislo = new Popisek(QColor(248, 226, 184), Qt::AlignHCenter, true, scena_);
             cislo->setObjectName(jmenoPrvku("lblCisKnofl", i));
-            cislo->setText(QString::number(textCisla(i)));
             cisla_.at(static_cast<std::size_t>(i)) = cislo;
         }
         obnovCisla();
@@ -102,7 +116,6 @@ private:
             auto* zabrana = new Zabrana(r, scena_);
             zabrana->setObjectName(jmenoPrvku("cmdZabrana", r));
             zabrany_.at(idx(r)) = zabrana;
-            umisti_(zabrana, plochaRady(r).adjusted(15, -25, -15, 25));
         }
         obnovZabrany();
     }
@@ -124,7 +137,8 @@ private:
             Popisek* cislo = cisla_.at(static_cast<std::size_t>(i));
             const Poloha p = polohaCisla(i, *umistenaObracene_);
             if (prelozit) umisti_(cislo, QRect({p.left, p.top}, velikostCisla));
-            cislo->setVisible(model_.cislovani());
+            cislo->setText(model_.popisCisla(i));
+            cislo->setVisible(model_.cisloViditelne(i));
         }
     }
 
@@ -133,6 +147,7 @@ private:
     QWidget* scena_;
     const TrebleBoard& model_;
     Umisti umisti_;
+    Pozadi* pozadi_;
     std::array<KnoflikDiskantu*, pocetKnofliku + 1> hlavni_{};
     std::array<KnoflikDiskantu*, pocetKnofliku + 1> pomocne_{};
     std::array<Popisek*, pocetCisel> cisla_{};

@@ -64,6 +64,12 @@ Pozadi::Pozadi(const Nacrt& nacrt, QWidget* parent) : QWidget(parent), nacrt_(na
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
+void Pozadi::prestav(const Nacrt& nacrt) {
+    nacrt_ = nacrt;
+    obraz_ = {};
+    update();
+}
+
 void Pozadi::nakresli(QPainter& painter, double meritko) const {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(meritko, meritko);

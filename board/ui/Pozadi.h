@@ -18,6 +18,7 @@ public:
         double sklon = 0; ///< how far the body sinks per unit to the right; its own box is the unsheared one
     };
     Pozadi(const Nacrt& nacrt, QWidget* parent);
+    void prestav(const Nacrt& nacrt); ///< other grooves in the same body
 
 protected:
     void paintEvent(QPaintEvent* event) override;

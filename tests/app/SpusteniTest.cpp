@@ -1,6 +1,6 @@
 #include "app/Spusteni.h"
 
-#include "app/HodnotyNastaveni.h"
+#include "platform/HodnotyNastaveni.h"
 #include "platform/RuntimeError.h"
 #include "tests/app/PametoveNastaveni.h"
 #include "tests/support/ScriptedDialogs.h"

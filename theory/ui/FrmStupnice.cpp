@@ -1,5 +1,6 @@
 #include "theory/ui/FrmStupnice.h"
 
+#include "platform/ui/PrvkyDialogu.h"
 #include "theory/Tonina.h"
 #include "theory/Toniny.h"
 #include "theory/VolbaStupnice.h"
@@ -17,32 +18,13 @@ namespace zvonika {
 namespace {
 
 constexpr int prvniSBecky = 8; ///< keys from here on stand in the second column
-constexpr int sirkaTitulkovychTlacitek = 130;
-constexpr int zaklad = 13; ///< letter height at which the pictures have their natural size
-
-QLabel* napis(const QString& jmeno, const QString& text) {
-    auto* label = new QLabel(text);
-    label->setObjectName(jmeno);
-    label->setTextFormat(Qt::PlainText);
-    return label;
-}
-
-QPushButton* tlacitko(const QString& jmeno, const QString& text) {
-    auto* tlacitko = new QPushButton(text);
-    tlacitko->setObjectName(jmeno);
-    tlacitko->setAutoDefault(false);
-    return tlacitko;
-}
+constexpr int zaklad = 13;     ///< letter height at which the pictures have their natural size
 
 } // namespace
 
 FrmStupnice::FrmStupnice(VolbaStupnice& volba, const Tonina& tonina, QWidget* parent)
     : QDialog(parent), volba_(volba), optStupnice_(new QButtonGroup(this)) {
-    setObjectName(QStringLiteral("frmStupnice"));
-    setWindowTitle(textyStupnice::titulek);
-    setModal(true);
-    if (parent && parent->window()->windowFlags().testFlag(Qt::WindowStaysOnTopHint))
-        setWindowFlag(Qt::WindowStaysOnTopHint, true);
+    pripravDialog(*this, QStringLiteral("frmStupnice"), textyStupnice::titulek, parent);
     auto* vyberte = napis(QStringLiteral("lblVyberte"), textyStupnice::vyberteStupnici);
     QFont tucne = vyberte->font();
     tucne.setBold(true);
@@ -60,8 +42,7 @@ QWidget* FrmStupnice::postavRam(const Tonina& tonina) {
     auto* ram = new QGroupBox;
     ram->setObjectName(QStringLiteral("fraStupnice"));
     ram->setAccessibleName(textyStupnice::vyberteStupnici);
-    // Wide enough for the caption of the window to be read whole.
-    ram->setMinimumWidth(fontMetrics().horizontalAdvance(textyStupnice::titulek) + sirkaTitulkovychTlacitek);
+    ram->setMinimumWidth(sirkaTitulku(*this));
     auto* mrizka = new QGridLayout(ram);
     mrizka->setHorizontalSpacing(fontInfo().pixelSize() * 2);
     mrizka->setVerticalSpacing(2);

@@ -1,4 +1,4 @@
-#include "app/HodnotyNastaveni.h"
+#include "platform/HodnotyNastaveni.h"
 
 #include "platform/RuntimeError.h"
 

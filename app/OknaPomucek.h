@@ -1,0 +1,19 @@
+#pragma once
+
+class QWidget;
+
+namespace zvonika {
+
+struct Pisen;
+struct Prostredi;
+class TrebleBoard;
+
+// The dialogs of the practice aids, each from opening to closing, over the main window `okno`.
+
+/// The row restrictions. The main window hides while the dialog is up and comes back however it ends.
+void mnuPrekrytRady(QWidget& okno, TrebleBoard& diskant, const Prostredi& prostredi);
+
+/// The default folder of the spreadsheet application.
+void mnuNastavCestu(QWidget& okno, Pisen& pisen, const Prostredi& prostredi);
+
+} // namespace zvonika
