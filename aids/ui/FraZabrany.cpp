@@ -3,6 +3,7 @@
 #include "board/ui/Zabrana.h"
 
 #include <QCheckBox>
+#include <QLayout>
 #include <QPainter>
 #include <QShortcut>
 #include <QSignalBlocker>
@@ -82,7 +83,8 @@ QRect FraZabrany::obrazRad() const {
 
 QSize FraZabrany::sizeHint() const {
     const QRect obraz = obrazRad();
-    return {obraz.right() + 2 * mezera, obraz.bottom() + 2 * mezera};
+    const int vedle = layout() ? layout()->sizeHint().width() : 0;
+    return {obraz.right() + vedle, obraz.bottom() + 2 * mezera};
 }
 
 void FraZabrany::resizeEvent(QResizeEvent* event) {

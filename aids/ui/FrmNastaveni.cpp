@@ -85,21 +85,17 @@ QWidget* FrmNastaveni::postavSloupec(int sloupec) {
 }
 
 QWidget* FrmNastaveni::postavZabrany() {
-    auto* rada = new QWidget;
-    auto* rozvrh = new QHBoxLayout(rada);
-    rozvrh->setContentsMargins(0, 0, 0, 0);
     fraZabrany_ = new FraZabrany(textyNastaveni::fraZabrany);
     fraZabrany_->setObjectName(QStringLiteral("fraZabrany"));
     connect(fraZabrany_, &FraZabrany::zmeneno, this,
-            [this](int cislo, bool zaskrtnuto) { nastaveni_.chkZabrany(cislo, zaskrtnuto); });
+            [this](int rada, bool zaskrtnuto) { nastaveni_.chkZabrany(rada, zaskrtnuto); });
     auto* nic = tlacitko(QStringLiteral("cmdNic"), textyNastaveni::cmdNic);
     connect(nic, &QPushButton::clicked, this, [this] {
         nastaveni_.cmdNic();
         obnov();
     });
-    rozvrh->addWidget(fraZabrany_, 1);
-    rozvrh->addWidget(nic, 0, Qt::AlignBottom);
-    return rada;
+    (new QHBoxLayout(fraZabrany_))->addWidget(nic, 0, Qt::AlignRight | Qt::AlignBottom);
+    return fraZabrany_;
 }
 
 QWidget* FrmNastaveni::postavTlacitka() {

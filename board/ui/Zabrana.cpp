@@ -18,8 +18,8 @@ void Zabrana::paintEvent(QPaintEvent*) {
     QPainterPath obrys;
     obrys.addRoundedRect(pruh, sirka * 0.2, sirka * 0.2);
     painter.setClipPath(obrys);
-    painter.fillPath(obrys, QColor(236, 230, 220, 96));
-    painter.setPen(QPen(QColor(120, 20, 16, 130), sirka * 0.07));
+    painter.fillPath(obrys, QColor(236, 230, 220, 48));
+    painter.setPen(QPen(QColor(150, 24, 18, 165), sirka * 0.07));
     for (qreal y = -sirka; y < height(); y += sirka * 0.5)
         painter.drawLine(QPointF(0, y + sirka), QPointF(sirka, y));
     painter.setClipping(false);

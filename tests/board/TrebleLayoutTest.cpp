@@ -42,6 +42,29 @@ TEST(TrebleLayout, OuterRowsRepeatRowsAAndB) {
     }
 }
 
+TEST(TrebleLayout, TurnedOverEveryRowRunsTheOtherWay) {
+    const struct {
+        int n;
+        Poloha hlavni, pomocny;
+    } tabulka[] = {
+        {49, {6000, 9720}, {4200, 9360}},
+        {46, {6000, 9120}, {4200, 8760}},
+        {4, {6000, 720}, {4200, 360}},
+        {1, {6000, 120}, {}},
+        {47, {4800, 9120}, {6600, 9360}},
+        {44, {4800, 8520}, {6600, 8760}},
+        {2, {4800, 120}, {6600, 360}},
+        {48, {5400, 9360}, {}},
+        {3, {5400, 360}, {}},
+    };
+    for (const auto& [n, hlavni, pomocny] : tabulka) {
+        EXPECT_EQ(polohaKnofliku(n, true), hlavni) << n;
+        EXPECT_EQ(maPomocny(n) ? polohaPomocneho(n, true) : Poloha(), pomocny) << n;
+    }
+    for (int n = 4; n <= pocetKnofliku; ++n) // row by row, without gaps
+        EXPECT_EQ(polohaKnofliku(n, true).top, polohaKnofliku(n - 3, true).top + 600) << n;
+}
+
 TEST(TrebleLayout, ThirtyTwoButtonsHaveATwin) {
     int pocet = 0;
     for (int n = 1; n <= pocetKnofliku; ++n) {
@@ -54,16 +77,18 @@ TEST(TrebleLayout, ThirtyTwoButtonsHaveATwin) {
 }
 
 TEST(TrebleLayout, NoTwoButtonsShareAPlace) {
-    std::set<std::pair<int, int>> mista;
-    const auto zaber = [&](Poloha p) {
-        EXPECT_TRUE(mista.insert({p.left, p.top}).second) << p.left << ' ' << p.top;
-    };
-    for (int n = 1; n <= pocetKnofliku; ++n) {
-        zaber(polohaKnofliku(n));
-        if (maPomocny(n)) zaber(polohaPomocneho(n));
+    for (const bool otoceno : {false, true}) {
+        std::set<std::pair<int, int>> mista;
+        const auto zaber = [&](Poloha p) {
+            EXPECT_TRUE(mista.insert({p.left, p.top}).second) << p.left << ' ' << p.top;
+        };
+        for (int n = 1; n <= pocetKnofliku; ++n) {
+            zaber(polohaKnofliku(n, otoceno));
+            if (maPomocny(n)) zaber(polohaPomocneho(n, otoceno));
+        }
+        for (int bas = 1; bas <= pocetBasu; ++bas)
+            zaber(polohaBasu(bas));
     }
-    for (int bas = 1; bas <= pocetBasu; ++bas)
-        zaber(polohaBasu(bas));
 }
 
 TEST(TrebleLayout, RowCoverFiveIsTheLeftmost) {

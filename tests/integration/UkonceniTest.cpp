@@ -1,8 +1,10 @@
 // The shutdown, and whose default folder the spreadsheet has before, during and after the run.
 #include "tests/integration/CelyProgram.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QSettings>
+#include <QTimer>
 
 namespace zvonika::testing {
 
@@ -120,6 +122,29 @@ TEST_F(UkonceniTest, AnEndOfSongThatCannotBeSavedForgetsTheSong) {
     dialogs.expect(jmenoTabulky, neulozene, Answer::No);
     zavriOkno();
     ocekavejUkonceni();
+}
+
+TEST_F(UkonceniTest, AResetFolderIsTheSheetsOwnDefaultInTheNextRun) {
+    spustSeSlozkouUzivatele();
+    const auto volbou = [this](const char* volba) {
+        QTimer::singleShot(0, [volba] {
+            QWidget* dialog = QApplication::activeModalWidget();
+            QTest::mouseClick(dialog->findChild<QWidget*>(QLatin1String(volba)), Qt::LeftButton, {}, {8, 8});
+            QTest::keyClick(dialog, Qt::Key_Return);
+        });
+        program->proved(QStringLiteral("mnuNastavCestu"));
+    };
+    dialogs.expect("Reset nastavení", "Po ukončení Tamíka");
+    volbou("Option1(3)");
+    EXPECT_EQ(excel->defaultFilePath(), pracovniAdresar);
+    zavriOkno();
+    spust();
+    EXPECT_EQ(program->modely().pisen.puvodniCestaExcelu, "C:\\Dokumenty");
+
+    dialogs.expect("Změna konfigurace Excelu z Tamíka.", "C:\\Dokumenty");
+    volbou("Option1(0)");
+    zavriOkno();
+    EXPECT_EQ(vychoziSlozka(), "C:\\Dokumenty");
 }
 
 } // namespace zvonika::testing

@@ -49,6 +49,18 @@ protected:
     const QVector<int>& kliky() { return GetParam().bas ? s.klikyBasu : s.kliky; }
 };
 
+TEST_F(Stisk, naOtocenemHmatnikuJeKazdyKnoflikPodRukou) {
+    s.diskant.otoc();
+    for (int n = 1; n <= pocetKnofliku; ++n) {
+        QVector<Poloha> mista{polohaKnofliku(n, true)};
+        if (maPomocny(n)) mista << polohaPomocneho(n, true);
+        s.kliky.clear();
+        for (const Poloha& p : mista)
+            QTest::mouseClick(okno(), Qt::LeftButton, {}, QPoint(p.left + 300, p.top + 285) / 15);
+        EXPECT_EQ(s.kliky, QVector<int>(mista.size(), n));
+    }
+}
+
 TEST_P(StiskPrvku, kazdyStiskJeJedenKlik) {
     klikni(GetParam().jmeno);
     klikni(GetParam().jmeno);

@@ -95,6 +95,42 @@ TEST(Vzhled, cislaKnofliku) {
     EXPECT_TRUE(cislo->isHidden());
 }
 
+TEST(Vzhled, otocenyHmatnik) {
+    Sestava s;
+    s.diskant.nastavPopis(2, QStringLiteral("3\r\n"));
+    s.diskant.nastavZabranu(4, true);
+    auto* zabrana = s.prvek("cmdZabrana(4)");
+    const QRect predtim = zabrana->geometry();
+    s.diskant.otoc();
+    EXPECT_EQ(s.prvek("lbl(1)")->geometry(), QRect(400, 8, 41, 41));
+    EXPECT_EQ(s.prvek("lblSynchro(49)")->geometry(), QRect(280, 624, 41, 41));
+    EXPECT_EQ(s.prvek<KnoflikDiskantu>("lbl(2)")->popis(), QStringLiteral("3\r\n"));
+    EXPECT_EQ(zabrana->geometry(), predtim.translated(0, -40)) << "row B stands one button higher";
+    for (const int n : {2, 47})
+        EXPECT_TRUE(
+            zabrana->geometry().contains(s.prvek(n == 2 ? "lbl(2)" : "lbl(47)")->geometry().center()));
+}
+
+TEST(Vzhled, otocenyHmatnikSePrectePodCisly) {
+    Sestava s;
+    const auto slovo = [&s] {
+        QString pismena;
+        for (int i = 31; i >= 0; --i) {
+            const auto* cislo = s.prvek<QLabel>(qPrintable(QStringLiteral("lblCisKnofl(%1)").arg(i)));
+            if (!cislo->isHidden()) pismena += cislo->text();
+        }
+        return pismena;
+    };
+    s.diskant.otoc();
+    EXPECT_EQ(slovo(), QStringLiteral("otočeno"));
+    EXPECT_LT(s.prvek("lblCisKnofl(12)")->y(), s.prvek("lblCisKnofl(6)")->y());
+    s.diskant.nastavCislovani(true);
+    EXPECT_EQ(slovo(), QStringLiteral("1234567887654321"
+                                      "123otočeno654321"));
+    s.diskant.nastavCislovani(false);
+    EXPECT_EQ(slovo(), QString());
+}
+
 TEST(Vzhled, popisyATonyKlaves) {
     Sestava s;
     s.diskant.nastavPopis(5, QStringLiteral("3\r\n2\r\ngis,"));
