@@ -29,6 +29,7 @@ constexpr int subscriptOutOfRange = 9;  ///< no window, sheet or element of that
 constexpr int typeMismatch = 13;        ///< a text is no number
 constexpr int permissionDenied = 70;    ///< a file cannot be deleted
 constexpr int objectNotSet = 91;        ///< the application, or what it was asked about, is gone
+constexpr int cannotCreateObject = 429; ///< the application cannot be started
 constexpr int applicationDefined = 1004; ///< the spreadsheet application refused
 } // namespace error
 

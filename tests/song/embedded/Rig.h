@@ -1,9 +1,9 @@
 #pragma once
 
 #include "platform/HomeDrive.h"
-#include "platform/SettingsStore.h"
 #include "song/SpreadsheetApplication.h"
 #include "song/embedded/EmbeddedApplication.h"
+#include "tests/support/MemorySettings.h"
 #include "tests/support/ScriptedDialogs.h"
 
 #include <QDir>
@@ -12,7 +12,6 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
-#include <map>
 #include <ostream>
 
 inline void PrintTo(const QString& text, std::ostream* out) {
@@ -20,18 +19,6 @@ inline void PrintTo(const QString& text, std::ostream* out) {
 }
 
 namespace zvonika::testing {
-
-class MemorySettings : public SettingsStore {
-public:
-    std::optional<QString> get(const QString& section, const QString& key) const override {
-        const auto found = values.find(section + QLatin1Char('/') + key);
-        return found == values.end() ? std::nullopt : std::optional(found->second);
-    }
-    void save(const QString& section, const QString& key, const QString& value) override {
-        values[section + QLatin1Char('/') + key] = value;
-    }
-    std::map<QString, QString> values;
-};
 
 /// What the application has told its window.
 struct ViewLog {

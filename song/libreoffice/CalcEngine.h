@@ -1,0 +1,89 @@
+#pragma once
+
+#include "song/Address.h"
+#include "song/CellValue.h"
+
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+#include <functional>
+
+namespace zvonika {
+
+/// Told of what the user does in Calc, on threads of the connection, at any time and possibly more than once
+/// for one act. Implementations pass it on; they never call the engine.
+class CalcObserver {
+public:
+    virtual ~CalcObserver() = default;
+    virtual void cursorMoved() = 0;
+    virtual void cellsEdited() = 0;
+    /// Calc has this file open from now on, whoever opened it.
+    virtual void fileOpened(const QString& nativePath) = 0;
+};
+
+/// A workbook that is open in Calc.
+struct OpenWorkbook {
+    int id = 0;   ///< 0: none
+    QString name; ///< file name without folder, or Calc's title of one that was never saved
+    QString path; ///< native; "" for one that was never saved
+    bool modified = false;
+};
+
+/// One running Calc, by its own notions: the layer that knows UNO and nothing of the program. All calls but
+/// `connected` come from one thread, the one that made the connection. Rows, columns and sheets count from 1.
+/// Failures are AutomationError: 91 when Calc or the active workbook is gone, 1004 when Calc refuses.
+class CalcEngine {
+public:
+    virtual ~CalcEngine() = default;    ///< ends the connection; Calc itself goes on
+    virtual bool connected() const = 0; ///< false once Calc is gone; from any thread
+
+    /// Workbooks opened from now on, and those that are open, have visible windows or none.
+    virtual void setVisible(bool visible) = 0;
+    virtual void toFront() = 0;         ///< the active workbook's window, with the keyboard
+    virtual QString folder() const = 0; ///< native folder in which Calc's own file choices start
+    virtual void setFolder(const QString& native) = 0;
+    /// Closes every workbook, saved or not, and ends Calc. False when Calc refuses to end.
+    virtual bool quit() = 0;
+
+    virtual void add() = 0; ///< a new workbook, which becomes the active one
+    virtual void open(const QString& nativePath) = 0;
+    virtual QVector<OpenWorkbook> workbooks() = 0; ///< also those that the user has opened; oldest first
+    virtual OpenWorkbook active() = 0;             ///< id 0 when there is none
+    virtual void activate(int id) = 0;
+    virtual void saveAs(const QString& nativePath) = 0; ///< .xls; replaces an existing file
+    virtual void save() = 0;                            ///< only of a workbook that has a file
+    virtual void close() = 0;                           ///< without asking
+
+    virtual int activeSheet() = 0;
+    virtual QStringList sheetNames() = 0;
+    virtual void renameSheet(const QString& name) = 0; ///< the active one
+    virtual void selectSheet(int sheet) = 0;           ///< 1..number of sheets
+
+    virtual CellPosition cursor() = 0;
+    virtual CellRange selection() = 0;
+    virtual void select(const CellRange& range) = 0; ///< its first cell becomes the active cell
+    virtual CellPosition used() = 0;                 ///< last row and column of the active sheet's contents
+    virtual CellBlock read(const CellRange& range) = 0;
+    virtual QVector<QStringList> formulas(const CellRange& range) = 0;  ///< "" where a cell has none
+    virtual void write(CellPosition first, const CellBlock& block) = 0; ///< rows of equal length, not empty
+    virtual void clear(const CellRange& range) = 0;
+};
+
+/// How to reach a Calc that is starting.
+struct CalcAddress {
+    QString programFolder;            ///< native, of the LibreOffice installation
+    QString pipe;                     ///< name of the pipe on which it accepts
+    std::function<bool()> keepTrying; ///< asked between attempts
+};
+
+/// Raised with every change of the classes above: a plug-in built for others is not used.
+constexpr int calcPluginVersion = 1;
+
+/// What a plug-in exports: "zvonikaCalcPluginVersion" and "zvonikaConnectToCalc". The latter returns when
+/// Calc has answered, or nullptr when `keepTrying` gave up; AutomationError 429 when the connection cannot be
+/// used.
+using CalcPluginVersion = int (*)();
+using ConnectToCalc = CalcEngine* (*)(const CalcAddress& address, CalcObserver& observer);
+
+} // namespace zvonika

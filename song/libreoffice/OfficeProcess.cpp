@@ -1,0 +1,157 @@
+#include "song/libreoffice/OfficeProcess.h"
+
+#include "platform/RuntimeError.h"
+#include "song/libreoffice/Installation.h"
+
+#include <QFile>
+#include <QUrl>
+
+#include <csignal>
+#include <cstring>
+#include <fcntl.h>
+#include <spawn.h>
+#include <string>
+#include <sys/socket.h>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+#include <vector>
+
+extern char** environ;
+
+namespace zvonika {
+
+namespace {
+
+using std::chrono::milliseconds;
+
+constexpr int lockInGuardian = 3;
+constexpr milliseconds guardianTakes{4000}; ///< for ending the office and clearing up
+
+std::vector<std::string> commandLine(const Installation& installation, const Profile& profile,
+                                     const QString& pipe) {
+    const QByteArray url = QUrl::fromLocalFile(profile.path()).toEncoded();
+    const QStringList parts = {
+        installation.guardian,
+        QString::fromLatin1(url),
+        profile.path() + QStringLiteral("/vystup.txt"),
+        installation.program + QStringLiteral("/soffice.bin"),
+        QStringLiteral("--norestore"),
+        QStringLiteral("--nologo"),
+        QStringLiteral("--nodefault"),
+        QStringLiteral("--nolockcheck"),
+        QStringLiteral("--accept=pipe,name=%1;urp;StarOffice.ComponentContext").arg(pipe),
+        QStringLiteral("-env:UserInstallation=") + QString::fromLatin1(url)};
+    std::vector<std::string> encoded;
+    for (const QString& part : parts)
+        encoded.push_back(QFile::encodeName(part).toStdString());
+    return encoded;
+}
+
+bool isUtf8Locale() {
+    for (const char* name : {"LC_ALL", "LC_CTYPE", "LANG"})
+        if (const char* value = getenv(name); value && *value)
+            return QByteArray(value).toLower().replace("-", "").contains("utf8");
+    return false;
+}
+
+/// The program's own surroundings; in a locale without UTF-8 the office could not save to every path.
+std::vector<std::string> environment() {
+    std::vector<std::string> result;
+    const bool utf8 = isUtf8Locale();
+    for (char** entry = environ; *entry; ++entry)
+        if (utf8 || strncmp(*entry, "LC_ALL=", 7) != 0) result.emplace_back(*entry);
+    if (!utf8) result.emplace_back("LC_ALL=C.UTF-8");
+    return result;
+}
+
+std::vector<char*> pointers(std::vector<std::string>& texts) {
+    std::vector<char*> result;
+    for (std::string& text : texts)
+        result.push_back(text.data());
+    result.push_back(nullptr);
+    return result;
+}
+
+[[noreturn]] void cannotStart(int reason) {
+    throw RuntimeError(
+        error::cannotCreateObject,
+        QStringLiteral("LibreOffice Calc nelze spustit: %1.").arg(QString::fromLocal8Bit(strerror(reason))));
+}
+
+/// The guardian reads from `line` and keeps the profile's lock.
+pid_t spawn(std::vector<std::string> command, int line, int profileLock) {
+    auto surroundings = environment();
+    posix_spawn_file_actions_t files;
+    posix_spawn_file_actions_init(&files);
+    posix_spawn_file_actions_adddup2(&files, line, STDIN_FILENO);
+    posix_spawn_file_actions_adddup2(&files, profileLock, lockInGuardian);
+    posix_spawnattr_t attributes;
+    posix_spawnattr_init(&attributes);
+    posix_spawnattr_setflags(&attributes,
+                             POSIX_SPAWN_SETPGROUP); // Ctrl+C in a terminal is for the program alone
+    pid_t started = -1;
+    const int failure = posix_spawn(&started, command.front().c_str(), &files, &attributes,
+                                    pointers(command).data(), pointers(surroundings).data());
+    posix_spawn_file_actions_destroy(&files);
+    posix_spawnattr_destroy(&attributes);
+    if (failure != 0) cannotStart(failure);
+    return started;
+}
+
+} // namespace
+
+OfficeProcess::OfficeProcess(const Installation& installation, const Profile& profile, const QString& pipe) {
+    int ends[2];
+    if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0) cannotStart(errno);
+    line_ = ends[1];
+    try {
+        guardian_ = spawn(commandLine(installation, profile, pipe), ends[0], profile.lock());
+    } catch (...) {
+        close(ends[0]);
+        close(ends[1]);
+        throw;
+    }
+    close(ends[0]);
+}
+
+OfficeProcess::~OfficeProcess() {
+    end();
+}
+
+bool OfficeProcess::running() const {
+    const std::scoped_lock lock(mutex_);
+    if (guardian_ > 0 && waitpid(guardian_, nullptr, WNOHANG) != 0) guardian_ = -1;
+    return guardian_ > 0;
+}
+
+bool OfficeProcess::waitForEnd(milliseconds time) const {
+    constexpr milliseconds step{5};
+    for (milliseconds waited{0}; running(); waited += step) {
+        if (waited >= time) return false;
+        std::this_thread::sleep_for(step);
+    }
+    return true;
+}
+
+void OfficeProcess::end() {
+    {
+        const std::scoped_lock lock(mutex_);
+        if (line_ >= 0) close(line_);
+        line_ = -1;
+    }
+    if (waitForEnd(guardianTakes)) return;
+    const std::scoped_lock lock(mutex_);
+    kill(guardian_, SIGKILL); // the office goes with it
+    waitpid(guardian_, nullptr, 0);
+    guardian_ = -1;
+}
+
+void OfficeProcess::tellDocument(const QString& nativePath) {
+    const QByteArray line = "file:" + QFile::encodeName(nativePath) + '\n';
+    const std::scoped_lock lock(mutex_);
+    // A guardian that has ended means an office that has ended, which the next call to it tells.
+    if (line_ >= 0) send(line_, line.constData(), static_cast<std::size_t>(line.size()), MSG_NOSIGNAL);
+}
+
+} // namespace zvonika

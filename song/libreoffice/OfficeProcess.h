@@ -1,0 +1,41 @@
+#pragma once
+
+#include "song/libreoffice/Profile.h"
+
+#include <QString>
+
+#include <chrono>
+#include <mutex>
+#include <sys/types.h>
+
+namespace zvonika {
+
+struct Installation;
+
+/// One running office of our own, with its guardian process, which ends it with this program, however that
+/// ends, and clears away what a killed office leaves behind.
+class OfficeProcess {
+public:
+    /// Starts it; it accepts connections on the pipe of that name a little later. AutomationError 429 when
+    /// nothing can be started.
+    OfficeProcess(const Installation& installation, const Profile& profile, const QString& pipe);
+    /// Ends it, at once.
+    ~OfficeProcess();
+    OfficeProcess(const OfficeProcess&) = delete;
+    OfficeProcess& operator=(const OfficeProcess&) = delete;
+
+    bool running() const; ///< from any thread
+    /// True when it has ended, which it may take this long for.
+    bool waitForEnd(std::chrono::milliseconds time) const;
+    /// Ends it at once; unsaved changes are lost.
+    void end();
+    /// The office has a document open. From any thread.
+    void tellDocument(const QString& nativePath);
+
+private:
+    mutable std::mutex mutex_;
+    mutable pid_t guardian_ = -1; ///< -1 once it is known to have ended
+    int line_ = -1;
+};
+
+} // namespace zvonika

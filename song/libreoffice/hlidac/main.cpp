@@ -1,0 +1,119 @@
+// zvonika-hlidac PROFILE_URL LOG PROGRAM ARGUMENT...: runs an office for Zvonika and sees to it that nothing
+// of it stays behind.
+//
+// Standard input is the line from Zvonika: "file:PATH" names a document that the office has open, anything
+// else only wakes. When the line breaks, Zvonika has ended, however it did, and the office is ended too.
+// Descriptor 3 holds the lock of the office's profile for as long as this process lives. The exit code is the
+// office's.
+#include "song/libreoffice/hlidac/Leftovers.h"
+
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
+#include <poll.h>
+#include <string>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int profileLock = 3;
+constexpr int restartWanted = 81; // what the office ends with after it has set up a fresh profile
+constexpr int mostStarts = 4;
+
+volatile std::sig_atomic_t toEnd = 0;
+
+void onSignal(int number) {
+    if (number != SIGCHLD) toEnd = 1;
+}
+
+/// Signals interrupt nothing but the wait. Returns the mask to wait with.
+sigset_t catchSignals() {
+    struct sigaction action = {};
+    action.sa_handler = onSignal;
+    sigset_t blocked, before;
+    sigemptyset(&blocked);
+    for (const int number : {SIGCHLD, SIGTERM, SIGINT, SIGHUP}) {
+        sigaction(number, &action, nullptr);
+        sigaddset(&blocked, number);
+    }
+    signal(SIGPIPE, SIG_IGN);
+    sigprocmask(SIG_BLOCK, &blocked, &before);
+    return before;
+}
+
+[[noreturn]] void becomeOffice(char** command, const char* log, pid_t guard, const sigset_t& mask) {
+    setpgid(0, 0);
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
+    if (getppid() != guard) _exit(1);
+    const int nothing = open("/dev/null", O_RDONLY);
+    const int out = open(log, O_WRONLY | O_CREAT | O_TRUNC | O_APPEND, 0600);
+    dup2(nothing, STDIN_FILENO);
+    dup2(out, STDOUT_FILENO);
+    dup2(out, STDERR_FILENO);
+    closefrom(profileLock);
+    sigprocmask(SIG_SETMASK, &mask, nullptr);
+    execv(command[0], command);
+    _exit(127);
+}
+
+pid_t start(char** command, const char* log, const sigset_t& mask) {
+    const pid_t guard = getpid();
+    const pid_t office = fork();
+    if (office == 0) becomeOffice(command, log, guard, mask);
+    if (office > 0) setpgid(office, office); // by whoever comes first
+    return office;
+}
+
+/// Takes what the line has to say; false when it is broken.
+bool listen(std::string& pending, zvonika::Leftovers& leftovers, pid_t office) {
+    char bytes[4096];
+    const ssize_t count = read(STDIN_FILENO, bytes, sizeof bytes);
+    if (count < 0) return errno == EINTR || errno == EAGAIN;
+    if (count == 0) return false;
+    pending.append(bytes, static_cast<std::size_t>(count));
+    for (std::size_t end; (end = pending.find('\n')) != std::string::npos; pending.erase(0, end + 1))
+        if (pending.starts_with("file:")) leftovers.addDocument(pending.substr(5, end - 5));
+    leftovers.lookAt(office);
+    return true;
+}
+
+/// Waits until the office has ended or has to; its exit code in the first case, -1 in the second.
+int watch(pid_t office, zvonika::Leftovers& leftovers, const sigset_t& mask) {
+    std::string pending;
+    while (!toEnd) {
+        int status = 0;
+        if (waitpid(office, &status, WNOHANG) == office)
+            return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+        pollfd line = {STDIN_FILENO, POLLIN, 0};
+        if (ppoll(&line, 1, nullptr, &mask) > 0 && !listen(pending, leftovers, office)) break;
+    }
+    return -1;
+}
+
+int run(char** command, const char* log, zvonika::Leftovers& leftovers) {
+    const sigset_t mask = catchSignals();
+    int result = restartWanted;
+    for (int i = 0; i < mostStarts && result == restartWanted; ++i) {
+        const pid_t office = start(command, log, mask);
+        if (office < 0) return 127;
+        result = watch(office, leftovers, mask);
+        leftovers.lookAt(office);
+        kill(-office, SIGKILL); // with what it has started itself
+        if (result < 0) waitpid(office, nullptr, 0);
+    }
+    leftovers.remove();
+    return result < 0 ? 128 + SIGKILL : result;
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    if (argc < 4) return 2;
+    closefrom(profileLock + 1);
+    setenv("SAL_ENABLE_FILE_LOCKING", "1", 1);
+    zvonika::Leftovers leftovers(argv[1]);
+    return run(argv + 3, argv[2], leftovers);
+}

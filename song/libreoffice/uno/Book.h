@@ -1,0 +1,84 @@
+#pragma once
+
+#include "song/libreoffice/CalcEngine.h"
+#include "song/libreoffice/uno/UserEvents.h"
+#include "song/libreoffice/uno/Values.h"
+
+#include <com/sun/star/awt/XWindow.hpp>
+#include <com/sun/star/frame/XDispatchHelper.hpp>
+#include <com/sun/star/frame/XFrame.hpp>
+#include <com/sun/star/lang/XComponent.hpp>
+#include <com/sun/star/sheet/XSpreadsheetView.hpp>
+#include <com/sun/star/sheet/XSpreadsheets.hpp>
+#include <memory>
+#include <rtl/ref.hxx>
+
+namespace zvonika {
+
+/// One workbook that is open in Calc, with its view. Failures are UNO's own.
+class Book {
+public:
+    /// nullptr when the document is no spreadsheet.
+    static std::unique_ptr<Book> of(const Ref<css::lang::XComponent>& document, CalcObserver& observer,
+                                    const Ref<css::frame::XDispatchHelper>& dispatcher);
+    ~Book();
+    Book(const Book&) = delete;
+    Book& operator=(const Book&) = delete;
+
+    int id = 0;
+
+    // --- the file ---
+    bool closed() const { return events_->closed(); }
+    void markClosed() { events_->markClosed(); } ///< a call has met nothing any more
+    bool is(const Ref<css::uno::XInterface>& document) const { return identity_ == document; }
+    OpenWorkbook description() const;
+    /// A file in the format .xls, and in no other.
+    bool isXls() const;
+    void saveAs(const QString& nativePath);
+    void save();
+    void close();
+
+    // --- its window ---
+    void setVisible(bool visible);
+    void toFront();
+
+    // --- sheets ---
+    int activeSheet() const;
+    QStringList sheetNames() const;
+    void rename(const QString& name);
+    void selectSheet(int sheet);
+
+    // --- cells of the active sheet ---
+    CellPosition cursor() const;
+    CellRange selection() const;
+    void select(const CellRange& range);
+    CellPosition used() const;
+    CellBlock read(const CellRange& range) { return values_.read(sheet(), range); }
+    QVector<QStringList> formulas(const CellRange& range) const;
+    void write(CellPosition first, const CellBlock& block) { values_.write(sheet(), first, block); }
+    void clear(const CellRange& range);
+
+private:
+    Book(const Ref<css::frame::XModel>& model, const Ref<css::sheet::XSpreadsheets>& sheets,
+         CalcObserver& observer, const Ref<css::frame::XDispatchHelper>& dispatcher);
+    Ref<css::sheet::XSpreadsheet> sheet() const;
+    void refuseWhatXlsLoses() const;
+    void commitEntry();
+    QString title() const;
+
+    CalcObserver& observer_;
+    Ref<css::frame::XDispatchHelper> dispatcher_;
+    Ref<css::frame::XModel> model_;
+    Ref<css::uno::XInterface> identity_;
+    Ref<css::sheet::XSpreadsheets> sheets_;
+    Ref<css::frame::XController> controller_;
+    Ref<css::sheet::XSpreadsheetView> view_;
+    Ref<css::frame::XFrame> frame_;
+    Values values_;
+    rtl::Reference<UserEvents> events_;
+};
+
+/// The last row and column that a sheet uses, counted from 1.
+CellPosition usedEnd(const Ref<css::sheet::XSpreadsheet>& sheet);
+
+} // namespace zvonika

@@ -1,0 +1,185 @@
+#include "song/libreoffice/uno/Engine.h"
+
+#include "song/libreoffice/uno/Interaction.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+#include <com/sun/star/document/MacroExecMode.hpp>
+#include <com/sun/star/document/UpdateDocMode.hpp>
+#include <com/sun/star/frame/DispatchHelper.hpp>
+#include <com/sun/star/util/XCloseable.hpp>
+#include <com/sun/star/util/thePathSettings.hpp>
+
+namespace zvonika {
+
+namespace {
+
+[[noreturn]] void refuseToOpen(const QString& nativePath, const QString& reason) {
+    refuse(QStringLiteral("Soubor „%1“ nelze otevřít: %2.").arg(QFileInfo(nativePath).fileName(), reason));
+}
+
+} // namespace
+
+Engine::Engine(std::unique_ptr<Connection> connection, CalcObserver& observer)
+    : connection_(std::move(connection)), observer_(observer),
+      dispatcher_(css::frame::DispatchHelper::create(connection_->context())) {}
+
+Engine::~Engine() = default;
+
+Ref<css::lang::XComponent> Engine::load(const QString& url, const QString& nativePath) {
+    const rtl::Reference<Interaction> interaction(new Interaction);
+    Ref<css::lang::XComponent> document;
+    try {
+        document = connection_->desktop()->loadComponentFromURL(
+            toUno(url), rtl::OUString("_blank"), 0,
+            properties(
+                property("Hidden", !visible_),
+                property("MacroExecutionMode", css::document::MacroExecMode::NEVER_EXECUTE),
+                property("UpdateDocMode", css::document::UpdateDocMode::NO_UPDATE),
+                property("InteractionHandler", Ref<css::task::XInteractionHandler>(interaction.get()))));
+    } catch (const css::lang::DisposedException&) {
+        throw;
+    } catch (const css::uno::Exception&) { // the reason is known from what was asked
+    }
+    if (document.is()) return document;
+    refuseToOpen(nativePath, interaction->reason().isEmpty() ? QStringLiteral("LibreOffice Calc ho odmítl")
+                                                             : interaction->reason());
+}
+
+void Engine::adopt(const Ref<css::lang::XComponent>& document) {
+    auto book = Book::of(document, observer_, dispatcher_);
+    if (!book) return;
+    book->id = ++lastId_;
+    books_.push_back(std::move(book));
+}
+
+// Workbooks that the user has opened from Calc's own menus.
+void Engine::adoptStrangers() {
+    const auto all = connection_->desktop()->getComponents()->createEnumeration();
+    while (all->hasMoreElements()) {
+        Ref<css::lang::XComponent> document(all->nextElement(), css::uno::UNO_QUERY);
+        const Ref<css::uno::XInterface> identity = as<css::uno::XInterface>(document);
+        const bool known = std::ranges::any_of(books_, [&](const auto& book) { return book->is(identity); });
+        if (document.is() && !known) adopt(document);
+    }
+}
+
+void Engine::dropClosed() {
+    std::erase_if(books_, [](const auto& book) { return book->closed(); });
+    if (!find(activeId_)) activeId_ = books_.empty() ? 0 : books_.back()->id;
+}
+
+Book* Engine::find(int id) {
+    const auto found = std::ranges::find_if(books_, [&](const auto& book) { return book->id == id; });
+    return found == books_.end() ? nullptr : found->get();
+}
+
+Book* Engine::activeBook() {
+    if (!connected()) throw css::lang::DisposedException();
+    dropClosed();
+    return find(activeId_);
+}
+
+void Engine::setVisible(bool visible) {
+    guarded([&] {
+        visible_ = visible;
+        dropClosed();
+        for (const auto& book : books_)
+            book->setVisible(visible);
+    });
+}
+
+void Engine::toFront() {
+    onBook([](Book& book) { book.toFront(); });
+}
+
+QString Engine::folder() const {
+    return guarded(
+        [&] { return nativePath(css::util::thePathSettings::get(connection_->context())->getWork()); });
+}
+
+void Engine::setFolder(const QString& native) {
+    guarded([&] { css::util::thePathSettings::get(connection_->context())->setWork(fileUrl(native)); });
+}
+
+bool Engine::quit() {
+    return guarded([&] {
+        adoptStrangers();
+        dropClosed();
+        for (const auto& book : books_)
+            book->close();
+        books_.clear();
+        return connection_->desktop()->terminate();
+    });
+}
+
+void Engine::add() {
+    guarded([&] {
+        adopt(load(QStringLiteral("private:factory/scalc"), {}));
+        activeId_ = lastId_;
+    });
+}
+
+void Engine::open(const QString& nativePath) {
+    guarded([&] {
+        const auto document = load(fromUno(fileUrl(nativePath)), nativePath);
+        const std::size_t before = books_.size();
+        adopt(document);
+        if (books_.size() > before && books_.back()->isXls()) {
+            activeId_ = lastId_;
+            return;
+        }
+        if (books_.size() > before) books_.pop_back();
+        as<css::util::XCloseable>(document)->close(true);
+        refuseToOpen(nativePath, QStringLiteral("není to sešit ve formátu .xls"));
+    });
+}
+
+QVector<OpenWorkbook> Engine::workbooks() {
+    return guarded([&] {
+        dropClosed();
+        adoptStrangers();
+        QVector<OpenWorkbook> result;
+        for (const auto& book : books_)
+            result.push_back(book->description());
+        return result;
+    });
+}
+
+OpenWorkbook Engine::active() {
+    while (guarded([&] { return activeBook() != nullptr; })) {
+        try {
+            return onBook([](Book& book) { return book.description(); });
+        } catch (const RuntimeError&) {
+            if (!connected() || !find(activeId_)->closed()) throw;
+        }
+    }
+    return {};
+}
+
+void Engine::activate(int id) {
+    guarded([&] {
+        Book* wanted = find(id);
+        if (!wanted || wanted->closed()) throw css::lang::DisposedException();
+        activeId_ = id;
+        wanted->toFront();
+    });
+}
+
+void Engine::saveAs(const QString& nativePath) {
+    onBook([&](Book& book) { book.saveAs(nativePath); });
+}
+
+void Engine::save() {
+    onBook([](Book& book) { book.save(); });
+}
+
+void Engine::close() {
+    onBook([](Book& book) {
+        book.close();
+        book.markClosed();
+    });
+}
+
+} // namespace zvonika

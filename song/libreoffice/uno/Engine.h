@@ -1,0 +1,84 @@
+#pragma once
+
+#include "song/libreoffice/uno/Book.h"
+#include "song/libreoffice/uno/Connection.h"
+#include "song/libreoffice/uno/Failures.h"
+
+#include <memory>
+#include <vector>
+
+namespace zvonika {
+
+/// Calc behind an open connection. The active workbook is the program's own notion: the one that it has last
+/// made, opened or activated, and when that is closed the one opened last of the others.
+class Engine : public CalcEngine {
+public:
+    Engine(std::unique_ptr<Connection> connection, CalcObserver& observer);
+    ~Engine() override;
+
+    bool connected() const override { return connection_->alive(); }
+    void setVisible(bool visible) override;
+    void toFront() override;
+    QString folder() const override;
+    void setFolder(const QString& native) override;
+    bool quit() override;
+
+    void add() override;
+    void open(const QString& nativePath) override;
+    QVector<OpenWorkbook> workbooks() override;
+    OpenWorkbook active() override;
+    void activate(int id) override;
+    void saveAs(const QString& nativePath) override;
+    void save() override;
+    void close() override;
+
+    int activeSheet() override;
+    QStringList sheetNames() override;
+    void renameSheet(const QString& name) override;
+    void selectSheet(int sheet) override;
+
+    CellPosition cursor() override;
+    CellRange selection() override;
+    void select(const CellRange& range) override;
+    CellPosition used() override;
+    CellBlock read(const CellRange& range) override;
+    QVector<QStringList> formulas(const CellRange& range) override;
+    void write(CellPosition first, const CellBlock& block) override;
+    void clear(const CellRange& range) override;
+
+private:
+    Ref<css::lang::XComponent> load(const QString& url, const QString& nativePath);
+    void adopt(const Ref<css::lang::XComponent>& document);
+    void adoptStrangers();
+    void dropClosed();
+    Book* activeBook();
+    Book* find(int id);
+    /// Runs calls to the active workbook. One that has been closed in between is forgotten.
+    template <typename Calls>
+    auto onBook(Calls calls);
+
+    std::unique_ptr<Connection> connection_;
+    CalcObserver& observer_;
+    Ref<css::frame::XDispatchHelper> dispatcher_;
+    std::vector<std::unique_ptr<Book>> books_;
+    int activeId_ = 0;
+    int lastId_ = 0;
+    bool visible_ = false;
+};
+
+template <typename Calls>
+auto Engine::onBook(Calls calls) {
+    return guarded([&] {
+        Book* book = activeBook();
+        if (!book)
+            throw RuntimeError(error::objectNotSet, QStringLiteral("V tabulce není otevřen žádný sešit."));
+        try {
+            return calls(*book);
+        } catch (const css::lang::DisposedException&) {
+            book->markClosed();
+            throw;
+        }
+    });
+}
+
+} // namespace zvonika

@@ -1,0 +1,54 @@
+// Sheets and cells of the active workbook.
+#include "song/libreoffice/uno/Engine.h"
+
+namespace zvonika {
+
+int Engine::activeSheet() {
+    return onBook([&](Book& book) { return book.activeSheet(); });
+}
+
+QStringList Engine::sheetNames() {
+    return onBook([&](Book& book) { return book.sheetNames(); });
+}
+
+void Engine::renameSheet(const QString& name) {
+    onBook([&](Book& book) { book.rename(name); });
+}
+
+void Engine::selectSheet(int sheet) {
+    onBook([&](Book& book) { book.selectSheet(sheet); });
+}
+
+CellPosition Engine::cursor() {
+    return onBook([&](Book& book) { return book.cursor(); });
+}
+
+CellRange Engine::selection() {
+    return onBook([&](Book& book) { return book.selection(); });
+}
+
+void Engine::select(const CellRange& range) {
+    onBook([&](Book& book) { book.select(range); });
+}
+
+CellPosition Engine::used() {
+    return onBook([&](Book& book) { return book.used(); });
+}
+
+CellBlock Engine::read(const CellRange& range) {
+    return onBook([&](Book& book) { return book.read(range); });
+}
+
+QVector<QStringList> Engine::formulas(const CellRange& range) {
+    return onBook([&](Book& book) { return book.formulas(range); });
+}
+
+void Engine::write(CellPosition first, const CellBlock& block) {
+    onBook([&](Book& book) { book.write(first, block); });
+}
+
+void Engine::clear(const CellRange& range) {
+    onBook([&](Book& book) { book.clear(range); });
+}
+
+} // namespace zvonika

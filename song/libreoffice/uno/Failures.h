@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/RuntimeError.h"
+#include "song/libreoffice/uno/Uno.h"
+
+#include <com/sun/star/lang/DisposedException.hpp>
+
+namespace zvonika {
+
+[[noreturn]] inline void refuse(const QString& sentence) {
+    throw RuntimeError(error::applicationDefined, sentence);
+}
+
+/// Runs calls to Calc and turns their failures into errors with a number. What is gone, Calc or a workbook,
+/// raises 91; which of them it was is known to the connection.
+template <typename Calls>
+auto guarded(Calls calls) -> decltype(calls()) {
+    try {
+        return calls();
+    } catch (const css::lang::DisposedException&) {
+        throw RuntimeError(error::objectNotSet,
+                           QStringLiteral("LibreOffice Calc nebo jeho sešit už není otevřen."));
+    } catch (const css::uno::Exception& failure) {
+        refuse(QStringLiteral("LibreOffice Calc příkaz odmítl: %1").arg(fromUno(failure.Message)));
+    }
+}
+
+} // namespace zvonika

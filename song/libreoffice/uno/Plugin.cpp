@@ -1,0 +1,25 @@
+// What the program finds in the plug-in.
+#include "platform/RuntimeError.h"
+#include "song/libreoffice/uno/Engine.h"
+
+#include <exception>
+
+extern "C" {
+
+Q_DECL_EXPORT int zvonikaCalcPluginVersion() {
+    return zvonika::calcPluginVersion;
+}
+
+Q_DECL_EXPORT zvonika::CalcEngine* zvonikaConnectToCalc(const zvonika::CalcAddress& address,
+                                                        zvonika::CalcObserver& observer) {
+    try {
+        auto connection = zvonika::Connection::open(address);
+        return connection ? new zvonika::Engine(std::move(connection), observer) : nullptr;
+    } catch (const css::uno::Exception& failure) {
+        throw zvonika::RuntimeError(
+            zvonika::error::cannotCreateObject,
+            QStringLiteral("Spojení s LibreOffice se nezdařilo: %1.").arg(zvonika::fromUno(failure.Message)));
+    }
+}
+
+} // extern "C"

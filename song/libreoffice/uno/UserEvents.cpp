@@ -1,0 +1,29 @@
+#include "song/libreoffice/uno/UserEvents.h"
+
+#include <com/sun/star/sheet/XActivationBroadcaster.hpp>
+#include <com/sun/star/util/XChangesNotifier.hpp>
+#include <com/sun/star/util/XCloseBroadcaster.hpp>
+#include <com/sun/star/view/XSelectionSupplier.hpp>
+
+namespace zvonika {
+
+void UserEvents::listenTo(const Ref<css::frame::XModel>& model, const Ref<css::frame::XController>& view) {
+    if (const auto closing = as<css::util::XCloseBroadcaster>(model); closing.is())
+        closing->addCloseListener(this);
+    if (const auto changes = as<css::util::XChangesNotifier>(model); changes.is())
+        changes->addChangesListener(this);
+    if (const auto selection = as<css::view::XSelectionSupplier>(view); selection.is())
+        selection->addSelectionChangeListener(this);
+    if (const auto sheets = as<css::sheet::XActivationBroadcaster>(view); sheets.is())
+        sheets->addActivationEventListener(this);
+}
+
+void UserEvents::changesOccurred(const css::util::ChangesEvent&) {
+    if (users()) observer_.cellsEdited();
+}
+
+void UserEvents::moved() {
+    if (users()) observer_.cursorMoved();
+}
+
+} // namespace zvonika

@@ -1,0 +1,128 @@
+#include "song/libreoffice/uno/Values.h"
+
+#include "song/libreoffice/uno/Failures.h"
+
+#include <algorithm>
+#include <com/sun/star/beans/XPropertySet.hpp>
+#include <com/sun/star/lang/Locale.hpp>
+#include <com/sun/star/sheet/XCellRangeData.hpp>
+#include <com/sun/star/text/XTextRange.hpp>
+#include <com/sun/star/util/NumberFormat.hpp>
+#include <com/sun/star/util/XNumberFormatTypes.hpp>
+
+namespace zvonika {
+
+namespace {
+
+using Row = css::uno::Sequence<css::uno::Any>;
+const rtl::OUString numberFormat("NumberFormat");
+
+/// As a block write takes it; what needs more than this is left empty and finished cell by cell.
+struct Data {
+    css::uno::Any operator()(std::monostate) const { return css::uno::Any(rtl::OUString()); }
+    css::uno::Any operator()(double number) const { return css::uno::Any(number); }
+    css::uno::Any operator()(bool truth) const { return css::uno::Any(truth ? 1.0 : 0.0); }
+    css::uno::Any operator()(const CellError&) const { return css::uno::Any(rtl::OUString()); }
+    css::uno::Any operator()(const QString& text) const { return css::uno::Any(toUno(text)); }
+};
+
+css::uno::Sequence<Row> dataOf(const CellBlock& block) {
+    css::uno::Sequence<Row> data(static_cast<sal_Int32>(block.size()));
+    Row* row = data.getArray();
+    for (const auto& values : block) {
+        Row filled(static_cast<sal_Int32>(values.size()));
+        css::uno::Any* cell = filled.getArray();
+        for (const CellValue& value : values)
+            *cell++ = std::visit(Data(), value);
+        *row++ = filled;
+    }
+    return data;
+}
+
+bool isZeroOrOne(double number) {
+    return number == 0.0 || number == 1.0;
+}
+
+Ref<css::table::XCell> cellAt(const Ref<css::sheet::XSpreadsheet>& sheet, CellPosition cell) {
+    return sheet->getCellByPosition(cell.column - 1, cell.row - 1);
+}
+
+/// Whether a cell that holds 0 or 1 holds a truth value: it shows a word, or it is one of the formulas that
+/// stand for truth values in files.
+bool isLogical(const Ref<css::table::XCell>& cell) {
+    const QString shown = fromUno(as<css::text::XTextRange>(cell)->getString());
+    if (!shown.isEmpty() && std::none_of(shown.begin(), shown.end(), [](QChar c) { return c.isDigit(); }))
+        return true;
+    const rtl::OUString formula = cell->getFormula();
+    return formula.equalsAscii("=TRUE()") || formula.equalsAscii("=FALSE()");
+}
+
+QString knownError(const QString& text) {
+    static const QStringList known = {"#NULL!", "#DIV/0!", "#VALUE!", "#REF!", "#NAME?", "#NUM!", "#N/A"};
+    return known.contains(text) ? text : known.last();
+}
+
+} // namespace
+
+Ref<css::table::XCellRange> cellsOf(const Ref<css::sheet::XSpreadsheet>& sheet, const CellRange& range) {
+    return sheet->getCellRangeByPosition(range.first.column - 1, range.first.row - 1, range.last.column - 1,
+                                         range.last.row - 1);
+}
+
+CellBlock Values::read(const Ref<css::sheet::XSpreadsheet>& sheet, const CellRange& range) {
+    const auto data = as<css::sheet::XCellRangeData>(cellsOf(sheet, range))->getDataArray();
+    CellBlock block;
+    block.reserve(data.getLength());
+    CellPosition cell = range.first;
+    for (const Row& row : data) {
+        QVector<CellValue> values;
+        values.reserve(row.getLength());
+        cell.column = range.first.column;
+        for (const css::uno::Any& found : row) {
+            values.push_back(read(sheet, cell, found));
+            ++cell.column;
+        }
+        block.push_back(std::move(values));
+        ++cell.row;
+    }
+    return block;
+}
+
+CellValue Values::read(const Ref<css::sheet::XSpreadsheet>& sheet, CellPosition cell,
+                       const css::uno::Any& data) {
+    double number = 0;
+    rtl::OUString text;
+    if (data >>= text) return text.isEmpty() ? CellValue() : CellValue(fromUno(text));
+    if (!(data >>= number)) // nothing at all stands for an error
+        return CellError{knownError(fromUno(as<css::text::XTextRange>(cellAt(sheet, cell))->getString()))};
+    if (isZeroOrOne(number) && isLogical(cellAt(sheet, cell))) return number == 1.0;
+    return number;
+}
+
+void Values::write(const Ref<css::sheet::XSpreadsheet>& sheet, CellPosition first, const CellBlock& block) {
+    const int rows = static_cast<int>(block.size()), columns = static_cast<int>(block.first().size());
+    const CellRange range{first, {first.row + rows - 1, first.column + columns - 1}};
+    as<css::sheet::XCellRangeData>(cellsOf(sheet, range))->setDataArray(dataOf(block));
+    for (int row = 0; row < rows; ++row)
+        for (int column = 0; column < columns; ++column)
+            finish(sheet, {first.row + row, first.column + column}, block[row][column]);
+}
+
+// The number format decides between numbers and truth values, and a cell may have one from an earlier value.
+void Values::finish(const Ref<css::sheet::XSpreadsheet>& sheet, CellPosition cell, const CellValue& value) {
+    if (const auto* error = std::get_if<CellError>(&value)) {
+        cellAt(sheet, cell)->setFormula(toUno(QLatin1Char('=') + knownError(error->text)));
+        return;
+    }
+    const auto* number = std::get_if<double>(&value);
+    const bool truth = std::holds_alternative<bool>(value);
+    if (!truth && !(number && isZeroOrOne(*number))) return;
+    const auto target = cellAt(sheet, cell);
+    if (isLogical(target) == truth) return;
+    const sal_Int16 type = truth ? css::util::NumberFormat::LOGICAL : css::util::NumberFormat::NUMBER;
+    const sal_Int32 format =
+        as<css::util::XNumberFormatTypes>(formats_)->getStandardFormat(type, css::lang::Locale());
+    as<css::beans::XPropertySet>(target)->setPropertyValue(numberFormat, css::uno::Any(format));
+}
+
+} // namespace zvonika

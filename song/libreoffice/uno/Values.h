@@ -1,0 +1,31 @@
+#pragma once
+
+#include "song/Address.h"
+#include "song/CellValue.h"
+#include "song/libreoffice/uno/Uno.h"
+
+#include <com/sun/star/sheet/XSpreadsheet.hpp>
+#include <com/sun/star/util/XNumberFormats.hpp>
+namespace zvonika {
+
+/// Cells of one workbook between Calc's notion and the program's. Calc has no truth values: a 0 or 1 is one
+/// where its number format says so.
+class Values {
+public:
+    explicit Values(const Ref<css::util::XNumberFormats>& formats) : formats_(formats) {}
+
+    CellBlock read(const Ref<css::sheet::XSpreadsheet>& sheet, const CellRange& range);
+    /// `block`: rows of equal length that lie within the sheet.
+    void write(const Ref<css::sheet::XSpreadsheet>& sheet, CellPosition first, const CellBlock& block);
+
+private:
+    CellValue read(const Ref<css::sheet::XSpreadsheet>& sheet, CellPosition cell, const css::uno::Any& data);
+    void finish(const Ref<css::sheet::XSpreadsheet>& sheet, CellPosition cell, const CellValue& value);
+
+    Ref<css::util::XNumberFormats> formats_;
+};
+
+/// The cells of a range of a sheet, as UNO has them.
+Ref<css::table::XCellRange> cellsOf(const Ref<css::sheet::XSpreadsheet>& sheet, const CellRange& range);
+
+} // namespace zvonika

@@ -1,0 +1,47 @@
+#include "tests/song/contract/SpreadsheetContract.h"
+#include "tests/song/libreoffice/CalcWorld.h"
+
+#include <QTest>
+
+namespace zvonika::testing {
+
+namespace {
+
+class CalcRig : public SpreadsheetRig {
+public:
+    std::unique_ptr<SpreadsheetApplication> launch() override {
+        auto application = world_.launch();
+        application->setVisible(true); // Calc saves a cursor only from a window
+        return application;
+    }
+    QString folder() const override { return world_.folder.path(); }
+    void willChoose(const std::optional<QString>& file) override {
+        world_.dialogs.expectFile(QStringLiteral("Vyberte písničku"), file);
+    }
+    void willSaveChanges(bool save) override {
+        world_.dialogs.expect(jmenoCalcu, QStringLiteral("má neuložené změny. Chcete ho uložit?"),
+                              save ? Answer::Yes : Answer::No);
+    }
+    void userClosesWorkbook(SpreadsheetApplication& application) override {
+        EXPECT_TRUE(VirtualScreen::press(application.activeWorkbookName(), {"ctrl+w"}));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return application.activeWorkbookName().isEmpty(); }));
+    }
+    void userQuits(SpreadsheetApplication& application) override {
+        EXPECT_TRUE(VirtualScreen::press(application.activeWorkbookName(), {"ctrl+q"}));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return raised([&] { application.activeWorkbookName(); }) == 91; }));
+    }
+
+private:
+    CalcWorld world_;
+};
+
+std::unique_ptr<SpreadsheetRig> makeCalcRig() {
+    return std::make_unique<CalcRig>();
+}
+
+} // namespace
+
+INSTANTIATE_TEST_SUITE_P(Calc, SpreadsheetContract,
+                         ::testing::Values(SpreadsheetRigFactory{"calc", makeCalcRig}));
+
+} // namespace zvonika::testing
