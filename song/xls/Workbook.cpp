@@ -1,9 +1,12 @@
 #include "song/xls/Workbook.h"
 
+#include "song/xls/biff5/Translation.h"
 #include "song/xls/book/BlankWorkbook.h"
+#include "song/xls/book/BookStream.h"
 #include "song/xls/book/CellReader.h"
 #include "song/xls/book/SheetSettings.h"
 #include "song/xls/book/SheetUse.h"
+#include "song/xls/book/Version.h"
 #include "song/xls/book/WorkbookModel.h"
 #include "song/xls/container/CompoundFile.h"
 #include "song/xls/writer/SharedFormulas.h"
@@ -21,16 +24,12 @@ namespace {
 constexpr std::size_t maxTextUnits = 32767;
 constexpr std::size_t maxNameUnits = 31;
 constexpr int maxColumnWidth = 65535;
+constexpr const char* streamName = "Workbook";
 constexpr std::uint8_t numberError = 0x24; // #NUM!
 
-std::uint32_t requireStream(const CompoundFile& container) {
-    for (const char* name : {"Workbook", "Book"})
-        if (const auto entry = container.findStream(name)) return *entry;
-    const auto has = [&](const char* name) { return container.findStream(name).has_value(); };
-    const Refusal refusal = has("EncryptedPackage")                             ? Refusal::Encrypted
-                            : has("WordDocument") || has("PowerPoint Document") ? Refusal::OtherFormat
-                                                                                : Refusal::NotXls;
-    throw FormatError(refusal, "directory", 0, "a stream named Workbook or Book", "none");
+/// The stream as the engine reads it.
+Bytes presentVersion(Bytes stream, Version version) {
+    return version == Version::Biff5 ? translateBiff5(stream) : std::move(stream);
 }
 
 void requireName(const std::u16string& name) {
@@ -71,8 +70,9 @@ CellContent numberContent(double number) {
 } // namespace
 
 struct Workbook::Impl {
-    Impl(CompoundFile file, std::uint32_t entry, std::vector<std::uint8_t> stream, bool isNew)
-        : container(std::move(file)), entry(entry), created(isNew), model(std::move(stream)) {
+    Impl(CompoundFile file, std::uint32_t entry, Bytes stream, Version version, bool isNew)
+        : container(std::move(file)), entry(entry), version(version), created(isNew),
+          model(presentVersion(std::move(stream), version)) {
         edits.sheets.resize(model.globals.sheets.size());
         for (std::size_t i = 0; i < model.globals.sheets.size(); ++i)
             if (model.globals.sheets[i].isWorksheet()) worksheets.push_back(i);
@@ -137,6 +137,7 @@ struct Workbook::Impl {
 
     CompoundFile container;
     std::uint32_t entry;
+    Version version; ///< of the file
     bool created;
     WorkbookModel model;
     WorkbookEdits edits;
@@ -151,22 +152,26 @@ Workbook::~Workbook() = default;
 
 Workbook Workbook::create(const std::u16string& sheetName) {
     requireName(sheetName);
-    CompoundFile container = CompoundFile::withEmptyStream("Workbook");
-    const std::uint32_t entry = requireStream(container);
-    return Workbook(
-        std::make_unique<Impl>(std::move(container), entry, blankWorkbookStream(sheetName), true));
+    CompoundFile container = CompoundFile::withEmptyStream(streamName);
+    constexpr std::uint32_t entry = 1;
+    return Workbook(std::make_unique<Impl>(std::move(container), entry, blankWorkbookStream(sheetName),
+                                           Version::Biff8, true));
 }
 
 Workbook Workbook::open(Bytes file) {
     CompoundFile container(std::move(file));
-    const std::uint32_t entry = requireStream(container);
-    Bytes stream = container.readStream(entry);
-    return Workbook(std::make_unique<Impl>(std::move(container), entry, std::move(stream), false));
+    BookStream book = findBookStream(container);
+    const Version version = readVersion(book.bytes);
+    return Workbook(
+        std::make_unique<Impl>(std::move(container), book.entry, std::move(book.bytes), version, false));
 }
 
 Bytes Workbook::save() const {
     if (!isModified()) return impl_->container.bytes();
-    return impl_->container.withStream(impl_->entry, writeWorkbook(impl_->model, impl_->edits));
+    const Bytes stream = writeWorkbook(impl_->model, impl_->edits);
+    // Older programs look for their version under the older name, and some newer ones judge by it.
+    if (isOldFormat()) return impl_->container.withStreamNamed(impl_->entry, streamName, stream);
+    return impl_->container.withStream(impl_->entry, stream);
 }
 
 int Workbook::sheetCount() const {
@@ -292,7 +297,7 @@ bool Workbook::isModified() const {
 }
 
 bool Workbook::isOldFormat() const {
-    return false;
+    return impl_->version != Version::Biff8;
 }
 
 } // namespace zvonika::xls

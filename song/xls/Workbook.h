@@ -85,6 +85,7 @@ public:
     void setColumnWidth(int sheet, int column, int width);
 
     int activeSheet() const;
+    /// Makes the sheet the only selected one. A workbook without a Window1 record cannot keep it.
     void setActiveSheet(int sheet);
     /// The cell the cursor stood on when the sheet was last saved.
     CellRef activeCell(int sheet) const;
@@ -92,9 +93,13 @@ public:
 
     /// True when `save` would give other bytes than were read (always for a created workbook).
     bool isModified() const;
-    /// True when the file is of an older BIFF version than the engine writes: say so before the first save.
-    /// `save` without a change still gives the bytes that were read; with a change it writes a BIFF8
-    /// workbook.
+    /// True when the file is of an older version (BIFF5, BIFF7) than the engine writes: tell the user before
+    /// the first save with a change, which writes a BIFF8 workbook in its place. `save` without a change
+    /// gives the bytes that were read, here too. Converted are: sheets, names of sheets, values, formulas
+    /// within a sheet, number formats, fonts, colours, borders, column widths, row heights, page set-up. Lost
+    /// are: comments, drawings and charts, chart and macro sheets, defined names and links; formulas that
+    /// need these or another sheet become their results. Other streams of the file (author, title ...) stay
+    /// as they are.
     bool isOldFormat() const;
 
 private:

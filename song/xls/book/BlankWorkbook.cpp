@@ -1,6 +1,6 @@
 #include "song/xls/book/BlankWorkbook.h"
 
-#include "song/xls/records/Record.h"
+#include "song/xls/records/Bof.h"
 #include "song/xls/strings/UnicodeText.h"
 
 #include <initializer_list>
@@ -12,8 +12,6 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-constexpr std::uint16_t globalsSubstream = 0x0005;
-constexpr std::uint16_t worksheetSubstream = 0x0010;
 constexpr std::uint16_t utf16 = 1200;
 constexpr std::uint16_t czechRepublic = 420;
 constexpr int fontCount = 4;
@@ -24,13 +22,6 @@ void record16(Bytes& out, RecordType type, std::initializer_list<std::uint16_t> 
     for (const std::uint16_t value : values)
         append16(payload, value);
     appendRecord(out, type, payload);
-}
-
-void bof(Bytes& out, std::uint16_t substream) {
-    constexpr std::uint16_t biff8 = 0x0600;
-    constexpr std::uint16_t build = 0x0DBB;
-    constexpr std::uint16_t year = 0x07CC;
-    record16(out, RecordType::Bof, {biff8, substream, build, year, 0x0041, 0, 6, 0});
 }
 
 void writeAccess(Bytes& out) {
@@ -75,7 +66,7 @@ void formats(Bytes& out) {
 }
 
 void beginGlobals(Bytes& out) {
-    bof(out, globalsSubstream);
+    appendBof(out, globalsSubstream);
     writeAccess(out);
     record16(out, RecordType::CodePage, {utf16});
     record16(out, RecordType::Dsf, {0});
@@ -126,7 +117,7 @@ void printSettings(Bytes& out) {
 }
 
 void sheet(Bytes& out) {
-    bof(out, worksheetSubstream);
+    appendBof(out, worksheetSubstream);
     const std::size_t index = out.size();
     record16(out, RecordType::Index, {0, 0, 0, 0, 0, 0, 0, 0});
     record16(out, RecordType::CalcMode, {1});

@@ -4,38 +4,11 @@
 #include "song/xls/records/Record.h"
 #include "song/xls/strings/UnicodeText.h"
 
-#include <algorithm>
-#include <cstdio>
-
 namespace zvonika::xls {
 
 namespace {
 
-constexpr std::uint16_t biff8 = 0x0600;
-constexpr std::uint16_t workbookGlobals = 0x0005;
 constexpr std::uint16_t usualDefaultFormat = 15;
-
-std::string hex(std::uint32_t value) {
-    char text[16];
-    std::snprintf(text, sizeof text, "0x%04X", static_cast<unsigned>(value));
-    return text;
-}
-
-void requireBiff8(const Record& bof) {
-    const std::uint16_t oldBof[] = {0x0009, 0x0209, 0x0409};
-    if (std::ranges::find(oldBof, bof.id) != std::end(oldBof))
-        throw FormatError(Refusal::OldFormat, "Bof", bof.offset, "BIFF8", "BIFF2 to BIFF4");
-    if (!bof.is(RecordType::Bof))
-        throw FormatError(Refusal::Damaged, "Bof", bof.offset, "Bof", recordName(bof.id));
-    bof.require(4);
-    if (bof.u16(0) != biff8) {
-        const Refusal refusal = bof.u16(0) < biff8 ? Refusal::OldFormat : Refusal::Damaged;
-        throw FormatError(refusal, "Bof", bof.offset, "version " + hex(biff8), hex(bof.u16(0)));
-    }
-    if (bof.u16(2) != workbookGlobals)
-        throw FormatError(Refusal::Damaged, "Bof", bof.offset, "workbook globals",
-                          "substream " + hex(bof.u16(2)));
-}
 
 SheetEntry readSheetEntry(ByteView stream, const Record& record) {
     record.require(8);
@@ -54,7 +27,6 @@ public:
 
     Globals read() {
         Record record = recordAt(stream_, 0);
-        requireBiff8(record);
         while (globals_.eof == absent) {
             record = recordAt(stream_, record.end());
             take(record);
@@ -66,9 +38,6 @@ public:
 private:
     void take(const Record& record) {
         switch (record.type()) {
-        case RecordType::FilePass:
-            throw FormatError(Refusal::Encrypted, "FilePass", record.offset, "readable records",
-                              "encryption");
         case RecordType::BoundSheet:
             globals_.sheets.push_back(readSheetEntry(stream_, record));
             break;

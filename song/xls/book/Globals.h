@@ -19,6 +19,8 @@ struct SheetEntry {
     std::u16string name;
 
     bool isWorksheet() const { return type == 0; }
+    /// A chart sheet stores the numbers of its series in cell records, too.
+    bool hasCells() const { return type != 2; }
     /// Visual Basic modules have an entry, but no substream.
     bool hasSubstream() const { return type != 6; }
 };

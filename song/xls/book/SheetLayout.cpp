@@ -34,7 +34,7 @@ namespace {
 class LayoutReader {
 public:
     LayoutReader(ByteView stream, const SheetEntry& entry, std::uint32_t sharedStrings)
-        : stream_(stream), sharedStrings_(sharedStrings) {
+        : stream_(stream), sharedStrings_(sharedStrings), hasCells_(entry.hasCells()) {
         layout_.start = entry.position;
     }
 
@@ -47,7 +47,7 @@ public:
                 ++depth;
             else if (record.is(RecordType::Eof))
                 --depth;
-            else if (depth == 1)
+            else if (depth == 1 && hasCells_)
                 take(record);
         }
         layout_.eof = record.offset;
@@ -167,6 +167,7 @@ private:
 
     ByteView stream_;
     std::uint32_t sharedStrings_;
+    bool hasCells_;
     SheetLayout layout_;
     RowBlock block_;
 };

@@ -3,6 +3,7 @@
 #include "song/xls/FormatError.h"
 #include "song/xls/container/CompoundFileWriter.h"
 #include "song/xls/container/CompoundFormat.h"
+#include "song/xls/container/DirectoryTree.h"
 #include "song/xls/container/FileKind.h"
 
 #include <algorithm>
@@ -171,19 +172,27 @@ std::string CompoundFile::entryName(std::uint32_t entry) const {
     return name;
 }
 
-std::optional<std::uint32_t> CompoundFile::findStream(const std::string& name) const {
+std::vector<std::uint32_t> CompoundFile::rootMembers() const {
+    std::vector<std::uint32_t> members;
     std::vector<bool> seen(entryCount());
     std::vector<std::uint32_t> open{load32(&file_[entryOffset(0) + Entry::child])};
     while (!open.empty()) {
         const std::uint32_t entry = open.back();
         open.pop_back();
-        if (entry >= seen.size() || seen[entry]) continue;
+        if (entry == 0 || entry >= seen.size() || seen[entry]) continue;
         seen[entry] = true;
+        members.push_back(entry);
         const std::uint8_t* bytes = &file_[entryOffset(entry)];
-        if (bytes[Entry::type] == Entry::stream && sameName(entryName(entry), name)) return entry;
         open.push_back(load32(bytes + Entry::left));
         open.push_back(load32(bytes + Entry::right));
     }
+    return members;
+}
+
+std::optional<std::uint32_t> CompoundFile::findStream(const std::string& name) const {
+    for (const std::uint32_t entry : rootMembers())
+        if (file_[entryOffset(entry) + Entry::type] == Entry::stream && sameName(entryName(entry), name))
+            return entry;
     return std::nullopt;
 }
 
@@ -237,6 +246,15 @@ CompoundFile::Bytes CompoundFile::readStream(std::uint32_t entry) const {
 
 CompoundFile::Bytes CompoundFile::withStream(std::uint32_t entry, ByteView contents) const {
     return CompoundFileWriter(*this).replaceStream(entry, contents);
+}
+
+CompoundFile::Bytes CompoundFile::withStreamNamed(std::uint32_t entry, const std::string& name,
+                                                  ByteView contents) const {
+    Bytes file = withStream(entry, contents);
+    if (findStream(name)) return file;
+    const auto bytesOf = [&](std::uint32_t number) { return &file[entryOffset(number)]; };
+    DirectoryTree(rootMembers(), bytesOf).rename(entry, name);
+    return file;
 }
 
 } // namespace zvonika::xls

@@ -27,6 +27,9 @@ public:
     /// The whole container with this stream's contents replaced; every other stream stays where it is.
     /// Short contents are filled up with zeros so that they need not live in the mini stream.
     Bytes withStream(std::uint32_t entry, ByteView contents) const;
+    /// As `withStream`, and the stream gets another ASCII name of at most 31 characters; not where a stream
+    /// of that name exists.
+    Bytes withStreamNamed(std::uint32_t entry, const std::string& name, ByteView contents) const;
 
 private:
     friend class CompoundFileWriter;
@@ -46,6 +49,8 @@ private:
     std::uint64_t streamSize(std::uint32_t entry) const;
     bool isInMiniStream(std::uint32_t entry) const { return streamSize(entry) < miniCutoff_; }
     std::string entryName(std::uint32_t entry) const;
+    /// Streams and storages directly under the root, in no order.
+    std::vector<std::uint32_t> rootMembers() const;
 
     /// Follows a chain through a sector table; `used` marks the sectors and must not have them marked
     /// already.

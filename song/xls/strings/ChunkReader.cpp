@@ -19,8 +19,8 @@ bool ChunkReader::atData() {
 
 void ChunkReader::needData() {
     if (!atData())
-        throw FormatError(Refusal::Truncated, "text", position_, "more bytes or a Continue record",
-                          "the end");
+        throw FormatError(Refusal::Truncated, recordName(static_cast<std::uint16_t>(of_)), position_,
+                          "more bytes of a text or a Continue record", "the end");
 }
 
 std::uint8_t ChunkReader::u8() {
@@ -57,7 +57,8 @@ void ChunkReader::units(std::uint32_t count, bool wide, std::u16string* out) {
         const std::uint32_t width = wide ? 2 : 1;
         const std::uint32_t step = std::min(count, (chunkEnd_ - position_) / width);
         if (step == 0)
-            throw FormatError(Refusal::Damaged, "text", position_, "a whole character", "half a character");
+            throw FormatError(Refusal::Damaged, recordName(static_cast<std::uint16_t>(of_)), position_,
+                              "a whole character", "half a character");
         if (out)
             for (std::uint32_t i = 0; i < step; ++i) {
                 const std::uint8_t* unit = &stream_[position_ + i * width];

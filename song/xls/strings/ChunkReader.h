@@ -1,6 +1,7 @@
 #pragma once
 
 #include "song/xls/records/Endian.h"
+#include "song/xls/records/RecordType.h"
 
 #include <string>
 
@@ -10,8 +11,9 @@ namespace zvonika::xls {
 class ChunkReader {
 public:
     /// Starts at `position`, inside the payload that ends at `chunkEnd`.
-    ChunkReader(ByteView stream, std::uint32_t position, std::uint32_t chunkEnd)
-        : stream_(stream), position_(position), chunkEnd_(chunkEnd) {}
+    /// `of`: the record, for errors.
+    ChunkReader(ByteView stream, std::uint32_t position, std::uint32_t chunkEnd, RecordType of)
+        : stream_(stream), position_(position), chunkEnd_(chunkEnd), of_(of) {}
 
     std::uint8_t u8();
     std::uint16_t u16();
@@ -34,6 +36,7 @@ private:
     ByteView stream_;
     std::uint32_t position_;
     std::uint32_t chunkEnd_;
+    RecordType of_;
 };
 
 } // namespace zvonika::xls

@@ -36,7 +36,7 @@ void SharedStrings::findChunks() {
 
 void SharedStrings::findTexts(std::uint32_t count) {
     const auto first = static_cast<std::uint32_t>(recordOffset_ + recordHeaderSize + countsSize);
-    ChunkReader reader(stream_, first, chunkEnds_.front());
+    ChunkReader reader(stream_, first, chunkEnds_.front(), RecordType::Sst);
     // A damaged count must not ask for more memory than the bytes could justify.
     starts_.reserve(std::min<std::size_t>(count, (end_ - recordOffset_) / smallestText));
     textsEnd_ = first;
@@ -64,7 +64,7 @@ std::vector<std::optional<std::uint32_t>> SharedStrings::find(const TextPool& po
         lengths[pool.text(id).size()] = true;
     std::u16string text;
     for (std::uint32_t index = 0; index < size(); ++index) {
-        ChunkReader reader(stream_, starts_[index], chunkEnd(starts_[index]));
+        ChunkReader reader(stream_, starts_[index], chunkEnd(starts_[index]), RecordType::Sst);
         const TextHead head = readTextHead(reader);
         if (!lengths[head.units] || !head.isPlain()) continue;
         text.clear();

@@ -58,4 +58,14 @@ std::uint32_t StringTableWriter::addedToFirst() const {
     return static_cast<std::uint32_t>(firstHeader_ == none ? bytes_.size() : firstHeader_);
 }
 
+std::vector<std::uint8_t> StringTableWriter::wholeTable(std::uint32_t references, std::uint32_t texts) const {
+    std::vector<std::uint8_t> table;
+    append16(table, static_cast<std::uint16_t>(RecordType::Sst));
+    append16(table, countsSize + addedToFirst());
+    append32(table, references);
+    append32(table, texts);
+    table.insert(table.end(), bytes_.begin(), bytes_.end());
+    return table;
+}
+
 } // namespace zvonika::xls

@@ -10,6 +10,8 @@ namespace zvonika::xls {
 /// surrogate pair.
 class StringTableWriter {
 public:
+    static constexpr std::uint32_t countsSize = 8; ///< references and texts, at the beginning of the table
+
     struct Place {
         std::uint32_t offset;   ///< of the text in bytes()
         std::uint32_t inRecord; ///< of the text behind the start of its record's header
@@ -22,6 +24,9 @@ public:
     const std::vector<std::uint8_t>& bytes() const { return bytes_; }
     /// Bytes added to the record that was written on, before the first new Continue record.
     std::uint32_t addedToFirst() const;
+    /// A whole table of what was written: Sst record and its Continue records. For a writer that began behind
+    /// the counts (`used` = countsSize). `references`: how many cells refer to the `texts` texts.
+    std::vector<std::uint8_t> wholeTable(std::uint32_t references, std::uint32_t texts) const;
 
 private:
     static constexpr std::size_t none = static_cast<std::size_t>(-1);

@@ -32,7 +32,7 @@ void skipTextBody(ChunkReader& reader, const TextHead& head) {
 
 std::u16string readInlineText(ByteView stream, std::uint32_t position, std::uint32_t chunkEnd) {
     std::u16string text;
-    ChunkReader reader(stream, position, chunkEnd);
+    ChunkReader reader(stream, position, chunkEnd, RecordType::String);
     try {
         const TextHead head = readTextHead(reader);
         reader.units(head.units, head.wide, &text);
@@ -44,21 +44,35 @@ std::u16string readInlineText(ByteView stream, std::uint32_t position, std::uint
 
 std::u16string readShortText(ByteView stream, std::uint32_t position, std::uint32_t end) {
     std::u16string text;
-    ChunkReader reader(stream, position, end);
+    ChunkReader reader(stream, position, end, RecordType::BoundSheet);
     const std::uint8_t units = reader.u8();
     const bool wide = reader.u8() & wideFlag;
     reader.units(units, wide, &text);
     return text;
 }
 
-void appendShortText(std::vector<std::uint8_t>& out, const std::u16string& text) {
+namespace {
+
+/// Flags and characters; one byte per character where that is enough.
+void appendUnits(std::vector<std::uint8_t>& out, const std::u16string& text) {
     const bool narrow = isNarrow(text);
-    out.push_back(static_cast<std::uint8_t>(text.size()));
     out.push_back(narrow ? 0 : wideFlag);
     for (const char16_t unit : text) {
         out.push_back(static_cast<std::uint8_t>(unit));
         if (!narrow) out.push_back(static_cast<std::uint8_t>(unit >> 8));
     }
+}
+
+} // namespace
+
+void appendShortText(std::vector<std::uint8_t>& out, const std::u16string& text) {
+    out.push_back(static_cast<std::uint8_t>(text.size()));
+    appendUnits(out, text);
+}
+
+void appendLongText(std::vector<std::uint8_t>& out, const std::u16string& text) {
+    append16(out, static_cast<std::uint32_t>(text.size()));
+    appendUnits(out, text);
 }
 
 bool isNarrow(const std::u16string& text) {

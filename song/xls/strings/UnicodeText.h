@@ -28,6 +28,8 @@ std::u16string readInlineText(ByteView stream, std::uint32_t position, std::uint
 std::u16string readShortText(ByteView stream, std::uint32_t position, std::uint32_t end);
 /// The same, for writing; one byte per character where that is enough.
 void appendShortText(std::vector<std::uint8_t>& out, const std::u16string& text);
+/// With a 16-bit length, as styles, number formats, headers and the stored texts of formulas have it.
+void appendLongText(std::vector<std::uint8_t>& out, const std::u16string& text);
 
 /// True when every unit fits one byte.
 bool isNarrow(const std::u16string& text);

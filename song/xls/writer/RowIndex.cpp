@@ -109,18 +109,19 @@ private:
             return;
         }
         if (blockStart_ == absent) blockStart_ = record.offset;
-        if (isRow) return rows_.push_back({record.u16(0), absent});
+        if (isRow) return takeRow(record.u16(0));
         takeCell(cellRow(record), record.offset);
     }
 
+    void takeRow(std::uint32_t number) {
+        slots_[number] = static_cast<std::uint32_t>(rows_.size());
+        rows_.push_back({number, absent});
+    }
+
     void takeCell(std::uint32_t number, std::uint32_t offset) {
-        const auto isRow = [&](const RowCells& row) { return row.row == number; };
-        // Cells mostly come row by row: go on from the row of the last one.
-        auto row = std::find_if(rows_.begin() + lastRow_, rows_.end(), isRow);
-        if (row == rows_.end()) row = std::find_if(rows_.begin(), rows_.begin() + lastRow_, isRow);
-        if (row == rows_.end() || !isRow(*row)) return;
-        lastRow_ = row - rows_.begin();
-        if (row->firstCell == absent) row->firstCell = offset;
+        const std::uint32_t slot = slots_[number];
+        if (slot >= rows_.size() || rows_[slot].row != number) return; // a row of another block, or of none
+        if (rows_[slot].firstCell == absent) rows_[slot].firstCell = offset;
     }
 
     void takeDbCell(const Record& record) {
@@ -128,7 +129,6 @@ private:
         if (record.u32(0) == unfilledBlock && blockStart_ != absent) fill(record);
         blockStart_ = absent;
         rows_.clear();
-        lastRow_ = 0;
     }
 
     void fill(const Record& record) {
@@ -147,7 +147,7 @@ private:
     std::vector<std::uint8_t>& out_;
     std::vector<std::uint32_t> dbCells_;
     std::vector<RowCells> rows_;
-    std::ptrdiff_t lastRow_ = 0;
+    std::vector<std::uint32_t> slots_ = std::vector<std::uint32_t>(65536); ///< by row: its place in rows_
     std::uint32_t blockStart_ = absent;
 };
 

@@ -16,6 +16,7 @@ constexpr std::size_t windowFlagsAt = 0;
 constexpr std::uint16_t windowSelected = 0x0200;
 constexpr std::uint16_t windowActive = 0x0400;
 constexpr std::size_t window1ActiveSheetAt = 10;
+constexpr std::size_t window1SelectedSheetsAt = 14;
 
 using Widths = std::map<std::uint32_t, std::uint32_t>;
 using Payload = std::vector<std::uint8_t>;
@@ -132,11 +133,12 @@ void patchActiveCell(ByteView stream, const SheetLayout& layout, CellKey cell, P
 
 void patchActiveSheet(const WorkbookModel& model, std::uint32_t sheet, PatchList& patches) {
     if (model.globals.window1 != absent) {
-        std::uint8_t bytes[2];
-        store16(bytes, sheet);
-        patches.replace(
-            static_cast<std::uint32_t>(model.globals.window1 + recordHeaderSize + window1ActiveSheetAt), 2,
-            bytes);
+        const Record window = recordAt(model.stream, model.globals.window1);
+        std::vector<std::uint8_t> payload(window.payload.begin(), window.payload.end());
+        store16(&payload[window1ActiveSheetAt], sheet);
+        if (payload.size() >= window1SelectedSheetsAt + 2) store16(&payload[window1SelectedSheetsAt], 1);
+        patches.replace(static_cast<std::uint32_t>(window.offset + recordHeaderSize),
+                        static_cast<std::uint32_t>(payload.size()), payload);
     }
     for (std::uint32_t i = 0; i < model.layouts.size(); ++i)
         patchWindowFlags(model.stream, model.layouts[i], i == sheet, patches);

@@ -8,7 +8,7 @@ namespace zvonika::xls {
 
 namespace {
 
-constexpr std::size_t countsSize = 8;
+constexpr std::uint32_t countsSize = StringTableWriter::countsSize;
 constexpr std::size_t entrySize = 8;
 constexpr std::size_t maxEntries = (maxRecordPayload - 2) / entrySize;
 
@@ -68,13 +68,7 @@ void SharedStringsPatch::apply(std::uint32_t references, PatchList& patches) {
 }
 
 void SharedStringsPatch::createTable(std::uint32_t references, PatchList& patches) const {
-    std::vector<std::uint8_t> table;
-    append16(table, static_cast<std::uint16_t>(RecordType::Sst));
-    append16(table, static_cast<std::uint32_t>(countsSize + writer_.addedToFirst()));
-    append32(table, references);
-    append32(table, newSize());
-    table.insert(table.end(), writer_.bytes().begin(), writer_.bytes().end());
-    patches.insert(model_.globals.eof, table);
+    patches.insert(model_.globals.eof, writer_.wholeTable(references, newSize()));
 }
 
 void SharedStringsPatch::appendTexts(PatchList& patches) const {

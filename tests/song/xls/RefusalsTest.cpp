@@ -17,8 +17,11 @@ Bytes withStreamNamed(const char* name) {
     return CompoundFile::withEmptyStream(name).withStream(1, Bytes(5000, 1));
 }
 
-Bytes withFirst(std::uint16_t id, const Bytes& data) {
+/// With this record as the one behind Bof; the `ciphered` behind that are cut to nothing.
+Bytes withFirst(std::uint16_t id, const Bytes& data, std::size_t ciphered = 0) {
     std::vector<Rec> all = recordsOf(Workbook::create(u"List").save());
+    for (Rec& record : all)
+        if (ciphered > 0 && (record.id == 0x0085 || record.id == 0x003D)) record.data.clear(), --ciphered;
     all.insert(all.begin() + 1, {id, data});
     return fileAround(bytesOf(all));
 }
@@ -73,9 +76,10 @@ TEST(Refusals, NameWhatTheFileIs) {
         {"encrypted xlsx", withStreamNamed("EncryptedPackage"), Refusal::Encrypted},
         {"some container", withStreamNamed("Contents"), Refusal::NotXls},
         {"no Bof", withStreamNamed("Workbook"), Refusal::Damaged},
-        {"BIFF5", withVersion(0x0500), Refusal::OldFormat},
+        {"BIFF4 in a container", withVersion(0x0400), Refusal::OldFormat},
         {"unknown version", withVersion(0x0700), Refusal::Damaged},
         {"password", withFirst(0x002F, Bytes(54, 1)), Refusal::Encrypted},
+        {"password, what follows is ciphertext", withFirst(0x002F, Bytes(54, 1), 2), Refusal::Encrypted},
     };
     for (const auto& [what, file, refusal] : table)
         try {
