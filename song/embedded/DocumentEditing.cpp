@@ -245,11 +245,12 @@ void Document::exchange(const UndoStep& step, bool back) {
         down ? shiftDown(step.sheet, step.row) : shiftUp(step.sheet, step.row);
     }
     if (cellsOnly || back)
-        for (const auto& change : step.changes)
+        for (const auto& change : step.changes) {
             if (back && change.wasFormula)
                 book_.restoreCell(step.sheet - 1, {change.cell.row - 1, change.cell.column - 1});
             else
                 put(step.sheet, change.cell, back ? change.before : change.after);
+        }
     changed(step.sheet, cellsOnly ? around(step.changes) : below);
 }
 
