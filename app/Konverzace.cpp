@@ -31,6 +31,8 @@ Konverzace::Konverzace(Modely& modely, const Prostredi& prostredi, std::function
       zapisBasu(modely.basy, modely.tabulkaBasu, prostredi.dialogs),
       poZapisu(modely.pisen, modely.panel, modely.stavy, *this), zapisHmatu(okoliZapisu(), modely.diskant),
       zapisHmatuZNot(okoliZapisu(), modely.zapisovaciOsnova, notyZapis),
+      intervaly({modely.pisen, prostredi.dialogs, modely.panel, modely.diskant, modely.zobrazovaciOsnova,
+                 modely.tonina, modely.krokyIntervalu, prostredi.drive.programFolder()}),
       volbaStupnice(prostredi.dialogs, modely.tonina, modely.zapisovaciOsnova),
       volbyHmatniku(modely.diskant, modely.tonina, prostredi.nastaveni, modely.stavy),
       ukonceniExcelu(modely.pisen, prostredi.dialogs) {}

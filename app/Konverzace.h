@@ -3,6 +3,7 @@
 #include "aids/VolbyHmatniku.h"
 #include "app/Modely.h"
 #include "app/Prostredi.h"
+#include "board/Intervaly.h"
 #include "board/KlikDiskantu.h"
 #include "board/Uvolneni.h"
 #include "board/ZapisHmatu.h"
@@ -45,6 +46,7 @@ public:
     PoZapisu poZapisu;
     ZapisHmatu zapisHmatu;
     ZapisHmatuZNot zapisHmatuZNot;
+    Intervaly intervaly;
     VolbaStupnice volbaStupnice;
     VolbyHmatniku volbyHmatniku;
     UkonceniExcelu ukonceniExcelu;

@@ -29,6 +29,7 @@ struct Modely {
     NotovaOsnova zapisovaciOsnova;
     ZobrazovaciOsnova zobrazovaciOsnova;
     Pas pas;
+    int krokyIntervalu = 2; ///< the interval that is chosen, in scale steps, 1..14
 };
 
 } // namespace zvonika

@@ -51,13 +51,25 @@ const QVector<TlacitkoPrikazu>& tlacitkaPrikazu() {
         {"cmdUvolniPultony", "b", "Uvolnit půltóny", {7680, 6490, 480, 370}},
         {"cmdUvolOdrazky", "Uvolnit odrážky", "", {8190, 6490, 990, 370}},
         {"cmdUvolKnofl", "Uvolnit vše", "", {7680, 6890, 1500, 420}, Druh::Hlavni, "F4"},
-        // intervals
-        {"cmdInterval", "Vrchní interval", "Interval nad zvoleným tónem", {7680, 7560, 1500, 400}},
-        {"cmdSpodInterval", "Spodní interval", "Interval pod zvoleným tónem", {7680, 8000, 1500, 400}},
+        // intervals, under the choice of their size
+        {"cmdInterval",
+         "Vrchní interval",
+         "Interval nad zvoleným tónem",
+         {7680, 8040, 1500, 380},
+         Druh::Bezne,
+         "F3"},
+        {"cmdSpodInterval",
+         "Spodní interval",
+         "Interval pod zvoleným tónem",
+         {7680, 8450, 1500, 380},
+         Druh::Bezne,
+         "Shift+F3"},
         {"cmdIntervalOdNejnizsiho",
          "Od nejnižšího tónu",
-         "Interval od nejnižšího tónu hmatu",
-         {7680, 8440, 1500, 400}},
+         "Interval od nejnižšího tónu zapsaného hmatu",
+         {7680, 8860, 1500, 380},
+         Druh::Bezne,
+         "Ctrl+F3"},
         {"cmdOPrg", "O programu", "", {7680, 9940, 1500, 390}},
     };
     return tabulka;
@@ -96,7 +108,8 @@ const QVector<Menu>& menuPrikazu() {
 
 const QStringList& dosudNedostupne() {
     static const QStringList tabulka = {
-        "mnuKonverze", "mnuhtm", "cmdInterval", "cmdSpodInterval", "cmdIntervalOdNejnizsiho",
+        "mnuKonverze",
+        "mnuhtm",
     };
     return tabulka;
 }

@@ -79,6 +79,9 @@ void Program::zaregistrujPrikazy() {
         {"cmdJakDal", [&k] { k.navigace.cmdJakDal(); }},
         {"cmdJakDalZpet", [&k] { k.navigace.cmdJakDalZpet(); }},
         {"cmdTimer", [this] { automat_.cmdTimer(); }},
+        {"cmdInterval", [&k] { k.intervaly.cmdInterval(); }},
+        {"cmdSpodInterval", [&k] { k.intervaly.cmdSpodInterval(); }},
+        {"cmdIntervalOdNejnizsiho", [&k] { k.intervaly.cmdIntervalOdNejnizsiho(); }},
         {"cmdOPrg", [this] { cmdOPrg(prostredi_.dialogs); }},
         {"mnuMailAutorovi",
          [this] {

@@ -47,6 +47,7 @@ private:
     void postavNastroje();
     void postavHmatnik();
     void postavOsnovy();
+    void postavVolbuIntervalu();
     void pripojOsnovuZapisu(ZapisovaciOsnova& zapis);
     void ukazToninu();
     void prejdiNaPozici(int pozice);

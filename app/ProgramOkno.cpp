@@ -5,10 +5,13 @@
 #include "song/ui/PanelTextu.h"
 #include "song/ui/PasWidget.h"
 #include "song/ui/ZobrazovaciOsnovaWidget.h"
+#include "theory/NazevIntervalu.h"
 #include "theory/ui/FrmStupnice.h"
 #include "theory/ui/ZapisovaciOsnova.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
+#include <QLabel>
 #include <QMenuBar>
 #include <QMultiMap>
 #include <QShortcut>
@@ -18,6 +21,7 @@ namespace zvonika {
 void Program::postavNastroje() {
     postavHmatnik();
     postavOsnovy();
+    postavVolbuIntervalu();
     nastavZkratky();
     nastavPoradiFokusu();
     connect(okno_.get(), &Form1::prikaz, this, &Program::proved);
@@ -60,6 +64,24 @@ void Program::postavOsnovy() {
     okno_->umisti(zapis, {12060, 3060, 3880, 2240});
     okno_->umisti(new PanelTextu(modely_.panel, scena), {60, 8100, 3720, 2240});
     pripojOsnovuZapisu(*zapis);
+}
+
+void Program::postavVolbuIntervalu() {
+    QWidget* scena = okno_->centralWidget();
+    auto* nadpis = new QLabel(QStringLiteral("Interval:"), scena);
+    nadpis->setObjectName(QStringLiteral("lblInterval"));
+    okno_->umisti(nadpis, {7680, 7370, 1500, 260});
+    auto* volba = new QComboBox(scena);
+    volba->setObjectName(QStringLiteral("cmbInterval"));
+    volba->setAccessibleName(QStringLiteral("Velikost intervalu"));
+    volba->setToolTip(QStringLiteral("Jak velký interval se má ukázat"));
+    for (const QStringView jmeno : jmenaIntervalu)
+        volba->addItem(jmeno.toString());
+    volba->setMaxVisibleItems(volba->count());
+    volba->setCurrentIndex(modely_.krokyIntervalu - 1);
+    connect(volba, &QComboBox::currentIndexChanged, this,
+            [this](int index) { modely_.krokyIntervalu = index + 1; });
+    okno_->umisti(volba, {7680, 7640, 1500, 360});
 }
 
 void Program::pripojOsnovuZapisu(ZapisovaciOsnova& zapis) {

@@ -44,7 +44,12 @@ bool TrebleBoard::oznacen(int n) const {
 }
 
 void TrebleBoard::nastavZnacku(int n, bool oznacen) {
-    if (zmen(knoflik(n).oznacen, oznacen)) Q_EMIT knoflikZmenen(n);
+    if (!zmen(knoflik(n).oznacen, oznacen)) return;
+    if (oznacen)
+        poradiZnacek_.push_back(n);
+    else
+        std::erase(poradiZnacek_, n);
+    Q_EMIT knoflikZmenen(n);
 }
 
 StavKnofliku TrebleBoard::stav(int n) const {
@@ -66,6 +71,21 @@ void TrebleBoard::ukazHlavni(int n, StavKnofliku stav) {
 
 void TrebleBoard::ukazPomocny(int n, StavKnofliku stav) {
     if (maPomocny(n) && zmen(knoflik(n).stavPomocneho, stav)) Q_EMIT knoflikZmenen(n);
+}
+
+void TrebleBoard::ukazInterval(int n) {
+    odeberInterval();
+    podIntervalem_ = {n, stav(n), stavPomocneho(n), barvaKlavesy(n)};
+    ukaz(n, StavKnofliku::Hnedy);
+    nastavBarvuKlavesy(n, BarvaKlavesy::Hneda);
+}
+
+void TrebleBoard::odeberInterval() {
+    const PodIntervalem pod = std::exchange(podIntervalem_, {});
+    if (pod.n == 0) return;
+    if (stav(pod.n) == StavKnofliku::Hnedy) ukazHlavni(pod.n, pod.stav);
+    if (stavPomocneho(pod.n) == StavKnofliku::Hnedy) ukazPomocny(pod.n, pod.stavPomocneho);
+    if (barvaKlavesy(pod.n) == BarvaKlavesy::Hneda) nastavBarvuKlavesy(pod.n, pod.klavesa);
 }
 
 QString TrebleBoard::popis(int n) const {

@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <array>
+#include <vector>
 
 namespace zvonika {
 
@@ -26,12 +27,19 @@ public:
     // The mark that recording reads; independent of the picture.
     bool oznacen(int n) const; ///< lbl(n).Tag is "1"
     void nastavZnacku(int n, bool oznacen);
+    /// The button marked last among those that are marked; 0 when none is.
+    int posledniOznaceny() const { return poradiZnacek_.empty() ? 0 : poradiZnacek_.back(); }
 
     StavKnofliku stav(int n) const;          ///< picture of the main button
     StavKnofliku stavPomocneho(int n) const; ///< picture of the auxiliary button, Volny where there is none
     void ukaz(int n, StavKnofliku stav);     ///< both pictures
     void ukazHlavni(int n, StavKnofliku stav);
     void ukazPomocny(int n, StavKnofliku stav);
+
+    /// Shows button and key of an interval's tone in brown, in place of an interval shown before.
+    void ukazInterval(int n);
+    /// What the brown had covered is shown again; what was set on the button since then stays.
+    void odeberInterval();
 
     // Captions of the click areas: the tone's name where names are switched on, finger digits stacked above
     // it.
@@ -93,6 +101,16 @@ private:
     const Knoflik& knoflik(int n) const { return knofliky_.at(static_cast<std::size_t>(n)); }
 
     std::array<Knoflik, pocetKnofliku + 1> knofliky_;
+    /// What the brown of the interval's button covers; no button where `n` is 0.
+    struct PodIntervalem {
+        int n = 0;
+        StavKnofliku stav = StavKnofliku::Volny;
+        StavKnofliku stavPomocneho = StavKnofliku::Volny;
+        BarvaKlavesy klavesa = BarvaKlavesy::CaptionText;
+    };
+
+    std::vector<int> poradiZnacek_;
+    PodIntervalem podIntervalem_;
     std::array<bool, 6> zabrany_{};
     bool nazvy_ = false;
     bool cislovani_ = false;

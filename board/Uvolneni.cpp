@@ -20,18 +20,6 @@ constexpr std::array provedeniKroku{
     &Uvolneni::UvolniNoty,    &Uvolneni::UvolniPultony, &Uvolneni::UvolniOdrazky,
 };
 
-void zbavHnede(TrebleBoard& diskant, int n) {
-    const bool oznacen = diskant.oznacen(n);
-    const auto stav = oznacen ? StavKnofliku::Cerveny : StavKnofliku::Volny;
-    if (diskant.stav(n) == StavKnofliku::Hnedy) diskant.ukazHlavni(n, stav);
-    if (diskant.stavPomocneho(n) == StavKnofliku::Hnedy) diskant.ukazPomocny(n, stav);
-    if (diskant.barvaKlavesy(n) != BarvaKlavesy::Hneda) return;
-    if (oznacen)
-        diskant.nastavBarvuKlavesy(n, BarvaKlavesy::Cervena);
-    else
-        diskant.vratBarvuKlavesy(n);
-}
-
 } // namespace
 
 const std::vector<PrikazUvolneni>& prikazyUvolneni() {
@@ -77,8 +65,8 @@ void Uvolneni::UvolniKlavesy() {
 }
 
 void Uvolneni::UvolniIntervaly() {
-    for (int n = 1; n <= pocetKnofliku; ++n)
-        zbavHnede(diskant_, n);
+    diskant_.odeberInterval();
+    zobrazovaci_.odeberInterval();
 }
 
 void Uvolneni::UvolniBasy() {

@@ -35,7 +35,7 @@ public:
 
     void UvolniDiskant();   ///< buttons with their finger digits, and the display staff
     void UvolniKlavesy();   ///< piano keys and the names beside them
-    void UvolniIntervaly(); ///< what the interval display shows in brown; a marked button is red again
+    void UvolniIntervaly(); ///< the interval that is shown; what it covered on the board is seen again
     void UvolniBasy();
     void UvolniNoty();
     // The signs of the staff only: a note without its sign is another tone there, while the button that was

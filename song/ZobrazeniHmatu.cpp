@@ -130,6 +130,7 @@ void ZobrazeniHmatu::ukazTexty(const OkoliRadku& okoli) {
 
 void ZobrazeniHmatu::uvolniObrazky() {
     TrebleBoard& diskant = plochy_.diskant;
+    diskant.odeberInterval(); // its brown may cover a picture of the grip
     for (int n = 1; n <= pocetKnofliku; ++n) {
         const auto volny = stavPodleZnacky<StavKnofliku>(diskant.oznacen(n));
         if (zHmatu(diskant.stav(n))) diskant.ukazHlavni(n, volny);

@@ -3,8 +3,13 @@
 namespace zvonika {
 
 void ZobrazovaciOsnova::ukaz(const QStringList& tony) {
-    if (tony_ == tony) return;
+    prevezmi(tony, {});
+}
+
+void ZobrazovaciOsnova::prevezmi(const QStringList& tony, const std::optional<NotaIntervalu>& interval) {
+    if (tony_ == tony && interval_ == interval) return;
     tony_ = tony;
+    interval_ = interval;
     Q_EMIT zmeneno();
 }
 

@@ -48,10 +48,17 @@ void ZobrazovaciOsnovaWidget::rozvrhni() {
     QVector<PolohaNoty> polohy = polohyNazvu(osnova_.tony());
     for (PolohaNoty& poloha : polohy)
         poloha = vedlePredznamenani(poloha, predznamenani_);
-    akord_ = rozvrhniAkord(polohy);
-    setAccessibleDescription(osnova_.tony().isEmpty() ? QStringLiteral("žádné")
-                                                      : osnova_.tony().join(u' ').remove(u','));
+    std::optional<PolohaNoty> interval;
+    if (osnova_.interval()) interval = vedlePredznamenani(osnova_.interval()->poloha, predznamenani_);
+    akord_ = rozvrhniAkord(polohy, interval);
+    setAccessibleDescription(popisNot());
     update();
+}
+
+QString ZobrazovaciOsnovaWidget::popisNot() const {
+    QStringList noty = osnova_.tony();
+    if (osnova_.interval()) noty << QStringLiteral("interval ") + osnova_.interval()->nazev;
+    return noty.isEmpty() ? QStringLiteral("žádné") : noty.join(u' ').remove(u',');
 }
 
 void ZobrazovaciOsnovaWidget::paintEvent(QPaintEvent*) {

@@ -9,7 +9,8 @@ namespace zvonika {
 
 class ZobrazovaciOsnova;
 
-/// The display staff `osnova`: all tones of the shown grip as one chord. Text that is no tone is not drawn.
+/// The display staff `osnova`: all tones of the shown grip as one chord, and among them the note of an
+/// interval, a brown square. Text that is no tone is not drawn.
 class ZobrazovaciOsnovaWidget : public QWidget {
     Q_OBJECT
 public:
@@ -27,6 +28,7 @@ protected:
 
 private:
     void rozvrhni();
+    QString popisNot() const;
 
     ZobrazovaciOsnova& osnova_;
     Predznamenani predznamenani_;

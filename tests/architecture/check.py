@@ -21,7 +21,7 @@ FLOORS = [
     (r"^app/", 6),
     (r"(^|/)ui/", 5),
     (r"^song/(Automat|Hlaseni|Listy|OkoliPisne|PrikazyPisne|SlozkaPisni|ZobrazeniHmatu|PasPisne|Navigace|ZivotPisne|Zvuk|StavovyRadek|UkonceniExcelu|SpusteniExcelu)\b", 4),
-    (r"^board/(Prstoklad|KlikDiskantu|Uvolneni|ZapisHmatu|ZapisHmatuZNot|ZapisNoty|ZapisBasu|RadekZapisu|PoZapisu)\b", 4),
+    (r"^board/(Intervaly|ZobrazeniIntervalu|Prstoklad|KlikDiskantu|Uvolneni|ZapisHmatu|ZapisHmatuZNot|ZapisNoty|ZapisBasu|RadekZapisu|PoZapisu)\b", 4),
     (r"^conversion/|^aids/", 4),
     (r"^board/|^song/(Grip|SongSheet|SongPanel|Pas|ZobrazovaciOsnova|CommandStates|Timer1)\b", 3),
     (r"^song/(embedded|libreoffice|excel)/|^song/(SpreadsheetApplication|CellValue|CellSearch|Address|WorkbookPlaces)\b", 2),

@@ -17,8 +17,7 @@ protected:
             diskant.nastavBarvuKlavesy(n, BarvaKlavesy::Cervena);
             diskant.nastavTonKlavesy(n, QStringLiteral("x"));
         }
-        diskant.ukaz(20, StavKnofliku::Hnedy);
-        diskant.nastavBarvuKlavesy(20, BarvaKlavesy::Hneda);
+        diskant.ukazInterval(20);
         diskant.nastavPopis(2, QStringLiteral("1\r\n"));
         basy.nastavZnacku(26, true);
         basy.ukaz(26, StavBasu::Cerveny);
@@ -26,6 +25,7 @@ protected:
         osnova.polozNotu(1, {{Znamenko::Krizek, 480}, CisloTonu(12)});
         osnova.polozNotu(2, {{Znamenko::Odrazka, 600}, CisloTonu(14)});
         zobrazovaci.ukaz({QStringLiteral("c1,")});
+        zobrazovaci.ukazInterval({QStringLiteral("h1,"), {Znamenko::Zadne, 780}});
         pridejPrst(2, "1");
     }
     QString stav() {
@@ -36,7 +36,7 @@ protected:
         pridej(diskant.oznacen(2) && diskant.oznacen(3) && diskant.stavPomocneho(2) == StavKnofliku::Cerveny,
                'D');
         pridej(diskant.barvaKlavesy(2) == BarvaKlavesy::Cervena && diskant.tonKlavesy(3) == u'x', 'K');
-        pridej(diskant.stav(20) == StavKnofliku::Hnedy, 'I');
+        pridej(diskant.stav(20) == StavKnofliku::Hnedy && zobrazovaci.interval(), 'I');
         pridej(basy.oznacen(26) && basy.stav(26) == StavBasu::Cerveny, 'B');
         pridej(osnova.nota(0).has_value(), 'N');
         pridej(osnova.nota(1) && osnova.nota(1)->poloha.znamenko == Znamenko::Krizek, 'P');
@@ -98,22 +98,6 @@ TEST_F(UvolneniTest, ReleasedBoardsHaveTheirColoursAndCaptionsBack) {
         EXPECT_EQ(s(diskant.tonKlavesy(n)), "") << n;
     }
     EXPECT_EQ(s(diskant.popis(2)), "f,");
-}
-
-TEST_F(UvolneniTest, ABrownButtonGoesBackToWhatItsMarkSays) {
-    for (const int n : {2, 5}) {
-        diskant.ukaz(n, StavKnofliku::Hnedy);
-        diskant.nastavBarvuKlavesy(n, BarvaKlavesy::Hneda);
-    }
-    diskant.nastavZnacku(5, true);
-    diskant.ukaz(8, StavKnofliku::Tah);
-    uvolneni.UvolniIntervaly();
-    EXPECT_EQ(diskant.stav(2), StavKnofliku::Volny);
-    EXPECT_EQ(diskant.barvaKlavesy(2), BarvaKlavesy::CaptionText);
-    EXPECT_EQ(diskant.stav(5), StavKnofliku::Cerveny);
-    EXPECT_EQ(diskant.stavPomocneho(5), StavKnofliku::Cerveny);
-    EXPECT_EQ(diskant.barvaKlavesy(5), BarvaKlavesy::Cervena);
-    EXPECT_EQ(diskant.stav(8), StavKnofliku::Tah);
 }
 
 TEST_F(UvolneniTest, AfterReleasingAllThereIsNothingToRecord) {

@@ -58,7 +58,6 @@ TEST_F(ZobrazeniHmatuTest, MarksSurviveBehindTheShownGrip) {
         diskant.ukaz(n, StavKnofliku::Cerveny);
         diskant.nastavBarvuKlavesy(n, BarvaKlavesy::Cervena);
     }
-    diskant.ukaz(25, StavKnofliku::Hnedy);
     basy.klik(30);
     basy.klik(51);
 
@@ -74,9 +73,20 @@ TEST_F(ZobrazeniHmatuTest, MarksSurviveBehindTheShownGrip) {
     EXPECT_EQ(diskant.stav(13), StavKnofliku::Volny);
     EXPECT_EQ(diskant.stavPomocneho(13), StavKnofliku::Volny);
     EXPECT_EQ(diskant.stavPomocneho(20), StavKnofliku::Cerveny);
-    EXPECT_EQ(diskant.stav(25), StavKnofliku::Hnedy);
     EXPECT_EQ(basy.stav(30), StavBasu::Cerveny);
     EXPECT_EQ(basy.stav(51), StavBasu::Cerveny);
+}
+
+TEST_F(ZobrazeniHmatuTest, AnotherGripTakesTheIntervalAway) {
+    zobrazeni.cmdReadTah();
+    diskant.ukazInterval(13); // covers a picture of the grip
+    osnova.ukazInterval({"e1,", {}});
+    naRadek(2);
+    zobrazeni.ZobrazHmat();
+    EXPECT_EQ(knofliky(StavKnofliku::Hnedy), QVector<int>());
+    EXPECT_EQ(knofliky(StavKnofliku::Tah), QVector<int>());
+    EXPECT_EQ(diskant.barvaKlavesy(13), BarvaKlavesy::CaptionText);
+    EXPECT_FALSE(osnova.interval());
 }
 
 TEST_F(ZobrazeniHmatuTest, ForeignTonesAndBassesAreLeftOutAndTold) {

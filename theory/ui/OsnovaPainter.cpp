@@ -66,9 +66,11 @@ void OsnovaPainter::akord(double x, const RozvrzeniAkordu& akord, const QColor& 
     pomocneLinky(x, akord, barva, zmenseni);
     for (const MistoNoty& nota : akord.noty) {
         const double y = mirka_.y(nota.poloha.jednotky);
-        znacka(znacky::hlavicka(), x + nota.hlavicka * krok, y, barva, zmenseni);
+        const QColor& inkoust = nota.interval ? barvyOsnovy::interval : barva;
+        znacka(nota.interval ? znacky::ctverec() : znacky::hlavicka(), x + nota.hlavicka * krok, y, inkoust,
+               zmenseni);
         if (const QPainterPath* znamenko = znackaZnamenka(nota.poloha.znamenko))
-            znacka(*znamenko, x + nota.znamenko * krok, y, barva, zmenseni);
+            znacka(*znamenko, x + nota.znamenko * krok, y, inkoust, zmenseni);
     }
 }
 

@@ -18,6 +18,7 @@ inline constexpr QColor okraj{212, 206, 194};
 inline constexpr QColor linka{146, 142, 134};
 inline constexpr QColor inkoust{32, 30, 34};
 inline constexpr QColor mimoStupnici{206, 32, 32};
+inline constexpr QColor interval{140, 84, 32}; ///< brown as on the board
 } // namespace barvyOsnovy
 
 /// Draws a treble staff: lines, clef, key signature and chords with their ledger lines.
@@ -33,6 +34,7 @@ public:
     void klic(double vlevo);
     void predznamenani(double vlevo, const Predznamenani& predznamenani);
     /// `x`: middle of the first column of heads. `zmenseni`: size of heads and signs, 1 in full; places stay.
+    /// The note of an interval is a square in its own colour, as on the board.
     void akord(double x, const RozvrzeniAkordu& akord, const QColor& barva, double zmenseni = 1);
     /// In the middle of the room from `vlevo` to `vpravo`, made smaller where it would not fit.
     void akordDoMista(double vlevo, double vpravo, const RozvrzeniAkordu& akord, const QColor& barva);

@@ -73,13 +73,15 @@ QRectF rozmerZnamenka(Znamenko znamenko) {
     return {};
 }
 
-RozvrzeniAkordu rozvrhniAkord(QVector<PolohaNoty> polohy) {
-    if (polohy.isEmpty()) return {};
-    std::stable_sort(polohy.begin(), polohy.end(),
-                     [](const PolohaNoty& a, const PolohaNoty& b) { return a.jednotky < b.jednotky; });
+RozvrzeniAkordu rozvrhniAkord(const QVector<PolohaNoty>& polohy, const std::optional<PolohaNoty>& interval) {
     RozvrzeniAkordu akord;
     for (const PolohaNoty& poloha : polohy)
         akord.noty.append({poloha});
+    if (interval) akord.noty.append({*interval, 0, 0, true});
+    if (akord.noty.isEmpty()) return {};
+    std::stable_sort(akord.noty.begin(), akord.noty.end(), [](const MistoNoty& a, const MistoNoty& b) {
+        return a.poloha.jednotky < b.poloha.jednotky;
+    });
     rozvrhniHlavicky(akord);
     rozvrhniZnamenka(akord);
     return akord;

@@ -107,4 +107,13 @@ const QPainterPath& hlavicka() {
     return znacka;
 }
 
+const QPainterPath& ctverec() {
+    static const QPainterPath znacka = [] {
+        QPainterPath obrys;
+        obrys.addRect(-0.52, -0.52, 1.04, 1.04);
+        return obrys;
+    }();
+    return znacka;
+}
+
 } // namespace zvonika::znacky

@@ -14,5 +14,7 @@ const QPainterPath& becko();
 const QPainterPath& odrazka();
 /// Filled note head, slightly tilted.
 const QPainterPath& hlavicka();
+/// Square head of an interval's note.
+const QPainterPath& ctverec();
 
 } // namespace zvonika::znacky

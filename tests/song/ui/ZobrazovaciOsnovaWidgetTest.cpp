@@ -42,6 +42,27 @@ TEST(ZobrazovaciOsnovaWidget, WithASignatureNotesCarryOnlyWhatItDoesNotSay) {
     EXPECT_EQ(znamenka(widget), (QVector<Znamenko>{Zadne, Krizek, Krizek, Zadne}));
 }
 
+TEST(ZobrazovaciOsnovaWidget, TheNoteOfAnIntervalStandsAmongTheOthersWithAHeadOfItsOwn) {
+    ZobrazovaciOsnova osnova;
+    ZobrazovaciOsnovaWidget widget(osnova);
+    widget.resize(109, 143);
+    osnova.ukaz({"c1,", "e1,", "g1,"});
+    const QImage hmat = widget.grab().toImage();
+    osnova.ukazInterval({"e1,", {Znamenko::Zadne, 540}});
+    ASSERT_EQ(widget.akord().noty.size(), 4);
+    const auto& noty = widget.akord().noty;
+    EXPECT_TRUE(noty[2].interval);
+    EXPECT_EQ(noty[2].poloha, noty[1].poloha);
+    EXPECT_GT(noty[2].hlavicka, noty[1].hlavicka) << "beside the same note of the grip";
+    EXPECT_EQ(widget.accessibleDescription(), QStringLiteral("c1 e1 g1 interval e1"));
+    EXPECT_NE(widget.grab().toImage(), hmat);
+    osnova.odeberInterval();
+    EXPECT_EQ(widget.grab().toImage(), hmat);
+    osnova.ukazInterval({"e1,", {Znamenko::Zadne, 540}});
+    osnova.ukaz({"c1,", "e1,", "g1,"});
+    EXPECT_EQ(widget.grab().toImage(), hmat);
+}
+
 TEST(ZobrazovaciOsnovaWidget, NothingIsClippedAtTheRim) {
     ZobrazovaciOsnova osnova;
     ZobrazovaciOsnovaWidget widget(osnova);

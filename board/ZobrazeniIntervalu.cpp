@@ -1,0 +1,30 @@
+#include "board/ZobrazeniIntervalu.h"
+
+#include "board/TrebleBoard.h"
+#include "platform/Dialogs.h"
+#include "song/ZobrazovaciOsnova.h"
+#include "theory/Tonavox12.h"
+
+namespace zvonika {
+
+bool ZobrazeniIntervalu::ukaz(const ToneName& nota, const QString& poloha) {
+    if (poloha.isEmpty()) return false;
+    const auto misto = PolohaNoty::zTextu(poloha);
+    if (!misto) {
+        dialogs_.message({{}, QStringLiteral("Neznámý půltón")});
+        return false;
+    }
+    Tonavox12 tonavox;
+    tonavox.DejCisloTonu(nota);
+    if (!tonavox.cisloTonu().jeVRozsahu()) return false;
+    diskant_.ukazInterval(tonavox.cisloTonu().hodnota());
+    osnova_.ukazInterval({nota.text(), *misto});
+    return true;
+}
+
+void ZobrazeniIntervalu::odeber() {
+    diskant_.odeberInterval();
+    osnova_.odeberInterval();
+}
+
+} // namespace zvonika
