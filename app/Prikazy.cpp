@@ -67,7 +67,7 @@ const QVector<TlacitkoPrikazu>& tlacitkaPrikazu() {
         {"cmdIntervalOdNejnizsiho",
          "Od nejnižšího tónu",
          "Interval od nejnižšího tónu zapsaného hmatu",
-         {7680, 8860, 1500, 380},
+         {7680, 8860, 1500, 600},
          Druh::Bezne,
          "Ctrl+F3"},
         {"cmdOPrg", "O programu", "", {7680, 9940, 1500, 390}},

@@ -1,6 +1,7 @@
 // The main window's side of Program: what stands in the scene, and how window and models hear of each other.
 #include "app/PoradiFokusu.h"
 #include "app/Program.h"
+#include "app/ui/SevrenyVyber.h"
 #include "board/ui/Hmatnik.h"
 #include "song/ui/PanelTextu.h"
 #include "song/ui/PasWidget.h"
@@ -10,7 +11,6 @@
 #include "theory/ui/ZapisovaciOsnova.h"
 
 #include <QAbstractButton>
-#include <QComboBox>
 #include <QLabel>
 #include <QMenuBar>
 #include <QMultiMap>
@@ -71,7 +71,7 @@ void Program::postavVolbuIntervalu() {
     auto* nadpis = new QLabel(QStringLiteral("Interval:"), scena);
     nadpis->setObjectName(QStringLiteral("lblInterval"));
     okno_->umisti(nadpis, {7680, 7370, 1500, 260});
-    auto* volba = new QComboBox(scena);
+    auto* volba = new SevrenyVyber(scena);
     volba->setObjectName(QStringLiteral("cmbInterval"));
     volba->setAccessibleName(QStringLiteral("Velikost intervalu"));
     volba->setToolTip(QStringLiteral("Jak velký interval se má ukázat"));

@@ -52,6 +52,7 @@ void Ukazka::prehraj() {
     ukonciPisen();
     otevriPisen();
     prejdiPisen();
+    ukazInterval();
     krokujAutomatem();
     ukonciPisen();
 }
@@ -158,6 +159,12 @@ void Ukazka::prejdiPisen() {
               QStringLiteral("krok zpět na hmat %1").arg(radek));
     }
     obrazek("zpet-na-zacatku");
+}
+
+void Ukazka::ukazInterval() {
+    klikni("cmdIntervalOdNejnizsiho");
+    cekej([this] { return program_.modely().zobrazovaciOsnova.interval().has_value(); }, "interval");
+    obrazek("interval-od-nejnizsiho-tonu");
 }
 
 void Ukazka::krokujAutomatem() {

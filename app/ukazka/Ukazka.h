@@ -34,6 +34,7 @@ private:
     void ukonciPisen();
     void otevriPisen();
     void prejdiPisen();
+    void ukazInterval();
     void krokujAutomatem();
 
     void klikni(const QString& jmeno);

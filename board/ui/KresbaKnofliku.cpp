@@ -118,6 +118,7 @@ void nakresliKnoflik(QPainter& painter, const QRectF& misto, const PodobaPrvku& 
     painter.setPen(Qt::NoPen);
     nakresliStin(painter, telo);
     painter.fillPath(obly(telo), vyplnObruby(telo, podoba));
+    if (lic.height() < 1) return; // a window pushed together leaves no room for a face
     painter.fillPath(obly(lic), vyplnLice(lic, barvy.lic, kolo));
     nakresliHmat(painter, lic, podoba, barvy.znak);
     nakresliLesk(painter, lic, podoba);

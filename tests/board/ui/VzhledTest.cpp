@@ -60,6 +60,16 @@ TEST(Vzhled, jmenaAStavyProPomocneTechnologie) {
     EXPECT_EQ(s.prvek("ImgBas(26)")->accessibleDescription(), QStringLiteral("tlak, označený"));
 }
 
+TEST(Vzhled, stlaceneOknoSeNakresliTaky) {
+    for (const QSize velikost : {QSize(1, 1), QSize(9, 1), QSize(2, 2), QSize(3, 3)}) {
+        PodobaPrvku podoba{TvarPrvku::Pilulka};
+        podoba.hmat = HmatovaZnacka::Mriz;
+        QImage platno(velikost, QImage::Format_ARGB32_Premultiplied);
+        QPainter painter(&platno);
+        nakresliKnoflik(painter, QRectF(QPointF(), velikost), podoba); // must come to an end
+    }
+}
+
 TEST(Vzhled, vsechnyPrvkyJsouNaMiste) {
     Sestava s;
     int diskant = 0, pomocne = 0, klavesy = 0, tony = 0, cisla = 0, basy = 0;
