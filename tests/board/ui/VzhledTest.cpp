@@ -62,7 +62,8 @@ TEST(Vzhled, jmenaAStavyProPomocneTechnologie) {
 
 TEST(Vzhled, stlaceneOknoSeNakresliTaky) {
     for (const QSize velikost : {QSize(1, 1), QSize(9, 1), QSize(2, 2), QSize(3, 3)}) {
-        PodobaPrvku podoba{TvarPrvku::Pilulka};
+        PodobaPrvku podoba;
+        podoba.tvar = TvarPrvku::Pilulka;
         podoba.hmat = HmatovaZnacka::Mriz;
         QImage platno(velikost, QImage::Format_ARGB32_Premultiplied);
         QPainter painter(&platno);
