@@ -30,7 +30,10 @@ FrmNastaveni::FrmNastaveni(NastaveniRad& nastaveni, QWidget* parent)
     rozvrh->addWidget(postavZabrany());
     rozvrh->addWidget(postavTlacitka());
     nastaveni_.Form_Load();
-    if (const auto typ = nastaveni_.typ()) typy_->button(*typ)->setChecked(true);
+    if (const auto typ = nastaveni_.typ()) {
+        typy_->button(*typ)->setChecked(true);
+        typy_->button(*typ)->setFocus();
+    }
     obnov();
 }
 

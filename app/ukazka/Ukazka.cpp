@@ -3,10 +3,13 @@
 #include "app/Program.h"
 #include "app/ui/Form1.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPointer>
 #include <QScreen>
 #include <QTest>
@@ -54,6 +57,8 @@ void Ukazka::prehraj() {
     prejdiPisen();
     ukazInterval();
     krokujAutomatem();
+    prekryjRady();
+    otocHmatnik();
     ukonciPisen();
 }
 
@@ -176,6 +181,41 @@ void Ukazka::krokujAutomatem() {
     obrazek("automat-krokuje");
     klikni("cmdTimer");
     klikni("cmdPrvni");
+}
+
+void Ukazka::prekryjRady() {
+    zvolVNabidce("mnu2Rady");
+    sOknem([this] { zvolVNabidce("mnuPrekrytRady"); },
+           [this](QWidget* dialog) {
+               auto* typ = dialog->findChild<QWidget*>("optTypPrstokladu(1)");
+               QTest::mouseClick(typ, Qt::LeftButton, {}, QPoint(8, typ->height() / 2));
+               QTest::mouseClick(dialog->findChild<QWidget*>("cmdFDur"), Qt::LeftButton); // reads "C Dur"
+               obrazek("prekryti-rad");
+               QTest::mouseClick(dialog->findChild<QWidget*>("cmdOk"), Qt::LeftButton);
+           });
+    cekej([this] { return program_.okno().isVisible(); }, "návrat hlavního okna");
+    obrazek("prekryte-rady-a-nazvy");
+}
+
+void Ukazka::otocHmatnik() {
+    zvolVNabidce("mnuOtocitHmatnik");
+    cekej([this] { return !program_.okno().findChild<QAction*>("mnuOtocitHmatnik")->isEnabled(); },
+          "otočený hmatník");
+    klikni("cmdJakDal");
+    obrazek("otoceny-hmatnik");
+}
+
+void Ukazka::zvolVNabidce(const QString& jmeno) {
+    QMenuBar* lista = program_.okno().menuBar();
+    auto* polozka = program_.okno().findChild<QAction*>(jmeno);
+    for (QAction* nadpis : lista->actions()) {
+        QMenu* nabidka = nadpis->menu();
+        if (!nabidka->actions().contains(polozka)) continue;
+        QTest::mouseClick(lista, Qt::LeftButton, {}, lista->actionGeometry(nadpis).center());
+        cekej([nabidka] { return nabidka->isVisible(); }, "nabídka pro " + jmeno);
+        QTest::mouseClick(nabidka, Qt::LeftButton, {}, nabidka->actionGeometry(polozka).center());
+        return;
+    }
 }
 
 QWidget* Ukazka::prvek(const QString& jmeno) const {

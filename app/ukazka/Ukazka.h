@@ -36,9 +36,12 @@ private:
     void prejdiPisen();
     void ukazInterval();
     void krokujAutomatem();
+    void prekryjRady();
+    void otocHmatnik();
 
     void klikni(const QString& jmeno);
     void dvojklikni(const QString& jmeno);
+    void zvolVNabidce(const QString& jmeno); ///< menu entry by its control name
     QWidget* prvek(const QString& jmeno) const;
     QWidget* tabulka() const;
     /// Runs `akce`, during which modal windows come up; `obsluha` is what the player does with each of them.

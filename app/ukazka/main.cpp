@@ -31,6 +31,7 @@ int main(int argc, char* argv[]) {
     QDir slozka(QDir(argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral("ukazka")).absolutePath());
     // Only what an earlier demonstration left: the folder may hold other things too.
     QFile::remove(slozka.filePath("domov/Dokumenty/Heligonka/Zvonika/Kočka leze dírou.xls"));
+    QFile::remove(slozka.filePath("nastaveni/Tonavox12.ini"));
     if (!slozka.mkpath("domov") || !slozka.mkpath("nastaveni")) {
         std::fprintf(stderr, "The folder cannot be made: %s\n", qPrintable(slozka.path()));
         return 1;

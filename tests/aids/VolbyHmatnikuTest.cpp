@@ -32,15 +32,7 @@ TEST_F(VolbyHmatnikuTest, NamesAreWrittenInTheKeyAndTakenAwayWithEverythingElse)
     for (const int n : {2, 7})
         EXPECT_EQ(diskant.popis(n) + diskant.popisPomocneho(n), "") << n;
     EXPECT_EQ(ulozeno("PopisKnof"), "0");
-}
-
-TEST_F(VolbyHmatnikuTest, NumberingIsInvertedAndStored) {
-    volby.mnuCislovat();
-    EXPECT_TRUE(diskant.cislovani());
-    EXPECT_EQ(ulozeno("Cislovani"), "1");
-    volby.mnuCislovat();
-    EXPECT_FALSE(diskant.cislovani());
-    EXPECT_EQ(ulozeno("Cislovani"), "0");
+    EXPECT_EQ(ulozeno("Cislovani"), "nic");
 }
 
 TEST_F(VolbyHmatnikuTest, TurningOverIsOfferedOnceAndNotRemembered) {

@@ -94,16 +94,5 @@ TEST_F(FrmNastaveniTest, CancellingStoresNothing) {
     }
 }
 
-TEST_F(FrmNastaveniTest, AnUnknownStoredTypeLeavesTheChoiceOpen) {
-    nastaveni.save("TypPrstokladu", "Index", "7");
-    dialogy.expect("V programu došlo k chybě !", "Neznámý typ prstokladu, ");
-    otevri();
-    EXPECT_EQ(prvek<QPushButton>("cmdCDur")->text(), "C Dur");
-    for (int i = 0; i < 3; ++i)
-        EXPECT_FALSE(prvek<QRadioButton>(QStringLiteral("optTypPrstokladu(%1)").arg(i))->isChecked());
-    stiskni("optTypPrstokladu(0)"); // it can be chosen again
-    EXPECT_EQ(formular.typ(), 0);
-}
-
 } // namespace
 } // namespace zvonika
