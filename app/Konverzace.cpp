@@ -21,7 +21,7 @@ Konverzace::Konverzace(Modely& modely, const Prostredi& prostredi, std::function
       pasPisne(modely.pisen, modely.pas),
       navigace(okoliPisne(modely, prostredi.dialogs), zobrazeniHmatu, pasPisne, modely.diskant,
                [this] { uvolneni.uvolniVse(); }),
-      zvuk(okoliPisne(modely, prostredi.dialogs), prostredi.drive),
+      zvuk(okoliPisne(modely, prostredi.dialogs), prostredi.drive, prostredi.media),
       zivotPisne(okoliPisne(modely, prostredi.dialogs), prostredi.drive,
                  {zobrazeniHmatu, pasPisne, navigace, zvuk, [this] { uvolneni.uvolniVse(); }}),
       klikDiskantu(modely.diskant, notyZapis, modely.tonina, prostredi.dialogs,

@@ -2,6 +2,7 @@
 
 #include "platform/Dialogs.h"
 #include "platform/Drive.h"
+#include "platform/Media.h"
 #include "platform/SettingsStore.h"
 #include "platform/Shell.h"
 #include "platform/WakeUpClock.h"
@@ -17,6 +18,7 @@ struct Prostredi {
     Shell& shell;
     SpreadsheetLauncher spoustecExcelu;
     WakeUpClock& hodiny;
+    Media& media;
 };
 
 } // namespace zvonika

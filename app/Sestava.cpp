@@ -5,8 +5,10 @@
 #include "app/ui/IkonaProgramu.h"
 #include "platform/HomeDrive.h"
 #include "platform/IniSettingsStore.h"
+#include "platform/PluginFolders.h"
 #include "platform/QtWakeUpClock.h"
 #include "platform/UserSettings.h"
+#include "platform/media/SystemMedia.h"
 #include "platform/ui/CzechTranslator.h"
 #include "platform/ui/DesktopShell.h"
 #include "platform/ui/QtDialogs.h"
@@ -56,8 +58,9 @@ struct Sestava::Casti {
         : nastaveniProgramu(nastaveni(QStringLiteral("Tonavox12"), umisteni)),
           nastaveniTabulky(nastaveni(zvonika::nastaveniTabulky, umisteni)),
           drive(umisteni.domov.isEmpty() ? QDir::homePath() : umisteni.domov, slozkaProgramu()),
+          media(systemMedia(drive, pluginFolders())),
           program({dialogs, *nastaveniProgramu, drive, shell, [this] { return novaTabulka(); },
-                   umisteni.hodiny ? *umisteni.hodiny : hodiny}) {
+                   umisteni.hodiny ? *umisteni.hodiny : hodiny, *media}) {
         dialogs.setMainWindow(&program.okno());
         const QScreen* obrazovka = QApplication::primaryScreen();
         okna = rozmistiOkna(obrazovka ? obrazovka->availableGeometry() : QRect(0, 0, 1366, 768));
@@ -87,6 +90,7 @@ struct Sestava::Casti {
     std::unique_ptr<SettingsStore> nastaveniProgramu;
     std::unique_ptr<SettingsStore> nastaveniTabulky;
     HomeDrive drive;
+    std::unique_ptr<Media> media;
     QtDialogs dialogs;
     DesktopShell shell;
     QtWakeUpClock hodiny;

@@ -1,4 +1,5 @@
 # zvonika_library(NAME SOURCES ... LIBS ...): a static library with the house's warnings.
+# zvonika_plugin(NAME SOURCES ... LIBS ...): a library that the running program loads when it first needs it.
 # zvonika_test(NAME SOURCES ... LIBS ...): a GoogleTest program, each of its cases one CTest test.
 
 set(CMAKE_CXX_STANDARD 20)
@@ -36,6 +37,17 @@ function(zvonika_library name)
   elseif(NOT name STREQUAL "xls")
     zvonika_precompile(${name} <functional> <QObject> <QString>)
   endif()
+endfunction()
+
+# They stand in "plugins" beside the executables in the build tree, in lib/zvonika when installed.
+function(zvonika_plugin name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
+  add_library(${name} MODULE ${ARG_SOURCES})
+  zvonika_house_rules(${name})
+  target_link_libraries(${name} PRIVATE ${ARG_LIBS})
+  set_target_properties(${name} PROPERTIES LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin/plugins")
+  install(TARGETS ${name} DESTINATION lib/zvonika)
+  set_property(GLOBAL APPEND PROPERTY ZVONIKA_PLUGINS ${name})
 endfunction()
 
 function(zvonika_test name)

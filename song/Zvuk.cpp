@@ -33,4 +33,14 @@ void Zvuk::cmdZvuk(int index) const {
         QStringLiteral("Zvukový soubor s příponou %1 nelze přehrát.").arg(pripony().value(index)));
 }
 
+bool Zvuk::PrehrajZvuk(const QString& jmeno) {
+    media_.sendString(QStringLiteral("open ") + jmeno + QStringLiteral(" type sequencer"));
+    return media_.sendString(QStringLiteral("play ") + jmeno) == 0;
+}
+
+void Zvuk::ZastavZvuk(const QString& jmeno) {
+    media_.sendString(QStringLiteral("stop ") + jmeno);
+    media_.sendString(QStringLiteral("close ") + jmeno);
+}
+
 } // namespace zvonika

@@ -7,6 +7,7 @@
 #include "tests/support/FakeSpreadsheet.h"
 #include "tests/support/RucniHodiny.h"
 #include "tests/support/ScriptedDialogs.h"
+#include "tests/support/ZaznamovaMedia.h"
 
 #include <QAction>
 #include <QTest>
@@ -26,7 +27,7 @@ protected:
                                                           excel = novy.get();
                                                           return novy;
                                                       },
-                                                      hodiny});
+                                                      hodiny, media});
         program->Main();
         program->okno().resize(1000, 720);
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&program->okno()));
@@ -54,6 +55,7 @@ protected:
     PametoveNastaveni nastaveni;
     ZaznamovyShell shell;
     RucniHodiny hodiny;
+    ZaznamovaMedia media;
     FakeSpreadsheet* excel = nullptr;
     std::unique_ptr<Program> program;
 };

@@ -63,7 +63,7 @@ CelyProgram::~CelyProgram() = default;
 
 void CelyProgram::spust() {
     program = std::make_unique<Program>(
-        Prostredi{dialogs, nastaveni, drive, shell, [this] { return novaTabulka(); }, hodiny});
+        Prostredi{dialogs, nastaveni, drive, shell, [this] { return novaTabulka(); }, hodiny, media});
     program->Main();
     program->okno().resize(1000, 720);
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&program->okno()));

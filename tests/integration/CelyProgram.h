@@ -10,6 +10,7 @@
 #include "tests/app/ZaznamovyShell.h"
 #include "tests/support/RucniHodiny.h"
 #include "tests/support/ScriptedDialogs.h"
+#include "tests/support/ZaznamovaMedia.h"
 
 #include <QPointer>
 #include <QTemporaryDir>
@@ -83,6 +84,7 @@ protected:
     IniSettingsStore vlastniNastaveniTabulky;
     ZaznamovyShell shell;
     RucniHodiny hodiny;
+    ZaznamovaMedia media;
     QPointer<SheetWindow> tabulka;
     EmbeddedApplication* excel = nullptr; ///< the one started last
     std::unique_ptr<Program> program;

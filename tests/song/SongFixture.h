@@ -11,6 +11,7 @@
 #include "tests/song/FakeDrive.h"
 #include "tests/support/FakeSpreadsheet.h"
 #include "tests/support/ScriptedDialogs.h"
+#include "tests/support/ZaznamovaMedia.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -103,6 +104,7 @@ protected:
     FakeDisk disk;
     ExplainingSpreadsheet* excel = nullptr; ///< lives as long as `pisen.aplikaceExcel`
     FakeDrive drive;
+    ZaznamovaMedia media;
     ScriptedDialogs dialogs;
     Pisen pisen;
     SongPanel panel;
@@ -129,7 +131,7 @@ protected:
                              }};
     PasPisne pasPisne{pisen, pas};
     Navigace navigace{okoli, zobrazeni, pasPisne, diskant, uvolniVse};
-    Zvuk zvuk{okoli, drive};
+    Zvuk zvuk{okoli, drive, media};
     ZivotPisne zivot{okoli, drive, {zobrazeni, pasPisne, navigace, zvuk, uvolniVse}};
 };
 

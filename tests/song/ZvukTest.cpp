@@ -31,6 +31,19 @@ TEST_F(ZvukTest, LooksIntoTheWorkingFolderWhereverTheSongWasOpenedFrom) {
 TEST_F(ZvukTest, AClickFailsAtOnce) {
     for (int i = 0; i < 3; ++i)
         ocekavejChybu(error::subscriptOutOfRange, [&] { zvuk.cmdZvuk(i); });
+    EXPECT_TRUE(media.prikazy.isEmpty());
+}
+
+TEST_F(ZvukTest, CommandStringsToTheLetter) {
+    const QString jmeno = slozkaPisni + "Kočka leze dírou.wav";
+    EXPECT_TRUE(zvuk.PrehrajZvuk(jmeno));
+    zvuk.ZastavZvuk(jmeno);
+    EXPECT_EQ(media.prikazy, QStringList({"open " + jmeno + " type sequencer", "play " + jmeno,
+                                          "stop " + jmeno, "close " + jmeno}));
+    media.kody = {275, 0}; // only the play command counts
+    EXPECT_TRUE(zvuk.PrehrajZvuk(jmeno));
+    media.kody = {0, 263};
+    EXPECT_FALSE(zvuk.PrehrajZvuk(jmeno));
 }
 
 } // namespace zvonika::testing
