@@ -5,8 +5,10 @@
 #include <QApplication>
 #include <QDir>
 #include <QLineEdit>
+#include <QSlider>
 #include <QTest>
 #include <QTimer>
+#include <QToolTip>
 
 #include <chrono>
 #include <ctime>
@@ -53,8 +55,8 @@ QString domov(const QTemporaryDir& slozka) {
 
 } // namespace
 
-BeziciProgram::BeziciProgram(QApplication& aplikace)
-    : sestava_(aplikace, {domov(slozka_), slozka_.filePath("nastaveni")}) {
+BeziciProgram::BeziciProgram(QApplication& aplikace, testing::RucniHodiny* hodiny)
+    : hodiny_(hodiny), sestava_(aplikace, {domov(slozka_), slozka_.filePath("nastaveni"), hodiny}) {
     program().Main();
     cekejNaOkna();
     program().modely().tonina.nastavStupnici(Key(QStringLiteral("C dur")));
@@ -112,6 +114,18 @@ CasAkce BeziciProgram::klikni(const QString& jmeno) {
     if (!cil || !cil->isEnabled() || !cil->isVisible())
         throw std::runtime_error("cannot be clicked: " + jmeno.toStdString());
     return zmer([cil] { QTest::mouseClick(cil, Qt::LeftButton); });
+}
+
+void BeziciProgram::nastavTempo(int pozice) {
+    auto* posuvnik = qobject_cast<QSlider*>(program().okno().prvek(QStringLiteral("Slider1")));
+    posuvnik->setValue(pozice);
+    QToolTip::hideText();
+    domaluj();
+}
+
+CasAkce BeziciProgram::tik() {
+    if (!hodiny_ || !hodiny_->ceka()) throw std::runtime_error("no tick is due");
+    return zmer([this] { hodiny_->naTermin(); });
 }
 
 void BeziciProgram::odpovez(const std::function<void()>& akce, const QString& text) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Sestava.h"
+#include "tests/support/RucniHodiny.h"
 
 #include <QObject>
 #include <QTemporaryDir>
@@ -28,7 +29,8 @@ struct CasAkce {
 class BeziciProgram : public QObject {
     Q_OBJECT
 public:
-    explicit BeziciProgram(QApplication& aplikace);
+    /// `hodiny`: the clock of automatic stepping; none: the system's.
+    explicit BeziciProgram(QApplication& aplikace, testing::RucniHodiny* hodiny = nullptr);
     ~BeziciProgram() override;
 
     Program& program() { return sestava_.program(); }
@@ -42,6 +44,10 @@ public:
 
     /// Clicks a control of the main window.
     CasAkce klikni(const QString& jmeno);
+    /// Moves the tempo slider to this position, -5 to 5.
+    void nastavTempo(int pozice);
+    /// Lets the tick of automatic stepping come that is due next; needs a clock that is turned by hand.
+    CasAkce tik();
     /// Paints what waits to be painted.
     void domaluj();
 
@@ -54,6 +60,7 @@ private:
     void odpovez(const std::function<void()>& akce, const QString& text);
 
     QTemporaryDir slozka_;
+    testing::RucniHodiny* hodiny_;
     Sestava sestava_;
     std::function<void()> predPotvrzenim_;
     int malbyHlavnihoOkna_ = 0;

@@ -76,6 +76,28 @@ void krok(benchmark::State& stav, BeziciProgram& program, const QString& prikaz)
     program.klikni(QStringLiteral("cmdEndEdit"));
 }
 
+/// Steps of the timer at its fastest rate.
+void automat(benchmark::State& stav, BeziciProgram& program) {
+    const int hmatu = int(stav.range(0));
+    program.zalozPisen(dalsiNazev(), hmatu);
+    program.nastavTempo(5);
+    program.klikni(QStringLiteral("cmdTimer"));
+    {
+        Vzorky vzorky(stav);
+        int radek = 1;
+        for (auto _ : stav) {
+            if (radek++ == hmatu) {
+                program.klikni(QStringLiteral("cmdPrvni"));
+                radek = 2;
+            }
+            vzorky.pridej(program.tik());
+        }
+        if (program.program().aktualniRadek() != radek) stav.SkipWithError("steps are missing");
+    }
+    program.klikni(QStringLiteral("cmdTimer"));
+    program.klikni(QStringLiteral("cmdEndEdit"));
+}
+
 /// Appends grips of three tones and a bass to the end of the song.
 void zapis(benchmark::State& stav, BeziciProgram& program) {
     const int hmatu = int(stav.range(0));
@@ -136,13 +158,15 @@ void zaregistrujVse(BeziciProgram& program) {
         zaregistruj(prikaz, kroku, [&program, prikaz](benchmark::State& stav) {
             krok(stav, program, QString::fromLatin1(prikaz));
         });
+    zaregistruj("Timer1", kroku, [&program](benchmark::State& stav) { automat(stav, program); });
     zaregistruj("cmdTah", zapisu, [&program](benchmark::State& stav) { zapis(stav, program); });
     zaregistruj("cmdEdit", otevreni, [&program](benchmark::State& stav) { otevreniPisne(stav, program); });
     zaregistruj("cmdEndEdit", otevreni, [&program](benchmark::State& stav) { konecPisne(stav, program); });
 }
 
 void zmer(QApplication& aplikace) {
-    BeziciProgram program(aplikace);
+    testing::RucniHodiny hodiny;
+    BeziciProgram program(aplikace, &hodiny);
     const QWidget& okno = program.program().okno();
     benchmark::AddCustomContext("platform", QGuiApplication::platformName().toStdString());
     benchmark::AddCustomContext("main_window",

@@ -1,11 +1,12 @@
 #!/usr/bin/env python3
-"""summary.py FOLDER: what kroky.json and start.json in FOLDER say, beside what is aimed at."""
+"""summary.py FOLDER: what kroky.json, tempo.json and start.json in FOLDER say, beside what is aimed at."""
 import json
 import os
 import sys
 
 # Benchmark: (median, 99th percentile) aimed at, in ms; None where nothing is set.
-AIMS = {"cmdDalsi": (8, 16), "cmdJakDal": (8, 16), "cmdTah": (16, None)}
+AIMS = {"cmdDalsi": (8, 16), "cmdJakDal": (8, 16), "Timer1": (8, 16), "cmdTah": (16, None)}
+AIM_DRIFT_MS = 1
 AIM_START_MS = 150
 AIM_RESIDENT_MB = 60
 
@@ -44,6 +45,13 @@ def steps(results):
               "  " + verdict((median, p99), aims))
 
 
+def tempo(results):
+    print(f"Automatic stepping in real time: {results['grips']} grips at {results['interval_ms']} ms")
+    print(f"  drift over the whole {results['drift_ms']:.3f} ms  {verdict((abs(results['drift_ms']),), (AIM_DRIFT_MS,))}")
+    print(f"  a step comes late by {results['late_median_ms']:.2f} (median), {results['late_p99_ms']:.2f} (p99), "
+          f"{results['late_max_ms']:.2f} ms at most; {results['painted']} grips painted, {results['row'] - 1} steps made")
+
+
 def start(results):
     print("Start to first painted window (others: first mapped window) and resident memory, medians")
     print(f"{'program':<14}{'ms':>9}{'slowest':>9}{'MB':>9}{'turns':>7}  aim")
@@ -62,7 +70,7 @@ def start(results):
 
 def main():
     folder = sys.argv[1]
-    for name, show in (("kroky.json", steps), ("start.json", start)):
+    for name, show in (("kroky.json", steps), ("tempo.json", tempo), ("start.json", start)):
         results = read(folder, name)
         if results:
             show(results)

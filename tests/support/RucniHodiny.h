@@ -30,13 +30,16 @@ public:
         std::exchange(volani_, nullptr)();
         return true;
     }
+    /// Time passes until the next call is due, which is made.
+    void naTermin() {
+        ted_ = std::max(ted_, termin_);
+        obratka();
+    }
     /// Time passes with an idle event loop: every call comes exactly when it is due.
     void uplyn(Ms doba) {
         const Time konec = ted_ + doba;
-        while (volani_ && termin_ <= konec) {
-            ted_ = std::max(ted_, termin_);
-            obratka();
-        }
+        while (volani_ && termin_ <= konec)
+            naTermin();
         ted_ = std::max(ted_, konec);
     }
 
