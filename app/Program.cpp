@@ -8,6 +8,7 @@
 #include "song/StavovyRadek.h"
 
 #include <QApplication>
+#include <QLineEdit>
 
 #include <algorithm>
 
@@ -126,9 +127,16 @@ bool Program::provedUdalost(const Obsluha& obsluha) {
     return provedeno;
 }
 
+bool Program::volnoProKrok() const {
+    if (udalosti_.bezi() || QApplication::activeModalWidget()) return false;
+    // A step while the player writes would spread his text over the rows; one behind another window goes
+    // unseen.
+    return okno_->isVisible() && !qobject_cast<QLineEdit*>(QApplication::focusWidget());
+}
+
 KrokAutomatu Program::krokAutomatu() {
     return {
-        [this] { return !udalosti_.bezi() && !QApplication::activeModalWidget(); },
+        [this] { return volnoProKrok(); },
         [this] { okno_->domaluj(); },
         [this] { return provedUdalost([this] { konverzace_.navigace.cmdJakDal(); }); },
     };

@@ -56,6 +56,7 @@ private:
     KrokySpusteni krokySpusteni();
     void vyberStupnici();
     KrokAutomatu krokAutomatu();
+    bool volnoProKrok() const;
     void poPrikazu();
     bool provedUdalost(const Obsluha& obsluha);
     void Form_Unload();

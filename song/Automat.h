@@ -24,8 +24,8 @@ struct KrokAutomatu {
 /// Ticks keep to the clock: each is due one interval after the moment the one before was due, so that a late
 /// one delays none of the others and nothing adds up over a song. Ticks that are late because a step took
 /// long are made up for one at a time, each grip painted before the next; after more than a second of delay
-/// the rhythm starts anew instead of rushing. A tick that meets an open box or a running procedure is a rest:
-/// no step is taken and none is made up for. No grip is ever left out.
+/// the rhythm starts anew instead of rushing. A tick for which the program is not free is a rest: no step
+/// is taken and none is made up for. No grip is ever left out.
 class Automat {
 public:
     Automat(const CommandStates& prikazy, Timer1& timer1, WakeUpClock& hodiny, KrokAutomatu krok);

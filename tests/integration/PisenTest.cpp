@@ -84,6 +84,24 @@ TEST_F(PisenTest, TheBoardFollowsACorrectionAndItsUndo) {
     EXPECT_EQ(knoflik(11), StavKnofliku::Tlak);
 }
 
+TEST_F(PisenTest, AutomaticSteppingWaitsForASyllableBeingWritten) {
+    zapisTriHmaty();
+    klikni("cmdPrvni");
+    klikni("cmdTimer");
+    prejdiNaTabulku();
+    hodiny.uplyn(RucniHodiny::Ms(2000));
+    EXPECT_EQ(kurzor(), "$B$2");
+    klavesaTabulky(Qt::Key_Left);
+    piseDoTabulky("ka");
+    hodiny.uplyn(RucniHodiny::Ms(10000));
+    piseDoTabulky("lina");
+    klavesaTabulky(Qt::Key_Up);
+    EXPECT_EQ(bunka("A2"), "kalina");
+    const int radek = program->aktualniRadek();
+    hodiny.uplyn(RucniHodiny::Ms(2000));
+    EXPECT_EQ(program->aktualniRadek(), radek + 1);
+}
+
 TEST_F(PisenTest, UndoNeverReachesWhatTheProgramHasRecorded) {
     novaPisen();
     prejdiNaTabulku();
