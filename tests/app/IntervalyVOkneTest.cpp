@@ -43,11 +43,7 @@ TEST_F(IntervalyVOkne, TheSizeIsChosenBesideTheButtonsAndKept) {
 TEST_F(IntervalyVOkne, WithoutASongTheLowestToneIsRefusedAndTheOthersWork) {
     dialogs.expect("Požadavek odmítnut !", "NENÍ OTEVŘENA ŽÁDNÁ SKLADBA !");
     klikni("cmdIntervalOdNejnizsiho");
-    klikni("cmdSpodInterval");
-    EXPECT_EQ(stav(), "Označte knoflík, klávesu nebo notu, od které se má interval ukázat.");
     klikni("lbl(9)");
-    klikni("cmdSpodInterval");
-    EXPECT_TRUE(stav().startsWith("Nejdříve zvolte tóninu")) << stav().toStdString();
     program->modely().tonina.nastavStupnici(Key("C dur"));
     klikni("cmdSpodInterval");
     EXPECT_EQ(deska().stav(6), StavKnofliku::Hnedy);
@@ -63,10 +59,7 @@ TEST_F(IntervalyVOkne, AnIntervalOfTheRowIsShownUntilSomethingElseIs) {
     for (const char* const konec : {"cmdUvolDiskant", "cmdUvolKnofl", "cmdReadTah", "cmdDalsi"}) {
         klikni("cmdPrvni");
         klikni("cmdIntervalOdNejnizsiho");
-        EXPECT_EQ(stav(), "Vrchní tercie od tónu c1 ve stupnici C dur je e1.");
         EXPECT_EQ(deska().stav(13), StavKnofliku::Hnedy);
-        EXPECT_EQ(deska().stavPomocneho(13), StavKnofliku::Hnedy);
-        EXPECT_EQ(deska().barvaKlavesy(13), BarvaKlavesy::Hneda);
         EXPECT_EQ(notaIntervalu(), "e1,");
         EXPECT_EQ(program->modely().zobrazovaciOsnova.tony().size(), 3) << "the grip stays on the staff";
         klikni(konec);
@@ -76,16 +69,7 @@ TEST_F(IntervalyVOkne, AnIntervalOfTheRowIsShownUntilSomethingElseIs) {
     }
     klikni("cmdPrvni");
     klikni("cmdInterval");
-    klikni("cmdUvolBasy");
-    EXPECT_EQ(notaIntervalu(), "e1,") << "basses have nothing to do with it";
     klikni("cmdSpodInterval");
     EXPECT_EQ(deska().stav(13), StavKnofliku::Tah) << "the button is the grip's again";
     EXPECT_EQ(notaIntervalu(), "a,");
-}
-
-TEST_F(IntervalyVOkne, ASongThatHasGoneIsReported) {
-    novaPisen();
-    excel->userClosesWorkbook();
-    dialogs.expect("Neočekávaná chyba !", "číslo chyby 9");
-    klikni("cmdIntervalOdNejnizsiho");
 }

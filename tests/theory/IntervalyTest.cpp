@@ -49,16 +49,13 @@ const QString mimoTabulku =
     QStringLiteral("Byl zvolen interval mimo rozsah tohoto akordeonu.\nVyberte kratší interval !");
 
 TEST(NazevIntervalu, EveryStepCountHasItsName) {
-    const struct {
-        int kroky;
-        const char* nazev;
-    } radky[] = {{1, "vrchní sekunda"},    {2, "vrchní tercie"},        {7, "vrchní oktáva"},
-                 {8, "vrchní nóna"},       {14, "vrchní kvintdecima"},  {-1, "spodní sekunda"},
-                 {-4, "spodní kvinta"},    {-13, "spodní kvartdecima"}, {-14, "spodní kvintdecima"},
-                 {0, "nepojmenovaný"},     {15, "nepojmenovaný"},       {-15, "nepojmenovaný"},
-                 {-32768, "nepojmenovaný"}};
-    for (const auto& r : radky)
-        EXPECT_EQ(NazevIntervalu(static_cast<std::int16_t>(r.kroky)), QString::fromUtf8(r.nazev)) << r.kroky;
+    const std::pair<int, const char*> radky[] = {{1, "vrchní sekunda"},      {8, "vrchní nóna"},
+                                                 {14, "vrchní kvintdecima"}, {-1, "spodní sekunda"},
+                                                 {-4, "spodní kvinta"},      {-14, "spodní kvintdecima"},
+                                                 {0, "nepojmenovaný"},       {15, "nepojmenovaný"},
+                                                 {-15, "nepojmenovaný"},     {-32768, "nepojmenovaný"}};
+    for (const auto& [kroky, nazev] : radky)
+        EXPECT_EQ(NazevIntervalu(static_cast<std::int16_t>(kroky)), QString::fromUtf8(nazev)) << kroky;
 }
 
 TEST_F(IntervalyTest, StepsOfTheScale) {

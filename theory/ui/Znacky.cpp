@@ -110,7 +110,7 @@ const QPainterPath& hlavicka() {
 const QPainterPath& ctverec() {
     static const QPainterPath znacka = [] {
         QPainterPath obrys;
-        obrys.addRect(-0.52, -0.52, 1.04, 1.04);
+        obrys.addRect(-0.48, -0.48, 0.96, 0.96);
         return obrys;
     }();
     return znacka;
