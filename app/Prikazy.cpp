@@ -101,7 +101,8 @@ const QVector<Menu>& menuPrikazu() {
           {"mnu2Rady", "Názvy na knoflíkách", "mnu2Rady", true},
           {"mnuCislovat", "Pomocné číslování", "mnuCislovat", true}}},
         {"Pošta", {{"mnuMailAutorovi", "Poslat zprávu autorovi", "mnuMailAutorovi"}}},
-        {"Nápověda", {{"mnuhtm", "Ovládání Tamíka", "mnuhtm"}, {"mnuOProgramu", "O programu", "cmdOPrg"}}},
+        {"Nápověda",
+         {{"mnuhtm", "Ovládání Tamíka", "mnuhtm", false, "F1"}, {"mnuOProgramu", "O programu", "cmdOPrg"}}},
     };
     return tabulka;
 }
@@ -109,7 +110,6 @@ const QVector<Menu>& menuPrikazu() {
 const QStringList& dosudNedostupne() {
     static const QStringList tabulka = {
         "mnuKonverze",
-        "mnuhtm",
     };
     return tabulka;
 }

@@ -18,7 +18,7 @@ Program::Program(const Prostredi& prostredi)
     : prostredi_(prostredi), modely_(prostredi.drive.programFolder()),
       udalosti_(prostredi.dialogs, prostredi.shell),
       konverzace_(modely_, prostredi_, [this] { vyberStupnici(); }),
-      automat_(modely_.stavy, modely_.timer1, prostredi.hodiny, krokAutomatu()) {
+      automat_(modely_.stavy, modely_.timer1, prostredi.hodiny, krokAutomatu()), napoveda_(prostredi_) {
     zaregistrujPrikazy();
     konverzace_.zivotPisne.stavBezPisne();
     for (const QString& prikaz : dosudNedostupne())
@@ -83,6 +83,7 @@ void Program::zaregistrujPrikazy() {
         {"cmdInterval", [&k] { k.intervaly.cmdInterval(); }},
         {"cmdSpodInterval", [&k] { k.intervaly.cmdSpodInterval(); }},
         {"cmdIntervalOdNejnizsiho", [&k] { k.intervaly.cmdIntervalOdNejnizsiho(); }},
+        {"mnuhtm", [this] { napoveda_.mnuhtm(*okno_); }},
         {"cmdOPrg", [this] { cmdOPrg(prostredi_.dialogs); }},
         {"mnuMailAutorovi",
          [this] {

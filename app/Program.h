@@ -2,6 +2,7 @@
 
 #include "app/Konverzace.h"
 #include "app/ObsluhaUdalosti.h"
+#include "app/OknoNapovedy.h"
 #include "app/Spusteni.h"
 #include "app/ui/Form1.h"
 #include "song/Automat.h"
@@ -32,7 +33,8 @@ public:
     Modely& modely() { return modely_; }
     /// Chosen by a control name: runs what the button or menu entry is for.
     void proved(const QString& prikaz);
-    /// Brings the main window to the front and gives it the keyboard.
+    /// Brings the main window, or the help window that stands in for it, to the front and gives it the
+    /// keyboard.
     void prejdiNaHlavniOkno();
 
     QString tonina() const { return modely_.tonina.stupnice().text(); }
@@ -73,6 +75,7 @@ private:
     Automat automat_;
     QHash<QString, Obsluha> prikazy_;
     std::unique_ptr<Form1> okno_;
+    OknoNapovedy napoveda_;
 };
 
 } // namespace zvonika

@@ -155,8 +155,9 @@ void Program::prejdiNaTabulku() {
 }
 
 void Program::prejdiNaHlavniOkno() {
-    okno_->raise();
-    okno_->activateWindow();
+    QWidget* kam = napoveda_.otevrena() ? napoveda_.okno() : static_cast<QWidget*>(okno_.get());
+    kam->raise();
+    kam->activateWindow();
 }
 
 } // namespace zvonika

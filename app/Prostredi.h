@@ -1,5 +1,6 @@
 #pragma once
 
+#include "aids/ui/VolbaProhlizece.h"
 #include "platform/Dialogs.h"
 #include "platform/Drive.h"
 #include "platform/Media.h"
@@ -19,6 +20,7 @@ struct Prostredi {
     SpreadsheetLauncher spoustecExcelu;
     WakeUpClock& hodiny;
     Media& media;
+    TvurceProhlizece tvurceProhlizece = jednoduchyProhlizec();
 };
 
 } // namespace zvonika

@@ -60,7 +60,7 @@ struct Sestava::Casti {
           drive(umisteni.domov.isEmpty() ? QDir::homePath() : umisteni.domov, slozkaProgramu()),
           media(systemMedia(drive, pluginFolders())),
           program({dialogs, *nastaveniProgramu, drive, shell, [this] { return novaTabulka(); },
-                   umisteni.hodiny ? *umisteni.hodiny : hodiny, *media}) {
+                   umisteni.hodiny ? *umisteni.hodiny : hodiny, *media, volbaProhlizece(pluginFolders())}) {
         dialogs.setMainWindow(&program.okno());
         const QScreen* obrazovka = QApplication::primaryScreen();
         okna = rozmistiOkna(obrazovka ? obrazovka->availableGeometry() : QRect(0, 0, 1366, 768));

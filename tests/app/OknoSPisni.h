@@ -21,13 +21,14 @@ class OknoSPisni : public ::testing::Test {
 protected:
     void SetUp() override {
         drive.programFolderPath = QStringLiteral(ZVONIKA_RESOURCES);
-        program = std::make_unique<Program>(Prostredi{dialogs, nastaveni, drive, shell,
-                                                      [this] {
-                                                          auto novy = std::make_unique<FakeSpreadsheet>(disk);
-                                                          excel = novy.get();
-                                                          return novy;
-                                                      },
-                                                      hodiny, media});
+        program = std::make_unique<Program>(Prostredi{
+            dialogs, nastaveni, drive, shell,
+            [this] {
+                auto novy = std::make_unique<FakeSpreadsheet>(disk);
+                excel = novy.get();
+                return novy;
+            },
+            hodiny, media, [this](const MistoProhlizece& misto) { return tvurceProhlizece(misto); }});
         program->Main();
         program->okno().resize(1000, 720);
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&program->okno()));
@@ -56,6 +57,7 @@ protected:
     ZaznamovyShell shell;
     RucniHodiny hodiny;
     ZaznamovaMedia media;
+    TvurceProhlizece tvurceProhlizece = jednoduchyProhlizec();
     FakeSpreadsheet* excel = nullptr;
     std::unique_ptr<Program> program;
 };

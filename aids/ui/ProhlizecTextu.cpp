@@ -1,0 +1,107 @@
+#include "aids/ui/ProhlizecTextu.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <algorithm>
+
+namespace zvonika {
+
+namespace {
+
+using Zachazeni = PovoleneAdresy::Zachazeni;
+
+/// What the text document does not know of the page's own style sheet, and what looks better in it.
+const QString stylDoplnku =
+    QStringLiteral("h1 { font-size: 22pt; } h2 { font-size: 16pt; } h3 { font-size: 13pt; }");
+
+QString chybovaStranka(const QUrl& adresa) {
+    return QStringLiteral("<html><head><title>Stránku nelze zobrazit</title></head><body>"
+                          "<h2>Stránku nelze zobrazit</h2><p>Soubor nebyl nalezen nebo ho nelze přečíst:</p>"
+                          "<p><b>%1</b></p></body></html>")
+        .arg(QDir::toNativeSeparators(adresa.toLocalFile()).toHtmlEscaped());
+}
+
+QList<QTextCursor> vyskyty(const QTextDocument& dokument, const QString& text) {
+    QList<QTextCursor> nalezy;
+    for (QTextCursor c = dokument.find(text, 0); !text.isEmpty() && !c.isNull(); c = dokument.find(text, c))
+        nalezy << c;
+    return nalezy;
+}
+
+} // namespace
+
+ProhlizecTextu::ProhlizecTextu(const MistoProhlizece& misto)
+    : QTextBrowser(misto.rodic), povolene_(misto.povolene), sledovani_(misto.sledovani) {
+    setOpenExternalLinks(false);
+    setFrameShape(QFrame::NoFrame);
+    document()->setDocumentMargin(24);
+    document()->setDefaultStyleSheet(stylDoplnku);
+    connect(this, &QTextBrowser::historyChanged, this, [this] { sledovani_.historieZmenena(); });
+    connect(this, &QTextBrowser::sourceChanged, this, [this](const QUrl& kam) { sledovani_.prejito(kam); });
+}
+
+void ProhlizecTextu::prejdi(const QUrl& adresa) {
+    setSource(adresa, QTextDocument::HtmlResource);
+}
+
+void ProhlizecTextu::doSetSource(const QUrl& name, QTextDocument::ResourceType) {
+    const QUrl cela = source().isEmpty() ? name : source().resolved(name);
+    if (cela.isLocalFile() && povolene_.zachazeni(cela) == Zachazeni::Zobrazit) {
+        // The kind is given, because an unknown ending would be taken for plain text.
+        QTextBrowser::doSetSource(cela, QTextDocument::HtmlResource);
+        return;
+    }
+    if (povolene_.zachazeni(cela) == Zachazeni::Odmitnout)
+        sledovani_.oznameno(QStringLiteral("Odkaz vede mimo příručku, proto nebyl otevřen."));
+    else
+        sledovani_.odkazVen(cela);
+}
+
+QVariant ProhlizecTextu::loadResource(int type, const QUrl& name) {
+    const QUrl cela = source().isEmpty() ? name : source().resolved(name);
+    if (!cela.isLocalFile() || povolene_.zachazeni(cela) != Zachazeni::Zobrazit) return {};
+    if (type == QTextDocument::HtmlResource) return stranka(cela);
+    return QTextBrowser::loadResource(type, cela);
+}
+
+QString ProhlizecTextu::stranka(const QUrl& adresa) const {
+    QFile soubor(adresa.toLocalFile());
+    return soubor.open(QIODevice::ReadOnly) ? QString::fromUtf8(soubor.readAll()) : chybovaStranka(adresa);
+}
+
+void ProhlizecTextu::najdi(const QString& text, bool dozadu) {
+    const QList<QTextCursor> nalezy = vyskyty(*document(), text);
+    ukazNalezy(nalezy);
+    if (nalezy.isEmpty()) {
+        QTextCursor bezVyberu = textCursor();
+        bezVyberu.clearSelection();
+        setTextCursor(bezVyberu);
+        sledovani_.nalezeno(0, 0);
+        return;
+    }
+    // A text that is still being typed is found again where it was; the same text on from there.
+    const bool odzacatku = dozadu || hledany_ != text;
+    const int odkud = odzacatku ? textCursor().selectionStart() : textCursor().selectionEnd();
+    hledany_ = text;
+    const auto dalsi = std::find_if(nalezy.begin(), nalezy.end(), [&](const QTextCursor& nalez) {
+        return nalez.selectionStart() >= odkud;
+    });
+    // Past the last one it goes on with the first one, and the other way round.
+    const qsizetype pocet = nalezy.size();
+    const qsizetype kolikaty = (dalsi - nalezy.begin() + (dozadu ? pocet - 1 : 0)) % pocet;
+    setTextCursor(nalezy[kolikaty]);
+    sledovani_.nalezeno(int(kolikaty) + 1, int(pocet));
+}
+
+void ProhlizecTextu::ukazNalezy(const QList<QTextCursor>& nalezy) {
+    QList<QTextEdit::ExtraSelection> zvyraznene;
+    for (const QTextCursor& nalez : nalezy) {
+        QTextCharFormat podklad;
+        podklad.setBackground(QColor(0xFF, 0xE0, 0x82));
+        zvyraznene << QTextEdit::ExtraSelection{nalez, podklad};
+    }
+    setExtraSelections(zvyraznene);
+}
+
+} // namespace zvonika

@@ -1,0 +1,142 @@
+// The help window as a player uses it, with both browser controls.
+#include "tests/aids/ui/Napoveda.h"
+
+namespace zvonika::testing {
+
+namespace {
+
+class FrmBrowserTest : public Napoveda, public ::testing::WithParamInterface<Zobrazeni> {
+protected:
+    void SetUp() override {
+        if (!postav(GetParam())) GTEST_SKIP() << "the plug-in with the web engine was not built";
+        pis("prirucka/Tamík.htm", "<title>Příručka</title><h1>Bas</h1><p>Basy a zase basy.</p>"
+                                  "<p><a href='b.htm'>dál</a></p><h2 id='kotva'>Konec</h2>");
+        pis("prirucka/b.htm", "<title>Druhá</title><p>Tady basy nejsou.</p>");
+        pis("tajne.htm", "<title>Tajné</title>");
+        jdi("Tamík.htm", "Příručka");
+    }
+    void napisHledane(const QString& hledane) const {
+        stiskni("Search");
+        auto* pole = okno->findChild<QLineEdit*>("txtHledat");
+        EXPECT_EQ(okno->focusWidget(), pole);
+        pole->clear();
+        QTest::keyClicks(pole, hledane);
+    }
+    void ocekavejVysledek(const QString& vysledek) const {
+        EXPECT_TRUE(dokud([&] { return text("lblVysledek") == vysledek; }))
+            << text("lblVysledek").toStdString();
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Views, FrmBrowserTest, ::testing::Values(Zobrazeni::Jednoduche, Zobrazeni::Uplne),
+                         [](const auto& info) {
+                             return info.param == Zobrazeni::Uplne ? "WebEngine" : "Lighter";
+                         });
+
+} // namespace
+
+TEST_P(FrmBrowserTest, HistoryGoesBackAndForwardAndHomeIsTheManual) {
+    EXPECT_EQ(cboAddress()->currentText(), cesta("Tamík.htm"));
+    stiskni("Back"); // nowhere to go: nothing happens, nothing is said
+    cekejTitulek("Příručka");
+    jdi("b.htm", "Druhá");
+    EXPECT_EQ(cboAddress()->currentText(), cesta("b.htm"));
+    EXPECT_FALSE(akce("Forward")->isEnabled());
+    stiskni("Back");
+    cekejTitulek("Příručka");
+    stiskni("Forward");
+    cekejTitulek("Druhá");
+    stiskni("Home");
+    cekejTitulek("Příručka");
+    EXPECT_EQ(text("lblStav"), "");
+}
+
+TEST_P(FrmBrowserTest, AnAddressIsTypedOrChosenFromThoseVisited) {
+    napisAdresu("b.htm"); // a file of the manual's folder by its bare name
+    cekejTitulek("Druhá");
+    const int manual = cboAddress()->findText(cesta("Tamík.htm"));
+    ASSERT_GE(manual, 0);
+    cboAddress()->setFocus();
+    cboAddress()->lineEdit()->deselect();
+    QTest::keyClick(cboAddress(), Qt::Key_Down);
+    cekejTitulek("Příručka");
+    EXPECT_EQ(cboAddress()->currentText(), cesta("Tamík.htm"));
+}
+
+TEST_P(FrmBrowserTest, APageChangedOnTheDiskIsReadAgain) {
+    pis("prirucka/Tamík.htm", "<title>Nové vydání</title>");
+    stiskni("Refresh");
+    cekejTitulek("Nové vydání");
+}
+
+TEST_P(FrmBrowserTest, TheCaptionTellsOfLoadingUntilThePageIsThere) {
+    QStringList titulky;
+    QObject::connect(okno.get(), &QWidget::windowTitleChanged, okno.get(),
+                     [&](const QString& titulek) { titulky << titulek; });
+    jdi("b.htm", "Druhá");
+    if (GetParam() == Zobrazeni::Uplne) stiskni("Stop");
+    EXPECT_EQ(okno->windowTitle(), "Druhá");
+    for (const QString& titulek : titulky)
+        EXPECT_TRUE(titulek == "Working..." || titulek == "Druhá") << titulek.toStdString();
+}
+
+TEST_P(FrmBrowserTest, AMissingPageEndsOnAnErrorPageAndTheWindowGoesOn) {
+    okno->prejdi(adresa("neni.htm"));
+    EXPECT_TRUE(dokud([&] {
+        return okno->windowTitle() != "Příručka" && okno->windowTitle() != "Working..." &&
+               !okno->windowTitle().isEmpty();
+    }));
+    stiskni("Home");
+    cekejTitulek("Příručka");
+}
+
+TEST_P(FrmBrowserTest, FilesOutsideTheManualsFolderAreRefused) {
+    QFile::link(slozka.filePath("tajne.htm"), cesta("odkaz.htm"));
+    for (const QString& napsana : {slozka.filePath("tajne.htm"), cesta("../tajne.htm"), cesta("odkaz.htm"),
+                                   QString("file:///etc/passwd")}) {
+        napisAdresu(napsana);
+        EXPECT_TRUE(dokud([&] { return text("lblStav").contains("mimo příručku"); }))
+            << napsana.toStdString();
+        cekejTitulek("Příručka");
+        napisAdresu(cesta("b.htm"));
+        cekejTitulek("Druhá");
+        stiskni("Home");
+        cekejTitulek("Příručka");
+    }
+}
+
+TEST_P(FrmBrowserTest, MailGoesToTheUsersOwnProgram) {
+    napisAdresu("mailto:nekdo@example.org");
+    EXPECT_TRUE(dokud([&] { return !ven.isEmpty(); }));
+    EXPECT_EQ(ven, QStringList{"mailto:nekdo@example.org"});
+    cekejTitulek("Příručka");
+}
+
+TEST_P(FrmBrowserTest, SearchCountsItsMatchesAndGoesRound) {
+    napisHledane("bas");
+    ocekavejVysledek("1 z 3");
+    auto* pole = okno->findChild<QLineEdit*>("txtHledat");
+    for (const char* vysledek : {"2 z 3", "3 z 3", "1 z 3"}) {
+        QTest::keyClick(pole, Qt::Key_Return);
+        ocekavejVysledek(vysledek);
+    }
+    QTest::keyClick(pole, Qt::Key_Return, Qt::ShiftModifier);
+    ocekavejVysledek("3 z 3");
+    napisHledane("harfa");
+    ocekavejVysledek("Nenalezeno");
+    QTest::keyClick(pole, Qt::Key_Escape);
+    EXPECT_FALSE(pole->isVisible());
+}
+
+TEST_P(FrmBrowserTest, TheEndIsToldOnceWhicheverWayItComes) {
+    okno->close();
+    EXPECT_EQ(zavreni, 1);
+    okno.reset();
+    EXPECT_EQ(zavreni, 1);
+    ASSERT_TRUE(postav(GetParam()));
+    okno->prejdi(adresa("Tamík.htm")); // and gone in the middle of loading
+    okno.reset();
+    EXPECT_EQ(zavreni, 2);
+}
+
+} // namespace zvonika::testing

@@ -1,0 +1,101 @@
+#pragma once
+
+#include "aids/ui/FrmBrowser.h"
+#include "aids/ui/VolbaProhlizece.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QDir>
+#include <QEventLoop>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+#include <ostream>
+
+inline void PrintTo(const QString& text, std::ostream* out) {
+    *out << '"' << text.toStdString() << '"';
+}
+
+namespace zvonika::testing {
+
+enum class Zobrazeni { Jednoduche, Uplne, Dane };
+
+/// The help window on a folder of pages of its own.
+class Napoveda : public ::testing::Test {
+protected:
+    void pis(const QString& soubor, const QString& obsah) const {
+        QFile psany(slozka.filePath(soubor));
+        ASSERT_TRUE(psany.open(QIODevice::WriteOnly)) << soubor.toStdString();
+        if (soubor.endsWith(".htm")) psany.write("<meta charset='utf-8'>");
+        psany.write(obsah.toUtf8());
+    }
+    QString cesta(const QString& soubor) const { return slozka.filePath("prirucka/" + soubor); }
+    QUrl adresa(const QString& soubor) const { return QUrl::fromLocalFile(cesta(soubor)); }
+
+    /// False where the plug-in with the web engine was not built.
+    bool postav(Zobrazeni zobrazeni, const QString& StartingAddress = {}) {
+        QDir(slozka.path()).mkpath("prirucka/obrazky");
+        if (zobrazeni == Zobrazeni::Jednoduche) tvurce = jednoduchyProhlizec();
+        if (zobrazeni == Zobrazeni::Uplne) {
+            if (QDir(ZVONIKA_PLUGINS).entryList({"*zvonika_webengine.*"}).isEmpty()) return false;
+            tvurce = volbaProhlizece({ZVONIKA_PLUGINS});
+        }
+        okno = std::make_unique<FrmBrowser>(
+            ProstrediProhlizece{tvurce, slozka.filePath("prirucka"), adresa("Tamík.htm"),
+                                [this](const QString& odkaz) { return ven << odkaz, true; }},
+            StartingAddress);
+        QObject::connect(okno.get(), &FrmBrowser::zavreno, qApp, [this] { ++zavreni; });
+        okno->resize(800, 600);
+        okno->show();
+        return true;
+    }
+
+    /// Waits in a real event loop: the engine does its work there in many small pieces.
+    template <typename Podminka>
+    static bool dokud(Podminka podminka) {
+        QEventLoop smycka;
+        QTimer pohled, trpelivost;
+        QObject::connect(&pohled, &QTimer::timeout, &smycka, [&] {
+            if (podminka()) smycka.exit(1);
+        });
+        QObject::connect(&trpelivost, &QTimer::timeout, &smycka, [&] { smycka.exit(podminka() ? 1 : 0); });
+        pohled.start(5);
+        trpelivost.start(15000);
+        return smycka.exec() == 1;
+    }
+
+    void cekejTitulek(const QString& titulek) const {
+        EXPECT_TRUE(dokud([&] { return okno->windowTitle() == titulek; }))
+            << "expected " << titulek.toStdString() << ", shown: " << okno->windowTitle().toStdString();
+    }
+    void jdi(const QString& soubor, const QString& titulek) const {
+        okno->prejdi(adresa(soubor));
+        cekejTitulek(titulek);
+    }
+    void stiskni(const char* klic) const { akce(klic)->trigger(); }
+    QAction* akce(const char* klic) const { return okno->findChild<QAction*>(klic); }
+    QComboBox* cboAddress() const { return okno->findChild<QComboBox*>("cboAddress"); }
+    QString text(const char* popisek) const {
+        const auto* nalezeny = okno->findChild<QLabel*>(popisek);
+        return nalezeny ? nalezeny->text() : QString();
+    }
+    void napisAdresu(const QString& napsana) const {
+        cboAddress()->lineEdit()->setFocus();
+        cboAddress()->lineEdit()->selectAll();
+        QTest::keyClicks(cboAddress()->lineEdit(), napsana);
+        QTest::keyClick(cboAddress()->lineEdit(), Qt::Key_Return);
+    }
+
+    QTemporaryDir slozka;
+    TvurceProhlizece tvurce;
+    QStringList ven;
+    int zavreni = 0;
+    std::unique_ptr<FrmBrowser> okno;
+};
+
+} // namespace zvonika::testing

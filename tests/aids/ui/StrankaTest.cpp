@@ -1,0 +1,148 @@
+// What the pages themselves may do, and which browser control is chosen.
+#include "tests/aids/ui/Napoveda.h"
+
+#include <QImage>
+#include <QTcpServer>
+#include <QTextBrowser>
+
+#include <csignal>
+
+namespace zvonika::testing {
+
+namespace {
+
+const char* const nepostaveno = "the plug-in with the web engine was not built";
+
+class StrankaTest : public Napoveda {
+protected:
+    pid_t renderProcess() const {
+        for (const QObject* potomek : okno->findChildren<QObject*>())
+            if (potomek->inherits("QWebEnginePage"))
+                return static_cast<pid_t>(potomek->property("renderProcessPid").toLongLong());
+        return 0;
+    }
+};
+
+/// Each attempt of a page's script to get out; the title tells what came of it.
+struct Pokus {
+    const char* jmeno;
+    const char* skript; ///< sets `vysledek`; what it leaves as "..." is awaited
+    const char* titulek;
+};
+
+const Pokus pokusy[] = {
+    {"ProgramObjects", "vysledek = typeof qt + typeof window.external.call + typeof require",
+     "undefinedundefinedundefined"},
+    {"WindowOpen", "vysledek = window.open('b.htm') ? 'okno' : 'nic'", "nic"},
+    {"FetchFile", "fetch('soused.txt').then(() => konec('cteno'), () => konec('nic'))", "nic"},
+    {"RequestFile",
+     "var r = new XMLHttpRequest(); r.onload = () => konec('cteno'); r.onerror = () => konec('nic');"
+     "r.open('GET', '../tajne.txt'); r.send()",
+     "nic"},
+    {"Frame",
+     "addEventListener('load', () => { try { konec(frames[0].document.body.innerText || 'nic') }"
+     "catch (e) { konec('nic') } }); document.write('<iframe src=soused.txt></iframe>')",
+     "nic"},
+    {"PictureOutside",
+     "var o = new Image(); o.onload = () => konec('cteno'); o.onerror = () => konec('nic'); o.src = "
+     "'../tajny.png'",
+     "nic"},
+    {"PictureOfTheManual",
+     "var o = new Image(); o.onload = () => konec('cteno'); o.onerror = () => konec('nic'); o.src = "
+     "'obrazky/nas.png'",
+     "cteno"},
+    {"Storage", "try { localStorage.x = 1; vysledek = 'ulozeno' } catch (e) { vysledek = 'nic' }", "nic"},
+    {"Boxes", "alert('a'); vysledek = String(confirm('b')) + prompt('c')", "falsenull"},
+};
+
+class SkriptTest : public Napoveda, public ::testing::WithParamInterface<Pokus> {};
+
+INSTANTIATE_TEST_SUITE_P(Scripts, SkriptTest, ::testing::ValuesIn(pokusy),
+                         [](const auto& info) { return info.param.jmeno; });
+
+} // namespace
+
+TEST_P(SkriptTest, StaysInThePage) {
+    if (!postav(Zobrazeni::Uplne)) GTEST_SKIP() << nepostaveno;
+    QImage obraz(4, 4, QImage::Format_RGB32);
+    ASSERT_TRUE(obraz.save(cesta("obrazky/nas.png")) && obraz.save(slozka.filePath("tajny.png")));
+    pis("tajne.txt", "tajné");
+    pis("prirucka/soused.txt", "i soused je soubor");
+    pis("prirucka/b.htm", "<title>Druhá</title>");
+    pis("prirucka/Tamík.htm",
+        QStringLiteral("<script>function konec(v) { document.title = v }\nvar vysledek;\n%1\n"
+                       "if (vysledek !== undefined) konec(vysledek)</script>")
+            .arg(GetParam().skript));
+    jdi("Tamík.htm", GetParam().titulek);
+}
+
+TEST_F(StrankaTest, AManualCannotCallHome) {
+    if (!postav(Zobrazeni::Uplne)) GTEST_SKIP() << nepostaveno;
+    QTcpServer server;
+    ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+    pis("prirucka/Tamík.htm",
+        QStringLiteral("<script>fetch('http://127.0.0.1:%1/').then(() => document.title = 'volal',"
+                       "() => document.title = 'nic')</script>")
+            .arg(server.serverPort()));
+    jdi("Tamík.htm", "nic");
+    EXPECT_FALSE(server.hasPendingConnections());
+}
+
+TEST_F(StrankaTest, NothingIsDownloaded) {
+    if (!postav(Zobrazeni::Uplne)) GTEST_SKIP() << nepostaveno;
+    pis("prirucka/Tamík.htm", "<title>Příručka</title>");
+    pis("prirucka/balik.zip", "PK");
+    jdi("Tamík.htm", "Příručka");
+    napisAdresu("balik.zip");
+    EXPECT_TRUE(dokud([&] { return text("lblStav").contains("nestahují"); }));
+    cekejTitulek("Příručka");
+}
+
+TEST_F(StrankaTest, AFallenRenderProcessIsToldAndThePageComesBack) {
+    if (!postav(Zobrazeni::Uplne)) GTEST_SKIP() << nepostaveno;
+    pis("prirucka/Tamík.htm", "<title>Příručka</title>");
+    jdi("Tamík.htm", "Příručka");
+    for (int pad = 0; pad < 2; ++pad) {
+        const auto proces = renderProcess();
+        ASSERT_GT(proces, 1);
+        ::kill(proces, SIGKILL);
+        EXPECT_TRUE(dokud([&] { return text("lblStav").contains("zhroutilo"); }));
+        pis("prirucka/Tamík.htm", QStringLiteral("<title>Znovu %1</title>").arg(pad));
+        stiskni("Refresh");
+        cekejTitulek(QStringLiteral("Znovu %1").arg(pad));
+        EXPECT_EQ(text("lblStav"), "");
+    }
+    ::kill(renderProcess(), SIGKILL); // the last time the window is closed as it is
+    EXPECT_TRUE(dokud([&] { return text("lblStav").contains("zhroutilo"); }));
+    okno->close();
+    EXPECT_EQ(zavreni, 1);
+}
+
+TEST_F(StrankaTest, TheLighterViewSaysWhyItStandsIn) {
+    const auto duvod = [this](const QStringList& slozky, WebSandbox (*piskoviste)()) {
+        tvurce = volbaProhlizece(slozky, piskoviste);
+        EXPECT_TRUE(postav(Zobrazeni::Dane));
+        EXPECT_TRUE(okno->findChild<QTextBrowser*>("brwWebBrowser"));
+        return text("lblNahrada");
+    };
+    pis("libzvonika_webengine.so", "this is no library");
+    const QString zadna = "Zjednodušené zobrazení: není nainstalována součást Qt WebEngine.";
+    const auto vPoradku = [] { return WebSandbox::Usable; };
+    EXPECT_EQ(duvod({slozka.filePath("neni")}, vPoradku), zadna);
+    EXPECT_EQ(duvod({slozka.filePath("neni"), slozka.path()}, vPoradku), zadna);
+    EXPECT_TRUE(
+        duvod({slozka.path()}, [] { return WebSandbox::NotForRoot; }).contains("pod správcem systému"));
+    EXPECT_TRUE(duvod({slozka.path()}, [] { return WebSandbox::NoUserNamespaces; }).contains("nedovoluje"));
+}
+
+TEST_F(StrankaTest, TheLighterViewLeavesTheWebToTheUsersBrowser) {
+    ASSERT_TRUE(postav(Zobrazeni::Jednoduche));
+    pis("prirucka/Tamík.htm",
+        "<title>Příručka</title><img src='../tajny.png'><a href='https://example.org/x'>web</a>");
+    jdi("Tamík.htm", "Příručka");
+    napisAdresu("https://example.org/x?a=b%20c");
+    EXPECT_EQ(ven, QStringList{"https://example.org/x?a=b%20c"});
+    EXPECT_EQ(okno->windowTitle(), "Příručka");
+}
+
+} // namespace zvonika::testing
