@@ -109,7 +109,6 @@ const QVector<Menu>& menuPrikazu() {
 
 const QStringList& dosudNedostupne() {
     static const QStringList tabulka = {
-        "mnuKonverze",
     };
     return tabulka;
 }

@@ -2,6 +2,7 @@
 
 #include "app/OProgramu.h"
 #include "app/OknaPomucek.h"
+#include "app/OknoKonverze.h"
 #include "app/Prikazy.h"
 #include "song/PrikazyPisne.h"
 #include "song/SpusteniExcelu.h"
@@ -85,6 +86,7 @@ void Program::zaregistrujPrikazy() {
         {"cmdIntervalOdNejnizsiho", [&k] { k.intervaly.cmdIntervalOdNejnizsiho(); }},
         {"mnuhtm", [this] { napoveda_.mnuhtm(*okno_); }},
         {"cmdOPrg", [this] { cmdOPrg(prostredi_.dialogs); }},
+        {"mnuKonverze", [this, &k] { mnuKonverze(*okno_, modely_, k.zivotPisne, prostredi_); }},
         {"mnuMailAutorovi",
          [this] {
              if (!mnuMailAutorovi(prostredi_.dialogs, prostredi_.shell))

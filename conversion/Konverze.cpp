@@ -163,6 +163,7 @@ void Konverze::dokonci() {
     SpreadsheetApplication& excel = pisen_.excel();
     const int posledni = std::min(excel.activeRow() + radkuPodPisni, lastRow);
     excel.clearContents(QStringLiteral("V1:V%1").arg(posledni));
+    excel.selectRange(QStringLiteral("A1")); // the run has scrolled the syllables out of sight
     excel.selectRange(QStringLiteral("B1"));
     excel.renameActiveSheet(stav_.Check1 ? nazevListuHeligonky(cilova_) : puvodniList_);
     dokoncena_ = true;

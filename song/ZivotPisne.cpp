@@ -136,6 +136,12 @@ void ZivotPisne::ukazOtevrenouPisen() {
     s_.pas.ZobrazPas();
 }
 
+void ZivotPisne::prevezmiPisen() {
+    if (!okoli_.pisen.AktivujPisen()) return;
+    okoli_.panel.lblLadeni = okoli_.pisen.excel().activeSheetName();
+    ukazOtevrenouPisen();
+}
+
 void ZivotPisne::Combo1Click(const QString& list) {
     try {
         ukazList(list);

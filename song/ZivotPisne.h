@@ -31,6 +31,10 @@ public:
     /// End of song. The song is forgotten in any case; failures of saving are reported here.
     void cmdEndEdit();
 
+    /// The current song is open under another name than the window shows (a conversion has made a copy of
+    /// it): shows it as if it had been opened. Nothing where it is not open. Throws AutomationError.
+    void prevezmiPisen();
+
     /// Fills the list of Combo1 with the names of all sheets, in workbook order. Throws AutomationError.
     void NaplnListy();
 

@@ -7,6 +7,7 @@
 #include "board/TrebleBoard.h"
 #include "song/CommandStates.h"
 #include "song/SongPanel.h"
+#include "song/ui/ElidovanyPopisek.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -76,7 +77,10 @@ Form1::Form1(SongPanel& panel, CommandStates& stavy, TrebleBoard& hmatnik, Timer
     postavPopisky();
     postavAutomat(timer1);
     postavMenu();
-    stav_ = popisek(QStringLiteral("lblStav"), {}, this);
+    // What a command has to tell may be longer than the window, which must not grow by it.
+    stav_ = new ElidovanyPopisek(QStringLiteral("lblStav"), this);
+    stav_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    stav_->setMinimumHeight(stav_->fontMetrics().height());
     statusBar()->addWidget(stav_, 1);
     statusBar()->setSizeGripEnabled(false);
     connect(&panel_, &SongPanel::zmeneno, this, &Form1::ukazPanel);
@@ -140,8 +144,9 @@ void Form1::postavPopisky() {
     // activated, not currentTextChanged: only the user's choice counts
     connect(combo_, &QComboBox::textActivated, this, &Form1::listVybran);
 
-    lblLadeni_ = popisek(QStringLiteral("lblLadeni"), {}, scena_);
-    lblLadeni_->setToolTip(QStringLiteral("Ladění"));
+    lblLadeni_ = new ElidovanyPopisek(QStringLiteral("lblLadeni"), scena_);
+    lblLadeni_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    lblLadeni_->nastavDvaRadky(); // "G dur-C dur-F dur"
     umisti(lblLadeni_, {2520, 530, 1260, 380});
     umisti(popisek(QStringLiteral("lblPopisStupnice"), QStringLiteral("Zapsaná stupnice:"), scena_),
            {12060, 5870, 2000, 390});
@@ -200,8 +205,8 @@ void Form1::povol(const QString& jmeno, bool povolit) {
 void Form1::ukazPanel() {
     setWindowTitle(panel_.titulek);
     lblTon_->setText(panel_.lblTon);
-    lblLadeni_->setText(panel_.lblLadeni);
-    stav_->setText(panel_.stav);
+    lblLadeni_->nastavText(panel_.lblLadeni);
+    stav_->nastavText(panel_.stav);
     ukazListy();
     ukazBarvuKroku();
 }

@@ -12,6 +12,7 @@ class QLabel;
 namespace zvonika {
 
 class CommandStates;
+class ElidovanyPopisek;
 class PrikazoveTlacitko;
 class SongPanel;
 class Timer1;
@@ -65,8 +66,8 @@ private:
     QHash<QString, QAction*> akce_;
     QComboBox* combo_ = nullptr;
     QLabel* lblTon_ = nullptr;
-    QLabel* lblLadeni_ = nullptr;
-    QLabel* stav_ = nullptr;
+    ElidovanyPopisek* lblLadeni_ = nullptr;
+    ElidovanyPopisek* stav_ = nullptr;
 };
 
 /// Extent of the main window's scene in twips.

@@ -57,6 +57,12 @@ void Ukazka::prehraj() {
     prejdiPisen();
     ukazInterval();
     krokujAutomatem();
+    preved({1, false, nazevPisne + " G dur.xls", "Tonavox XII", "konverze"});
+    ukonciPisen();
+    otevriPisen();
+    preved({8, true, nazevPisne + " F dur.xls", "G dur-C dur-F dur", "heligonka"});
+    ukonciPisen();
+    otevriPisen();
     prekryjRady();
     otocHmatnik();
     ukonciPisen();

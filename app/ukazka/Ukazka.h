@@ -12,10 +12,19 @@ namespace zvonika {
 
 class Program;
 
+/// One conversion of the demonstration's song and what comes of it.
+struct PrevodUkazky {
+    int volba; ///< index of the target key
+    bool heligonka;
+    QString kopie;   ///< file name of the copy
+    QString list;    ///< name of its sheet
+    QString obrazek; ///< name of its pictures
+};
+
 /// The demonstration: a player's first evening with the program, played through the real windows with mouse
 /// and keyboard events. Records the song, types its syllables, ends it, opens it again, steps to its end and
-/// back, and leaves a picture of each stage. Throws std::runtime_error with the stage when something does not
-/// happen.
+/// back, converts it into two other keys, and leaves a picture of each stage. Throws std::runtime_error with
+/// the stage when something does not happen.
 class Ukazka {
 public:
     /// `slozkaObrazku`: existing native folder for the pictures.
@@ -36,6 +45,7 @@ private:
     void prejdiPisen();
     void ukazInterval();
     void krokujAutomatem();
+    void preved(const PrevodUkazky& prevod);
     void prekryjRady();
     void otocHmatnik();
 

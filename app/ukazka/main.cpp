@@ -30,7 +30,8 @@ int main(int argc, char* argv[]) {
     QApplication aplikace(argc, argv);
     QDir slozka(QDir(argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral("ukazka")).absolutePath());
     // Only what an earlier demonstration left: the folder may hold other things too.
-    QFile::remove(slozka.filePath("domov/Dokumenty/Heligonka/Zvonika/Kočka leze dírou.xls"));
+    for (const char* pisen : {"Kočka leze dírou", "Kočka leze dírou G dur", "Kočka leze dírou F dur"})
+        QFile::remove(slozka.filePath(QStringLiteral("domov/Dokumenty/Heligonka/Zvonika/%1.xls").arg(pisen)));
     QFile::remove(slozka.filePath("nastaveni/Tonavox12.ini"));
     if (!slozka.mkpath("domov") || !slozka.mkpath("nastaveni")) {
         std::fprintf(stderr, "The folder cannot be made: %s\n", qPrintable(slozka.path()));

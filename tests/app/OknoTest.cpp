@@ -72,7 +72,7 @@ TEST_F(OknoSPisni, CommandsFollowTheLifeOfTheSong) {
             EXPECT_EQ(povolen(jmeno), sPisni) << jmeno;
         for (const char* jmeno : prikazyZahajeni)
             EXPECT_EQ(povolen(jmeno), !sPisni) << jmeno;
-        for (const char* jmeno : {"mnuKonverze", "cmdZvuk(0)"})
+        for (const char* jmeno : {"mnuPrekrytRady", "cmdInterval", "cmdZvuk(0)"})
             EXPECT_FALSE(povolen(jmeno)) << jmeno;
     };
     zkontroluj(false);

@@ -56,7 +56,9 @@ CelyProgram::CelyProgram()
       vlastniNastaveniTabulky(souborNastaveniTabulky()) {
     QDir(slozka.path()).mkpath(pracovni());
     QDir(slozka.path()).mkpath(slozkaProgramu());
-    QFile::copy(QStringLiteral(ZVONIKA_RESOURCES "/tonavox.xml"), slozkaProgramu() + "/tonavox.xml");
+    for (const char* tabulka : {"/tonavox.xml", "/konverze.xml"})
+        QFile::copy(QLatin1String(ZVONIKA_RESOURCES) + QLatin1String(tabulka),
+                    slozkaProgramu() + QLatin1String(tabulka));
 }
 
 CelyProgram::~CelyProgram() = default;

@@ -4,26 +4,19 @@
 #include "theory/Tonina.h"
 #include "theory/Toniny.h"
 #include "theory/VolbaStupnice.h"
-#include "theory/ui/ObrazPredznamenani.h"
+#include "theory/ui/VolbyTonin.h"
 
 #include <QButtonGroup>
-#include <QGridLayout>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
 
 namespace zvonika {
 
-namespace {
-
-constexpr int prvniSBecky = 8; ///< keys from here on stand in the second column
-constexpr int zaklad = 13;     ///< letter height at which the pictures have their natural size
-
-} // namespace
-
 FrmStupnice::FrmStupnice(VolbaStupnice& volba, const Tonina& tonina, QWidget* parent)
-    : QDialog(parent), volba_(volba), optStupnice_(new QButtonGroup(this)) {
+    : QDialog(parent), volba_(volba) {
     pripravDialog(*this, QStringLiteral("frmStupnice"), textyStupnice::titulek, parent);
     auto* vyberte = napis(QStringLiteral("lblVyberte"), textyStupnice::vyberteStupnici);
     QFont tucne = vyberte->font();
@@ -43,30 +36,12 @@ QWidget* FrmStupnice::postavRam(const Tonina& tonina) {
     ram->setObjectName(QStringLiteral("fraStupnice"));
     ram->setAccessibleName(textyStupnice::vyberteStupnici);
     ram->setMinimumWidth(sirkaTitulku(*this));
-    auto* mrizka = new QGridLayout(ram);
-    mrizka->setHorizontalSpacing(fontInfo().pixelSize() * 2);
-    mrizka->setVerticalSpacing(2);
-    for (int i = 0; i < static_cast<int>(toniny.size()); ++i)
-        pridejVolbu(*mrizka, i);
+    optStupnice_ = vytvorVolbyTonin(*ram);
     const DurovaTonina* soucasna = najdiToninu(tonina.stupnice());
     auto* zamerena = optStupnice_->button(soucasna ? static_cast<int>(soucasna - toniny.data()) : 0);
     zamerena->setChecked(soucasna != nullptr);
     zamerena->setFocus();
     return ram;
-}
-
-void FrmStupnice::pridejVolbu(QGridLayout& mrizka, int i) {
-    const DurovaTonina& tonina = toniny.at(static_cast<std::size_t>(i));
-    auto* volba = new QRadioButton(tonina.nazev.toString());
-    volba->setObjectName(QStringLiteral("optStupnice(%1)").arg(i));
-    const double zvetseni = fontInfo().pixelSize() / double(zaklad);
-    const QSize obraz(static_cast<int>(92 * zvetseni), static_cast<int>(41 * zvetseni));
-    volba->setIconSize(obraz);
-    volba->setIcon(obrazPredznamenani(Predznamenani(tonina.key()), obraz, devicePixelRatioF()));
-    optStupnice_->addButton(volba, i);
-    const bool sBecky = i >= prvniSBecky;
-    // C dur stands above the rising sharps; the first flat key beside the first sharp one.
-    mrizka.addWidget(volba, sBecky ? i - prvniSBecky + 1 : i, sBecky ? 1 : 0);
 }
 
 QWidget* FrmStupnice::postavTlacitka() {

@@ -5,7 +5,6 @@
 #include <optional>
 
 class QButtonGroup;
-class QGridLayout;
 
 namespace zvonika {
 
@@ -22,11 +21,10 @@ public:
 private:
     QWidget* postavRam(const Tonina& tonina);
     QWidget* postavTlacitka();
-    void pridejVolbu(QGridLayout& mrizka, int i);
     std::optional<int> vybrana() const;
 
     VolbaStupnice& volba_;
-    QButtonGroup* optStupnice_;
+    QButtonGroup* optStupnice_ = nullptr;
 };
 
 } // namespace zvonika
