@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""summary.py FOLDER: what kroky.json, tempo.json and start.json in FOLDER say, beside what is aimed at."""
+"""summary.py FOLDER: what kroky.json, tempo.json, konverze.json and start.json in FOLDER say, beside what is
+aimed at."""
 import json
 import os
 import sys
@@ -7,6 +8,7 @@ import sys
 # Benchmark: (median, 99th percentile) aimed at, in ms; None where nothing is set.
 AIMS = {"cmdDalsi": (8, 16), "cmdJakDal": (8, 16), "Timer1": (8, 16), "cmdTah": (16, None)}
 AIM_DRIFT_MS = 1
+AIM_CONVERSION = (500, 1000)  # grips of seven tones, ms
 AIM_START_MS = 150
 AIM_RESIDENT_MB = 60
 
@@ -52,6 +54,20 @@ def tempo(results):
           f"{results['late_max_ms']:.2f} ms at most; {results['painted']} grips painted, {results['row'] - 1} steps made")
 
 
+def conversion(results):
+    print("A song of seven-tone grips into another key, from the click to the box that says so")
+    print(f"{'grips':>6}{'median ms':>12}{'max ms':>12}{'ms a grip':>12}  aim")
+    for result in results["benchmarks"]:
+        grips = int(result["name"].split("/")[1])
+        if result.get("error_occurred"):
+            print(f"{grips:>6}  {result['error_message']}")
+            continue
+        median = result["total_median_ms"]
+        aim = AIM_CONVERSION[1] if grips == AIM_CONVERSION[0] else None
+        print(f"{grips:>6}{median:12.1f}{result['total_max_ms']:12.1f}{result['row_median_ms']:12.3f}  "
+              + verdict((median,), (aim,)))
+
+
 def start(results):
     print("Start to first painted window (others: first mapped window) and resident memory, medians")
     print(f"{'program':<14}{'ms':>9}{'slowest':>9}{'MB':>9}{'turns':>7}  aim")
@@ -70,7 +86,8 @@ def start(results):
 
 def main():
     folder = sys.argv[1]
-    for name, show in (("kroky.json", steps), ("tempo.json", tempo), ("start.json", start)):
+    for name, show in (("kroky.json", steps), ("tempo.json", tempo), ("konverze.json", conversion),
+                       ("start.json", start)):
         results = read(folder, name)
         if results:
             show(results)

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Plays the demonstration and has other programs read back its song, cell by cell.
+"""Plays the demonstration and has other programs read back its song and its converted copies, cell by cell.
 
 usage: check_song.py VIRTUAL_DISPLAY ZVONIKA_UKAZKA FOLDER SHEETJS_FOLDER
 Readers: xlrd, LibreOffice, Gnumeric, SheetJS. Those that are not installed are named and left out; ends with 77 when
@@ -26,6 +26,10 @@ BUTTON = {"c": 9, "d": 11, "e": 13, "f": 14, "g": 16, "a": 18}
 FINGER = {"c": 2, "d": 3, "e": 4, "f": 3, "g": 4, "a": 5}
 BASS = {"c": "C", "d": "G", "e": "C", "f": "F", "g": "C", "a": "F"}
 COLUMNS = 23  # A to W
+COPIES = [  # key, its tones for c1 d1 e1 f1 g1 a1, sheet
+    ("G dur", "g, a, h, c1, d1, e1,", "Tonavox XII"),
+    ("F dur", "f1, g1, a1, b1, c2, d2,", "G dur-C dur-F dur"),
+]
 
 
 def expected_rows():
@@ -40,14 +44,28 @@ def expected_rows():
     return rows
 
 
+def converted(rows, key, tones):
+    """The same song in another key: fingering is gone, basses stay."""
+    spelling = dict(zip("c1, d1, e1, f1, g1, a1,".split(), tones.split()))
+    return [row[:1] + [spelling[row[1]]] + row[2:21] + ["", key] for row in rows]
+
+
+def songs():
+    """File, sheet and rows of every song that the demonstration leaves."""
+    rows = expected_rows()
+    yield SONG, "Tonavox XII", rows
+    for key, tones, sheet in COPIES:
+        yield "%s %s" % (SONG, key), sheet, converted(rows, key, tones)
+
+
 def padded(rows):
     return [(row + [""] * COLUMNS)[:COLUMNS] for row in rows]
 
 
-def with_xlrd(path, _):
+def with_xlrd(path, _, name):
     import xlrd
     sheet = xlrd.open_workbook(path).sheet_by_index(0)
-    assert sheet.name == "Tonavox XII", sheet.name
+    assert sheet.name == name, sheet.name
     return [[str(value) for value in sheet.row_values(row)] for row in range(sheet.nrows)]
 
 
@@ -56,20 +74,20 @@ def csv_rows(path):
         return list(csv.reader(table))
 
 
-def with_libreoffice(path, folder):
+def with_libreoffice(path, folder, _):
     profile = "-env:UserInstallation=file://" + os.path.join(folder, "office")
     subprocess.run(["soffice", profile, "--headless", "--convert-to", "csv:Text - txt - csv (StarCalc):44,34,76,1",
                     "--outdir", folder, path], check=True, capture_output=True, timeout=150)
-    return csv_rows(os.path.join(folder, SONG + ".csv"))
+    return csv_rows(os.path.join(folder, os.path.basename(path)[:-3] + "csv"))
 
 
-def with_gnumeric(path, folder):
+def with_gnumeric(path, folder, _):
     target = os.path.join(folder, "gnumeric.csv")
     subprocess.run(["ssconvert", path, target], check=True, capture_output=True, timeout=60)
     return csv_rows(target)
 
 
-def with_sheetjs(path, folder):
+def with_sheetjs(path, folder, _):
     script = ("const X=require('xlsx');const b=X.readFile(process.argv[1]);"
               "const s=b.Sheets[b.SheetNames[0]];"
               "console.log(JSON.stringify(X.utils.sheet_to_json(s,{header:1,defval:''})))")
@@ -97,6 +115,20 @@ def installed():
         print("SKIPPED: SheetJS")
 
 
+def faults_in(found, wanted, reader):
+    while found and not any(found[-1]):
+        found.pop()
+    faults = 0
+    for number, (expected, row) in enumerate(zip(wanted, found), 1):
+        if expected != row:
+            faults += 1
+            print("%s, row %d: expected %r, found %r" % (reader, number, expected, row))
+    if len(found) != len(wanted):
+        faults += 1
+        print("%s: %d rows" % (reader, len(found)))
+    return faults
+
+
 def main():
     display, program, folder = sys.argv[1:4]
     if not shutil.which("xvfb-run"):
@@ -106,22 +138,15 @@ def main():
     os.makedirs(folder)
     subprocess.run([display, program, folder], check=True, timeout=120)
     pictures = [name for name in os.listdir(folder) if name.endswith(".png")]
-    assert len(pictures) >= 12, pictures
-    path = os.path.join(folder, "domov", "Dokumenty", "Heligonka", "Zvonika", SONG + ".xls")
+    assert len(pictures) >= 22, pictures
+    kept = os.path.join(folder, "domov", "Dokumenty", "Heligonka", "Zvonika")
     faults, readers = 0, 0
     for name, reader in installed():
         readers += 1
-        found = padded(reader(path, folder))
-        while found and not any(found[-1]):
-            found.pop()
-        for number, (wanted, row) in enumerate(zip(expected_rows(), found), 1):
-            if wanted != row:
-                faults += 1
-                print("%s, row %d: expected %r, found %r" % (name, number, wanted, row))
-        if len(found) != 30:
-            faults += 1
-            print("%s: %d rows" % (name, len(found)))
-        print(name, "has read", len(found), "rows")
+        for song, sheet, rows in songs():
+            found = padded(reader(os.path.join(kept, song + ".xls"), folder, sheet))
+            faults += faults_in(found, rows, name + ", " + song)
+            print(name, "has read", len(found), "rows of", song)
     if not readers:
         return SKIPPED
     return 1 if faults else 0
