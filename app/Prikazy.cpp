@@ -107,10 +107,4 @@ const QVector<Menu>& menuPrikazu() {
     return tabulka;
 }
 
-const QStringList& dosudNedostupne() {
-    static const QStringList tabulka = {
-    };
-    return tabulka;
-}
-
 } // namespace zvonika

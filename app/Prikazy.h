@@ -2,7 +2,6 @@
 
 #include <QRect>
 #include <QString>
-#include <QStringList>
 #include <QVector>
 
 namespace zvonika {
@@ -37,8 +36,5 @@ struct Menu {
 /// The tables of the main window, in the order in which they appear; buttons in the order of the work.
 const QVector<TlacitkoPrikazu>& tlacitkaPrikazu();
 const QVector<Menu>& menuPrikazu();
-
-/// Commands whose conversation does not exist yet: they stand in their place, disabled.
-const QStringList& dosudNedostupne();
 
 } // namespace zvonika

@@ -22,8 +22,6 @@ Program::Program(const Prostredi& prostredi)
       automat_(modely_.stavy, modely_.timer1, prostredi.hodiny, krokAutomatu()), napoveda_(prostredi_) {
     zaregistrujPrikazy();
     konverzace_.zivotPisne.stavBezPisne();
-    for (const QString& prikaz : dosudNedostupne())
-        modely_.stavy.zamkni(prikaz);
     okno_ = std::make_unique<Form1>(modely_.panel, modely_.stavy, modely_.diskant, modely_.timer1);
     postavNastroje();
     propojModely();
