@@ -38,6 +38,12 @@ std::unique_ptr<SettingsStore> nastaveni(const QString& aplikace, const Umisteni
                                               QStringLiteral(".ini"));
 }
 
+/// Where the built-in spreadsheet keeps its recovery journals.
+QString slozkaZaznamu(const Umisteni& umisteni) {
+    if (umisteni.nastaveni.isEmpty()) return userStateFolder(nastaveniTabulky);
+    return umisteni.nastaveni + QStringLiteral("/zaznamy");
+}
+
 /// One light look everywhere: the instrument, the paper of the staff and the keys have colours of their own.
 void nastavVzhled(QApplication& aplikace) {
     QApplication::setStyle(QStringLiteral("Fusion"));
@@ -56,7 +62,7 @@ void nastavVzhled(QApplication& aplikace) {
 struct Sestava::Casti {
     explicit Casti(const Umisteni& umisteni)
         : nastaveniProgramu(nastaveni(QStringLiteral("Tonavox12"), umisteni)),
-          nastaveniTabulky(nastaveni(zvonika::nastaveniTabulky, umisteni)),
+          nastaveniTabulky(nastaveni(zvonika::nastaveniTabulky, umisteni)), zaznamy(slozkaZaznamu(umisteni)),
           drive(umisteni.domov.isEmpty() ? QDir::homePath() : umisteni.domov, slozkaProgramu()),
           media(systemMedia(drive, pluginFolders())),
           program({dialogs, *nastaveniProgramu, drive, shell, [this] { return novaTabulka(); },
@@ -68,7 +74,7 @@ struct Sestava::Casti {
 
     std::unique_ptr<SpreadsheetApplication> novaTabulka() {
         return std::make_unique<EmbeddedApplication>(
-            drive, dialogs, *nastaveniTabulky,
+            drive, dialogs, *nastaveniTabulky, zaznamy,
             [this](SheetCommands& prikazy) { return oknoTabulky(prikazy); });
     }
 
@@ -89,6 +95,7 @@ struct Sestava::Casti {
 
     std::unique_ptr<SettingsStore> nastaveniProgramu;
     std::unique_ptr<SettingsStore> nastaveniTabulky;
+    JournalFolder zaznamy;
     HomeDrive drive;
     std::unique_ptr<Media> media;
     QtDialogs dialogs;

@@ -16,7 +16,7 @@ class WakeUpClock;
 /// Where a run of the program finds and leaves things; empty: what the user has.
 struct Umisteni {
     QString domov;                 ///< native folder that is drive C:; empty: the home folder
-    QString nastaveni;             ///< native folder of the settings files; empty: the user's configuration
+    QString nastaveni;             ///< native folder of settings and recovery journals
     WakeUpClock* hodiny = nullptr; ///< the clock of automatic stepping, outliving the run; none: the system's
 };
 

@@ -2,6 +2,9 @@
 
 #include "platform/IniSettingsStore.h"
 
+#include <QDir>
+#include <QStandardPaths>
+
 namespace zvonika {
 
 #ifdef Q_OS_WIN
@@ -36,10 +39,20 @@ std::unique_ptr<SettingsStore> userSettings(const QString& application) {
     return std::make_unique<RegistrySettingsStore>(application);
 }
 
+QString userStateFolder(const QString& application) {
+    return QDir(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)).filePath(application);
+}
+
 #else
 
 std::unique_ptr<SettingsStore> userSettings(const QString& application) {
     return std::make_unique<IniSettingsStore>(IniSettingsStore::fileFor(application));
+}
+
+QString userStateFolder(const QString& application) {
+    QString root = qEnvironmentVariable("XDG_STATE_HOME");
+    if (!QDir::isAbsolutePath(root)) root = QDir::homePath() + QStringLiteral("/.local/state");
+    return QDir(root).filePath(application);
 }
 
 #endif

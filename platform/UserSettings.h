@@ -10,4 +10,8 @@ namespace zvonika {
 /// Windows, an INI file in the user's configuration folder elsewhere.
 std::unique_ptr<SettingsStore> userSettings(const QString& application);
 
+/// Native folder where an application keeps what it needs to go on after a break: below XDG_STATE_HOME
+/// (~/.local/state where nothing is set), on Windows below the local application data. Need not exist.
+QString userStateFolder(const QString& application);
+
 } // namespace zvonika

@@ -1,5 +1,8 @@
 #include "song/embedded/AtomicFile.h"
 
+#include "song/embedded/journal/Checksum.h"
+
+#include <QDir>
 #include <QFile>
 #include <QRandomGenerator>
 
@@ -7,6 +10,7 @@
 #include <fcntl.h>
 #include <optional>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <system_error>
 #include <unistd.h>
 #include <utility>
@@ -22,6 +26,8 @@ namespace {
 void check(int result) {
     if (result < 0) fail(errno);
 }
+
+constexpr char ending[] = ".tmp";
 
 class Descriptor {
 public:
@@ -80,27 +86,52 @@ std::optional<struct stat> existing(const QByteArray& path) {
     return info;
 }
 
+/// Access lists and what else hangs on the file, as far as the file system and the user's rights let it.
+void copyAttributes(const QByteArray& from, int to) {
+    QByteArray names(64 << 10, '\0');
+    const auto length = ::listxattr(from, names.data(), static_cast<std::size_t>(names.size()));
+    if (length <= 0) return;
+    names.truncate(length);
+    QByteArray value(64 << 10, '\0');
+    for (const QByteArray& name : names.split('\0')) {
+        if (name.isEmpty()) continue;
+        const auto size = ::getxattr(from, name, value.data(), static_cast<std::size_t>(value.size()));
+        if (size >= 0) (void)::fsetxattr(to, name, value.constData(), static_cast<std::size_t>(size), 0);
+    }
+}
+
+/// How the temporary files of a target begin; its own name could be too long with more around it.
+QByteArray temporaryPrefix(const QByteArray& target) {
+    const QByteArray name = target.mid(target.lastIndexOf('/') + 1);
+    return ".~" + QByteArray::number(crc32(name), 16) + '-';
+}
+
 /// A new file beside the target, removed again unless it takes the target's place.
 class Temporary {
 public:
-    Temporary(const QByteArray& folder, mode_t mode) : path_(newName(folder)), file_(create(mode)) {}
+    Temporary(const QByteArray& target, mode_t mode) : path_(newName(target)), file_(create(mode)) {}
     ~Temporary() {
         if (!placed_) ::unlink(path_);
     }
     Temporary(const Temporary&) = delete;
     Temporary& operator=(const Temporary&) = delete;
 
-    void keepRights(const struct stat& info) {
-        // Giving a file away may not be permitted; the contents matter more.
-        if (::fchown(file_.get(), info.st_uid, info.st_gid) < 0)
-            (void)::fchown(file_.get(), uid_t(-1), info.st_gid);
-        check(::fchmod(file_.get(), info.st_mode & 07777));
+    // Giving a file away may not be permitted; the contents matter more. What its group was allowed must not
+    // go to another group then.
+    void keepRights(const QByteArray& target, const struct stat& info) {
+        mode_t mode = info.st_mode & 07777;
+        if (::fchown(file_.get(), info.st_uid, info.st_gid) < 0 &&
+            ::fchown(file_.get(), uid_t(-1), info.st_gid) < 0)
+            mode = (mode & 0707) | ((mode & 07) << 3);
+        check(::fchmod(file_.get(), mode));
+        copyAttributes(target, file_.get());
     }
 
     void write(std::span<const std::uint8_t> bytes) {
         while (!bytes.empty()) {
             const auto written = ::write(file_.get(), bytes.data(), bytes.size());
             if (written < 0 && errno != EINTR) fail(errno);
+            if (written == 0) fail(EIO);
             if (written > 0) bytes = bytes.subspan(static_cast<std::size_t>(written));
         }
         check(::fsync(file_.get()));
@@ -113,8 +144,9 @@ public:
     }
 
 private:
-    static QByteArray newName(const QByteArray& folder) {
-        return folder + "/.~" + QByteArray::number(QRandomGenerator::system()->generate64(), 36) + ".tmp";
+    static QByteArray newName(const QByteArray& target) {
+        const auto chance = QRandomGenerator::system()->generate64();
+        return folderOf(target) + '/' + temporaryPrefix(target) + QByteArray::number(chance, 36) + ending;
     }
     int create(mode_t mode) const { return ::open(path_, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode); }
 
@@ -123,26 +155,35 @@ private:
     bool placed_ = false;
 };
 
-/// The new name is on the disk only when the folder is. Some file systems cannot flush a folder; the file is
-/// complete then all the same.
+/// The new name is on the disk only when the folder is. A folder that may not be read, or a file system that
+/// cannot flush one, is no failure: the file is complete all the same.
 void flushFolder(const QByteArray& folder) {
     const int fd = ::open(folder, O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (fd < 0) return;
-    ::fsync(fd);
+    const bool failed = ::fsync(fd) < 0 && (errno == EIO || errno == ENOSPC);
+    const int reason = errno;
     ::close(fd);
+    if (failed) fail(reason);
 }
 
 } // namespace
 
 void writeAtomically(const QString& nativePath, std::span<const std::uint8_t> bytes) {
     const QByteArray target = behindLinks(encoded(nativePath));
-    const QByteArray folder = folderOf(target);
     const auto before = existing(target);
-    Temporary file(folder, before ? before->st_mode & 0777 : 0666);
-    if (before) file.keepRights(*before);
+    Temporary file(target, before ? before->st_mode & 0777 : 0666);
+    if (before) file.keepRights(target, *before);
     file.write(bytes);
     file.place(target);
-    flushFolder(folder);
+    flushFolder(folderOf(target));
+}
+
+void removeLeftovers(const QString& nativePath) {
+    const QByteArray target = behindLinks(encoded(nativePath));
+    QDir folder(QFile::decodeName(folderOf(target)));
+    const QString pattern = QString::fromLatin1(temporaryPrefix(target) + '*' + ending);
+    for (const QString& name : folder.entryList({pattern}, QDir::Files | QDir::Hidden))
+        folder.remove(name);
 }
 
 } // namespace zvonika

@@ -12,4 +12,7 @@ namespace zvonika {
 /// written. Throws std::system_error with the system's error; no temporary file is left behind.
 void writeAtomically(const QString& nativePath, std::span<const std::uint8_t> bytes);
 
+/// Clears away what killed writers of this file have left beside it. Nobody may be writing it now.
+void removeLeftovers(const QString& nativePath);
+
 } // namespace zvonika

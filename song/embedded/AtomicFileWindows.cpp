@@ -1,4 +1,5 @@
 #include "song/embedded/AtomicFile.h"
+#include "song/embedded/journal/Checksum.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -30,13 +31,33 @@ void writeAll(HANDLE file, std::span<const std::uint8_t> bytes) {
     if (!FlushFileBuffers(file)) fail(GetLastError());
 }
 
+/// How the temporary files of a target begin; its own name could be too long with more around it.
+QString temporaryPrefix(const QString& target) {
+    return QStringLiteral(".~%1-").arg(crc32(QFileInfo(target).fileName().toUtf8()), 0, 16);
+}
+
+QString temporaryName(const QString& target) {
+    const auto chance = QString::number(QRandomGenerator::system()->generate64(), 36);
+    const QString name = temporaryPrefix(target) + chance + QStringLiteral(".tmp");
+    return QDir::toNativeSeparators(QFileInfo(target).absolutePath() + QLatin1Char('/') + name);
+}
+
+/// The file behind the symbolic links, which need not exist.
+QString behindLinks(const QString& nativePath) {
+    const QFileInfo given(nativePath);
+    const QString canonical = given.canonicalFilePath();
+    const QString target = !canonical.isEmpty() ? canonical
+                           : given.isSymLink()  ? given.symLinkTarget()
+                                                : nativePath;
+    return QDir::toNativeSeparators(target);
+}
+
 /// A new file beside the target, removed again unless it takes the target's place.
 class Temporary {
 public:
-    explicit Temporary(const QString& folder)
-        : path_(folder + QStringLiteral("\\.~%1.tmp").arg(QRandomGenerator::system()->generate64(), 0, 36)),
-          file_(CreateFileW(wide(path_), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL,
-                            nullptr)) {
+    explicit Temporary(const QString& target)
+        : path_(temporaryName(target)), file_(CreateFileW(wide(path_), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                                          FILE_ATTRIBUTE_NORMAL, nullptr)) {
         if (file_ == INVALID_HANDLE_VALUE) fail(GetLastError());
     }
     ~Temporary() {
@@ -75,12 +96,19 @@ private:
 } // namespace
 
 void writeAtomically(const QString& nativePath, std::span<const std::uint8_t> bytes) {
-    const QFileInfo given(nativePath);
-    const QString target = QDir::toNativeSeparators(given.isSymLink() ? given.symLinkTarget() : nativePath);
+    const QString target = behindLinks(nativePath);
     if (QFileInfo(target).isDir()) fail(ERROR_DIRECTORY);
-    Temporary file(QDir::toNativeSeparators(QFileInfo(target).absolutePath()));
+    Temporary file(target);
     file.write(bytes);
     file.place(target);
+}
+
+void removeLeftovers(const QString& nativePath) {
+    const QString target = behindLinks(nativePath);
+    QDir folder(QFileInfo(target).absolutePath());
+    for (const QString& name :
+         folder.entryList({temporaryPrefix(target) + QStringLiteral("*.tmp")}, QDir::Files | QDir::Hidden))
+        folder.remove(name);
 }
 
 } // namespace zvonika

@@ -2,11 +2,7 @@
 
 #include "platform/RuntimeError.h"
 #include "song/embedded/CellEntry.h"
-#include "song/embedded/FileSentences.h"
-#include "song/embedded/WorkbookFile.h"
 #include "song/embedded/XlsValue.h"
-
-#include <QFileInfo>
 
 #include <algorithm>
 #include <cmath>
@@ -28,69 +24,6 @@ xls::CellRef ref(CellPosition cell) {
 }
 
 } // namespace
-
-Document::Document(const QString& name)
-    : book_(xls::Workbook::create(u"List1")), name_(name), selections_(1) {}
-
-Document::Document(xls::Workbook book, const QString& path, FileLock lock)
-    : book_(std::move(book)), name_(QFileInfo(path).fileName()), path_(path), lock_(std::move(lock)) {
-    readCursor();
-}
-
-Document::~Document() = default;
-
-std::unique_ptr<Document> Document::open(const QString& nativePath) {
-    FileLock lock = FileLock::acquire(nativePath);
-    xls::Workbook book = readWorkbook(nativePath);
-    if (book.sheetCount() == 0) refuse(openRefused(nativePath, xls::Refusal::Damaged));
-    return std::unique_ptr<Document>(new Document(std::move(book), nativePath, std::move(lock)));
-}
-
-void Document::readCursor() {
-    for (int sheet = 0; sheet < book_.sheetCount(); ++sheet) {
-        const auto cell = book_.activeCell(sheet);
-        const CellPosition active{cell.row + 1, cell.column + 1};
-        selections_.push_back({single(active), active});
-    }
-    activeSheet_ = std::clamp(book_.activeSheet() + 1, 1, book_.sheetCount());
-}
-
-void Document::writeCursor() {
-    for (int sheet = 1; sheet <= sheetCount(); ++sheet)
-        book_.setActiveCell(sheet - 1, ref(selection(sheet).active));
-    book_.setActiveSheet(activeSheet_ - 1);
-}
-
-bool Document::isConverted() const {
-    return book_.isOldFormat();
-}
-
-void Document::save() {
-    refusingToSave(path_, [this] { writeCursor(); });
-    writeWorkbook(path_, book_);
-    setModified(false);
-}
-
-void Document::saveAs(const QString& nativePath) {
-    const bool sameFile = !path_.isEmpty() && FileLock::lockName(nativePath) == FileLock::lockName(path_);
-    FileLock lock = sameFile ? std::move(lock_) : FileLock::acquire(nativePath);
-    try {
-        refusingToSave(nativePath, [this] { writeCursor(); });
-        writeWorkbook(nativePath, book_);
-    } catch (...) {
-        if (sameFile) lock_ = std::move(lock);
-        throw;
-    }
-    lock_ = std::move(lock);
-    takePath(nativePath);
-    setModified(false);
-}
-
-void Document::takePath(const QString& nativePath) {
-    path_ = nativePath;
-    name_ = QFileInfo(nativePath).fileName();
-    Q_EMIT nameChanged();
-}
 
 int Document::sheetCount() const {
     return book_.sheetCount();
@@ -123,6 +56,7 @@ void Document::renameSheet(int sheet, const QString& name) {
                    .arg(name));
     }
     setModified(true);
+    note({SheetRenamed{sheet, name}});
     Q_EMIT sheetsChanged();
 }
 
@@ -179,10 +113,15 @@ double Document::columnWidth(int sheet, int column) const {
     return book_.columnWidth(sheet - 1, column - 1) / widthUnits;
 }
 
-void Document::setColumnWidth(int sheet, int column, double characters) {
+void Document::putColumnWidth(int sheet, int column, double characters) {
     const double width = std::clamp(characters, 0.0, widestColumn) * widthUnits;
     book_.setColumnWidth(sheet - 1, column - 1, static_cast<int>(std::lround(width)));
+}
+
+void Document::setColumnWidth(int sheet, int column, double characters) {
+    putColumnWidth(sheet, column, characters);
     setModified(true);
+    note({ColumnResized{sheet, column, characters}});
     Q_EMIT columnWidthChanged(sheet, column);
 }
 

@@ -4,6 +4,7 @@
 #include "song/CellValue.h"
 #include "song/embedded/FileLock.h"
 #include "song/embedded/History.h"
+#include "song/embedded/journal/Journal.h"
 #include "song/xls/Workbook.h"
 
 #include <QObject>
@@ -13,6 +14,8 @@
 #include <vector>
 
 namespace zvonika {
+
+struct WorkbookFile;
 
 /// What is selected on a sheet: a rectangle, and in it the active cell.
 struct Selection {
@@ -31,9 +34,13 @@ class Document : public QObject {
 
 public:
     /// A new workbook, never saved, with one sheet "List1". `name`: what it is called until then ("Sešit1").
-    explicit Document(const QString& name);
+    /// `journals`: where its changes are recorded. A process that dies loses none of them; a power cut, none
+    /// that was shown: they are flushed to the disk before the event loop goes on, and with it the painting.
+    explicit Document(const QString& name, JournalFolder journals = {});
     /// Opens a file and locks it for others. 1004 when it cannot be read or is open elsewhere.
-    static std::unique_ptr<Document> open(const QString& nativePath);
+    static std::unique_ptr<Document> open(const QString& nativePath, JournalFolder journals = {});
+    static std::unique_ptr<Document> open(const QString& nativePath, JournalFolder journals, FileLock lock);
+    /// Leaves the journal of unsaved changes behind unless they were given up.
     ~Document() override;
 
     // --- the file ---
@@ -42,12 +49,28 @@ public:
     /// Cells, a sheet's name or a column's width differ from the file. Moving the cursor alone does not
     /// count.
     bool isModified() const { return modified_; }
-    /// The file is of an older format; saving turns it into the present one.
-    bool isConverted() const;
-    /// Writes the file whole or not at all, with active sheet and cells. Must have a path.
+    /// The file is of an older format; saving changes turns it into the present one.
+    bool isOldFormat() const { return oldFormat_; }
+    /// Another program has changed the file since it was read or written here. A file that is gone has not
+    /// been changed.
+    bool isChangedOnDisk() const;
+    /// Writes the file whole or not at all, with active sheet and cells, whatever is there by now. Must have
+    /// a path.
     void save();
     /// As `save`, under a new name that the document has from then on; an existing file is replaced.
     void saveAs(const QString& nativePath);
+
+    // --- what a crash has left ---
+    /// Makes the changes of a journal, which becomes this document's, and puts the cursor on the last of
+    /// them. They count as unsaved and cannot be taken back. How many were refused.
+    int recover(PendingJournal pending);
+    /// Contents hash of the file as it was read or last written; "" before the first save.
+    const QByteArray& fileHash() const { return fileHash_; }
+    bool hasRecovered() const { return recovered_; } ///< since the last save
+    /// The user does not want the unsaved changes any more; holds until the next change.
+    void giveUpChanges() { givenUp_ = true; }
+    /// Why changes are not in the journal at the moment; "" as a rule.
+    QString journalTrouble() const;
 
     // --- sheets ---
     int sheetCount() const;
@@ -104,13 +127,25 @@ Q_SIGNALS:
     void nameChanged();
     void modifiedChanged();
     void historyChanged(); ///< undoLabel or redoLabel
+    void journalTroubleChanged();
 
 private:
-    Document(xls::Workbook book, const QString& path, FileLock lock);
+    Document(WorkbookFile file, const QString& path, JournalFolder journals, FileLock lock);
 
+    void store(const QString& nativePath);
+    JournalBase journalBase() const { return {path_, name_, fileHash_}; }
+    void note(std::vector<JournalChange> changes);
+    void flushJournal();
+    int replay(const std::vector<JournalGroup>& groups);
+    bool replayed(const JournalChange& change);
+    void replayChange(const JournalChange& change);
+    void putColumnWidth(int sheet, int column, double characters);
+    void becomeSaved();
+    void showLast(const std::vector<JournalGroup>& groups);
     void requireSheet(int sheet) const;
     void put(int sheet, CellPosition cell, const CellValue& value);
     [[noreturn]] void refuseArray(int sheet, CellPosition cell) const;
+    void putBack(int sheet, const CellChange& change);
     CellChange changeTo(int sheet, CellPosition cell, const CellValue& after) const;
     bool differs(int sheet, CellPosition cell, const CellValue& value) const;
     CellRange usedPart(int sheet, const CellRange& range) const;
@@ -121,6 +156,8 @@ private:
     bool commitCells(UndoStep step);
     bool commit(UndoStep step);
     void exchange(const UndoStep& step, bool back);
+    void exchangeCells(const UndoStep& step, bool back);
+    void exchangeRow(const UndoStep& step, bool back);
     void showStep(const UndoStep& step);
     void shiftDown(int sheet, int row);
     void shiftUp(int sheet, int row);
@@ -138,6 +175,13 @@ private:
     std::vector<Selection> selections_; ///< one per sheet
     int activeSheet_ = 1;
     bool modified_ = false;
+    QByteArray fileHash_;
+    QByteArray writingHash_; ///< of what a save has tried to write; it may be there although the save failed
+    bool oldFormat_ = false;
+    bool recovered_ = false;
+    bool givenUp_ = false;
+    Journal journal_;
+    bool flushDue_ = false;
     History history_;
 };
 

@@ -71,6 +71,23 @@ CellRange around(const std::vector<CellChange>& changes) {
     return range;
 }
 
+std::vector<JournalChange> written(int sheet, const std::vector<CellChange>& changes) {
+    std::vector<JournalChange> result;
+    result.reserve(changes.size());
+    for (const auto& change : changes)
+        result.emplace_back(CellWritten{sheet, change.cell, change.after});
+    return result;
+}
+
+/// As `written`, for what is taken back.
+std::vector<JournalChange> takenBack(int sheet, const std::vector<CellChange>& changes) {
+    std::vector<JournalChange> result;
+    result.reserve(changes.size());
+    for (const auto& change : changes)
+        result.emplace_back(CellWritten{sheet, change.cell, change.before, change.wasFormula});
+    return result;
+}
+
 void refuseLargeFill(const CellRange& range) {
     if (qint64{range.rows()} * range.columns() > largestFill)
         refuse(QStringLiteral("Oblast je příliš velká."));
@@ -96,6 +113,18 @@ void Document::put(int sheet, CellPosition cell, const CellValue& value) {
     }
 }
 
+/// What stood in the cell before the change. A formula that the file no longer holds comes back as the value
+/// that it showed.
+void Document::putBack(int sheet, const CellChange& change) {
+    if (change.wasFormula) book_.restoreCell(sheet - 1, {change.cell.row - 1, change.cell.column - 1});
+    if (!change.wasFormula || value(sheet, change.cell) != change.before)
+        put(sheet, change.cell, change.before);
+}
+
+CellChange Document::changeTo(int sheet, CellPosition cell, const CellValue& after) const {
+    return {cell, value(sheet, cell), after, isFormula(sheet, cell)};
+}
+
 /// A formula differs from every value, also from the one that it shows.
 bool Document::differs(int sheet, CellPosition cell, const CellValue& value) const {
     const CellValue now = this->value(sheet, cell);
@@ -107,10 +136,6 @@ bool Document::differs(int sheet, CellPosition cell, const CellValue& value) con
 CellRange Document::usedPart(int sheet, const CellRange& range) const {
     return {range.first,
             {std::min(range.last.row, usedRows(sheet)), std::min(range.last.column, usedColumns(sheet))}};
-}
-
-CellChange Document::changeTo(int sheet, CellPosition cell, const CellValue& after) const {
-    return {cell, value(sheet, cell), after, isFormula(sheet, cell)};
 }
 
 std::vector<CellChange> Document::changesBy(int sheet, CellPosition first, const CellBlock& block) const {
@@ -153,7 +178,10 @@ void Document::writeAll(int sheet, const CellRange& place, std::vector<CellChang
         history_.forget(sheet, place);
         Q_EMIT historyChanged();
     }
-    if (!changes.empty()) changed(sheet, around(changes));
+    if (!changes.empty()) {
+        note(written(sheet, changes));
+        changed(sheet, around(changes));
+    }
     if (refusal) std::rethrow_exception(refusal);
 }
 
@@ -179,6 +207,7 @@ bool Document::commitCells(UndoStep step) {
     const auto refusal = putAll(step.sheet, step.changes);
     const bool any = !step.changes.empty();
     if (any) {
+        note(written(step.sheet, step.changes));
         changed(step.sheet, around(step.changes));
         history_.add(std::move(step));
         Q_EMIT historyChanged();
@@ -238,20 +267,32 @@ void Document::shiftUp(int sheet, int row) {
 }
 
 void Document::exchange(const UndoStep& step, bool back) {
-    const bool cellsOnly = step.kind == UndoStep::Kind::Cells;
-    const CellRange below{{std::max(step.row, 1), 1}, {lastRow, lastColumn}};
-    if (!cellsOnly) {
-        const bool down = (step.kind == UndoStep::Kind::InsertRow) != back;
-        down ? shiftDown(step.sheet, step.row) : shiftUp(step.sheet, step.row);
+    if (step.kind == UndoStep::Kind::Cells)
+        exchangeCells(step, back);
+    else
+        exchangeRow(step, back);
+}
+
+void Document::exchangeCells(const UndoStep& step, bool back) {
+    for (const auto& change : step.changes)
+        back ? putBack(step.sheet, change) : put(step.sheet, change.cell, change.after);
+    note(back ? takenBack(step.sheet, step.changes) : written(step.sheet, step.changes));
+    changed(step.sheet, around(step.changes));
+}
+
+void Document::exchangeRow(const UndoStep& step, bool back) {
+    const bool down = (step.kind == UndoStep::Kind::InsertRow) != back;
+    down ? shiftDown(step.sheet, step.row) : shiftUp(step.sheet, step.row);
+    std::vector<JournalChange> noted;
+    if (back) {
+        for (const auto& change : step.changes)
+            putBack(step.sheet, change);
+        noted = takenBack(step.sheet, step.changes);
     }
-    if (cellsOnly || back)
-        for (const auto& change : step.changes) {
-            if (back && change.wasFormula)
-                book_.restoreCell(step.sheet - 1, {change.cell.row - 1, change.cell.column - 1});
-            else
-                put(step.sheet, change.cell, back ? change.before : change.after);
-        }
-    changed(step.sheet, cellsOnly ? around(step.changes) : below);
+    noted.insert(noted.begin(), down ? JournalChange(RowInserted{step.sheet, step.row})
+                                     : JournalChange(RowDeleted{step.sheet, step.row}));
+    note(std::move(noted));
+    changed(step.sheet, {{step.row, 1}, {lastRow, lastColumn}});
 }
 
 void Document::showStep(const UndoStep& step) {

@@ -1,8 +1,12 @@
 #include "song/embedded/EmbeddedApplication.h"
 
+#include "song/embedded/Opening.h"
+#include "song/embedded/SaveSentences.h"
 #include "song/embedded/Saving.h"
 
 #include <QFileInfo>
+
+#include <utility>
 
 namespace zvonika {
 
@@ -15,8 +19,9 @@ namespace {
 } // namespace
 
 EmbeddedApplication::EmbeddedApplication(Drive& drive, Dialogs& dialogs, SettingsStore& settings,
-                                         SheetViewFactory makeView)
-    : places_(drive, settings), makeView_(std::move(makeView)), commands_(session_), session_(dialogs) {
+                                         JournalFolder journals, SheetViewFactory makeView)
+    : places_(drive, settings), journals_(std::move(journals)), makeView_(std::move(makeView)),
+      commands_(session_), session_(dialogs) {
     session_.setFolder([this] { return places_.folder(); });
 }
 
@@ -46,6 +51,9 @@ void EmbeddedApplication::setVisible(bool visible) {
     requireRunning();
     if (visible && !session_.hasView() && makeView_) session_.setView(makeView_(commands_));
     session_.setVisible(visible);
+    if (!visible || std::exchange(shown_, true)) return;
+    const Session::ProgramCall call(session_);
+    Opening(session_, journals_).recoverUnsaved();
 }
 
 void EmbeddedApplication::quit() {
@@ -69,15 +77,16 @@ void EmbeddedApplication::showToUser() {
 void EmbeddedApplication::addWorkbook() {
     requireRunning();
     const Session::ProgramCall call(session_);
-    session_.add(std::make_unique<Document>(session_.nextName()));
+    session_.add(std::make_unique<Document>(session_.nextName(), journals_));
 }
 
 void EmbeddedApplication::openWorkbook(const QString& fullName) {
     requireRunning();
     const Session::ProgramCall call(session_);
     const QString path = places_.nativeFile(fullName);
-    session_.refuseTwin(QFileInfo(path).fileName());
-    session_.add(Document::open(path));
+    if (Document* open = session_.findFile(path)) return session_.activate(*open);
+    Saving(session_).makeRoom(QFileInfo(path).fileName());
+    session_.add(Opening(session_, journals_).open(path));
 }
 
 std::optional<QString> EmbeddedApplication::getOpenFilename(const QString& filter, const QString& title) {
@@ -94,10 +103,13 @@ void EmbeddedApplication::saveActiveWorkbookAs(const SaveAsArguments& arguments)
 
 void EmbeddedApplication::saveUnder(const QString& nativePath) {
     Document& saved = document();
+    if (session_.findFile(nativePath) == &saved) return saveInPlace(saved, nativePath);
     const QFileInfo target(nativePath);
-    session_.refuseTwin(target.fileName(), &saved);
-    if (target.isFile() && nativePath != saved.path() && !mayReplace(target.fileName()))
+    Saving saving(session_);
+    saving.makeRoom(target.fileName(), &saved);
+    if (target.isFile() && !mayReplace(target.fileName()))
         refuse(QStringLiteral("Soubor „%1“ zůstal, jaký byl; sešit uložen není.").arg(target.fileName()));
+    if (!saving.mayConvert(saved)) refuse(notConverted(nativePath));
     saved.saveAs(nativePath);
 }
 
@@ -111,15 +123,21 @@ bool EmbeddedApplication::mayReplace(const QString& name) {
 void EmbeddedApplication::saveActiveWorkbook() {
     const Session::ProgramCall call(session_);
     Document& saved = document();
-    if (saved.path().isEmpty())
-        saveUnder(places_.saveName(saved.name()));
-    else
-        saved.save();
+    saveUnder(saved.path().isEmpty() ? places_.saveName(saved.name()) : saved.path());
+}
+
+void EmbeddedApplication::saveInPlace(Document& saved, const QString& nativePath) {
+    const bool changed = saved.isChangedOnDisk();
+    if (!Saving(session_).mayWrite(saved))
+        refuse(changed ? notOverwritten(nativePath) : notConverted(nativePath));
+    saved.saveAs(nativePath);
 }
 
 void EmbeddedApplication::closeActiveWorkbook() {
     const Session::ProgramCall call(session_);
-    session_.remove(document());
+    Document& closed = document();
+    if (!closed.hasRecovered()) closed.giveUpChanges();
+    session_.remove(closed);
 }
 
 QString EmbeddedApplication::activeWorkbookName() const {

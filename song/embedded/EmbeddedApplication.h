@@ -15,9 +15,10 @@ inline const QString nastaveniTabulky = QStringLiteral("Tabulka Zvoniky");
 /// raises 91.
 class EmbeddedApplication : public SpreadsheetApplication {
 public:
-    /// `settings`: the application's own store, keeps the default folder. `makeView` is called at the first
-    /// `setVisible(true)`; without it the application has no window.
-    EmbeddedApplication(Drive& drive, Dialogs& dialogs, SettingsStore& settings,
+    /// `settings`: the application's own store, keeps the default folder. `journals`: where recovery journals
+    /// are kept. `makeView` is called at the first `setVisible(true)`; without it the application has no
+    /// window.
+    EmbeddedApplication(Drive& drive, Dialogs& dialogs, SettingsStore& settings, JournalFolder journals,
                         SheetViewFactory makeView = {});
     ~EmbeddedApplication() override;
 
@@ -27,6 +28,7 @@ public:
 
     QString defaultFilePath() const override;
     void setDefaultFilePath(const QString& path) override;
+    /// When it is shown first, offers what a crash has left of workbooks that were never saved.
     void setVisible(bool visible) override;
     /// Asks as `Saving::offerUnsaved`; what the user does not save is dropped.
     void quit() override;
@@ -34,13 +36,16 @@ public:
     void showToUser() override;
 
     void addWorkbook() override;
+    /// Offers what a crash has left. A file that is open here already comes to the front as it is.
     void openWorkbook(const QString& fullName) override;
     std::optional<QString> getOpenFilename(const QString& filter, const QString& title) override;
     /// An existing file is replaced only when the user agrees; other arguments than the fixed ones: 1004.
     void saveActiveWorkbookAs(const SaveAsArguments& arguments) override;
     /// A workbook that was never saved goes into the default folder.
+    /// One that another program has changed on the disk is written only when the user agrees.
     void saveActiveWorkbook() override;
-    void closeActiveWorkbook() override; ///< without asking
+    /// Without asking; unsaved changes are lost, but those that were recovered will be offered again.
+    void closeActiveWorkbook() override;
     QString activeWorkbookName() const override;
     void activateWindow(const QString& name) override;
 
@@ -72,10 +77,13 @@ private:
     void requireRunning() const;
     Document& document() const;
     void saveUnder(const QString& nativePath);
+    void saveInPlace(Document& saved, const QString& nativePath);
     bool mayReplace(const QString& name);
 
     WorkbookPlaces places_;
+    JournalFolder journals_;
     SheetViewFactory makeView_;
+    bool shown_ = false; ///< at least once
     CellBlock clipboard_;
     SheetCommands commands_; ///< before the session, whose window uses it to the end
     Session session_;

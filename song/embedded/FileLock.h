@@ -1,28 +1,51 @@
 #pragma once
 
-#include <QLockFile>
 #include <QString>
 
-#include <memory>
+#include <optional>
 
 namespace zvonika {
 
+/// Who has a file open.
+struct LockHolder {
+    QString user;    ///< may be ""
+    QString host;    ///< the computer's name
+    QString program; ///< without folder
+    qint64 process = 0;
+    QString machine, boot, start; ///< tell whether it still runs
+    bool isThisProcess() const;
+};
+
 /// Tells others that a file is open here, by a hidden file ".~<name>.zamek" beside it. The lock of a process
-/// that is gone counts for nothing. Where no such file can be made (folder not writable), the file stays
-/// unlocked.
+/// of this computer that is gone counts for nothing, also when its number is in use again. Where no such file
+/// can be made (folder not writable), the file stays unlocked.
 class FileLock {
 public:
     FileLock() = default; ///< locks nothing
+    FileLock(FileLock&& other) noexcept;
+    FileLock& operator=(FileLock&& other) noexcept;
+    ~FileLock();
 
-    /// 1004, saying who has it open, when another living process (or another document here) holds the lock.
+    /// The living process that has the file open; nothing when there is none.
+    static std::optional<LockHolder> holder(const QString& nativePath);
+    /// 1004, saying who has it open, when another one holds the lock, in this process or elsewhere.
     static FileLock acquire(const QString& nativePath);
+    /// Takes the lock, whoever holds it. The other one no longer counts, even while it has the file open.
+    static FileLock takeOver(const QString& nativePath);
 
-    bool isHeld() const { return lock_ != nullptr; }
+    bool isHeld() const { return !path_.isEmpty(); }
+    /// A dead process had the file open when the lock was taken.
+    bool foundStale() const { return foundStale_; }
     /// Name of the lock file of a file.
     static QString lockName(const QString& nativePath);
 
 private:
-    std::unique_ptr<QLockFile> lock_;
+    bool write(const QString& path);
+    void release();
+
+    QString path_;
+    QByteArray text_;
+    bool foundStale_ = false;
 };
 
 } // namespace zvonika

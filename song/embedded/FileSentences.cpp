@@ -1,5 +1,7 @@
 #include "song/embedded/FileSentences.h"
 
+#include "song/embedded/FileLock.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -15,6 +17,8 @@ QString folder(const QString& nativePath) {
     return QDir::toNativeSeparators(QFileInfo(nativePath).absolutePath());
 }
 
+const QString saveAsXls = QStringLiteral("; uložte ho v programu, který ho vytvořil, jako sešit .xls");
+
 QString reason(xls::Refusal refusal) {
     switch (refusal) {
     case xls::Refusal::Empty:
@@ -22,19 +26,19 @@ QString reason(xls::Refusal refusal) {
     case xls::Refusal::NotXls:
         return QStringLiteral("není to sešit ve formátu .xls");
     case xls::Refusal::Xlsx:
-        return QStringLiteral("podle obsahu je to sešit v novějším formátu .xlsx");
+        return QStringLiteral("podle obsahu je to sešit v novějším formátu .xlsx") + saveAsXls;
     case xls::Refusal::OpenDocument:
-        return QStringLiteral("podle obsahu je to sešit ve formátu OpenDocument (.ods)");
+        return QStringLiteral("podle obsahu je to sešit ve formátu OpenDocument (.ods)") + saveAsXls;
     case xls::Refusal::Html:
-        return QStringLiteral("podle obsahu je to webová stránka (HTML)");
+        return QStringLiteral("podle obsahu je to webová stránka (HTML)") + saveAsXls;
     case xls::Refusal::Xml2003:
-        return QStringLiteral("podle obsahu je to tabulka XML 2003");
+        return QStringLiteral("podle obsahu je to tabulka XML 2003") + saveAsXls;
     case xls::Refusal::PlainText:
-        return QStringLiteral("podle obsahu je to prostý text (CSV)");
+        return QStringLiteral("podle obsahu je to prostý text (CSV)") + saveAsXls;
     case xls::Refusal::OtherFormat:
         return QStringLiteral("podle obsahu je to jiný formát než .xls");
     case xls::Refusal::Encrypted:
-        return QStringLiteral("je chráněn heslem");
+        return QStringLiteral("je chráněn heslem; zrušte ho v programu, který soubor vytvořil");
     case xls::Refusal::OldFormat:
         return QStringLiteral("je v příliš starém formátu");
     case xls::Refusal::Truncated:
@@ -82,11 +86,7 @@ constexpr SaveReason saveReasons[] = {
     {std::errc::too_many_symbolic_link_levels, u"odkaz, který na něj vede, nikam nevede"},
 };
 
-QString saveReason(const QString& nativePath, const std::error_code& error) {
-    if (error == std::errc::no_such_file_or_directory)
-        return QStringLiteral("složka „%1“ neexistuje").arg(folder(nativePath));
-    if (error == std::errc::not_a_directory)
-        return QStringLiteral("„%1“ není složka").arg(folder(nativePath));
+QString diskReason(const std::error_code& error) {
     for (const auto& known : saveReasons)
         if (error == known.error) return QString::fromUtf16(known.text);
 #ifdef Q_OS_UNIX
@@ -94,6 +94,14 @@ QString saveReason(const QString& nativePath, const std::error_code& error) {
         return QStringLiteral("na disku není dost místa");
 #endif
     return QStringLiteral("při zápisu na disk nastala chyba %1").arg(error.value());
+}
+
+QString saveReason(const QString& nativePath, const std::error_code& error) {
+    if (error == std::errc::no_such_file_or_directory)
+        return QStringLiteral("složka „%1“ neexistuje").arg(folder(nativePath));
+    if (error == std::errc::not_a_directory)
+        return QStringLiteral("„%1“ není složka").arg(folder(nativePath));
+    return diskReason(error);
 }
 
 } // namespace
@@ -116,9 +124,22 @@ QString saveRefused(const QString& nativePath) {
         .arg(fileName(nativePath));
 }
 
-QString openElsewhere(const QString& nativePath, const QString& who) {
-    const QString sentence = QStringLiteral("Soubor „%1“ je už otevřen jinde").arg(fileName(nativePath));
-    return who.isEmpty() ? sentence + QLatin1Char('.') : QStringLiteral("%1 (%2).").arg(sentence, who);
+QString journalRefused(const std::error_code& error) {
+    return QStringLiteral("změny nejsou zajištěny proti výpadku: %1").arg(diskReason(error));
+}
+
+QString whoHolds(const LockHolder& holder) {
+    QStringList known;
+    if (!holder.user.isEmpty()) known << QStringLiteral("uživatel %1").arg(holder.user);
+    if (!holder.host.isEmpty()) known << QStringLiteral("počítač %1").arg(holder.host);
+    known << QStringLiteral("program %1, proces %2").arg(holder.program).arg(holder.process);
+    return known.join(QStringLiteral(", "));
+}
+
+QString openElsewhere(const QString& nativePath, const LockHolder& holder) {
+    const QString place = holder.isThisProcess() ? QStringLiteral("v této tabulce") : QStringLiteral("jinde");
+    return QStringLiteral("Soubor „%1“ je už otevřen %2 (%3).")
+        .arg(fileName(nativePath), place, whoHolds(holder));
 }
 
 } // namespace zvonika

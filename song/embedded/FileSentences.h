@@ -8,13 +8,18 @@
 
 namespace zvonika {
 
+struct LockHolder;
+
 /// Why a file was not opened or saved: one Czech sentence that names the file, for the user.
 QString openRefused(const QString& nativePath, xls::Refusal refusal);
 QString openRefused(const QString& nativePath, std::errc error);
 QString saveRefused(const QString& nativePath, const std::error_code& error);
 /// The file is all right; its contents could not be put together.
 QString saveRefused(const QString& nativePath);
-/// `who`: what is known of the one who has the file open, may be empty.
-QString openElsewhere(const QString& nativePath, const QString& who);
+/// Why changes cannot be recorded for the case of a crash.
+QString journalRefused(const std::error_code& error);
+QString openElsewhere(const QString& nativePath, const LockHolder& holder);
+/// "uživatel jana, počítač doma, program zvonika, proces 123"
+QString whoHolds(const LockHolder& holder);
 
 } // namespace zvonika

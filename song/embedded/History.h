@@ -11,7 +11,7 @@ namespace zvonika {
 
 struct CellChange {
     CellPosition cell;
-    CellValue before;
+    CellValue before; ///< what it showed
     CellValue after;
     bool wasFormula = false; ///< before: taking back brings the formula, not only the value it showed
 };

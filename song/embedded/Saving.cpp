@@ -1,6 +1,7 @@
 #include "song/embedded/Saving.h"
 
 #include "song/embedded/Failures.h"
+#include "song/embedded/SaveSentences.h"
 #include "song/embedded/Session.h"
 
 #include <QDir>
@@ -31,8 +32,39 @@ bool Saving::saveAs(Document& document) {
     return storeElsewhere(document) == Outcome::Saved;
 }
 
+bool Saving::agreed(const QString& question, Answer proposed) {
+    return session_.dialogs().message(
+               {jmenoTabulky, question, Icon::Exclamation, Buttons::YesNo, proposed}) == Answer::Yes;
+}
+
+bool Saving::mayWrite(Document& document) {
+    if (document.isChangedOnDisk() && !agreed(overwriteQuestion(document.path()), Answer::No)) return false;
+    return session_.isOpen(document) && mayConvert(document);
+}
+
+bool Saving::mayConvert(Document& document) {
+    if (!document.isOldFormat() || !document.isModified()) return true;
+    return agreed(conversionQuestion(document.name()), Answer::Yes) && session_.isOpen(document);
+}
+
+void Saving::makeRoom(const QString& name, const Document* self) {
+    Document* twin = session_.find(name);
+    if (!twin || twin == self) return;
+    Document* before = session_.active();
+    session_.activate(*twin); // the user sees which one it is about
+    if (agreed(twinQuestion(twin->name(), twin->isModified()), Answer::Yes)) putAway(*twin);
+    if (before && session_.isOpen(*before)) session_.activate(*before);
+    session_.refuseTwin(name, self);
+}
+
+void Saving::putAway(Document& document) {
+    if (session_.isOpen(document) && document.isModified()) storeElsewhere(document);
+    if (session_.isOpen(document) && !document.isModified()) session_.remove(document);
+}
+
 Saving::Outcome Saving::store(Document& document) {
     if (document.path().isEmpty()) return storeElsewhere(document);
+    if (!mayWrite(document)) return Outcome::Refused;
     return attempt([&] { document.save(); });
 }
 
@@ -40,7 +72,7 @@ Saving::Outcome Saving::storeElsewhere(Document& document) {
     const auto chosen =
         session_.dialogs().saveFile(QStringLiteral("Uložit jako"), QStringLiteral("Excel Files,*.xls"),
                                     suggestedName(session_, document));
-    if (!chosen || !session_.isOpen(document)) return Outcome::GivenUp;
+    if (!chosen || !session_.isOpen(document) || !mayConvert(document)) return Outcome::GivenUp;
     return attempt([&] {
         const QString path = withEnding(*chosen);
         session_.refuseTwin(QFileInfo(path).fileName(), &document);
@@ -71,7 +103,9 @@ bool Saving::wanted(Document& document) {
         {jmenoTabulky,
          QStringLiteral("Sešit „%1“ má neuložené změny. Chcete ho uložit?").arg(document.name()),
          Icon::Exclamation, Buttons::YesNo});
-    return answer == Answer::Yes && session_.isOpen(document);
+    if (!session_.isOpen(document)) return false;
+    if (answer == Answer::No) document.giveUpChanges();
+    return answer == Answer::Yes;
 }
 
 } // namespace zvonika

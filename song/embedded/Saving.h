@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Dialogs.h"
+
 #include <QString>
 
 #include <functional>
@@ -15,6 +17,15 @@ class Saving {
 public:
     explicit Saving(Session& session) : session_(session) {}
 
+    /// Asks before a save in its place writes over what another program has put into the file, or converts
+    /// it. False when the user does not want it.
+    bool mayWrite(Document& document);
+    /// Asks before a save turns a workbook of an older format into one of the present format.
+    bool mayConvert(Document& document);
+    /// Before a workbook takes this file name: when another one of that name is open, as a song whose save
+    /// was refused, offers to save it elsewhere and to close it. 1004 when it stays open.
+    void makeRoom(const QString& name, const Document* self = nullptr);
+
     /// Asks for a name before the first save; false when it was not saved.
     bool save(Document& document);
     /// Asks for a name; false when it was not saved.
@@ -28,6 +39,8 @@ private:
 
     Outcome store(Document& document);
     Outcome storeElsewhere(Document& document);
+    void putAway(Document& document);
+    bool agreed(const QString& question, Answer proposed);
     Outcome attempt(const std::function<void()>& store);
     bool wanted(Document& document);
 

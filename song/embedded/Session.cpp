@@ -20,8 +20,21 @@ bool Session::isOpen(const Document& document) const {
     return std::ranges::any_of(documents_, [&](const auto& open) { return open.get() == &document; });
 }
 
+Document* Session::findFile(const QString& nativePath) const {
+    const auto same = [&](const auto& document) {
+        return !document->path().isEmpty() &&
+               FileLock::lockName(document->path()) == FileLock::lockName(nativePath);
+    };
+    const auto found = std::ranges::find_if(documents_, same);
+    return found == documents_.end() ? nullptr : found->get();
+}
+
 QString Session::nextName() {
-    return QStringLiteral("Sešit%1").arg(++named_);
+    QString name;
+    do {
+        name = QStringLiteral("Sešit%1").arg(++named_);
+    } while (find(name)); // one that a crash has left, for instance
+    return name;
 }
 
 Document& Session::add(std::unique_ptr<Document> document) {
@@ -50,7 +63,8 @@ void Session::refuseTwin(const QString& name, const Document* self) const {
     if (open && open != self)
         throw RuntimeError(
             error::applicationDefined,
-            QStringLiteral("Sešit „%1“ je už otevřen; dva sešity téhož jména najednou otevřít nelze.")
+            QStringLiteral("Sešit „%1“ je už otevřen v okně tabulky; dva sešity téhož jména najednou otevřít "
+                           "nelze. Uložte ho tam pod jiným jménem, nebo ho zavřete.")
                 .arg(open->name()));
 }
 

@@ -26,6 +26,7 @@ public:
     // --- workbooks ---
     Document* active() const { return active_; } ///< nullptr without a workbook
     Document* find(const QString& name) const; ///< by file name, case does not matter; nullptr when not open
+    Document* findFile(const QString& nativePath) const; ///< opened from there; nullptr when not open
     const std::vector<std::unique_ptr<Document>>& documents() const { return documents_; }
     bool isOpen(const Document& document) const;
     /// Name of the next new workbook: "Sešit1", "Sešit2" ...
@@ -43,7 +44,8 @@ public:
     QString folder() const { return folder_ ? folder_() : QString(); }
     void setFolder(std::function<QString()> native) { folder_ = std::move(native); }
     State state() const { return state_; }
-    /// Drops every workbook, saved or not, without asking and hides the window.
+    /// Drops every workbook, saved or not, without asking and hides the window. The journals of changes that
+    /// were not given up stay.
     void end(State state);
 
     // --- the window ---

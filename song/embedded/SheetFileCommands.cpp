@@ -20,7 +20,9 @@ bool SheetCommands::mayClose(Document& document) {
     const Answer answer = session_.dialogs().message(
         {jmenoTabulky, QStringLiteral("Chcete uložit změny v souboru „%1“?").arg(document.name()),
          Icon::Exclamation, Buttons::YesNoCancel});
-    return answer == Answer::No || (answer == Answer::Yes && save());
+    if (answer == Answer::Yes) return save();
+    if (answer == Answer::No && session_.isOpen(document)) document.giveUpChanges();
+    return answer == Answer::No;
 }
 
 bool SheetCommands::close() {

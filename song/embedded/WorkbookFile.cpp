@@ -1,8 +1,8 @@
 #include "song/embedded/WorkbookFile.h"
 
 #include "platform/RuntimeError.h"
-#include "song/embedded/AtomicFile.h"
 #include "song/embedded/FileSentences.h"
+#include "song/embedded/journal/ContentHash.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -41,9 +41,11 @@ xls::Bytes readBytes(const QString& path) {
 
 } // namespace
 
-xls::Workbook readWorkbook(const QString& nativePath) {
+WorkbookFile readWorkbook(const QString& nativePath) {
     try {
-        return xls::Workbook::open(readBytes(nativePath));
+        xls::Bytes bytes = readBytes(nativePath);
+        QByteArray hash = contentHash(bytes);
+        return {xls::Workbook::open(std::move(bytes)), std::move(hash)};
     } catch (const xls::FormatError& refusal) {
         refuse(openRefused(nativePath, refusal.refusal()));
     } catch (const RuntimeError&) {
@@ -65,10 +67,6 @@ void refusingToSave(const QString& nativePath, const std::function<void()>& step
     } catch (const std::exception&) {
         refuse(saveRefused(nativePath));
     }
-}
-
-void writeWorkbook(const QString& nativePath, const xls::Workbook& book) {
-    refusingToSave(nativePath, [&] { writeAtomically(nativePath, book.save()); });
 }
 
 } // namespace zvonika

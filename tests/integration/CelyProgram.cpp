@@ -74,7 +74,8 @@ void CelyProgram::spust() {
 
 std::unique_ptr<SpreadsheetApplication> CelyProgram::novaTabulka() {
     auto nova = std::make_unique<EmbeddedApplication>(
-        drive, dialogs, vlastniNastaveniTabulky, [this](SheetCommands& prikazy) {
+        drive, dialogs, vlastniNastaveniTabulky, JournalFolder(slozka.filePath(QStringLiteral("zaznamy"))),
+        [this](SheetCommands& prikazy) {
             auto okno = std::make_unique<SheetWindow>(prikazy);
             QObject::connect(okno.get(), &SheetWindow::f6Pressed, program.get(),
                              &Program::prejdiNaHlavniOkno);

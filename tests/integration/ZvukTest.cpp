@@ -1,4 +1,5 @@
-// A sound button ends the process on the spot; the song on the disk outlives it.
+// A sound button ends the process on the spot; the song on the disk outlives it, and what was not saved yet
+// comes back.
 #include "tests/integration/CelyProgram.h"
 
 namespace zvonika::testing {
@@ -15,6 +16,7 @@ TEST_F(ZvukTest, TheSongFileIsWholeWhenASoundButtonEndsTheProcess) {
     EXPECT_FALSE(povolen("cmdZvuk(2)"));
     klikni("cmdDalsi");
     zapisHmat({"lbl(13)"}, false); // not saved yet
+    const QString neulozena = bunka("B3");
     const QByteArray pred = obsahSouboru(pisen("Polka.xls"));
 
     dialogs.expect("", "'9'");
@@ -26,6 +28,16 @@ TEST_F(ZvukTest, TheSongFileIsWholeWhenASoundButtonEndsTheProcess) {
     EXPECT_EQ(textBunky(sesit(pisen("Polka.xls")), "B1"), "c1,");
     EXPECT_EQ(excel->session().state(), Session::State::Running) << "no step of the shutdown was made";
     EXPECT_EQ(vlastniNastaveniTabulky.get("Tabulka", "DefaultFilePath"), pracovniAdresar);
+
+    program.reset();
+    spust();
+    otevri(pisen("Polka.xls"),
+           [this] { dialogs.expect("Tabulka Zvoniky", "Program minule neskončil řádně.", Answer::Yes); });
+    EXPECT_NE(neulozena, QString());
+    EXPECT_EQ(bunka("B3"), neulozena);
+    EXPECT_EQ(napis("lblTon"), "3") << "at the grip that was recorded last";
+    klikni("cmdEndEdit");
+    EXPECT_EQ(textBunky(sesit(pisen("Polka.xls")), "B3"), neulozena);
 }
 
 } // namespace zvonika::testing

@@ -83,6 +83,18 @@ TEST_F(SettingsFile, LiesInTheUsersConfigurationFolder) {
     before.isNull() ? qunsetenv("XDG_CONFIG_HOME") : qputenv("XDG_CONFIG_HOME", before);
     EXPECT_TRUE(contents().contains("1=True"));
 }
+
+TEST(UserStateFolder, IsWhereTheDesktopSaysOrInTheHomeFolder) {
+    const QByteArray before = qgetenv("XDG_STATE_HOME");
+    const QString byDefault = QDir::homePath() + QStringLiteral("/.local/state/Tabulka");
+    const std::pair<const char*, QString> cases[] = {
+        {"/stav", QStringLiteral("/stav/Tabulka")}, {"není/celá", byDefault}, {"", byDefault}};
+    for (const auto& [value, folder] : cases) {
+        qputenv("XDG_STATE_HOME", value);
+        EXPECT_EQ(userStateFolder(QStringLiteral("Tabulka")), folder);
+    }
+    before.isNull() ? qunsetenv("XDG_STATE_HOME") : qputenv("XDG_STATE_HOME", before);
+}
 #endif
 
 } // namespace

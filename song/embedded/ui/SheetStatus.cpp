@@ -33,7 +33,8 @@ QString what(const Selection& selection) {
 
 QString statusText(const Document& document) {
     QStringList parts{place(document), what(document.selection())};
-    if (document.isConverted()) parts.append(QStringLiteral("starší formát, uloží se v novém"));
+    if (document.isOldFormat()) parts.append(QStringLiteral("starší formát, uloží se v novém"));
+    parts.append(document.journalTrouble());
     parts.removeAll(QString());
     return parts.join(QStringLiteral("  ·  "));
 }

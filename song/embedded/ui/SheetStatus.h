@@ -7,7 +7,7 @@ namespace zvonika {
 class Document;
 
 /// What the window shows at the moment, in a few words: the grip, its column's meaning or the range selected,
-/// and the file's older format.
+/// the file's older format, and why changes are not safe from a crash.
 QString statusText(const Document& document);
 
 } // namespace zvonika

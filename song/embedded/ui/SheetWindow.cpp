@@ -164,6 +164,7 @@ void SheetWindow::commitPending() {
 void SheetWindow::wireDocument() {
     connect(document_, &Document::selectionChanged, this, &SheetWindow::showSelection);
     connect(document_, &Document::cellsChanged, this, &SheetWindow::showCell);
+    connect(document_, &Document::journalTroubleChanged, this, &SheetWindow::showCell);
     connect(document_, &Document::sheetsChanged, this, &SheetWindow::showSheets);
     connect(document_, &Document::nameChanged, this, &SheetWindow::showTitle);
     connect(document_, &Document::modifiedChanged, this, &SheetWindow::showTitle);

@@ -1,36 +1,17 @@
 #include "song/embedded/AtomicFile.h"
 
 #include "tests/song/embedded/Rig.h"
+#include "tests/song/embedded/SmallDisk.h"
 
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <sys/xattr.h>
 #include <system_error>
 #include <unistd.h>
 
 namespace zvonika::testing {
 
 namespace {
-
-/// Writes beyond `bytes` fail, as on a full disk.
-class SmallDisk {
-public:
-    explicit SmallDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-        ::getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit small{bytes, before_.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~SmallDisk() {
-        ::setrlimit(RLIMIT_FSIZE, &before_);
-        std::signal(SIGXFSZ, handler_);
-    }
-    SmallDisk(const SmallDisk&) = delete;
-    SmallDisk& operator=(const SmallDisk&) = delete;
-
-private:
-    void (*handler_)(int);
-    rlimit before_{};
-};
 
 class AtomicFileTest : public ::testing::Test, protected World {
 protected:
@@ -122,6 +103,36 @@ TEST_F(AtomicFileTest, AFullDiskLeavesTheOldFile) {
     }
     EXPECT_EQ(contents(path(song)), "stará");
     EXPECT_EQ(files(), QStringList{song});
+}
+
+TEST_F(AtomicFileTest, WhatHangsOnTheFileStays) {
+    write(song, "stará");
+    const QByteArray file = QFile::encodeName(path(song));
+    if (::setxattr(file, "user.zvonika", "poznámka", 9, 0) < 0)
+        GTEST_SKIP() << "the file system has no attributes";
+    write(song, "nová");
+    char value[16] = {};
+    EXPECT_EQ(::getxattr(file, "user.zvonika", value, sizeof value), 9);
+    EXPECT_STREQ(value, "poznámka");
+}
+
+TEST_F(AtomicFileTest, LeftoversOfKilledWritersOfThisFileAreClearedAway) {
+    write(song, "stará");
+    write(QStringLiteral("jiná.xls"), "x");
+    const pid_t child = ::fork();
+    if (child == 0) { // is killed by its first byte
+        std::signal(SIGXFSZ, SIG_DFL);
+        const rlimit none{0, 0};
+        ::setrlimit(RLIMIT_FSIZE, &none);
+        write(song, "nová");
+        ::_exit(0);
+    }
+    ::waitpid(child, nullptr, 0);
+    ASSERT_EQ(files().size(), 3);
+    removeLeftovers(path(QStringLiteral("jiná.xls")));
+    EXPECT_EQ(files().size(), 3);
+    removeLeftovers(path(song));
+    EXPECT_EQ(files(), (QStringList{QStringLiteral("jiná.xls"), song}));
 }
 
 TEST_F(AtomicFileTest, AWriteProtectedFileIsNotReplaced) {

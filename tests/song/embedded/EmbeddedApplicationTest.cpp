@@ -55,13 +55,51 @@ TEST_F(EmbeddedApplicationTest, TwoWorkbooksOfOneFileNameAreRefused) {
         app.saveActiveWorkbookAs({path(QString::fromLatin1(name))});
         if (name[0] == 'b') app.closeActiveWorkbook();
     }
-    const QString refusal = QStringLiteral(
-        "1004 Sešit „pisen.xls“ je už otevřen; dva sešity téhož jména najednou otevřít nelze.");
+    const QString question = QStringLiteral("Sešit „pisen.xls“ je ještě otevřen v okně tabulky a dva");
+    const QString refusal =
+        QStringLiteral("1004 Sešit „pisen.xls“ je už otevřen v okně tabulky; dva sešity téhož jména najednou "
+                       "otevřít nelze. Uložte ho tam pod jiným jménem, nebo ho zavřete.");
+    dialogs.expect(jmenoTabulky, question, Answer::No);
     EXPECT_EQ(refusalOf([&] { app.openWorkbook(path(QStringLiteral("b/PISEN.xls"))); }), refusal);
     app.addWorkbook();
+    dialogs.expect(jmenoTabulky, question, Answer::No);
     EXPECT_EQ(refusalOf([&] { app.saveActiveWorkbookAs({path(QStringLiteral("b/pisen.xls"))}); }), refusal);
+    EXPECT_EQ(app.activeWorkbookName(), QStringLiteral("Sešit3")) << "which the program may close now";
     app.activateWindow(QStringLiteral("pisen.xls"));
     app.saveActiveWorkbookAs({path(QStringLiteral("pisen.xls"))});
+    dialogs.expect(jmenoTabulky, question, Answer::Yes);
+    app.openWorkbook(path(QStringLiteral("b/pisen.xls")));
+    EXPECT_EQ(app.session().active()->path(), path(QStringLiteral("b/pisen.xls")));
+    EXPECT_EQ(app.session().documents().size(), 2U);
+}
+
+TEST_F(EmbeddedApplicationTest, ASongThatCouldNotBeSavedMakesRoomForAnotherOfItsName) {
+    ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("pryč")));
+    const QString song = path(QStringLiteral("pryč/pisen.xls"));
+    app.addWorkbook();
+    app.saveActiveWorkbookAs({song});
+    app.setValue(QStringLiteral("B1"), QStringLiteral("c"));
+    ASSERT_TRUE(QDir(path(QStringLiteral("pryč"))).removeRecursively());
+    EXPECT_TRUE(refusalOf([&] { app.saveActiveWorkbook(); }).startsWith(QStringLiteral("1004")));
+    ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("pryč")));
+    app.addWorkbook();
+    dialogs.expect(jmenoTabulky, QStringLiteral("má neuložené změny"), Answer::Yes)
+        .expectFile(QStringLiteral("Uložit jako"), path(QStringLiteral("zachráněná")));
+    app.saveActiveWorkbookAs({song});
+    EXPECT_EQ(app.session().documents().size(), 1U);
+    EXPECT_TRUE(QFile::exists(song));
+    EXPECT_EQ(cellText(Document::open(path(QStringLiteral("zachráněná.xls")))->value(1, {1, 2})),
+              QStringLiteral("c"));
+}
+
+TEST_F(EmbeddedApplicationTest, AFileThatIsOpenHereComesToTheFrontAsItIs) {
+    app.addWorkbook();
+    app.saveActiveWorkbookAs({path(QStringLiteral("pisen.xls"))});
+    app.setValue(QStringLiteral("B1"), QStringLiteral("c"));
+    app.addWorkbook();
+    app.openWorkbook(path(QStringLiteral("pisen.xls")));
+    EXPECT_EQ(app.activeWorkbookName(), QStringLiteral("pisen.xls"));
+    EXPECT_EQ(app.value(QStringLiteral("B1")), CellValue(QStringLiteral("c")));
 }
 
 TEST_F(EmbeddedApplicationTest, AnExistingFileIsReplacedOnlyWithTheUsersConsent) {

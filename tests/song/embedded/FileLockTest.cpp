@@ -1,8 +1,9 @@
 #include "song/embedded/FileLock.h"
 
+#include "song/embedded/ProcessStart.h"
 #include "tests/song/embedded/Rig.h"
 
-#include <QLockFile>
+#include <QSysInfo>
 
 #include <csignal>
 #include <sys/wait.h>
@@ -53,15 +54,32 @@ private:
 class FileLockTest : public ::testing::Test, protected World {
 protected:
     FileLockTest() { store(song, "x"); }
+    /// The lock of this process with one of its lines replaced; returns whether it counts.
+    bool countsWith(int line, const QByteArray& text) {
+        QByteArray lock;
+        {
+            const FileLock held = FileLock::acquire(song);
+            lock = contents(FileLock::lockName(song));
+        }
+        QList<QByteArray> lines = lock.split('\n');
+        lines[line] = text;
+        store(FileLock::lockName(song), lines.join('\n'));
+        const bool counts = FileLock::holder(song).has_value();
+        QFile::remove(FileLock::lockName(song));
+        return counts;
+    }
     const QString song = path(QStringLiteral("píseň.xls"));
 };
+
+enum Line { program = 2, process = 3, start = 4, boot = 5, machine = 6 };
 
 } // namespace
 
 TEST_F(FileLockTest, IsAHiddenFileForAsLongAsItIsHeld) {
     {
-        const FileLock lock = FileLock::acquire(song);
-        EXPECT_TRUE(lock.isHeld());
+        FileLock lock = FileLock::acquire(song);
+        const FileLock moved = std::move(lock);
+        EXPECT_TRUE(moved.isHeld());
         EXPECT_TRUE(files().contains(QStringLiteral(".~píseň.xls.zamek")));
     }
     EXPECT_EQ(files(), QStringList{QStringLiteral("píseň.xls")});
@@ -71,7 +89,7 @@ TEST_F(FileLockTest, TellsWhoHasTheFileOpen) {
     OtherProcess other(song);
     ASSERT_TRUE(other.held);
     const QString refusal = refusalOf([&] { FileLock::acquire(song); });
-    EXPECT_TRUE(refusal.startsWith(QStringLiteral("1004 Soubor „píseň.xls“ je už otevřen jinde (")))
+    EXPECT_TRUE(refusal.startsWith(QStringLiteral("1004 Soubor „píseň.xls“ je už otevřen jinde (uživatel ")))
         << refusal.toStdString();
     EXPECT_TRUE(refusal.contains(QStringLiteral("proces %1").arg(other.pid()))) << refusal.toStdString();
     EXPECT_TRUE(refusal.contains(QSysInfo::machineHostName())) << refusal.toStdString();
@@ -82,7 +100,26 @@ TEST_F(FileLockTest, OfADeadProcessCountsForNothing) {
     ASSERT_TRUE(other.held);
     other.kill();
     ASSERT_TRUE(QFile::exists(FileLock::lockName(song)));
+    const FileLock lock = FileLock::acquire(song);
+    EXPECT_TRUE(lock.isHeld());
+    EXPECT_TRUE(lock.foundStale());
+}
+
+TEST_F(FileLockTest, CountsForAsLongAsItsOwnerRuns) {
+    EXPECT_TRUE(countsWith(program, "jiny"));
+    EXPECT_FALSE(countsWith(start, "1")) << "the number is in use again";
+    EXPECT_FALSE(countsWith(boot, "jiny-start-pocitace"));
+    EXPECT_TRUE(countsWith(machine, "jiny-pocitac")) << "nothing is known of its processes";
+    EXPECT_FALSE(countsWith(0, "jiny druh zamku"));
+    store(FileLock::lockName(song), "Tabulka Zvoniky 1\npoc"); // its owner died while it wrote this
     EXPECT_TRUE(FileLock::acquire(song).isHeld());
+}
+
+TEST_F(FileLockTest, TakenOverIsNotGivenBackByTheOneThatHadIt) {
+    auto first = std::make_unique<FileLock>(FileLock::acquire(song));
+    store(FileLock::lockName(song), contents(FileLock::lockName(song)).replace("\n", " \n"));
+    first.reset();
+    EXPECT_TRUE(QFile::exists(FileLock::lockName(song)));
 }
 
 TEST_F(FileLockTest, IsTheSameThroughALink) {
@@ -97,6 +134,20 @@ TEST_F(FileLockTest, IsDoneWithoutWhereNoFileCanBeMade) {
                                   path(QString(250, u'x'))};
     for (const QString& file : impossible)
         EXPECT_FALSE(FileLock::acquire(file).isHeld()) << file.toStdString();
+}
+
+TEST(ProcessStartTest, KnowsTheLivingFromTheDead) {
+    EXPECT_EQ(processStart(::getpid()), processStart(::getpid()));
+    EXPECT_NE(processStart(::getpid()).value_or(QString()), QString());
+    const pid_t child = ::fork();
+    if (child == 0) ::_exit(0);
+    siginfo_t info;
+    ASSERT_EQ(::waitid(P_PID, static_cast<id_t>(child), &info, WEXITED | WNOWAIT), 0);
+    EXPECT_FALSE(processStart(child)) << "ended, though not yet forgotten";
+    ::waitpid(child, nullptr, 0);
+    EXPECT_FALSE(processStart(child));
+    EXPECT_FALSE(processStart(0));
+    EXPECT_FALSE(processStart(-1));
 }
 
 } // namespace zvonika::testing

@@ -47,13 +47,15 @@ private:
 /// A folder of its own as drive C:, scripted boxes, settings in memory and a window that only keeps a log.
 struct World {
     QTemporaryDir folder;
+    QTemporaryDir state;
+    JournalFolder journals{state.filePath(QStringLiteral("zaznamy"))};
     HomeDrive drive{folder.path(), QString()};
     ScriptedDialogs dialogs;
     MemorySettings settings;
     ViewLog view;
 
     std::unique_ptr<EmbeddedApplication> launch() {
-        return std::make_unique<EmbeddedApplication>(drive, dialogs, settings,
+        return std::make_unique<EmbeddedApplication>(drive, dialogs, settings, journals,
                                                      [this](SheetCommands& commands) {
                                                          ++view.made;
                                                          view.commands = &commands;

@@ -79,7 +79,9 @@ protected:
     IniSettingsStore settings{folder.filePath(QStringLiteral("nastaveni.ini"))};
     CountingListener listener;
     SheetWindow* window = nullptr;
-    EmbeddedApplication application{drive, dialogs, settings, [this](SheetCommands& commands) {
+    EmbeddedApplication application{drive, dialogs, settings,
+                                    JournalFolder(folder.filePath(QStringLiteral("zaznamy"))),
+                                    [this](SheetCommands& commands) {
                                         auto made = std::make_unique<SheetWindow>(commands);
                                         window = made.get();
                                         return made;

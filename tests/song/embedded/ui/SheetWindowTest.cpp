@@ -218,6 +218,19 @@ TEST_F(SheetFile, StatusSaysWhatIsShown) {
     }
 }
 
+TEST_F(SheetFile, StatusSaysWhenChangesAreNotSafe) {
+    const auto* status = window->findChild<QLabel*>(QStringLiteral("stavTabulky"));
+    const QString journals = folder.filePath(QStringLiteral("zaznamy"));
+    QFile inTheWay(journals);
+    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+    application.setValue(QStringLiteral("B1"), QStringLiteral("c1,"));
+    EXPECT_TRUE(status->text().contains(QStringLiteral("změny nejsou zajištěny proti výpadku")));
+    inTheWay.remove();
+    application.setValue(QStringLiteral("B2"), QStringLiteral("d1,"));
+    EXPECT_FALSE(status->text().contains(QStringLiteral("výpadku")));
+    EXPECT_TRUE(QFile::exists(journals));
+}
+
 TEST_F(SheetFile, EveryPartHasAName) {
     const auto parts = window->findChildren<QWidget*>();
     for (const QWidget* part : parts) {

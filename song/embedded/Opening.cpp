@@ -1,0 +1,69 @@
+#include "song/embedded/Opening.h"
+
+#include "platform/RuntimeError.h"
+#include "song/embedded/FileSentences.h"
+#include "song/embedded/RecoverySentences.h"
+#include "song/embedded/Session.h"
+
+#include <QFileInfo>
+
+namespace zvonika {
+
+Opening::Opening(Session& session, JournalFolder journals)
+    : session_(session), journals_(std::move(journals)) {}
+
+std::unique_ptr<Document> Opening::open(const QString& nativePath) {
+    auto document = Document::open(nativePath, journals_, lock(nativePath));
+    for (auto& pending : journals_.pending(nativePath))
+        offer(*document, std::move(pending));
+    return document;
+}
+
+void Opening::recoverUnsaved() {
+    for (auto& pending : journals_.pending({})) {
+        const QString name = pending.contents.base.name;
+        auto document =
+            std::make_unique<Document>(session_.find(name) ? session_.nextName() : name, journals_);
+        offer(*document, std::move(pending));
+        if (document->hasRecovered()) session_.add(std::move(document));
+    }
+}
+
+/// A lock can outlive its owner on a computer that is no longer there; the file itself cannot be spoiled by
+/// opening it, and a save notices what the other one has written.
+FileLock Opening::lock(const QString& nativePath) {
+    const auto holder = FileLock::holder(nativePath);
+    if (!holder || holder->isThisProcess()) return FileLock::acquire(nativePath);
+    const QString question =
+        QStringLiteral("Soubor „%1“ má už otevřený někdo jiný:\n%2.\n\n"
+                       "Kdybyste ho měnili oba, mohl by jeden z Vás o svou práci přijít. "
+                       "Chcete ho přesto otevřít?")
+            .arg(QFileInfo(nativePath).fileName(), whoHolds(*holder));
+    const Answer answer =
+        session_.dialogs().message({jmenoTabulky, question, Icon::Exclamation, Buttons::YesNo, Answer::No});
+    if (answer != Answer::Yes)
+        throw RuntimeError(error::applicationDefined, openElsewhere(nativePath, *holder));
+    return FileLock::takeOver(nativePath);
+}
+
+void Opening::offer(Document& document, PendingJournal pending) {
+    if (wanted(document, pending))
+        recover(document, std::move(pending));
+    else
+        journals_.setAside(std::move(pending.file));
+}
+
+bool Opening::wanted(const Document& document, const PendingJournal& pending) {
+    const bool changedSince = pending.contents.base.hash != document.fileHash();
+    const QString question = recoveryQuestion(document.name(), pending.contents, changedSince);
+    return session_.dialogs().message({jmenoTabulky, question, Icon::Question, Buttons::YesNo}) ==
+           Answer::Yes;
+}
+
+void Opening::recover(Document& document, PendingJournal pending) {
+    const int refused = document.recover(std::move(pending));
+    if (refused == 0) return;
+    session_.dialogs().message({jmenoTabulky, partlyRecovered(document.name(), refused), Icon::Exclamation});
+}
+
+} // namespace zvonika

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "song/embedded/FileLock.h"
+#include "song/embedded/journal/JournalFolder.h"
+
+#include <QString>
+
+#include <memory>
+
+namespace zvonika {
+
+class Dialogs;
+class Document;
+class Session;
+
+/// Opens workbooks as the user wishes it, by boxes: also one that is open elsewhere, and with the changes
+/// that a crash has left in a journal. Refusals, the user's too, are AutomationError 1004.
+class Opening {
+public:
+    Opening(Session& session, JournalFolder journals);
+
+    /// Does not put the workbook into the session.
+    std::unique_ptr<Document> open(const QString& nativePath);
+    /// Brings the workbooks that were never saved and that the user wants back into the session.
+    void recoverUnsaved();
+
+private:
+    FileLock lock(const QString& nativePath);
+    void offer(Document& document, PendingJournal pending);
+    bool wanted(const Document& document, const PendingJournal& pending);
+    void recover(Document& document, PendingJournal pending);
+
+    Session& session_;
+    JournalFolder journals_;
+};
+
+} // namespace zvonika
