@@ -23,7 +23,8 @@ class PrevodyPisne : public ::testing::Test {
 protected:
     PrevodyPisne() {
         QDir(slozka.path()).mkpath("Dokumenty/Heligonka/Zvonika");
-        pisen.aplikaceExcel = std::make_unique<EmbeddedApplication>(drive, dialogs, nastaveni, nullptr);
+        pisen.aplikaceExcel = std::make_unique<EmbeddedApplication>(
+            drive, dialogs, nastaveni, JournalFolder(slozka.filePath("zaznamy")));
         excel().setDefaultFilePath(pracovniAdresar);
         const QString zdroj = drive.nativePath(pracovniAdresar) + "/Kočka.xls";
         QFile::copy(ZVONIKA_RESOURCES "/ukazky/Kočka leze dírou.xls", zdroj);
@@ -94,7 +95,8 @@ TEST_F(PrevodyPisne, GoIntoEveryKeyAndBack) {
             preved(zdroj);
             ASSERT_EQ(radky(), vychozi) << pisen.aktualniPisen.toStdString();
             zahodKopii(jmeno);
-            drive.deleteFile(pracovniAdresar + u'\\' + jmeno.chopped(4) + u' ' + toniny[cil].nazev.toString() + ".xls");
+            drive.deleteFile(pracovniAdresar + u'\\' + jmeno.chopped(4) + u' ' +
+                             toniny[cil].nazev.toString() + ".xls");
         }
         if (zdroj > 0) zahodKopii("Kočka.xls");
     }
