@@ -31,7 +31,7 @@ public:
             record = recordAt(stream_, record.end());
             take(record);
         }
-        if (formats_ <= usualDefaultFormat) globals_.defaultFormat = firstCellFormat_;
+        if (!usualIsCellFormat_) globals_.defaultFormat = firstCellFormat_;
         return std::move(globals_);
     }
 
@@ -69,6 +69,8 @@ private:
     void takeFormat(const Record& record) {
         record.require(6);
         const bool isStyle = record.u16(4) & 4;
+        // Some writers have a style more, and their first cell format is 16.
+        if (formats_ == usualDefaultFormat) usualIsCellFormat_ = !isStyle;
         if (!isStyle && !sawCellFormat_) {
             firstCellFormat_ = formats_;
             sawCellFormat_ = true;
@@ -81,6 +83,7 @@ private:
     std::uint16_t formats_ = 0;
     std::uint16_t firstCellFormat_ = 0;
     bool sawCellFormat_ = false;
+    bool usualIsCellFormat_ = false;
 };
 
 } // namespace
