@@ -21,6 +21,8 @@ void mnuKonverze(QWidget& okno, Modely& modely, ZivotPisne& zivotPisne, const Pr
     konverze.Form_Load();
     FrmKonverze(konverze, stav, udalost, &okno).exec();
     udalost([&] { konverze.Form_Unload(); });
+    okno.raise();
+    okno.activateWindow(); // not the sheet's, which has come up too
     if (konverze.predanaKopie()) zivotPisne.prevezmiPisen();
     modely.panel.upozorneni = QStringList{konverze.veta(), modely.panel.upozorneni}.join(u' ').trimmed();
 }

@@ -15,9 +15,6 @@ inline void PrintTo(const QString& text, std::ostream* out) {
 
 namespace zvonika::testing {
 
-/// One row of a song as it stands in the sheet: column → text.
-using Radek = QMap<QString, QString>;
-
 /// A conversion over an application in memory, whose folder is the working folder.
 class KonverzeFixture : public ::testing::Test {
 protected:
@@ -29,20 +26,20 @@ protected:
         drive.programFolderPath = QStringLiteral(ZVONIKA_RESOURCES);
     }
 
-    /// A file on the disk with these rows on its sheet "Tonavox XII".
-    QString soubor(const QString& jmeno, const QList<Radek>& radky) {
+    /// A file on the disk with these rows on its sheet "Tonavox XII". A row is written "B=c1,|I=Tah|W=C dur".
+    QString soubor(const QString& jmeno, const QStringList& radky) {
         FakeBook kniha{
             jmeno, pracovniAdresar + u'\\' + jmeno, {{QStringLiteral("Tonavox XII"), {}, {}, 1, 1}}, 0};
         for (int i = 0; i < radky.size(); ++i)
-            for (auto bunka = radky[i].begin(); bunka != radky[i].end(); ++bunka) {
-                const auto misto = FakeRange::parse(bunka.key() + QString::number(i + 1));
-                kniha.sheets.front().put(misto.top, misto.left, bunka.value());
+            for (const QString& bunka : radky[i].split(u'|', Qt::SkipEmptyParts)) {
+                const auto misto = FakeRange::parse(bunka.left(1) + QString::number(i + 1));
+                kniha.sheets.front().put(misto.top, misto.left, bunka.mid(2));
             }
         disk[kniha.fullName] = kniha;
         return kniha.fullName;
     }
     /// The song of the main window, in place of what was open.
-    void otevri(const QList<Radek>& radky, const QString& jmeno = QStringLiteral("Polka.xls")) {
+    void otevri(const QStringList& radky, const QString& jmeno = QStringLiteral("Polka.xls")) {
         while (!excel->activeWorkbookName().isEmpty())
             excel->userClosesWorkbook();
         excel->openWorkbook(soubor(jmeno, radky));
@@ -60,12 +57,12 @@ protected:
         konverze.cmdGo();
     }
     void ocekavejHotovo() { dialogs.expect("Hotovo", "a uložena do souboru \n"); }
-    /// The texts of a row of the active sheet, empty ones left out.
-    Radek radek(int cislo) {
-        Radek radek;
+    /// A row of the active sheet, written as for `soubor`; empty cells are left out.
+    QString radek(int cislo) {
+        QStringList bunky;
         for (const auto& [misto, hodnota] : excel->book().sheet().cells)
-            if (misto.first == cislo) radek[FakeRange::letters(misto.second)] = cellText(hodnota);
-        return radek;
+            if (misto.first == cislo) bunky << FakeRange::letters(misto.second) + u'=' + cellText(hodnota);
+        return bunky.join(u'|');
     }
     QString list() { return excel->book().sheet().name; }
 

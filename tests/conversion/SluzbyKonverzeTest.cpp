@@ -108,7 +108,7 @@ TEST_F(SluzbyKonverze, TheQuestionAtAKeyChange) {
 }
 
 TEST_F(SluzbyKonverze, ATargetWorkbookTakesTheSyllables) {
-    otevri({{{"A", "Koč-"}, {"B", "c1,"}}, {{"A", "ka"}}});
+    otevri({"A=Koč-|B=c1,", "A=ka"});
     EXPECT_TRUE(sluzby.VytvorCilovySoubor("G dur", "Polka.xls"));
     const FakeBook& kniha = disk.at(pracovniAdresar + "\\Polka G dur.xls");
     EXPECT_EQ(kniha.sheets.front().name, "Tonavox12");
@@ -182,7 +182,7 @@ protected:
         kniha.sheets[0].put(3, 7, QString("G"));
         kniha.sheets[1].put(6, 6, QString("Es"));
         kniha.sheets[1].put(3, 7, QString("B"));
-        otevri({{{"B", "c1,"}, {"M", "G"}}});
+        otevri({"B=c1,|M=G"});
         excel->openWorkbook(tabulky);
         excel->activateWindow("Polka.xls");
         pisen.cilovyListNazev = "Tabulky.xls";
@@ -201,7 +201,7 @@ protected:
 TEST_F(KonverzeBasuTest, ARowOfBassesIsTakenFromTheTableOfTheTarget) {
     EXPECT_TRUE(basy.KonvertujBasy("Tah", "B-Es-As")); // free cells find the free part of the table
     EXPECT_EQ(excel->activeWorkbookName(), "Polka.xls");
-    EXPECT_EQ(radek(1), (Radek{{"B", "c1,"}, {"M", "B"}}));
+    EXPECT_EQ(radek(1), "B=c1,|M=B");
     EXPECT_EQ(excel->activeAddress(), "$T$1");
 }
 
