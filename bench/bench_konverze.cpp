@@ -4,6 +4,7 @@
 #include "bench/BeziciProgram.h"
 #include "bench/Kvantily.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QTest>

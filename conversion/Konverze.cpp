@@ -108,6 +108,7 @@ bool Konverze::pripravKopii(const QString& cilova) {
         return false;
     }
     kopie_ = pisen_.aktualniPisen;
+    ztraty_ = {};
     puvodniList_ = excel.activeSheetName();
     rozdelanyList_ = cilova + QStringLiteral(" Nedokončeno");
     excel.renameActiveSheet(rozdelanyList_);

@@ -36,8 +36,8 @@ protected:
     }
 
     std::unique_ptr<FrmKonverze> okno;
-    const QString c("B=c1,|I=Tah|W=C dur");
-    const QString g("B=g,|I=Tah|W=G dur");
+    const QString c = "B=c1,|I=Tah|W=C dur";
+    const QString g = "B=g,|I=Tah|W=G dur";
 };
 
 TEST_F(FrmKonverzeTest, ShowsTheSongAndItsKey) {
