@@ -16,6 +16,7 @@
 #include <cmath>
 #include <stdexcept>
 #include <utility>
+#include <vector>
 
 namespace zvonika::xls {
 
@@ -26,11 +27,6 @@ constexpr std::size_t maxNameUnits = 31;
 constexpr int maxColumnWidth = 65535;
 constexpr const char* streamName = "Workbook";
 constexpr std::uint8_t numberError = 0x24; // #NUM!
-
-/// The stream as the engine reads it.
-Bytes presentVersion(Bytes stream, Version version) {
-    return version == Version::Biff5 ? translateBiff5(stream) : std::move(stream);
-}
 
 void requireName(const std::u16string& name) {
     constexpr std::u16string_view forbidden = u":\\/?*[]";
@@ -70,9 +66,9 @@ CellContent numberContent(double number) {
 } // namespace
 
 struct Workbook::Impl {
-    Impl(CompoundFile file, std::uint32_t entry, Bytes stream, Version version, bool isNew)
-        : container(std::move(file)), entry(entry), version(version), created(isNew),
-          model(presentVersion(std::move(stream), version)) {
+    Impl(CompoundFile file, BookStream book, Version fileVersion, bool isNew)
+        : container(std::move(file)), stream(std::move(book)), version(fileVersion), created(isNew),
+          model(stream.bytes()) {
         edits.sheets.resize(model.globals.sheets.size());
         for (std::size_t i = 0; i < model.globals.sheets.size(); ++i)
             if (model.globals.sheets[i].isWorksheet()) worksheets.push_back(i);
@@ -92,7 +88,9 @@ struct Workbook::Impl {
 
     Value fileValue(std::size_t sheet, CellKey key) const {
         const CellSlot* slot = model.layouts[sheet].findCell(key);
-        return slot ? readCell(model.stream, model.strings, *slot) : Value();
+        Value value;
+        if (slot) readCell(model.stream, model.strings, *slot, value);
+        return value;
     }
 
     Value contentValue(const CellContent& content) const {
@@ -136,8 +134,8 @@ struct Workbook::Impl {
     }
 
     CompoundFile container;
-    std::uint32_t entry;
-    Version version; ///< of the file
+    BookStream stream; ///< as BIFF8, may look into `container`
+    Version version;   ///< of the file
     bool created;
     WorkbookModel model;
     WorkbookEdits edits;
@@ -153,25 +151,26 @@ Workbook::~Workbook() = default;
 Workbook Workbook::create(const std::u16string& sheetName) {
     requireName(sheetName);
     CompoundFile container = CompoundFile::withEmptyStream(streamName);
-    constexpr std::uint32_t entry = 1;
-    return Workbook(std::make_unique<Impl>(std::move(container), entry, blankWorkbookStream(sheetName),
-                                           Version::Biff8, true));
+    BookStream book = findBookStream(container);
+    book.replace(blankWorkbookStream(sheetName));
+    return Workbook(std::make_unique<Impl>(std::move(container), std::move(book), Version::Biff8, true));
 }
 
 Workbook Workbook::open(Bytes file) {
     CompoundFile container(std::move(file));
     BookStream book = findBookStream(container);
-    const Version version = readVersion(book.bytes);
-    return Workbook(
-        std::make_unique<Impl>(std::move(container), book.entry, std::move(book.bytes), version, false));
+    const Version version = readVersion(book.bytes());
+    if (version == Version::Biff5) book.replace(translateBiff5(book.bytes()));
+    return Workbook(std::make_unique<Impl>(std::move(container), std::move(book), version, false));
 }
 
 Bytes Workbook::save() const {
     if (!isModified()) return impl_->container.bytes();
     const Bytes stream = writeWorkbook(impl_->model, impl_->edits);
+    const std::uint32_t entry = impl_->stream.entry();
     // Older programs look for their version under the older name, and some newer ones judge by it.
-    if (isOldFormat()) return impl_->container.withStreamNamed(impl_->entry, streamName, stream);
-    return impl_->container.withStream(impl_->entry, stream);
+    if (isOldFormat()) return impl_->container.withStreamNamed(entry, streamName, stream);
+    return impl_->container.withStream(entry, stream);
 }
 
 int Workbook::sheetCount() const {
@@ -197,8 +196,36 @@ Value Workbook::value(int sheet, CellRef cell) const {
     const std::size_t index = impl_->sheet(sheet);
     const CellKey key = keyOf(cell);
     const auto& cells = impl_->edits.sheets[index].cells;
+    if (cells.empty()) return impl_->fileValue(index, key);
     const auto changed = cells.find(key);
     return changed != cells.end() ? impl_->contentValue(changed->second) : impl_->fileValue(index, key);
+}
+
+void Workbook::forEachValue(int sheet, const std::function<void(CellRef, const Value&)>& visit) const {
+    const std::size_t index = impl_->sheet(sheet);
+    std::vector<CellKey> changed;
+    for (const auto& [key, content] : impl_->edits.sheets[index].cells)
+        changed.push_back(key);
+    std::ranges::sort(changed);
+    const auto show = [&](CellKey key, const Value& value) {
+        if (value.index() != 0) visit(refOf(key), value);
+    };
+    auto edit = changed.begin();
+    const auto showEdits = [&](CellKey end) {
+        for (; edit != changed.end() && *edit < end; ++edit)
+            show(*edit, impl_->contentValue(impl_->edits.sheets[index].cells.at(*edit)));
+    };
+    const auto& cells = impl_->model.layouts[index].cells;
+    Value value;
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        const CellKey key = cells[i].key;
+        if (i + 1 < cells.size() && cells[i + 1].key == key) continue; // of duplicates the last counts
+        showEdits(key);
+        if (edit != changed.end() && *edit == key) continue;
+        readCell(impl_->model.stream, impl_->model.strings, cells[i], value);
+        show(key, value);
+    }
+    showEdits(static_cast<CellKey>(-1));
 }
 
 void Workbook::setValue(int sheet, CellRef cell, const Value& value) {

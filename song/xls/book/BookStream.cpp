@@ -4,6 +4,8 @@
 #include "song/xls/book/Version.h"
 #include "song/xls/records/Record.h"
 
+#include <utility>
+
 namespace zvonika::xls {
 
 namespace {
@@ -23,15 +25,26 @@ int rank(ByteView stream) {
 
 } // namespace
 
+BookStream::BookStream(const CompoundFile& container, std::uint32_t entry) : entry_(entry) {
+    if (const auto view = container.viewStream(entry))
+        bytes_ = *view;
+    else
+        replace(container.readStream(entry));
+}
+
+void BookStream::replace(CompoundFile::Bytes bytes) {
+    owned_ = std::move(bytes);
+    bytes_ = owned_;
+}
+
 BookStream findBookStream(const CompoundFile& container) {
     const auto workbook = container.findStream("Workbook");
     const auto book = container.findStream("Book");
     if (!workbook && !book) refuse(container);
-    const std::uint32_t first = workbook ? *workbook : *book;
-    BookStream found{first, container.readStream(first)};
-    if (!workbook || !book || rank(found.bytes) == 2) return found;
-    BookStream other{*book, container.readStream(*book)};
-    return rank(other.bytes) > rank(found.bytes) ? other : found;
+    BookStream found(container, workbook ? *workbook : *book);
+    if (!workbook || !book || rank(found.bytes()) == 2) return found;
+    BookStream other(container, *book);
+    return rank(other.bytes()) > rank(found.bytes()) ? std::move(other) : std::move(found);
 }
 
 } // namespace zvonika::xls

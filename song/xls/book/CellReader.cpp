@@ -46,26 +46,34 @@ Value formulaResult(ByteView stream, const Record& record) {
 
 } // namespace
 
-Value readCell(ByteView stream, const SharedStrings& strings, const CellSlot& slot) {
+void readCell(ByteView stream, const SharedStrings& strings, const CellSlot& slot, Value& value) {
     const Record record = recordAt(stream, slot.record);
     switch (record.type()) {
     case RecordType::Rk:
-        return decodeRk(record.u32(contentAt));
+        value = decodeRk(record.u32(contentAt));
+        break;
     case RecordType::MulRk:
-        return decodeRk(record.u32(contentAt + 6 * (columnOf(slot.key) - record.u16(2))));
+        value = decodeRk(record.u32(contentAt + 6 * (columnOf(slot.key) - record.u16(2))));
+        break;
     case RecordType::Number:
-        return loadDouble(record.payload.data() + contentAt);
+        value = loadDouble(record.payload.data() + contentAt);
+        break;
     case RecordType::LabelSst:
-        return strings.at(record.u32(contentAt));
+        if (!std::holds_alternative<std::u16string>(value)) value.emplace<std::u16string>();
+        strings.read(record.u32(contentAt), std::get<std::u16string>(value));
+        break;
     case RecordType::Label:
     case RecordType::RString:
-        return textAt(stream, record, contentAt);
+        value = textAt(stream, record, contentAt);
+        break;
     case RecordType::BoolErr:
-        return boolOrError(record.u8(contentAt), record.u8(contentAt + 1) != 0);
+        value = boolOrError(record.u8(contentAt), record.u8(contentAt + 1) != 0);
+        break;
     case RecordType::Formula:
-        return formulaResult(stream, record);
+        value = formulaResult(stream, record);
+        break;
     default:
-        return std::monostate();
+        value = std::monostate();
     }
 }
 

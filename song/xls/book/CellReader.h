@@ -6,13 +6,8 @@
 
 namespace zvonika::xls {
 
-/// What the file holds in a cell; of a formula its stored result.
-Value readCell(ByteView stream, const SharedStrings& strings, const CellSlot& slot);
-
-/// Whether the record holds no value, only a format.
-inline bool isBlankRecord(ByteView stream, std::uint32_t offset) {
-    const auto type = static_cast<RecordType>(load16(stream.data() + offset));
-    return type == RecordType::Blank || type == RecordType::MulBlank;
-}
+/// Puts into `value` what the file holds in a cell; of a formula its stored result. A text that `value` held
+/// lends its memory to the next one.
+void readCell(ByteView stream, const SharedStrings& strings, const CellSlot& slot, Value& value);
 
 } // namespace zvonika::xls

@@ -7,9 +7,17 @@
 namespace zvonika::xls {
 
 const CellSlot* SheetLayout::findCell(CellKey key) const {
-    const auto behind = std::ranges::upper_bound(cells, key, {}, &CellSlot::key);
-    if (behind == cells.begin() || std::prev(behind)->key != key) return nullptr;
-    return &*std::prev(behind);
+    const CellSlot* begin = cells.data();
+    const CellSlot* end = begin + cells.size();
+    if (!rowStarts.empty()) {
+        const std::uint32_t row = rowOf(key);
+        if (row + 1 >= rowStarts.size()) return nullptr;
+        end = begin + rowStarts[row + 1];
+        begin += rowStarts[row];
+    }
+    const auto before = [](CellKey k, const CellSlot& slot) { return k < slot.key; };
+    const CellSlot* behind = std::upper_bound(begin, end, key, before);
+    return behind != begin && behind[-1].key == key ? behind - 1 : nullptr;
 }
 
 const RowSlot* SheetLayout::findRow(std::uint32_t row) const {
@@ -36,6 +44,10 @@ public:
     LayoutReader(ByteView stream, const SheetEntry& entry, std::uint32_t sharedStrings)
         : stream_(stream), sharedStrings_(sharedStrings), hasCells_(entry.hasCells()) {
         layout_.start = entry.position;
+        // About as many cells as texts would fit; what is not used costs no memory but addresses.
+        constexpr std::size_t textCell = 14;
+        layout_.cells.reserve((stream.size() - std::min<std::size_t>(stream.size(), entry.position)) /
+                              textCell);
     }
 
     SheetLayout read() {
@@ -52,6 +64,7 @@ public:
         }
         layout_.eof = record.offset;
         sort();
+        indexRows();
         return std::move(layout_);
     }
 
@@ -132,6 +145,7 @@ private:
         const std::uint32_t row = cellRow(record);
         for (std::uint32_t i = 0; i < run.count; ++i)
             layout_.cells.push_back({cellKey(row, run.first + i), record.offset});
+        if (!isBlankRecord(record.type())) layout_.used.include(layout_.cells.back().key);
         extendBlock(record, row);
     }
 
@@ -142,6 +156,7 @@ private:
     }
 
     void extendBlock(const Record& record, std::uint32_t row) {
+        if (row >= block_.firstRow && row <= block_.lastRow && block_.start != 0) return;
         if (block_.start == 0) block_ = {record.offset, 0, row, row};
         block_.firstRow = std::min(block_.firstRow, row);
         block_.lastRow = std::max(block_.lastRow, row);
@@ -159,10 +174,21 @@ private:
     void sort() {
         const auto sortBy = [](auto& slots, auto member) {
             if (!std::ranges::is_sorted(slots, {}, member)) std::ranges::stable_sort(slots, {}, member);
-            slots.shrink_to_fit();
+            if (slots.size() < slots.capacity() / 4 * 3) slots.shrink_to_fit();
         };
         sortBy(layout_.cells, &CellSlot::key);
         sortBy(layout_.rows, &RowSlot::row);
+    }
+
+    /// Not for few cells far down: many such sheets in a small file would fill the memory.
+    void indexRows() {
+        auto& starts = layout_.rowStarts;
+        if (layout_.cells.empty() || rowOf(layout_.cells.back().key) > 4 * layout_.cells.size()) return;
+        starts.reserve(rowOf(layout_.cells.back().key) + 2);
+        for (std::uint32_t i = 0; i < layout_.cells.size(); ++i)
+            while (starts.size() <= rowOf(layout_.cells[i].key))
+                starts.push_back(i);
+        starts.push_back(static_cast<std::uint32_t>(layout_.cells.size()));
     }
 
     ByteView stream_;

@@ -3,6 +3,7 @@
 #include "song/xls/book/Globals.h"
 #include "song/xls/records/CellRecord.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace zvonika::xls {
@@ -27,6 +28,16 @@ struct RowBlock {
     std::uint32_t lastRow = 0;
 };
 
+/// One past the last row and column that hold a value.
+struct UsedRange {
+    std::uint32_t rows = 0;
+    std::uint32_t columns = 0;
+    void include(CellKey key) {
+        rows = std::max(rows, rowOf(key) + 1);
+        columns = std::max(columns, columnOf(key) + 1);
+    }
+};
+
 /// What is where in a sheet's substream, itself and no chart nested in it. Offsets are of records in the
 /// stream.
 class SheetLayout {
@@ -44,12 +55,15 @@ public:
     std::uint32_t scl = absent;
     std::vector<std::uint32_t> selections;
     std::vector<std::uint32_t> colInfos;
-    std::vector<CellSlot> cells;   ///< sorted by key; of duplicates the later record comes last
-    std::vector<RowSlot> rows;     ///< sorted by row
-    std::uint32_t sharedTexts = 0; ///< LabelSst records
-    std::uint32_t formulas = 0;    ///< Formula records
-    std::uint32_t dbCells = 0;     ///< DbCell records, those of no rows included
-    std::vector<RowBlock> blocks;  ///< in the order of the stream; empty when the sheet has no DbCell records
+    std::vector<CellSlot> cells;          ///< sorted by key; of duplicates the later record comes last
+    std::vector<std::uint32_t> rowStarts; ///< by row: index in `cells` of its first cell; one more at the
+                                          ///< end. Empty for sparse sheets
+    UsedRange used;                       ///< of cells that hold more than a format
+    std::vector<RowSlot> rows;            ///< sorted by row
+    std::uint32_t sharedTexts = 0;        ///< LabelSst records
+    std::uint32_t formulas = 0;           ///< Formula records
+    std::uint32_t dbCells = 0;            ///< DbCell records, those of no rows included
+    std::vector<RowBlock> blocks; ///< in the order of the stream; empty when the sheet has no DbCell records
 
     /// The record that holds a cell; null when there is none.
     const CellSlot* findCell(CellKey key) const;

@@ -1,23 +1,18 @@
 #include "song/xls/book/SheetUse.h"
 
-#include "song/xls/book/CellReader.h"
-
 #include <algorithm>
 
 namespace zvonika::xls {
 
-void SheetUse::include(CellKey key) {
-    range_.rows = std::max(range_.rows, rowOf(key) + 1);
-    range_.columns = std::max(range_.columns, columnOf(key) + 1);
-}
-
 const UsedRange& SheetUse::range(ByteView stream, const SheetLayout& layout, const SheetEdits& edits) {
     if (known_) return range_;
-    range_ = {};
-    for (const CellSlot& slot : layout.cells)
-        if (!isBlankRecord(stream, slot.record) && !edits.cells.contains(slot.key)) include(slot.key);
+    range_ = edits.cells.empty() ? layout.used : UsedRange();
+    if (!edits.cells.empty())
+        for (const CellSlot& slot : layout.cells)
+            if (!isBlankRecord(recordAt(stream, slot.record).type()) && !edits.cells.contains(slot.key))
+                range_.include(slot.key);
     for (const auto& [key, content] : edits.cells)
-        if (content.kind != CellContent::Kind::Blank) include(key);
+        if (content.kind != CellContent::Kind::Blank) range_.include(key);
     known_ = true;
     return range_;
 }
@@ -25,7 +20,7 @@ const UsedRange& SheetUse::range(ByteView stream, const SheetLayout& layout, con
 void SheetUse::changed(CellKey key, bool hasValue) {
     if (!known_) return;
     if (hasValue)
-        include(key);
+        range_.include(key);
     else if (rowOf(key) + 1 == range_.rows || columnOf(key) + 1 == range_.columns)
         known_ = false;
 }

@@ -4,14 +4,8 @@
 
 namespace zvonika::xls {
 
-/// One past the last row and column that hold a value.
-struct UsedRange {
-    std::uint32_t rows = 0;
-    std::uint32_t columns = 0;
-};
-
-/// Keeps a sheet's used range at hand: counted once, then followed; counted again only when a cell at its
-/// edge is emptied.
+/// Keeps a sheet's used range at hand: the file's at first, then followed; counted anew only when a cell at
+/// its edge was emptied.
 class SheetUse {
 public:
     const UsedRange& range(ByteView stream, const SheetLayout& layout, const SheetEdits& edits);
@@ -19,8 +13,6 @@ public:
     void changed(CellKey key, bool hasValue);
 
 private:
-    void include(CellKey key);
-
     UsedRange range_;
     bool known_ = false;
 };

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <numeric>
-#include <utility>
 
 namespace zvonika::xls {
 
@@ -25,8 +24,7 @@ void requireWorksheet(const Globals& globals) {
 
 } // namespace
 
-WorkbookModel::WorkbookModel(std::vector<std::uint8_t> bytes)
-    : stream(std::move(bytes)), globals(readGlobals(stream)) {
+WorkbookModel::WorkbookModel(ByteView bytes) : stream(bytes), globals(readGlobals(stream)) {
     requireWorksheet(globals);
     if (globals.sst != absent) strings = SharedStrings(stream, globals.sst);
     layouts.resize(globals.sheets.size());

@@ -13,12 +13,12 @@
 
 namespace zvonika::xls {
 
-/// A workbook stream and what is where in it. Nothing here changes after opening.
+/// What is where in a BIFF8 workbook stream, whose bytes must outlive it. Nothing here changes after opening.
 struct WorkbookModel {
     /// Throws FormatError.
-    explicit WorkbookModel(std::vector<std::uint8_t> bytes);
+    explicit WorkbookModel(ByteView bytes);
 
-    std::vector<std::uint8_t> stream;
+    ByteView stream;
     Globals globals;
     SharedStrings strings;
     std::vector<SheetLayout> layouts; ///< one for each entry of globals.sheets

@@ -202,10 +202,13 @@ CompoundFile::Bytes CompoundFile::gather(const Chain& chain, std::uint64_t size,
                std::to_string(chain.size()) + " sectors");
     Bytes out;
     out.reserve(static_cast<std::size_t>(size));
-    for (const std::uint32_t sector : chain) {
-        const std::size_t begin = sectorOffset(sector);
+    for (std::size_t i = 0, next = 0; i < chain.size(); i = next) {
+        // Sectors that follow each other are taken at once.
+        for (next = i + 1; next < chain.size() && chain[next] == chain[next - 1] + 1;)
+            ++next;
+        const std::size_t begin = sectorOffset(chain[i]);
         const std::size_t wanted =
-            std::min<std::size_t>(static_cast<std::size_t>(size) - out.size(), sectorSize());
+            std::min<std::size_t>(static_cast<std::size_t>(size) - out.size(), (next - i) << sectorShift_);
         if (file_.size() - begin < wanted)
             refuse(Refusal::Truncated, place, begin, std::to_string(wanted) + " bytes",
                    "the end of the file");
@@ -239,9 +242,25 @@ CompoundFile::Bytes CompoundFile::readMini(std::uint32_t entry, std::uint64_t si
 CompoundFile::Bytes CompoundFile::readStream(std::uint32_t entry) const {
     const std::uint64_t size = streamSize(entry);
     if (isInMiniStream(entry)) return readMini(entry, size);
+    return gather(streamChain(entry), size, "stream");
+}
+
+CompoundFile::Chain CompoundFile::streamChain(std::uint32_t entry) const {
     std::vector<bool> used = used_;
     const std::uint32_t first = load32(&file_[entryOffset(entry) + Entry::firstSector]);
-    return gather(follow(fat_, first, used, "stream"), size, "stream");
+    return follow(fat_, first, used, "stream");
+}
+
+std::optional<ByteView> CompoundFile::viewStream(std::uint32_t entry) const {
+    const std::uint64_t size = streamSize(entry);
+    if (isInMiniStream(entry)) return std::nullopt;
+    const Chain chain = streamChain(entry);
+    const auto broken = std::ranges::adjacent_find(chain, [](auto a, auto b) { return b != a + 1; });
+    if (chain.empty() || broken != chain.end() || size > file_.size()) return std::nullopt;
+    const std::size_t begin = sectorOffset(chain.front());
+    const bool whole = begin + size <= file_.size() && size <= chain.size() << sectorShift_;
+    return whole ? std::optional(ByteView(file_).subspan(begin, static_cast<std::size_t>(size)))
+                 : std::nullopt;
 }
 
 CompoundFile::Bytes CompoundFile::withStream(std::uint32_t entry, ByteView contents) const {

@@ -24,6 +24,9 @@ public:
     /// Directory entry of a stream directly under the root, whatever the case of its name.
     std::optional<std::uint32_t> findStream(const std::string& name) const;
     Bytes readStream(std::uint32_t entry) const;
+    /// The stream's bytes where they stand in the file, if they stand there in one piece; valid as long as
+    /// this container, also when it is moved.
+    std::optional<ByteView> viewStream(std::uint32_t entry) const;
     /// The whole container with this stream's contents replaced; every other stream stays where it is.
     /// Short contents are filled up with zeros so that they need not live in the mini stream.
     Bytes withStream(std::uint32_t entry, ByteView contents) const;
@@ -56,6 +59,7 @@ private:
     /// already.
     Chain follow(const std::vector<std::uint32_t>& table, std::uint32_t first, std::vector<bool>& used,
                  const char* place) const;
+    Chain streamChain(std::uint32_t entry) const;
     Bytes gather(const Chain& chain, std::uint64_t size, const char* place) const;
     Bytes readMini(std::uint32_t entry, std::uint64_t size) const;
 

@@ -54,6 +54,7 @@ void CompoundFileWriter::resizeChain(CompoundFile::Chain& chain, std::size_t sec
         fat_[chain.back()] = freeSector;
         chain.pop_back();
     }
+    if (chain.size() < sectors) growTable(sectors - chain.size());
     while (chain.size() < sectors) {
         const std::uint32_t sector = allocate();
         fat_[sector] = endOfChain; // taken; linked below
@@ -64,14 +65,26 @@ void CompoundFileWriter::resizeChain(CompoundFile::Chain& chain, std::size_t sec
     fat_[chain.back()] = endOfChain;
 }
 
+/// A damaged table may call free what the container's own structures stand in.
+bool CompoundFileWriter::isFree(std::uint32_t sector) const {
+    return fat_[sector] == freeSector && (sector >= source_.used_.size() || !source_.used_[sector]);
+}
+
+std::uint32_t CompoundFileWriter::covered() const {
+    return static_cast<std::uint32_t>(std::min<std::size_t>(sectorCount_, fat_.size()));
+}
+
+/// Makes room in the table before sectors are appended, so that these come to stand in one piece.
+void CompoundFileWriter::growTable(std::size_t sectors) {
+    for (std::uint32_t sector = 0; sector < covered() && sectors > 0; ++sector)
+        sectors -= isFree(sector);
+    if (sectors > 0) coverByFat(sectors);
+}
+
 std::uint32_t CompoundFileWriter::allocate() {
-    const auto covered = static_cast<std::uint32_t>(std::min<std::size_t>(sectorCount_, fat_.size()));
-    while (nextFree_ < covered && fat_[nextFree_] != freeSector)
+    while (nextFree_ < covered() && !isFree(nextFree_))
         ++nextFree_;
-    if (nextFree_ < covered) return nextFree_;
-    const std::uint32_t sector = appendSector(0);
-    coverByFat();
-    return sector;
+    return nextFree_ < covered() ? nextFree_ : appendSector(0);
 }
 
 std::uint32_t CompoundFileWriter::appendSector(std::uint8_t fill) {
@@ -79,9 +92,9 @@ std::uint32_t CompoundFileWriter::appendSector(std::uint8_t fill) {
     return sectorCount_++;
 }
 
-void CompoundFileWriter::coverByFat() {
-    if (fat_.size() >= sectorCount_) return;
-    while (fat_.size() < sectorCount_) {
+void CompoundFileWriter::coverByFat(std::size_t more) {
+    if (fat_.size() >= sectorCount_ + more) return;
+    while (fat_.size() < sectorCount_ + more) {
         const std::uint32_t sector = appendSector(0xFF);
         fat_.resize(fat_.size() + sectorSize() / 4, freeSector);
         fatSectors_.push_back(sector);

@@ -17,7 +17,11 @@ private:
     void resizeChain(CompoundFile::Chain& chain, std::size_t sectors);
     std::uint32_t allocate();
     std::uint32_t appendSector(std::uint8_t fill);
-    void coverByFat();
+    bool isFree(std::uint32_t sector) const;
+    std::uint32_t covered() const; ///< sectors that there are and that the table tells of
+    void growTable(std::size_t sectors);
+    /// Extends the table so that it tells of all sectors and of `more` to come.
+    void coverByFat(std::size_t more);
     void listFatSector(std::uint32_t sector, std::size_t index);
     std::size_t difatSlot(std::size_t index);
     void writeContents(const CompoundFile::Chain& chain, ByteView contents);

@@ -13,31 +13,33 @@ constexpr std::uint32_t columns = 256;
 constexpr std::uint8_t expressionToken = 0x01;
 constexpr std::uint8_t tableToken = 0x02;
 
-std::size_t smallestPayload(RecordType type) {
+/// Sizes of cell records: the smallest payload, and what each further column of a run takes.
+struct Shape {
+    std::uint8_t smallest;
+    std::uint8_t step;
+};
+
+constexpr Shape shapeOf(RecordType type) {
     switch (type) {
     case RecordType::Formula:
-        return 22;
+        return {22, 0};
     case RecordType::Number:
-        return 14;
+        return {14, 0};
     case RecordType::Rk:
     case RecordType::LabelSst:
-        return 10;
+        return {10, 0};
     case RecordType::MulRk:
-        return 12;
+        return {12, 6};
     case RecordType::Label:
     case RecordType::RString:
-        return 9;
+        return {9, 0};
     case RecordType::BoolErr:
+        return {8, 0};
     case RecordType::MulBlank:
-        return 8;
+        return {8, 2};
     default:
-        return 6;
+        return {6, 0};
     }
-}
-
-/// Bytes that each further column of a run takes; 0 for records of a single cell.
-std::size_t runStep(RecordType type) {
-    return type == RecordType::MulRk ? 6 : type == RecordType::MulBlank ? 2 : 0;
 }
 
 void put(SmallRecord& record, std::uint32_t value, int size) {
@@ -71,10 +73,10 @@ SmallRecord encodeNumber(CellKey key, std::uint16_t format, double number) {
 } // namespace
 
 ColumnRun checkedColumns(const Record& record) {
-    record.require(smallestPayload(record.type()));
+    const Shape shape = shapeOf(record.type());
+    record.require(shape.smallest);
     ColumnRun run{record.u16(2), 1};
-    if (const std::size_t step = runStep(record.type()))
-        run.count = static_cast<std::uint32_t>((record.payload.size() - 6) / step);
+    if (shape.step != 0) run.count = static_cast<std::uint32_t>((record.payload.size() - 6) / shape.step);
     if (run.first + run.count > columns)
         throw FormatError(Refusal::Damaged, recordName(record.id), record.offset, "columns below 256",
                           "column " + std::to_string(run.first + run.count - 1));
@@ -82,7 +84,7 @@ ColumnRun checkedColumns(const Record& record) {
 }
 
 std::uint16_t cellFormat(const Record& record, std::uint32_t column) {
-    return record.u16(4 + (column - record.u16(2)) * runStep(record.type()));
+    return record.u16(4 + (column - record.u16(2)) * shapeOf(record.type()).step);
 }
 
 SmallRecord encodeCell(CellKey key, std::uint16_t format, const CellContent& content) {

@@ -4,31 +4,17 @@
 
 namespace zvonika::xls {
 
-namespace {
-
-[[noreturn]] void throwCutOff(ByteView stream, std::uint32_t offset, std::size_t wanted) {
+void throwRecordCutOff(ByteView stream, std::uint32_t offset, std::size_t wanted) {
     const std::size_t left = offset < stream.size() ? stream.size() - offset : 0;
     const std::string place = left >= 2 ? recordName(load16(stream.data() + offset)) : "record header";
     throw FormatError(Refusal::Truncated, place, offset, std::to_string(wanted) + " bytes",
                       std::to_string(left) + " bytes to the end of the stream");
 }
 
-} // namespace
-
 void Record::require(std::size_t size) const {
     if (payload.size() >= size) return;
     throw FormatError(Refusal::Damaged, recordName(id), offset, "at least " + std::to_string(size) + " bytes",
                       std::to_string(payload.size()) + " bytes");
-}
-
-Record recordAt(ByteView stream, std::uint32_t offset) {
-    if (stream.size() < recordHeaderSize || offset > stream.size() - recordHeaderSize)
-        throwCutOff(stream, offset, recordHeaderSize);
-    const std::uint8_t* header = stream.data() + offset;
-    const std::size_t size = load16(header + 2);
-    if (size > stream.size() - recordHeaderSize - offset)
-        throwCutOff(stream, offset, recordHeaderSize + size);
-    return {load16(header), offset, stream.subspan(offset + recordHeaderSize, size)};
 }
 
 bool isRecordAt(ByteView stream, std::size_t offset, RecordType type) {

@@ -30,9 +30,19 @@ struct Record {
     void require(std::size_t size) const;
 };
 
+[[noreturn]] void throwRecordCutOff(ByteView stream, std::uint32_t offset, std::size_t wanted);
+
 /// The record whose header stands at `offset`. Throws FormatError (Truncated) when the stream ends before the
 /// record.
-Record recordAt(ByteView stream, std::uint32_t offset);
+inline Record recordAt(ByteView stream, std::uint32_t offset) {
+    if (stream.size() < recordHeaderSize || offset > stream.size() - recordHeaderSize)
+        throwRecordCutOff(stream, offset, recordHeaderSize);
+    const std::uint8_t* header = stream.data() + offset;
+    const std::size_t size = load16(header + 2);
+    if (size > stream.size() - recordHeaderSize - offset)
+        throwRecordCutOff(stream, offset, recordHeaderSize + size);
+    return {load16(header), offset, stream.subspan(offset + recordHeaderSize, size)};
+}
 
 /// Whether a whole record of this type stands at `offset`; false at the end of the stream, too.
 bool isRecordAt(ByteView stream, std::size_t offset, RecordType type);

@@ -118,6 +118,11 @@ constexpr bool isCellRecord(RecordType type) {
     }
 }
 
+/// True for a record that holds no value, only a format.
+constexpr bool isBlankRecord(RecordType type) {
+    return type == RecordType::Blank || type == RecordType::MulBlank;
+}
+
 /// True for the records that belong to the cell record before them.
 constexpr bool followsCell(RecordType type) {
     return type == RecordType::Continue || type == RecordType::String || type == RecordType::ShrFmla ||

@@ -53,8 +53,30 @@ std::uint32_t SharedStrings::chunkEnd(std::uint32_t position) const {
     return *std::ranges::upper_bound(chunkEnds_, position);
 }
 
-std::u16string SharedStrings::at(std::uint32_t index) const {
-    return readInlineText(stream_, starts_[index], chunkEnd(starts_[index]));
+/// The characters of a text without formatting that lies in one record, as most do; else null.
+const std::uint8_t* SharedStrings::plainUnits(std::uint32_t index, std::size_t& units, bool& wide) const {
+    const std::uint32_t start = starts_[index];
+    const std::uint32_t end = chunkEnd(start);
+    if (end - start < smallestText) return nullptr;
+    const std::uint8_t flags = stream_[start + 2];
+    units = load16(&stream_[start]);
+    wide = flags & 1;
+    const std::size_t bytes = units << static_cast<unsigned>(wide);
+    return (flags & ~1) == 0 && end - start - smallestText >= bytes ? stream_.data() + start + smallestText
+                                                                    : nullptr;
+}
+
+void SharedStrings::read(std::uint32_t index, std::u16string& text) const {
+    std::size_t units = 0;
+    bool wide = false;
+    const std::uint8_t* bytes = plainUnits(index, units, wide);
+    if (!bytes) {
+        text = readInlineText(stream_, starts_[index], chunkEnd(starts_[index]));
+        return;
+    }
+    text.resize(units);
+    for (std::size_t i = 0; i < units; ++i)
+        text[i] = static_cast<char16_t>(wide ? load16(bytes + 2 * i) : bytes[i]);
 }
 
 std::vector<std::optional<std::uint32_t>> SharedStrings::find(const TextPool& pool) const {

@@ -19,8 +19,8 @@ public:
     SharedStrings(ByteView stream, std::uint32_t offset);
 
     std::uint32_t size() const { return static_cast<std::uint32_t>(starts_.size()); }
-    /// The text without its formatting. `index` < size().
-    std::u16string at(std::uint32_t index) const;
+    /// Puts the text without its formatting into `text`. `index` < size().
+    void read(std::uint32_t index, std::u16string& text) const;
 
     /// Looks for the pool's texts among the unformatted ones: result[id of the pool] is an index here or
     /// none.
@@ -37,6 +37,7 @@ private:
     void findChunks();
     void findTexts(std::uint32_t count);
     std::uint32_t chunkEnd(std::uint32_t position) const;
+    const std::uint8_t* plainUnits(std::uint32_t index, std::size_t& units, bool& wide) const;
 
     ByteView stream_;
     std::uint32_t recordOffset_ = 0;
