@@ -105,9 +105,10 @@ void CompoundFile::readDifat() {
 }
 
 CompoundFile::Chain CompoundFile::follow(const std::vector<std::uint32_t>& table, std::uint32_t first,
-                                         std::vector<bool>& used, const char* place) const {
+                                         std::vector<bool>& used, const char* place,
+                                         std::uint64_t most) const {
     Chain chain;
-    for (std::uint32_t sector = first; sector != endOfChain; sector = table[sector]) {
+    for (std::uint32_t sector = first; sector != endOfChain && chain.size() < most; sector = table[sector]) {
         if (sector >= used.size() && sector <= lastRegularSector)
             refuse(Refusal::Truncated, place, sectorOffset(sector),
                    "a sector below " + std::to_string(used.size()), std::to_string(sector));
@@ -135,9 +136,11 @@ void CompoundFile::readDirectory() {
 
 void CompoundFile::readMiniFat() {
     const std::uint8_t* root = &file_[entryOffset(0)];
-    if (streamSize(0) == 0) return;
+    const std::uint64_t size = streamSize(0);
+    if (size == 0) return;
     miniFatSectors_ = follow(fat_, load32(&file_[Header::firstMiniFatSector]), used_, "mini FAT");
-    miniStreamSectors_ = follow(fat_, load32(root + Entry::firstSector), used_, "mini stream");
+    miniStreamSectors_ =
+        follow(fat_, load32(root + Entry::firstSector), used_, "mini stream", sectorsFor(size));
     for (const std::uint32_t sector : miniFatSectors_) {
         const std::size_t begin = sectorOffset(sector);
         if (file_.size() - begin < sectorSize())
@@ -218,14 +221,18 @@ CompoundFile::Bytes CompoundFile::gather(const Chain& chain, std::uint64_t size,
     return out;
 }
 
-CompoundFile::Bytes CompoundFile::readMini(std::uint32_t entry, std::uint64_t size) const {
+CompoundFile::Chain CompoundFile::miniChain(std::uint32_t entry) const {
+    std::vector<bool> used(miniFat_.size());
+    const std::uint64_t most = (streamSize(entry) + miniSectorSize - 1) / miniSectorSize;
     const std::uint32_t first = load32(&file_[entryOffset(entry) + Entry::firstSector]);
+    return follow(miniFat_, first, used, "mini stream chain", most);
+}
+
+CompoundFile::Bytes CompoundFile::readMini(std::uint32_t entry, std::uint64_t size) const {
     const std::uint64_t rootSize = streamSize(0);
     const Bytes mini = gather(miniStreamSectors_, rootSize, "mini stream");
-    std::vector<bool> used(mini.size() / miniSectorSize + 1);
-    const Chain chain = size == 0 ? Chain() : follow(miniFat_, first, used, "mini stream chain");
     Bytes out;
-    for (const std::uint32_t sector : chain) {
+    for (const std::uint32_t sector : miniChain(entry)) {
         const std::size_t begin = static_cast<std::size_t>(sector) * miniSectorSize;
         const std::size_t wanted =
             std::min<std::size_t>(static_cast<std::size_t>(size) - out.size(), miniSectorSize);
@@ -248,7 +255,7 @@ CompoundFile::Bytes CompoundFile::readStream(std::uint32_t entry) const {
 CompoundFile::Chain CompoundFile::streamChain(std::uint32_t entry) const {
     std::vector<bool> used = used_;
     const std::uint32_t first = load32(&file_[entryOffset(entry) + Entry::firstSector]);
-    return follow(fat_, first, used, "stream");
+    return follow(fat_, first, used, "stream", sectorsFor(streamSize(entry)));
 }
 
 std::optional<ByteView> CompoundFile::viewStream(std::uint32_t entry) const {

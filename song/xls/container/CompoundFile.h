@@ -55,10 +55,15 @@ private:
     /// Streams and storages directly under the root, in no order.
     std::vector<std::uint32_t> rootMembers() const;
 
-    /// Follows a chain through a sector table; `used` marks the sectors and must not have them marked
-    /// already.
+    /// Follows a chain through a sector table to its end, but not beyond `most` sectors: some writers let the
+    /// chains of short streams run on into what stands behind. `used` marks the sectors and must not have
+    /// them marked already.
     Chain follow(const std::vector<std::uint32_t>& table, std::uint32_t first, std::vector<bool>& used,
-                 const char* place) const;
+                 const char* place, std::uint64_t most = ~std::uint64_t{0}) const;
+    /// The sectors of a stream in the mini stream.
+    Chain miniChain(std::uint32_t entry) const;
+    /// Sectors that so many bytes take.
+    std::uint64_t sectorsFor(std::uint64_t bytes) const { return (bytes + sectorSize() - 1) >> sectorShift_; }
     Chain streamChain(std::uint32_t entry) const;
     Bytes gather(const Chain& chain, std::uint64_t size, const char* place) const;
     Bytes readMini(std::uint32_t entry, std::uint64_t size) const;

@@ -31,22 +31,13 @@ CompoundFile::Bytes CompoundFileWriter::replaceStream(std::uint32_t entry, ByteV
 }
 
 CompoundFile::Chain CompoundFileWriter::releaseOldStream(std::uint32_t entry) {
-    const std::uint32_t first = load32(&out_[source_.entryOffset(entry) + Entry::firstSector]);
-    if (!source_.isInMiniStream(entry)) {
-        std::vector<bool> used = source_.used_;
-        return source_.follow(fat_, first, used, "stream");
-    }
-    if (source_.streamSize(entry) > 0) releaseMiniChain(first);
-    return {};
-}
-
-void CompoundFileWriter::releaseMiniChain(std::uint32_t first) {
+    if (!source_.isInMiniStream(entry)) return source_.streamChain(entry);
     const std::uint32_t perSector = sectorSize() / 4;
-    std::vector<bool> used(source_.miniFat_.size());
-    for (const std::uint32_t sector : source_.follow(source_.miniFat_, first, used, "mini stream chain")) {
+    for (const std::uint32_t sector : source_.miniChain(entry)) {
         const std::size_t table = offsetOf(source_.miniFatSectors_[sector / perSector]);
         store32(&out_[table + 4 * (sector % perSector)], freeSector);
     }
+    return {};
 }
 
 void CompoundFileWriter::resizeChain(CompoundFile::Chain& chain, std::size_t sectors) {

@@ -13,7 +13,6 @@ public:
 
 private:
     CompoundFile::Chain releaseOldStream(std::uint32_t entry);
-    void releaseMiniChain(std::uint32_t first);
     void resizeChain(CompoundFile::Chain& chain, std::size_t sectors);
     std::uint32_t allocate();
     std::uint32_t appendSector(std::uint8_t fill);
