@@ -45,7 +45,7 @@ class Case:
         self.old, self.same, self.new = (os.path.join(work, kind + "-" + self.name + ".xls") for kind in ("old", "same", "new"))
         with open(path, "rb") as source, open(self.old, "wb") as copy:
             copy.write(source.read())
-        self.before = biff.Book(workbook_stream(self.old))
+        self.before = biff.Book(readers.workbook_stream(self.old))
         self.changes = editing.choose(self.before)
 
     def run(self, tool):
@@ -57,16 +57,11 @@ class Case:
         if done.returncode:
             complain(self.name, "open and save", "no error", done.stderr)
             return False
-        self.after = biff.Book(workbook_stream(self.new))
+        self.after = biff.Book(readers.workbook_stream(self.new))
         return True
 
     def formulas(self, sheet):
         return {cell.key for cell in self.before.worksheets[sheet].cells if cell.kind == biff.FORMULA}
-
-
-def workbook_stream(path):
-    with olefile.OleFileIO(path) as container:
-        return container.openstream("Workbook").read()
 
 
 def streams(path):
@@ -96,7 +91,7 @@ def check_bytes(case):
 def check_offsets(case):
     """Sheet offsets, row blocks and the index of the shared strings; pairs that the file itself splits may stay so."""
     foreign_readers.faults.clear()
-    foreign_readers.shared_string_starts(foreign_readers.records(workbook_stream(case.old)))
+    foreign_readers.shared_string_starts(foreign_readers.records(readers.workbook_stream(case.old)))
     splits = len(foreign_readers.faults)
     foreign_readers.check_structure(case.new, case.old, olefile)
     for fault in foreign_readers.faults[splits:]:
@@ -137,9 +132,8 @@ LOOKS = ("merged_cells", "cell_note_map", "rich_text_runlist_map", "colinfo_map"
          "horz_split_pos", "vert_split_pos", "header_str" if hasattr(xlrd.sheet.Sheet, "header_str") else "name")
 
 
-def looks(path):
+def looks(book):
     """What xlrd knows besides values: formats, names, merged cells, comments, frozen panes ..."""
-    book = xlrd.open_workbook(path, formatting_info=True)
     plain = lambda thing: {k: v for k, v in vars(thing).items() if not isinstance(v, xlrd.book.Book) and k != "book"}
     deep = lambda thing: repr(plain(thing)) if hasattr(thing, "__dict__") else repr(thing)
     out = {"names": [deep(name.raw_formula) + name.name for name in book.name_obj_list], "formats": len(book.xf_list),
@@ -155,7 +149,8 @@ def looks(path):
 
 
 def check_looks(case):
-    old, new = looks(case.old), looks(case.new)
+    old = looks(readers.book(case.old, formatting_info=True))
+    new = looks(xlrd.open_workbook(case.new, formatting_info=True))
     for what, value in old.items():
         found = new.get(what)
         if isinstance(value, dict):

@@ -5,6 +5,7 @@ import os
 import shutil
 import subprocess
 
+import olefile
 import xlrd
 
 HERE = os.path.dirname(os.path.abspath(__file__))
@@ -14,10 +15,23 @@ SILENT = {"stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL, "check": T
 xlrd.book.unicode = lambda data, encoding: data.decode(encoding, "surrogatepass")
 
 
+def workbook_stream(path):
+    with olefile.OleFileIO(path) as container:
+        return container.openstream("Workbook").read()
+
+
+def book(path, **options):
+    """Opens with xlrd; where it refuses a writer's container, as it stands in its workbook stream."""
+    try:
+        return xlrd.open_workbook(path, **options)
+    except xlrd.compdoc.CompDocError:
+        return xlrd.open_workbook(file_contents=workbook_stream(path), **options)
+
+
 def with_xlrd(paths, _):
     out = {}
     for path in paths:
-        sheets = xlrd.open_workbook(path, formatting_info=True).sheets()
+        sheets = book(path, formatting_info=True).sheets()
         out[path] = [{(row, column): sheet.cell_value(row, column) for row in range(sheet.nrows)
                       for column in range(sheet.row_len(row))
                       if sheet.cell_value(row, column) != ""}
@@ -27,7 +41,7 @@ def with_xlrd(paths, _):
 
 def worksheets(path):
     """Names, chart sheets left out."""
-    return xlrd.open_workbook(path).sheet_names()
+    return book(path).sheet_names()
 
 
 def from_csv(path):

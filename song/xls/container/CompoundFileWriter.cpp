@@ -20,6 +20,7 @@ CompoundFile::Bytes CompoundFileWriter::replaceStream(std::uint32_t entry, ByteV
     out_ = source_.file_;
     out_.resize(offsetOf(sectorCount_)); // the last sector may have been cut short
 
+    endMiniStream();
     CompoundFile::Chain chain = releaseOldStream(entry);
     resizeChain(chain, sectors);
     writeContents(chain, contents);
@@ -28,6 +29,12 @@ CompoundFile::Bytes CompoundFileWriter::replaceStream(std::uint32_t entry, ByteV
     store64(directoryEntry + Entry::size, size);
     writeTables();
     return std::move(out_);
+}
+
+/// Where a writer let the mini stream run on into the next stream, two chains would go through the sectors
+/// that are laid out anew; strict readers refuse that.
+void CompoundFileWriter::endMiniStream() {
+    if (!source_.miniStreamSectors_.empty()) fat_[source_.miniStreamSectors_.back()] = endOfChain;
 }
 
 CompoundFile::Chain CompoundFileWriter::releaseOldStream(std::uint32_t entry) {

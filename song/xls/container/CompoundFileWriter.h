@@ -12,6 +12,7 @@ public:
     CompoundFile::Bytes replaceStream(std::uint32_t entry, ByteView contents);
 
 private:
+    void endMiniStream();
     CompoundFile::Chain releaseOldStream(std::uint32_t entry);
     void resizeChain(CompoundFile::Chain& chain, std::size_t sectors);
     std::uint32_t allocate();
