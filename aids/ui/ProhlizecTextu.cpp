@@ -2,6 +2,8 @@
 
 #include <QDir>
 #include <QFile>
+#include <QImage>
+#include <QTextFrame>
 
 #include <algorithm>
 
@@ -11,9 +13,10 @@ namespace {
 
 using Zachazeni = PovoleneAdresy::Zachazeni;
 
-/// What the text document does not know of the page's own style sheet, and what looks better in it.
-const QString stylDoplnku =
-    QStringLiteral("h1 { font-size: 22pt; } h2 { font-size: 16pt; } h3 { font-size: 13pt; }");
+constexpr int nejsirsiSloupec = 760; ///< px; longer lines are hard to read
+constexpr int nejmensiOkraj = 20;
+constexpr int velikostPisma = 16;      ///< px, from which headings take theirs
+constexpr double bodyNaPixel = 0.5;    ///< pictures hold two pixels a point, to be sharp on fine screens
 
 QString chybovaStranka(const QUrl& adresa) {
     return QStringLiteral("<html><head><title>Stránku nelze zobrazit</title></head><body>"
@@ -35,8 +38,9 @@ ProhlizecTextu::ProhlizecTextu(const MistoProhlizece& misto)
     : QTextBrowser(misto.rodic), povolene_(misto.povolene), sledovani_(misto.sledovani) {
     setOpenExternalLinks(false);
     setFrameShape(QFrame::NoFrame);
-    document()->setDocumentMargin(24);
-    document()->setDefaultStyleSheet(stylDoplnku);
+    QFont pismo = font();
+    pismo.setPixelSize(velikostPisma);
+    document()->setDefaultFont(pismo);
     connect(this, &QTextBrowser::historyChanged, this, [this] { sledovani_.historieZmenena(); });
     connect(this, &QTextBrowser::sourceChanged, this, [this](const QUrl& kam) { sledovani_.prejito(kam); });
 }
@@ -50,6 +54,7 @@ void ProhlizecTextu::doSetSource(const QUrl& name, QTextDocument::ResourceType) 
     if (cela.isLocalFile() && povolene_.zachazeni(cela) == Zachazeni::Zobrazit) {
         // The kind is given, because an unknown ending would be taken for plain text.
         QTextBrowser::doSetSource(cela, QTextDocument::HtmlResource);
+        srovnejSloupec();
         return;
     }
     if (povolene_.zachazeni(cela) == Zachazeni::Odmitnout)
@@ -58,11 +63,40 @@ void ProhlizecTextu::doSetSource(const QUrl& name, QTextDocument::ResourceType) 
         sledovani_.odkazVen(cela);
 }
 
+void ProhlizecTextu::resizeEvent(QResizeEvent* event) {
+    QTextBrowser::resizeEvent(event);
+    srovnejSloupec();
+}
+
+void ProhlizecTextu::srovnejSloupec() {
+    const int okraj = std::max(nejmensiOkraj, (viewport()->width() - nejsirsiSloupec) / 2);
+    QTextFrame* koren = document()->rootFrame();
+    QTextFrameFormat podoba = koren->frameFormat();
+    if (int(podoba.leftMargin()) == okraj) return;
+    podoba.setMargin(nejmensiOkraj);
+    podoba.setPadding(0);
+    podoba.setLeftMargin(okraj);
+    podoba.setRightMargin(okraj);
+    koren->setFrameFormat(podoba);
+}
+
 QVariant ProhlizecTextu::loadResource(int type, const QUrl& name) {
     const QUrl cela = source().isEmpty() ? name : source().resolved(name);
     if (!cela.isLocalFile() || povolene_.zachazeni(cela) != Zachazeni::Zobrazit) return {};
     if (type == QTextDocument::HtmlResource) return stranka(cela);
+    if (type == QTextDocument::ImageResource) return obrazek(cela);
     return QTextBrowser::loadResource(type, cela);
+}
+
+QVariant ProhlizecTextu::obrazek(const QUrl& adresa) const {
+    QImage obraz(adresa.toLocalFile());
+    if (obraz.isNull()) return {};
+    // Scaled here, because the document would leave out pixels.
+    const qreal jemnost = devicePixelRatioF();
+    if (jemnost * bodyNaPixel < 1)
+        obraz = obraz.scaledToWidth(qRound(obraz.width() * jemnost * bodyNaPixel), Qt::SmoothTransformation);
+    obraz.setDevicePixelRatio(std::min(jemnost, 1 / bodyNaPixel));
+    return obraz;
 }
 
 QString ProhlizecTextu::stranka(const QUrl& adresa) const {

@@ -28,10 +28,13 @@ public:
     QVariant loadResource(int type, const QUrl& name) override;
 
 protected:
+    void resizeEvent(QResizeEvent* event) override;
     void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override;
 
 private:
+    void srovnejSloupec();
     QString stranka(const QUrl& adresa) const;
+    QVariant obrazek(const QUrl& adresa) const;
     void ukazNalezy(const QList<QTextCursor>& nalezy);
 
     const PovoleneAdresy& povolene_;
