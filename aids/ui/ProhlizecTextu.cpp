@@ -15,8 +15,8 @@ using Zachazeni = PovoleneAdresy::Zachazeni;
 
 constexpr int nejsirsiSloupec = 760; ///< px; longer lines are hard to read
 constexpr int nejmensiOkraj = 20;
-constexpr int velikostPisma = 16;      ///< px, from which headings take theirs
-constexpr double bodyNaPixel = 0.5;    ///< pictures hold two pixels a point, to be sharp on fine screens
+constexpr int velikostPisma = 16;   ///< px, from which headings take theirs
+constexpr double bodyNaPixel = 0.5; ///< pictures hold two pixels a point, to be sharp on fine screens
 
 QString chybovaStranka(const QUrl& adresa) {
     return QStringLiteral("<html><head><title>Stránku nelze zobrazit</title></head><body>"
@@ -69,7 +69,10 @@ void ProhlizecTextu::resizeEvent(QResizeEvent* event) {
 }
 
 void ProhlizecTextu::srovnejSloupec() {
-    const int okraj = std::max(nejmensiOkraj, (viewport()->width() - nejsirsiSloupec) / 2);
+    const int zbyva = (viewport()->width() - nejsirsiSloupec) / 2;
+    const int okraj = std::max(nejmensiOkraj, zbyva);
+    // Where the column fits, nothing of the page is wider; frames of tables are counted in too generously.
+    setHorizontalScrollBarPolicy(zbyva >= 0 ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
     QTextFrame* koren = document()->rootFrame();
     QTextFrameFormat podoba = koren->frameFormat();
     if (int(podoba.leftMargin()) == okraj) return;
@@ -91,6 +94,7 @@ QVariant ProhlizecTextu::loadResource(int type, const QUrl& name) {
 QVariant ProhlizecTextu::obrazek(const QUrl& adresa) const {
     QImage obraz(adresa.toLocalFile());
     if (obraz.isNull()) return {};
+    obraz.convertTo(QImage::Format_ARGB32_Premultiplied); // in few colours it would be scaled into few again
     // Scaled here, because the document would leave out pixels.
     const qreal jemnost = devicePixelRatioF();
     if (jemnost * bodyNaPixel < 1)
