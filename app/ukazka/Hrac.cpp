@@ -27,11 +27,11 @@ void Hrac::prevezmiOkno() {
     // Two windows come up at once and either may get the keyboard: the player turns to the main one.
     if (!QTest::qWaitForWindowExposed(&program_.okno(), trpelivost))
         throw std::runtime_error("hlavní okno není vidět");
-    for (int pokus = 0; pokus < 10 && !program_.okno().isActiveWindow(); ++pokus) {
+    for (int pokus = 0; pokus < 10; ++pokus) {
         program_.prejdiNaHlavniOkno();
-        QTest::qWaitForWindowActive(&program_.okno(), trpelivost / 10);
+        if (QTest::qWaitForWindowActive(&program_.okno(), trpelivost / 10)) return;
     }
-    if (!program_.okno().isActiveWindow()) throw std::runtime_error("hlavní okno nedostalo klávesnici");
+    throw std::runtime_error("hlavní okno nedostalo klávesnici");
 }
 
 void Hrac::cekejNaOkno(QWidget* okno, const QString& ktere) {
