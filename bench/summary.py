@@ -7,7 +7,7 @@ import sys
 
 # Benchmark: (median, 99th percentile) aimed at, in ms; None where nothing is set.
 AIMS = {"cmdDalsi": (8, 16), "cmdJakDal": (8, 16), "Timer1": (8, 16), "cmdTah": (16, None)}
-AIM_DRIFT_MS = 1
+AIM_DRIFT_MS = 10
 AIM_CONVERSION = (500, 1000)  # grips of seven tones, ms
 AIM_START_MS = 150
 AIM_RESIDENT_MB = 60
@@ -48,10 +48,10 @@ def steps(results):
 
 
 def tempo(results):
-    print(f"Automatic stepping in real time: {results['grips']} grips at {results['interval_ms']} ms")
+    print(f"Automatic stepping in real time: {results['steps']} steps at {results['interval_ms']} ms")
     print(f"  drift over the whole {results['drift_ms']:.3f} ms  {verdict((abs(results['drift_ms']),), (AIM_DRIFT_MS,))}")
     print(f"  a step comes late by {results['late_median_ms']:.2f} (median), {results['late_p99_ms']:.2f} (p99), "
-          f"{results['late_max_ms']:.2f} ms at most; {results['painted']} grips painted, {results['row'] - 1} steps made")
+          f"{results['late_max_ms']:.2f} ms at most; {results['grips']} grips reached, {results['painted']} painted")
 
 
 def conversion(results):
