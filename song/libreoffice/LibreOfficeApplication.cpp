@@ -6,8 +6,10 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QRandomGenerator>
+#include <QScopeGuard>
 
 #include <algorithm>
+#include <utility>
 
 namespace zvonika {
 
@@ -69,14 +71,25 @@ void LibreOfficeApplication::connectTo(const QString& pipe) {
     const CalcAddress address{surroundings_.installation.program, pipe,
                               [process = process_] { return process->running(); }};
     auto engine = std::make_shared<std::shared_ptr<CalcEngine>>();
-    calls_.run(surroundings_.patience.start, [connect, address, engine, notices = notices_] {
-        *engine = std::shared_ptr<CalcEngine>(connect(address, *notices),
-                                              [notices](CalcEngine* ended) { delete ended; });
-    });
+    try {
+        carryOut(surroundings_.patience.start, [connect, address, engine, notices = notices_] {
+            *engine = std::shared_ptr<CalcEngine>(connect(address, *notices),
+                                                  [notices](CalcEngine* ended) { delete ended; });
+        });
+    } catch (const AutomationError& failure) {
+        throw AutomationError(error::cannotCreateObject, failure.cause());
+    }
     engine_ = *engine;
     if (!engine_)
         throw AutomationError(error::cannotCreateObject,
                               QStringLiteral("LibreOffice Calc se po spuštění hned ukončil."));
+}
+
+void LibreOfficeApplication::carryOut(milliseconds patience, const std::function<void()>& calls) const {
+    const auto over = qScopeGuard([this] {
+        if (std::exchange(felt_, false) && surroundings_.signOver) surroundings_.signOver();
+    });
+    calls_.run(patience, calls);
 }
 
 LibreOfficeApplication::~LibreOfficeApplication() {
@@ -163,7 +176,7 @@ void LibreOfficeApplication::endCalc() {
     }
     state_ = State::Ended;
     process_->end();
-    calls_.run(surroundings_.patience.cell, [engine = std::exchange(engine_, nullptr)] {});
+    carryOut(surroundings_.patience.cell, [engine = std::exchange(engine_, nullptr)] {});
 }
 
 void LibreOfficeApplication::addWorkbook() {

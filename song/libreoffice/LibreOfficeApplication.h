@@ -98,6 +98,7 @@ private:
 
     void start();
     void connectTo(const QString& pipe);
+    void carryOut(Milliseconds patience, const std::function<void()>& calls) const;
     void requireRunning() const;
     bool alive() const;
     bool wantsToWait() const;
@@ -126,7 +127,7 @@ private:
     SpreadsheetListener* listener_ = nullptr;
     CellBlock clipboard_;
     State state_ = State::Running;
-    bool felt_ = false; ///< the user has been shown that Calc takes its time
+    mutable bool felt_ = false; ///< the user has been shown that Calc takes its time
     std::shared_ptr<OfficeProcess> process_;
     std::shared_ptr<UserNotices> notices_;
     std::shared_ptr<CalcEngine> engine_;
@@ -139,11 +140,11 @@ auto LibreOfficeApplication::ask(Milliseconds patience, Calls calls) const {
     requireRunning();
     // Shared, because a call that never ends stays behind with what it holds.
     if constexpr (std::is_void_v<Result>) {
-        calls_.run(patience, [engine = engine_, calls]() mutable { calls(*engine); });
+        carryOut(patience, [engine = engine_, calls]() mutable { calls(*engine); });
         notices_->deliverAgain();
     } else {
         auto result = std::make_shared<std::optional<Result>>();
-        calls_.run(patience, [engine = engine_, calls, result]() mutable { *result = calls(*engine); });
+        carryOut(patience, [engine = engine_, calls, result]() mutable { *result = calls(*engine); });
         notices_->deliverAgain();
         return std::move(**result);
     }

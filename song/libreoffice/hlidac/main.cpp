@@ -39,7 +39,6 @@ sigset_t catchSignals() {
         sigaction(number, &action, nullptr);
         sigaddset(&blocked, number);
     }
-    signal(SIGPIPE, SIG_IGN);
     sigprocmask(SIG_BLOCK, &blocked, &before);
     return before;
 }

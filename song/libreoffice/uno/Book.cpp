@@ -20,22 +20,22 @@ const rtl::OUString xlsFilter("MS Excel 97");
 }
 
 std::unique_ptr<Book> Book::of(const Ref<css::lang::XComponent>& document, CalcObserver& observer,
-                               const Ref<css::frame::XDispatchHelper>& dispatcher) {
+                               const Ref<css::frame::XDispatchHelper>& dispatcher, Keeper& keeper) {
     const auto spreadsheet = as<css::sheet::XSpreadsheetDocument>(document);
     const auto model = as<css::frame::XModel>(document);
     if (!spreadsheet.is() || !model.is() || !model->getCurrentController().is()) return nullptr;
-    std::unique_ptr<Book> book(new Book(model, spreadsheet->getSheets(), observer, dispatcher));
+    std::unique_ptr<Book> book(new Book(model, spreadsheet->getSheets(), observer, dispatcher, keeper));
     if (const QString path = book->description().path; !path.isEmpty()) observer.fileOpened(path);
     return book;
 }
 
 Book::Book(const Ref<css::frame::XModel>& model, const Ref<css::sheet::XSpreadsheets>& sheets,
-           CalcObserver& observer, const Ref<css::frame::XDispatchHelper>& dispatcher)
-    : observer_(observer), dispatcher_(dispatcher), model_(model), identity_(model, css::uno::UNO_QUERY),
-      sheets_(sheets), controller_(model->getCurrentController()),
+           CalcObserver& observer, const Ref<css::frame::XDispatchHelper>& dispatcher, Keeper& keeper)
+    : observer_(observer), keeper_(keeper), dispatcher_(dispatcher), model_(model),
+      identity_(model, css::uno::UNO_QUERY), sheets_(sheets), controller_(model->getCurrentController()),
       view_(controller_, css::uno::UNO_QUERY_THROW), frame_(controller_->getFrame()),
-      values_(as<css::util::XNumberFormatsSupplier>(model)->getNumberFormats()),
-      events_(new UserEvents(observer)) {
+      values_(as<css::util::XNumberFormatsSupplier>(model)->getNumberFormats(), keeper),
+      events_(new UserEvents(observer, keeper)) {
     events_->listenTo(model_, controller_);
 }
 
@@ -68,8 +68,9 @@ bool Book::isXls() const {
 void Book::refuseWhatXlsLoses() const {
     const auto all = as<css::container::XIndexAccess>(sheets_);
     for (sal_Int32 i = 0; i < all->getCount(); ++i) {
-        Ref<css::sheet::XSpreadsheet> sheet(all->getByIndex(i), css::uno::UNO_QUERY_THROW);
-        const CellPosition end = usedEnd(sheet);
+        const auto sheet =
+            keeper_.keep(Ref<css::sheet::XSpreadsheet>(all->getByIndex(i), css::uno::UNO_QUERY_THROW));
+        const CellPosition end = usedEnd(sheet, keeper_);
         if (end.row > lastRow || end.column > lastColumn)
             refuse(QStringLiteral("Sešit nelze uložit: formát .xls končí řádkem %1 a sloupcem %2.")
                        .arg(lastRow)
@@ -77,9 +78,11 @@ void Book::refuseWhatXlsLoses() const {
     }
 }
 
-// A cell that is being typed in is taken over only when the cursor moves, be it to where it is.
+// What is being typed in a cell is taken over when the cursor leaves it.
 void Book::commitEntry() {
-    select(selection());
+    const CellPosition here = cursor();
+    select(single({here.row > 1 ? here.row - 1 : here.row + 1, here.column}));
+    select(single(here));
 }
 
 void Book::saveAs(const QString& nativePath) {
@@ -103,7 +106,6 @@ void Book::save() {
 }
 
 void Book::close() {
-    as<css::util::XModifiable>(model_)->setModified(false);
     as<css::util::XCloseable>(model_)->close(false);
 }
 

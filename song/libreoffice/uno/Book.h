@@ -20,7 +20,7 @@ class Book {
 public:
     /// nullptr when the document is no spreadsheet.
     static std::unique_ptr<Book> of(const Ref<css::lang::XComponent>& document, CalcObserver& observer,
-                                    const Ref<css::frame::XDispatchHelper>& dispatcher);
+                                    const Ref<css::frame::XDispatchHelper>& dispatcher, Keeper& keeper);
     ~Book();
     Book(const Book&) = delete;
     Book& operator=(const Book&) = delete;
@@ -60,13 +60,14 @@ public:
 
 private:
     Book(const Ref<css::frame::XModel>& model, const Ref<css::sheet::XSpreadsheets>& sheets,
-         CalcObserver& observer, const Ref<css::frame::XDispatchHelper>& dispatcher);
+         CalcObserver& observer, const Ref<css::frame::XDispatchHelper>& dispatcher, Keeper& keeper);
     Ref<css::sheet::XSpreadsheet> sheet() const;
     void refuseWhatXlsLoses() const;
     void commitEntry();
     QString title() const;
 
     CalcObserver& observer_;
+    Keeper& keeper_;
     Ref<css::frame::XDispatchHelper> dispatcher_;
     Ref<css::frame::XModel> model_;
     Ref<css::uno::XInterface> identity_;
@@ -79,6 +80,6 @@ private:
 };
 
 /// The last row and column that a sheet uses, counted from 1.
-CellPosition usedEnd(const Ref<css::sheet::XSpreadsheet>& sheet);
+CellPosition usedEnd(const Ref<css::sheet::XSpreadsheet>& sheet, Keeper& keeper);
 
 } // namespace zvonika

@@ -20,14 +20,14 @@ CellRange rangeOf(const css::table::CellRangeAddress& address) {
 
 } // namespace
 
-CellPosition usedEnd(const Ref<css::sheet::XSpreadsheet>& sheet) {
-    const auto cursor = sheet->createCursor();
+CellPosition usedEnd(const Ref<css::sheet::XSpreadsheet>& sheet, Keeper& keeper) {
+    const auto cursor = keeper.keep(sheet->createCursor());
     as<css::sheet::XUsedAreaCursor>(cursor)->gotoEndOfUsedArea(false);
     return rangeOf(as<css::sheet::XCellRangeAddressable>(cursor)->getRangeAddress()).last;
 }
 
 Ref<css::sheet::XSpreadsheet> Book::sheet() const {
-    const auto active = view_->getActiveSheet();
+    const auto active = keeper_.keep(view_->getActiveSheet());
     // The view of a workbook that is being closed answers, but has nothing to show any more.
     if (!active.is()) throw css::lang::DisposedException();
     return active;
@@ -53,9 +53,9 @@ void Book::rename(const QString& name) {
 }
 
 void Book::selectSheet(int sheet) {
-    Ref<css::sheet::XSpreadsheet> wanted(as<css::container::XIndexAccess>(sheets_)->getByIndex(sheet - 1),
-                                         css::uno::UNO_QUERY_THROW);
-    view_->setActiveSheet(wanted);
+    const Ref<css::sheet::XSpreadsheet> wanted(
+        as<css::container::XIndexAccess>(sheets_)->getByIndex(sheet - 1), css::uno::UNO_QUERY_THROW);
+    view_->setActiveSheet(keeper_.keep(wanted));
     if (activeSheet() != sheet) refuse(QStringLiteral("List číslo %1 je skrytý.").arg(sheet));
 }
 
@@ -69,7 +69,7 @@ CellPosition Book::cursor() const {
 
 // A marked block is a range; marked pieces and pictures are not, and the cursor stands for them.
 CellRange Book::selection() const {
-    const auto marked = as<css::sheet::XCellRangeAddressable>(model_->getCurrentSelection());
+    const auto marked = as<css::sheet::XCellRangeAddressable>(keeper_.keep(model_->getCurrentSelection()));
     return marked.is() ? rangeOf(marked->getRangeAddress()) : single(cursor());
 }
 
@@ -80,11 +80,11 @@ void Book::select(const CellRange& range) {
 }
 
 CellPosition Book::used() const {
-    return usedEnd(sheet());
+    return usedEnd(sheet(), keeper_);
 }
 
 QVector<QStringList> Book::formulas(const CellRange& range) const {
-    const auto rows = as<css::sheet::XCellRangeFormula>(cellsOf(sheet(), range))->getFormulaArray();
+    const auto rows = as<css::sheet::XCellRangeFormula>(cellsOf(sheet(), range, keeper_))->getFormulaArray();
     QVector<QStringList> result;
     for (const auto& row : rows) {
         QStringList texts;
@@ -97,7 +97,7 @@ QVector<QStringList> Book::formulas(const CellRange& range) const {
 
 void Book::clear(const CellRange& range) {
     namespace flags = css::sheet::CellFlags;
-    as<css::sheet::XSheetOperation>(cellsOf(sheet(), range))
+    as<css::sheet::XSheetOperation>(cellsOf(sheet(), range, keeper_))
         ->clearContents(flags::VALUE | flags::DATETIME | flags::STRING | flags::FORMULA);
 }
 

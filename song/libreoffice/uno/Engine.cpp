@@ -48,7 +48,7 @@ Ref<css::lang::XComponent> Engine::load(const QString& url, const QString& nativ
 }
 
 void Engine::adopt(const Ref<css::lang::XComponent>& document) {
-    auto book = Book::of(document, observer_, dispatcher_);
+    auto book = Book::of(document, observer_, dispatcher_, keeper_);
     if (!book) return;
     book->id = ++lastId_;
     books_.push_back(std::move(book));
@@ -56,7 +56,7 @@ void Engine::adopt(const Ref<css::lang::XComponent>& document) {
 
 // Workbooks that the user has opened from Calc's own menus.
 void Engine::adoptStrangers() {
-    const auto all = connection_->desktop()->getComponents()->createEnumeration();
+    const auto all = keeper_.keep(keeper_.keep(connection_->desktop()->getComponents())->createEnumeration());
     while (all->hasMoreElements()) {
         Ref<css::lang::XComponent> document(all->nextElement(), css::uno::UNO_QUERY);
         const Ref<css::uno::XInterface> identity = as<css::uno::XInterface>(document);

@@ -58,6 +58,7 @@ private:
     auto onBook(Calls calls);
 
     std::unique_ptr<Connection> connection_;
+    Keeper keeper_;
     CalcObserver& observer_;
     Ref<css::frame::XDispatchHelper> dispatcher_;
     std::vector<std::unique_ptr<Book>> books_;

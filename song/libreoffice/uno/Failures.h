@@ -4,6 +4,7 @@
 #include "song/libreoffice/uno/Uno.h"
 
 #include <com/sun/star/lang/DisposedException.hpp>
+#include <com/sun/star/util/CloseVetoException.hpp>
 
 namespace zvonika {
 
@@ -20,6 +21,10 @@ auto guarded(Calls calls) -> decltype(calls()) {
     } catch (const css::lang::DisposedException&) {
         throw RuntimeError(error::objectNotSet,
                            QStringLiteral("LibreOffice Calc nebo jeho sešit už není otevřen."));
+    } catch (const css::util::CloseVetoException&) {
+        refuse(
+            QStringLiteral("V LibreOffice Calc je otevřené okno, které čeká na odpověď. Zavřete ho a zkuste "
+                           "to znovu."));
     } catch (const css::uno::Exception& failure) {
         refuse(QStringLiteral("LibreOffice Calc příkaz odmítl: %1").arg(fromUno(failure.Message)));
     }

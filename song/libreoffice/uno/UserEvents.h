@@ -1,14 +1,14 @@
 #pragma once
 
 #include "song/libreoffice/CalcEngine.h"
-#include "song/libreoffice/uno/Uno.h"
+#include "song/libreoffice/uno/Keeper.h"
 
 #include <atomic>
 #include <com/sun/star/frame/XController.hpp>
 #include <com/sun/star/frame/XModel.hpp>
 #include <com/sun/star/sheet/XActivationEventListener.hpp>
-#include <com/sun/star/util/XChangesListener.hpp>
 #include <com/sun/star/util/XCloseListener.hpp>
+#include <com/sun/star/util/XModifyListener.hpp>
 #include <com/sun/star/view/XSelectionChangeListener.hpp>
 #include <cppuhelper/implbase4.hxx>
 #include <thread>
@@ -18,11 +18,11 @@ namespace zvonika {
 /// What happens to one workbook. Events that the program's own calls cause arrive within those calls, on the
 /// thread of the engine: they are not the user's.
 class UserEvents
-    : public cppu::WeakImplHelper4<css::view::XSelectionChangeListener, css::util::XChangesListener,
+    : public cppu::WeakImplHelper4<css::view::XSelectionChangeListener, css::util::XModifyListener,
                                    css::sheet::XActivationEventListener, css::util::XCloseListener> {
 public:
-    explicit UserEvents(CalcObserver& observer)
-        : observer_(observer), engineThread_(std::this_thread::get_id()) {}
+    UserEvents(CalcObserver& observer, Keeper& keeper)
+        : observer_(observer), keeper_(keeper), engineThread_(std::this_thread::get_id()) {}
 
     void listenTo(const Ref<css::frame::XModel>& model, const Ref<css::frame::XController>& view);
     /// Nothing more reaches the observer.
@@ -31,8 +31,8 @@ public:
     bool closed() const { return closed_; }
 
     void SAL_CALL selectionChanged(const css::lang::EventObject&) override { moved(); }
-    void SAL_CALL activeSpreadsheetChanged(const css::sheet::ActivationEvent&) override { moved(); }
-    void SAL_CALL changesOccurred(const css::util::ChangesEvent&) override;
+    void SAL_CALL activeSpreadsheetChanged(const css::sheet::ActivationEvent& event) override;
+    void SAL_CALL modified(const css::lang::EventObject&) override;
     void SAL_CALL queryClosing(const css::lang::EventObject&, sal_Bool) override {}
     void SAL_CALL notifyClosing(const css::lang::EventObject&) override { closed_ = true; }
     void SAL_CALL disposing(const css::lang::EventObject&) override {}
@@ -42,6 +42,7 @@ private:
     void moved();
 
     CalcObserver& observer_;
+    Keeper& keeper_;
     std::thread::id engineThread_;
     std::atomic<bool> stopped_ = false;
     std::atomic<bool> closed_ = false;

@@ -43,10 +43,6 @@ bool isZeroOrOne(double number) {
     return number == 0.0 || number == 1.0;
 }
 
-Ref<css::table::XCell> cellAt(const Ref<css::sheet::XSpreadsheet>& sheet, CellPosition cell) {
-    return sheet->getCellByPosition(cell.column - 1, cell.row - 1);
-}
-
 /// Whether a cell that holds 0 or 1 holds a truth value: it shows a word, or it is one of the formulas that
 /// stand for truth values in files.
 bool isLogical(const Ref<css::table::XCell>& cell) {
@@ -64,13 +60,18 @@ QString knownError(const QString& text) {
 
 } // namespace
 
-Ref<css::table::XCellRange> cellsOf(const Ref<css::sheet::XSpreadsheet>& sheet, const CellRange& range) {
-    return sheet->getCellRangeByPosition(range.first.column - 1, range.first.row - 1, range.last.column - 1,
-                                         range.last.row - 1);
+Ref<css::table::XCellRange> cellsOf(const Ref<css::sheet::XSpreadsheet>& sheet, const CellRange& range,
+                                    Keeper& keeper) {
+    return keeper.keep(sheet->getCellRangeByPosition(range.first.column - 1, range.first.row - 1,
+                                                     range.last.column - 1, range.last.row - 1));
+}
+
+Ref<css::table::XCell> Values::cellAt(const Ref<css::sheet::XSpreadsheet>& sheet, CellPosition cell) {
+    return keeper_.keep(sheet->getCellByPosition(cell.column - 1, cell.row - 1));
 }
 
 CellBlock Values::read(const Ref<css::sheet::XSpreadsheet>& sheet, const CellRange& range) {
-    const auto data = as<css::sheet::XCellRangeData>(cellsOf(sheet, range))->getDataArray();
+    const auto data = as<css::sheet::XCellRangeData>(cellsOf(sheet, range, keeper_))->getDataArray();
     CellBlock block;
     block.reserve(data.getLength());
     CellPosition cell = range.first;
@@ -102,7 +103,7 @@ CellValue Values::read(const Ref<css::sheet::XSpreadsheet>& sheet, CellPosition 
 void Values::write(const Ref<css::sheet::XSpreadsheet>& sheet, CellPosition first, const CellBlock& block) {
     const int rows = static_cast<int>(block.size()), columns = static_cast<int>(block.first().size());
     const CellRange range{first, {first.row + rows - 1, first.column + columns - 1}};
-    as<css::sheet::XCellRangeData>(cellsOf(sheet, range))->setDataArray(dataOf(block));
+    as<css::sheet::XCellRangeData>(cellsOf(sheet, range, keeper_))->setDataArray(dataOf(block));
     for (int row = 0; row < rows; ++row)
         for (int column = 0; column < columns; ++column)
             finish(sheet, {first.row + row, first.column + column}, block[row][column]);

@@ -2,7 +2,7 @@
 
 #include "song/Address.h"
 #include "song/CellValue.h"
-#include "song/libreoffice/uno/Uno.h"
+#include "song/libreoffice/uno/Keeper.h"
 
 #include <com/sun/star/sheet/XSpreadsheet.hpp>
 #include <com/sun/star/util/XNumberFormats.hpp>
@@ -12,7 +12,8 @@ namespace zvonika {
 /// where its number format says so.
 class Values {
 public:
-    explicit Values(const Ref<css::util::XNumberFormats>& formats) : formats_(formats) {}
+    Values(const Ref<css::util::XNumberFormats>& formats, Keeper& keeper)
+        : formats_(formats), keeper_(keeper) {}
 
     CellBlock read(const Ref<css::sheet::XSpreadsheet>& sheet, const CellRange& range);
     /// `block`: rows of equal length that lie within the sheet.
@@ -22,10 +23,14 @@ private:
     CellValue read(const Ref<css::sheet::XSpreadsheet>& sheet, CellPosition cell, const css::uno::Any& data);
     void finish(const Ref<css::sheet::XSpreadsheet>& sheet, CellPosition cell, const CellValue& value);
 
+    Ref<css::table::XCell> cellAt(const Ref<css::sheet::XSpreadsheet>& sheet, CellPosition cell);
+
     Ref<css::util::XNumberFormats> formats_;
+    Keeper& keeper_;
 };
 
 /// The cells of a range of a sheet, as UNO has them.
-Ref<css::table::XCellRange> cellsOf(const Ref<css::sheet::XSpreadsheet>& sheet, const CellRange& range);
+Ref<css::table::XCellRange> cellsOf(const Ref<css::sheet::XSpreadsheet>& sheet, const CellRange& range,
+                                    Keeper& keeper);
 
 } // namespace zvonika

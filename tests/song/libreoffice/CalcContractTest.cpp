@@ -9,11 +9,7 @@ namespace {
 
 class CalcRig : public SpreadsheetRig {
 public:
-    std::unique_ptr<SpreadsheetApplication> launch() override {
-        auto application = world_.launch();
-        application->setVisible(true); // Calc saves a cursor only from a window
-        return application;
-    }
+    std::unique_ptr<SpreadsheetApplication> launch() override { return world_.launch(); }
     QString folder() const override { return world_.folder.path(); }
     void willChoose(const std::optional<QString>& file) override {
         world_.dialogs.expectFile(QStringLiteral("Vyberte písničku"), file);

@@ -2,6 +2,7 @@
 
 #include "platform/HomeDrive.h"
 #include "song/libreoffice/LibreOfficeApplication.h"
+#include "tests/song/libreoffice/OfficeProcesses.h"
 #include "tests/song/libreoffice/VirtualScreen.h"
 #include "tests/support/MemorySettings.h"
 #include "tests/support/ScriptedDialogs.h"
@@ -22,28 +23,40 @@ inline const Installation& installedOffice() {
     return found;
 }
 
+/// Scripted boxes during which something happens.
+class EventfulDialogs : public ScriptedDialogs {
+public:
+    Answer message(const Message& message) override {
+        if (meanwhile) std::exchange(meanwhile, nullptr)();
+        return ScriptedDialogs::message(message);
+    }
+    std::function<void()> meanwhile; ///< while the next box is up
+};
+
 /// A real Calc with a folder of its own as drive C:, fresh profiles, settings in memory and scripted boxes.
 struct CalcWorld {
     QTemporaryDir folder;
     QTemporaryDir profiles;
     HomeDrive drive{folder.path(), QString()};
-    ScriptedDialogs dialogs;
+    EventfulDialogs dialogs;
     MemorySettings settings;
+    Installation installation = installedOffice();
     int signs = 0; ///< that Calc takes its time
     Patience patience = {};
 
+    ~CalcWorld() { EXPECT_TRUE(allGone(profiles.path())); }
+
     std::unique_ptr<LibreOfficeApplication> launch() {
-        return std::make_unique<LibreOfficeApplication>(LibreOfficeSurroundings{drive,
-                                                                                dialogs,
-                                                                                settings,
-                                                                                installedOffice(),
-                                                                                profiles.path(),
-                                                                                {},
-                                                                                [this] { ++signs; },
-                                                                                {},
-                                                                                patience});
+        LibreOfficeSurroundings surroundings{drive,           dialogs, settings, installation,
+                                             profiles.path(), {},      {},       {}};
+        surroundings.sign = [this] { ++signs; };
+        surroundings.patience = patience;
+        auto application = std::make_unique<LibreOfficeApplication>(surroundings);
+        application->setVisible(true);
+        return application;
     }
     QString path(const QString& name) const { return folder.filePath(name); }
+    pid_t office() const { return officesOf(profiles.path()).value(0, -1); }
 };
 
 } // namespace zvonika::testing
