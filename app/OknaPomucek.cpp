@@ -5,6 +5,8 @@
 #include "aids/ui/FrmNastaveni.h"
 #include "aids/ui/FrmZmenaCesty.h"
 #include "app/Prostredi.h"
+#include "app/ui/FrmTabulka.h"
+#include "song/SongPanel.h"
 
 #include <QScopeGuard>
 
@@ -24,6 +26,14 @@ void mnuPrekrytRady(QWidget& okno, TrebleBoard& diskant, const Prostredi& prostr
 void mnuNastavCestu(QWidget& okno, Pisen& pisen, const Prostredi& prostredi) {
     ZmenaCesty zmena(pisen, prostredi.drive, prostredi.dialogs);
     FrmZmenaCesty(zmena, &okno).exec();
+}
+
+void mnuTabulka(QWidget& okno, const Prostredi& prostredi, SongPanel& panel) {
+    VolbaTabulky volba(prostredi.nastaveni);
+    const Tabulka predtim = volba.zvolena();
+    FrmTabulka(volba, prostredi.tabulky.nabidka(), &okno).exec();
+    if (volba.zvolena() != predtim)
+        panel.upozorneni = QStringLiteral("Jiný tabulkový program bude použit při příštím spuštění Zvoniky.");
 }
 
 } // namespace zvonika

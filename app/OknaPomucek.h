@@ -6,6 +6,7 @@ namespace zvonika {
 
 struct Pisen;
 struct Prostredi;
+class SongPanel;
 class TrebleBoard;
 
 // The dialogs of the practice aids, each from opening to closing, over the main window `okno`.
@@ -15,5 +16,8 @@ void mnuPrekrytRady(QWidget& okno, TrebleBoard& diskant, const Prostredi& prostr
 
 /// The default folder of the spreadsheet application.
 void mnuNastavCestu(QWidget& okno, Pisen& pisen, const Prostredi& prostredi);
+
+/// The choice of the spreadsheet program.
+void mnuTabulka(QWidget& okno, const Prostredi& prostredi, SongPanel& panel);
 
 } // namespace zvonika

@@ -103,6 +103,7 @@ const QVector<Menu>& menuPrikazu() {
         {"Pošta", {{"mnuMailAutorovi", "Poslat zprávu autorovi", "mnuMailAutorovi"}}},
         {"Nápověda",
          {{"mnuhtm", "Ovládání Tamíka", "mnuhtm", false, "F1"}, {"mnuOProgramu", "O programu", "cmdOPrg"}}},
+        {"Doplňky", {{"mnuTabulka", "Tabulkový program", "mnuTabulka"}}},
     };
     return tabulka;
 }

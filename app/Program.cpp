@@ -30,13 +30,34 @@ Program::Program(const Prostredi& prostredi)
 Program::~Program() = default;
 
 bool Program::Main() {
-    Spusteni spusteni(prostredi_.nastaveni, prostredi_.dialogs, krokySpusteni());
-    const bool cele = spusteni.Form_Load();
+    bool cele = Form_Load();
+    if (!modely_.pisen.aplikaceExcel && chceNahradniTabulku()) {
+        prostredi_.spoustecExcelu = prostredi_.tabulky.nahradni;
+        cele = Form_Load();
+    }
     modely_.panel.upozorneni = modely_.tabulkaBasu.chyba();
     poPrikazu();
     okno_->show();
     prejdiNaHlavniOkno(); // the sheet's window came up first
     return cele;
+}
+
+bool Program::Form_Load() {
+    const bool cele = Spusteni(prostredi_.nastaveni, prostredi_.dialogs, krokySpusteni()).Form_Load();
+    prostredi_.tabulky.spusteno();
+    return cele;
+}
+
+bool Program::chceNahradniTabulku() const {
+    if (!prostredi_.tabulky.nahradni) return false;
+    const Answer odpoved = prostredi_.dialogs.message(
+        {QStringLiteral("Tabulkový program"),
+         QStringLiteral(
+             "Zvolený tabulkový program se nepodařilo spustit. Bez něho nelze písničky otevírat ani "
+             "zapisovat.\n\nChcete teď pracovat s vestavěnou tabulkou Zvoniky? Volba programu se tím nemění; "
+             "změnit ji můžete v nabídce Doplňky."),
+         Icon::Question, Buttons::YesNo});
+    return odpoved == Answer::Yes;
 }
 
 KrokySpusteni Program::krokySpusteni() {
@@ -84,6 +105,7 @@ void Program::zaregistrujPrikazy() {
         {"cmdIntervalOdNejnizsiho", [&k] { k.intervaly.cmdIntervalOdNejnizsiho(); }},
         {"mnuhtm", [this] { napoveda_.mnuhtm(*okno_); }},
         {"cmdOPrg", [this] { cmdOPrg(prostredi_.dialogs); }},
+        {"mnuTabulka", [this] { mnuTabulka(*okno_, prostredi_, modely_.panel); }},
         {"mnuKonverze", [this, &k] { mnuKonverze(*okno_, modely_, k.zivotPisne, prostredi_); }},
         {"mnuMailAutorovi",
          [this] {

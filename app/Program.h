@@ -55,6 +55,8 @@ private:
     void prejdiNaPozici(int pozice);
     void propojModely();
     void nastavPoradiFokusu();
+    bool Form_Load();
+    bool chceNahradniTabulku() const;
     KrokySpusteni krokySpusteni();
     void vyberStupnici();
     KrokAutomatu krokAutomatu();

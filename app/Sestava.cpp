@@ -2,6 +2,7 @@
 
 #include "app/Program.h"
 #include "app/RozmisteniOken.h"
+#include "app/TabulkaLibreOffice.h"
 #include "app/ui/IkonaProgramu.h"
 #include "platform/HomeDrive.h"
 #include "platform/IniSettingsStore.h"
@@ -20,6 +21,7 @@
 #include <QFile>
 #include <QPalette>
 #include <QScreen>
+#include <QStandardPaths>
 
 namespace zvonika {
 
@@ -44,6 +46,15 @@ QString slozkaZaznamu(const Umisteni& umisteni) {
     return umisteni.nastaveni + QStringLiteral("/zaznamy");
 }
 
+/// Where Zvonika's own office keeps its profiles.
+QString profilyLibreOffice(const Umisteni& umisteni) {
+    const QString data = umisteni.nastaveni.isEmpty()
+                             ? QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+                                   QStringLiteral("/zvonika")
+                             : umisteni.nastaveni;
+    return data + QStringLiteral("/libreoffice");
+}
+
 /// One light look everywhere: the instrument, the paper of the staff and the keys have colours of their own.
 void nastavVzhled(QApplication& aplikace) {
     QApplication::setStyle(QStringLiteral("Fusion"));
@@ -65,11 +76,30 @@ struct Sestava::Casti {
           nastaveniTabulky(nastaveni(zvonika::nastaveniTabulky, umisteni)), zaznamy(slozkaZaznamu(umisteni)),
           drive(umisteni.domov.isEmpty() ? QDir::homePath() : umisteni.domov, slozkaProgramu()),
           media(systemMedia(drive, pluginFolders())),
-          program({dialogs, *nastaveniProgramu, drive, shell, [this] { return novaTabulka(); },
-                   umisteni.hodiny ? *umisteni.hodiny : hodiny, *media, volbaProhlizece(pluginFolders())}) {
+          libreOffice(drive, dialogs, nastaveni(QStringLiteral("Calc Zvoniky"), umisteni),
+                      profilyLibreOffice(umisteni)),
+          program({dialogs, *nastaveniProgramu, drive, shell, spoustecZvolene(),
+                   umisteni.hodiny ? *umisteni.hodiny : hodiny, *media, volbaProhlizece(pluginFolders()),
+                   dalsiTabulky()}) {
         dialogs.setMainWindow(&program.okno());
         const QScreen* obrazovka = QApplication::primaryScreen();
         okna = rozmistiOkna(obrazovka ? obrazovka->availableGeometry() : QRect(0, 0, 1366, 768));
+        libreOffice.nastavMisto(okna.tabulka);
+    }
+
+    bool vestavena() const { return VolbaTabulky(*nastaveniProgramu).zvolena() != Tabulka::LibreOffice; }
+
+    SpreadsheetLauncher spoustecZvolene() {
+        if (vestavena()) return [this] { return novaTabulka(); };
+        return [this] { return libreOffice.spust(); };
+    }
+
+    DalsiTabulky dalsiTabulky() {
+        DalsiTabulky dalsi;
+        dalsi.nabidka = [] { return QVector{nabidkaVestavene(), nabidkaLibreOffice()}; };
+        dalsi.spusteno = [this] { libreOffice.spusteno(); };
+        if (!vestavena()) dalsi.nahradni = [this] { return novaTabulka(); };
+        return dalsi;
     }
 
     std::unique_ptr<SpreadsheetApplication> novaTabulka() {
@@ -102,6 +132,7 @@ struct Sestava::Casti {
     DesktopShell shell;
     QtWakeUpClock hodiny;
     RozmisteniOken okna;
+    TabulkaLibreOffice libreOffice;
     Program program;
 };
 

@@ -16,6 +16,7 @@
 #include <QWindow>
 
 #include <stdexcept>
+#include <utility>
 
 namespace zvonika {
 
@@ -124,10 +125,21 @@ void Hrac::obrazek(const QString& nazev) {
     ++obrazku_;
     const QString soubor =
         QStringLiteral("%1/%2-%3.png").arg(slozka_).arg(obrazku_, 2, 10, QLatin1Char('0')).arg(nazev);
-    QScreen* obrazovka = program_.okno().screen();
-    QPixmap snimek = obrazovka->grabWindow(0); // the whole screen: both windows as the player sees them
-    if (snimek.isNull()) snimek = program_.okno().grab();
-    if (!snimek.save(soubor)) throw std::runtime_error("obrázek nelze uložit: " + soubor.toStdString());
+    QImage obraz = snimek();
+    if (ustaleni_ > 0)
+        QTest::qWaitFor(
+            [&] {
+                const QImage predtim = std::exchange(obraz, (QTest::qWait(ustaleni_), snimek()));
+                return obraz == predtim;
+            },
+            trpelivost);
+    if (!obraz.save(soubor)) throw std::runtime_error("obrázek nelze uložit: " + soubor.toStdString());
+}
+
+QImage Hrac::snimek() const {
+    // The whole screen: both windows as the player sees them.
+    const QPixmap obrazovka = program_.okno().screen()->grabWindow(0);
+    return (obrazovka.isNull() ? program_.okno().grab() : obrazovka).toImage();
 }
 
 } // namespace zvonika

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QString>
 
 #include <functional>
@@ -15,8 +16,11 @@ class Program;
 /// or something does not happen in time.
 class Hrac {
 public:
-    /// `slozkaObrazku`: existing native folder for the pictures.
-    Hrac(Program& program, const QString& slozkaObrazku) : program_(program), slozka_(slozkaObrazku) {}
+    /// `slozkaObrazku`: existing native folder for the pictures. `ustaleni`: milliseconds for which the
+    /// screen must stand still before a picture is taken, where a program that paints in its own time is on
+    /// it.
+    Hrac(Program& program, const QString& slozkaObrazku, int ustaleni = 0)
+        : program_(program), slozka_(slozkaObrazku), ustaleni_(ustaleni) {}
 
     int obrazku() const { return obrazku_; } ///< pictures of the screen so far
 
@@ -42,6 +46,9 @@ protected:
     QString slozka_;
 
 private:
+    QImage snimek() const;
+
+    int ustaleni_;
     int obrazku_ = 0;
 };
 

@@ -2,6 +2,7 @@
 
 #include "app/Program.h"
 #include "app/ui/Form1.h"
+#include "app/ukazka/PisarCalcu.h"
 
 #include <QApplication>
 #include <QDir>
@@ -14,11 +15,13 @@ namespace zvonika {
 
 namespace {
 const QString nazevPisne = QStringLiteral("Kočka leze dírou");
+constexpr int ustaleniCalcu = 300; // ms in which Calc would have painted what it still has to
 
 } // namespace
 
-Ukazka::Ukazka(Program& program, const QString& slozkaObrazku)
-    : Hrac(program, slozkaObrazku), hmaty_(kockaLezeDirou()) {}
+Ukazka::Ukazka(Program& program, const QString& slozkaObrazku, Tabulka tabulka)
+    : Hrac(program, slozkaObrazku, tabulka == Tabulka::Vestavena ? 0 : ustaleniCalcu), tabulka_(tabulka),
+      hmaty_(kockaLezeDirou()) {}
 
 void Ukazka::prehraj() {
     prevezmiOkno();
@@ -92,22 +95,34 @@ void Ukazka::zapisHmat(const HmatUkazky& hmat) {
 
 void Ukazka::napisSlabiky() {
     klikni("cmdPrvni");
+    QStringList slabiky;
+    for (const HmatUkazky& hmat : hmaty_)
+        slabiky << hmat.slabika;
+    if (tabulka_ == Tabulka::LibreOffice)
+        pisDoCalcu(program_, slabiky);
+    else
+        pisDoTabulky(slabiky);
+    obrazek("slabiky-v-tabulce");
+    if (tabulka_ == Tabulka::LibreOffice)
+        program_.prejdiNaHlavniOkno(); // Calc keeps F6 for itself
+    else
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6);
+    cekejNaOkno(&program_.okno(), "hlavní okno");
+}
+
+void Ukazka::pisDoTabulky(const QStringList& slabiky) {
     QTest::keyClick(&program_.okno(), Qt::Key_F6);
-    QWidget* okno = tabulka();
-    cekejNaOkno(okno, "okno tabulky");
+    cekejNaOkno(tabulka(), "okno tabulky");
     QTest::keyClick(QApplication::focusWidget(),
                     Qt::Key_Left); // from the grip's column B to the syllables in A
-    for (const HmatUkazky& hmat : hmaty_) {
-        for (const QChar znak : hmat.slabika) // the first one opens the cell's editor, which takes the rest
+    for (const QString& slabika : slabiky) {
+        for (const QChar znak : slabika) // the first one opens the cell's editor, which takes the rest
             napis(QApplication::focusWidget(), QString(znak));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         QCoreApplication::sendPostedEvents(nullptr,
                                            QEvent::DeferredDelete); // the editor goes, the cells get the keys
         QCoreApplication::processEvents();
     }
-    obrazek("slabiky-v-tabulce");
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6);
-    cekejNaOkno(&program_.okno(), "hlavní okno");
 }
 
 void Ukazka::ukonciPisen() {

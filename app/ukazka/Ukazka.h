@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/VolbaTabulky.h"
 #include "app/ukazka/Hrac.h"
 #include "app/ukazka/Pisnicka.h"
 
@@ -22,8 +23,9 @@ struct PrevodUkazky {
 /// the stage when something does not happen.
 class Ukazka : private Hrac {
 public:
-    /// `slozkaObrazku`: existing native folder for the pictures.
-    Ukazka(Program& program, const QString& slozkaObrazku);
+    /// `slozkaObrazku`: existing native folder for the pictures; `tabulka`: what the program keeps its songs
+    /// in.
+    Ukazka(Program& program, const QString& slozkaObrazku, Tabulka tabulka);
 
     void prehraj();
     /// Native full name of the song that was recorded.
@@ -35,6 +37,7 @@ private:
     void zalozPisen();
     void zapisHmat(const HmatUkazky& hmat);
     void napisSlabiky();
+    void pisDoTabulky(const QStringList& slabiky);
     void ukonciPisen();
     void otevriPisen();
     void prejdiPisen();
@@ -44,6 +47,7 @@ private:
     void prekryjRady();
     void otocHmatnik();
 
+    Tabulka tabulka_;
     QString soubor_;
     QVector<HmatUkazky> hmaty_;
 };

@@ -1,6 +1,7 @@
 #include "song/libreoffice/Installation.h"
 
-#include <QCoreApplication>
+#include "platform/PluginFolders.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -59,14 +60,13 @@ InstallationPlaces InstallationPlaces::usual() {
         opt.entryList({QStringLiteral("libreoffice*")}, QDir::Dirs, QDir::Name | QDir::Reversed);
     for (const QString& folder : own)
         places.programFolders << opt.filePath(folder + QStringLiteral("/program"));
-    const QString beside = QCoreApplication::applicationDirPath();
-    places.pluginFolders = {beside, QDir::cleanPath(beside + QStringLiteral("/../lib/zvonika"))};
+    places.pluginFolders = pluginFolders();
     return places;
 }
 
 Installation findLibreOffice(const InstallationPlaces& places) {
     Installation first;
-    first.plugin = firstFile(places.pluginFolders, QStringLiteral("zvonika-libreoffice.so"));
+    first.plugin = firstFile(places.pluginFolders, QStringLiteral("libzvonika_libreoffice.so"));
     first.guardian = firstFile(places.pluginFolders, QStringLiteral("zvonika-hlidac"));
     first.missing = QStringLiteral("LibreOffice není na tomto počítači nainstalován.");
     for (const QString& folder : places.programFolders) {

@@ -21,19 +21,19 @@ class OknoSPisni : public ::testing::Test {
 protected:
     void SetUp() override {
         drive.programFolderPath = QStringLiteral(ZVONIKA_RESOURCES);
-        program = std::make_unique<Program>(Prostredi{
-            dialogs, nastaveni, drive, shell,
-            [this] {
-                auto novy = std::make_unique<FakeSpreadsheet>(disk);
-                excel = novy.get();
-                return novy;
-            },
-            hodiny, media, [this](const MistoProhlizece& misto) { return tvurceProhlizece(misto); }});
+        program = std::make_unique<Program>(
+            Prostredi{dialogs, nastaveni, drive, shell, [this] { return spoustecExcelu(); }, hodiny, media,
+                      [this](const MistoProhlizece& misto) { return tvurceProhlizece(misto); }, tabulky});
         program->Main();
         program->okno().resize(1000, 720);
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&program->okno()));
     }
 
+    std::unique_ptr<SpreadsheetApplication> novaTabulka() {
+        auto nova = std::make_unique<FakeSpreadsheet>(disk);
+        excel = nova.get();
+        return nova;
+    }
     void novaPisen(const QString& jmeno = QStringLiteral("Polka")) {
         dialogs.expectInput("Nová skladba.", jmeno);
         klikni("cmdNovaSkladba");
@@ -57,7 +57,9 @@ protected:
     ZaznamovyShell shell;
     RucniHodiny hodiny;
     ZaznamovaMedia media;
+    SpreadsheetLauncher spoustecExcelu = [this] { return novaTabulka(); };
     TvurceProhlizece tvurceProhlizece = jednoduchyProhlizec();
+    DalsiTabulky tabulky;
     FakeSpreadsheet* excel = nullptr;
     std::unique_ptr<Program> program;
 };

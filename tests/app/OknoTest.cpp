@@ -38,6 +38,7 @@ TEST_F(OknoSPisni, MenusReadAsTheyShould) {
         {"Nastavení", "Překrýt řady", "Otočit hmatník", "-", "Názvy na knoflíkách", "Pomocné číslování"},
         {"Pošta", "Poslat zprávu autorovi"},
         {"Nápověda", "Ovládání Tamíka", "O programu"},
+        {"Doplňky", "Tabulkový program"},
     };
     QVector<QStringList> skutecne;
     for (const QAction* nabidka : program->okno().menuBar()->actions())

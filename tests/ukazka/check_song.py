@@ -1,7 +1,8 @@
 #!/usr/bin/python3
 """Plays the demonstration and has other programs read back its song and its converted copies, cell by cell.
 
-usage: check_song.py VIRTUAL_DISPLAY ZVONIKA_UKAZKA FOLDER SHEETJS_FOLDER
+usage: check_song.py VIRTUAL_DISPLAY ZVONIKA_UKAZKA FOLDER SHEETJS_FOLDER [OPTION ...]
+Options go to the demonstration.
 Readers: xlrd, LibreOffice, Gnumeric, SheetJS. Those that are not installed are named and left out; ends with 77 when
 none is, or when there is no virtual display.
 """
@@ -136,7 +137,7 @@ def main():
         return SKIPPED
     shutil.rmtree(folder, ignore_errors=True)
     os.makedirs(folder)
-    subprocess.run([display, program, folder], check=True, timeout=120)
+    subprocess.run([display, program] + sys.argv[5:] + [folder], check=True, timeout=300)
     pictures = [name for name in os.listdir(folder) if name.endswith(".png")]
     assert len(pictures) >= 22, pictures
     kept = os.path.join(folder, "domov", "Dokumenty", "Heligonka", "Zvonika")

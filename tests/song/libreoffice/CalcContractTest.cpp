@@ -20,11 +20,12 @@ public:
     }
     void userClosesWorkbook(SpreadsheetApplication& application) override {
         EXPECT_TRUE(VirtualScreen::press(application.activeWorkbookName(), {"ctrl+w"}));
-        EXPECT_TRUE(QTest::qWaitFor([&] { return application.activeWorkbookName().isEmpty(); }));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return application.activeWorkbookName().isEmpty(); }, 30000));
     }
     void userQuits(SpreadsheetApplication& application) override {
         EXPECT_TRUE(VirtualScreen::press(application.activeWorkbookName(), {"ctrl+q"}));
-        EXPECT_TRUE(QTest::qWaitFor([&] { return raised([&] { application.activeWorkbookName(); }) == 91; }));
+        EXPECT_TRUE(
+            QTest::qWaitFor([&] { return raised([&] { application.activeWorkbookName(); }) == 91; }, 30000));
     }
 
 private:

@@ -140,7 +140,7 @@ TEST_F(CalcFailures, WhatTheFormatCannotHoldIsNotDroppedInSilence) {
 TEST_F(CalcFailures, AStandingDialogRefusesTheCloseButNotTheEnd) {
     auto calc = withSong();
     ASSERT_TRUE(VirtualScreen::press(pisen, {"ctrl+1"}));
-    ASSERT_TRUE(QTest::qWaitFor([] { return VirtualScreen::hasWindow("Format Cells"); }, 10000));
+    ASSERT_TRUE(QTest::qWaitFor([] { return VirtualScreen::hasWindow("Format Cells"); }, 30000));
     calc->setValue("B1", QString("c"));
     EXPECT_EQ(cellText(calc->value("B1")), "c");
     EXPECT_TRUE(refusal([&] { calc->closeActiveWorkbook(); }).contains("čeká na odpověď"));

@@ -42,7 +42,8 @@ struct CalcWorld {
     MemorySettings settings;
     Installation installation = installedOffice();
     int signs = 0; ///< that Calc takes its time
-    Patience patience = {};
+    /// Long, for a busy machine; tests of the patience itself set their own.
+    Patience patience{std::chrono::minutes(2), std::chrono::minutes(2), std::chrono::minutes(2)};
 
     ~CalcWorld() { EXPECT_TRUE(allGone(profiles.path())); }
 

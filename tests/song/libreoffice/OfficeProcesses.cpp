@@ -37,7 +37,7 @@ QList<pid_t> guardiansOf(const QString& profiles) {
 
 bool allGone(const QString& profiles) {
     return QTest::qWaitFor([&] { return officesOf(profiles).isEmpty() && guardiansOf(profiles).isEmpty(); },
-                           10000);
+                           30000);
 }
 
 QStringList locksIn(const QString& folder) {

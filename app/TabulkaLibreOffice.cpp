@@ -1,0 +1,87 @@
+#include "app/TabulkaLibreOffice.h"
+
+#include "app/ui/PrubehSpusteni.h"
+#include "song/libreoffice/LibreOfficeApplication.h"
+
+#include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QScreen>
+
+namespace zvonika {
+
+namespace {
+
+constexpr int nenapadneCekani = 400; ///< ms; a longer wait shows in the mouse pointer
+
+/// Calc counts in pixels of the screen.
+QRect naObrazovce(const QRect& misto) {
+    const QScreen* obrazovka = QGuiApplication::primaryScreen();
+    const double pomer = obrazovka ? obrazovka->devicePixelRatio() : 1;
+    return {(QPointF(misto.topLeft()) * pomer).toPoint(), (QSizeF(misto.size()) * pomer).toSize()};
+}
+
+} // namespace
+
+/// What is shown of the waiting: a window at the start, the pointer later.
+struct TabulkaLibreOffice::Prubeh {
+    std::unique_ptr<PrubehSpusteni> okno;
+    QElapsedTimer cekani;
+    bool ukazatel = false;
+};
+
+TabulkaLibreOffice::TabulkaLibreOffice(Drive& drive, Dialogs& dialogs,
+                                       std::unique_ptr<SettingsStore> nastaveni, const QString& profily)
+    : drive_(drive), dialogs_(dialogs), nastaveni_(std::move(nastaveni)), profily_(profily),
+      prubeh_(std::make_unique<Prubeh>()) {}
+
+TabulkaLibreOffice::~TabulkaLibreOffice() {
+    konecCekani();
+}
+
+std::unique_ptr<SpreadsheetApplication> TabulkaLibreOffice::spust() {
+    if (!prubeh_->okno)
+        prubeh_->okno = std::make_unique<PrubehSpusteni>(QStringLiteral("Spouští se LibreOffice Calc…"));
+    try {
+        LibreOfficeSurroundings okoli{drive_,      dialogs_,
+                                      *nastaveni_, findLibreOffice(InstallationPlaces::usual()),
+                                      profily_,    naObrazovce(misto_),
+                                      {},          {}};
+        okoli.sign = [this] { posun(); };
+        okoli.signOver = [this] { konecCekani(); };
+        return std::make_unique<LibreOfficeApplication>(okoli);
+    } catch (...) {
+        spusteno(); // the failure is told in a box, which nothing may cover
+        throw;
+    }
+}
+
+void TabulkaLibreOffice::spusteno() {
+    prubeh_->okno.reset();
+}
+
+void TabulkaLibreOffice::posun() {
+    if (prubeh_->okno) {
+        prubeh_->okno->posun();
+        return;
+    }
+    if (!prubeh_->cekani.isValid()) prubeh_->cekani.start();
+    if (prubeh_->ukazatel || !prubeh_->cekani.hasExpired(nenapadneCekani)) return;
+    prubeh_->ukazatel = true;
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+}
+
+void TabulkaLibreOffice::konecCekani() {
+    prubeh_->cekani.invalidate();
+    if (std::exchange(prubeh_->ukazatel, false)) QGuiApplication::restoreOverrideCursor();
+}
+
+NabidkaTabulky nabidkaLibreOffice() {
+    const Installation nalezeny = findLibreOffice(InstallationPlaces::usual());
+    return {Tabulka::LibreOffice, QStringLiteral("LibreOffice Calc %1").arg(nalezeny.version).trimmed(),
+            QStringLiteral(
+                "Písnička je otevřena přímo v Calcu. Zvonika si ho spouští sama s vlastním nastavením; "
+                "vašich ostatních sešitů se to netýká."),
+            nalezeny.missing};
+}
+
+} // namespace zvonika

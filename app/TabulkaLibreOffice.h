@@ -1,0 +1,44 @@
+#pragma once
+
+#include "app/VolbaTabulky.h"
+#include "platform/Dialogs.h"
+#include "platform/Drive.h"
+#include "song/SpreadsheetApplication.h"
+
+#include <QRect>
+
+#include <memory>
+
+namespace zvonika {
+
+/// LibreOffice Calc as the program's spreadsheet, with what the user sees while it starts or lets him wait.
+class TabulkaLibreOffice {
+public:
+    /// `nastaveni`: Calc's own store; `profily`: native folder for the profiles of Zvonika's office.
+    TabulkaLibreOffice(Drive& drive, Dialogs& dialogs, std::unique_ptr<SettingsStore> nastaveni,
+                       const QString& profily);
+    ~TabulkaLibreOffice();
+
+    /// Where Calc's windows come up, in logical pixels, frame included.
+    void nastavMisto(const QRect& misto) { misto_ = misto; }
+    /// Starts an instance; until `spusteno` a sign of progress is on the screen.
+    std::unique_ptr<SpreadsheetApplication> spust();
+    void spusteno();
+
+private:
+    void posun();
+    void konecCekani();
+
+    Drive& drive_;
+    Dialogs& dialogs_;
+    std::unique_ptr<SettingsStore> nastaveni_;
+    QString profily_;
+    QRect misto_;
+    struct Prubeh;
+    std::unique_ptr<Prubeh> prubeh_;
+};
+
+/// What there is of LibreOffice on this machine.
+NabidkaTabulky nabidkaLibreOffice();
+
+} // namespace zvonika

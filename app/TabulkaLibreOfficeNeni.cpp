@@ -1,0 +1,26 @@
+// Where LibreOffice cannot be driven.
+#include "app/TabulkaLibreOffice.h"
+
+namespace zvonika {
+
+struct TabulkaLibreOffice::Prubeh {};
+
+TabulkaLibreOffice::TabulkaLibreOffice(Drive& drive, Dialogs& dialogs,
+                                       std::unique_ptr<SettingsStore> nastaveni, const QString& profily)
+    : drive_(drive), dialogs_(dialogs), nastaveni_(std::move(nastaveni)), profily_(profily) {}
+
+TabulkaLibreOffice::~TabulkaLibreOffice() = default;
+
+std::unique_ptr<SpreadsheetApplication> TabulkaLibreOffice::spust() {
+    throw AutomationError(error::cannotCreateObject, nabidkaLibreOffice().prekazka);
+}
+
+void TabulkaLibreOffice::spusteno() {}
+
+NabidkaTabulky nabidkaLibreOffice() {
+    return {Tabulka::LibreOffice, QStringLiteral("LibreOffice Calc"),
+            QStringLiteral("Písnička je otevřena přímo v Calcu."),
+            QStringLiteral("V tomto systému Zvonika LibreOffice řídit neumí.")};
+}
+
+} // namespace zvonika

@@ -1,0 +1,70 @@
+// Which spreadsheet program the songs are kept open in: the choice, and a chosen one that does not start.
+#include "app/ui/FrmTabulka.h"
+#include "tests/app/OknoSPisni.h"
+
+#include <QLabel>
+#include <QRadioButton>
+
+using namespace zvonika;
+using zvonika::testing::OknoSPisni;
+
+namespace {
+
+const QVector<NabidkaTabulky> nabidka = {
+    nabidkaVestavene(),
+    {Tabulka::LibreOffice, "LibreOffice Calc 7.4", "Popis", {}},
+    {Tabulka::Excel, "Excel", "Popis", "Excel není nainstalován."},
+};
+
+class CoNejdeSpustit : public OknoSPisni {
+protected:
+    void SetUp() override {
+        nastaveni.save("Cislovani", "Index", "1");
+        spoustecExcelu = []() -> std::unique_ptr<SpreadsheetApplication> {
+            throw AutomationError(429, "LibreOffice není na tomto počítači nainstalován.");
+        };
+        tabulky.nahradni = [this] { return novaTabulka(); };
+        dialogs.expect("Neočekávaná chyba programu.", "chybě číslo 429");
+    }
+    void spust(Answer odpoved) {
+        dialogs.expect("Tabulkový program", "Chcete teď pracovat s vestavěnou tabulkou Zvoniky?", odpoved);
+        OknoSPisni::SetUp();
+    }
+};
+
+} // namespace
+
+TEST(FrmTabulka, OffersWhatCanBeUsedAndStoresTheChoice) {
+    const struct {
+        const char *ulozena, *klik, *pak;
+        int oznacena;
+    } pripady[] = {
+        {nullptr, nullptr, "0", 0},     {"1", nullptr, "1", 1}, {"nesmysl", "optTabulka(1)", "1", 0},
+        {"1", "optTabulka(0)", "0", 1}, {"2", nullptr, "2", 2}, {"0", "optTabulka(2)", "0", 0}};
+    for (const auto& [ulozena, klik, pak, oznacena] : pripady) {
+        zvonika::testing::PametoveNastaveni nastaveni;
+        if (ulozena) nastaveni.save("Tabulka", "Index", ulozena);
+        VolbaTabulky volba(nastaveni);
+        FrmTabulka dialog(volba, nabidka);
+        EXPECT_TRUE(
+            dialog.findChild<QRadioButton*>(QStringLiteral("optTabulka(%1)").arg(oznacena))->isChecked());
+        EXPECT_EQ(dialog.findChild<QLabel*>("lblPrekazka(2)")->text(), "Excel není nainstalován.");
+        EXPECT_FALSE(dialog.findChild<QLabel*>("lblPrekazka(1)"));
+        if (klik) dialog.findChild<QAbstractButton*>(klik)->click();
+        dialog.findChild<QAbstractButton*>("cmdOK")->click();
+        EXPECT_EQ(nastaveni.getOr("Tabulka", "Index", ""), pak);
+    }
+}
+
+TEST_F(CoNejdeSpustit, IsReplacedByTheBuiltInSpreadsheetIfTheUserWants) {
+    spust(Answer::Yes);
+    EXPECT_TRUE(akce("mnuCislovat")->isChecked()) << "the start was gone through to its end";
+    novaPisen();
+    EXPECT_EQ(program->okno().windowTitle(), "Polka.xls");
+}
+
+TEST_F(CoNejdeSpustit, LeavesTheWindowOpenOtherwise) {
+    spust(Answer::No);
+    EXPECT_TRUE(program->okno().isVisible());
+    EXPECT_FALSE(program->modely().pisen.aplikaceExcel);
+}

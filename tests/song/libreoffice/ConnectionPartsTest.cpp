@@ -1,0 +1,169 @@
+// What stands around Calc and needs none: the view's text, the profile, what is installed, calls that take
+// long.
+#include "platform/RuntimeError.h"
+#include "song/libreoffice/Installation.h"
+#include "song/libreoffice/PatientCalls.h"
+#include "song/libreoffice/Profile.h"
+#include "song/libreoffice/UserNotices.h"
+#include "song/libreoffice/ViewData.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <atomic>
+#include <gtest/gtest.h>
+#include <thread>
+
+namespace zvonika::testing {
+
+namespace {
+
+void store(const QString& path, const QByteArray& bytes) {
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+QByteArray contents(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+TEST(ViewData, TellsSheetAndCursor) {
+    const struct {
+        const char* data;
+        int sheet, row, column;
+    } views[] = {{"100/60/0;0;tw:270;2/30/0/0/0/0/2/0/0/0/0", 1, 31, 3},
+                 {"100/60/0;1;tw:270;2/30/0/0;0/4/0/0;;", 2, 5, 1},
+                 {"100/60/0;0;tw:270;1+70000+0+0", 1, 70001, 2},
+                 {"", 0, 0, 0},
+                 {"100/60/0;2;tw:270;2/30/0/0;0/4/0/0", 0, 0, 0},
+                 {"100/60/0;0;tw:270;", 0, 0, 0},
+                 {"100/60/0;0;tw:270;x/30/0", 0, 0, 0}};
+    for (const auto& [data, sheet, row, column] : views) {
+        const auto found = cursorInViewData(QString::fromLatin1(data));
+        ASSERT_EQ(found.has_value(), sheet > 0) << data;
+        if (!found) continue;
+        EXPECT_EQ(found->sheet, sheet) << data;
+        EXPECT_EQ(found->cell, (CellPosition{row, column})) << data;
+    }
+}
+
+TEST(Profile, IsTakenOnceAndKeepsTheUsersSettings) {
+    QTemporaryDir folder;
+    const Profile first(folder.path());
+    const Profile second(folder.path());
+    EXPECT_NE(first.path(), second.path());
+    const QString file = first.path() + "/user/registrymodifications.xcu";
+    const QByteArray users = "<item oor:path=\"/org.openoffice.Office.Calc/Grid\"><prop oor:name=\"X\" "
+                             "oor:op=\"fuse\"><value>1</value></prop></item>\n";
+    store(file, "<?xml version=\"1.0\"?>\n<oor:items>\n" + users + "</oor:items>\n");
+    first.seed({"/tmp/Dvě písně", QRect(10, 20, 300, 400)});
+    first.seed({"/tmp/Dvě písně", QRect(11, 20, 300, 400)});
+    const QByteArray seeded = contents(file);
+    EXPECT_TRUE(seeded.contains(users));
+    EXPECT_EQ(seeded.count("WarnAlienFormat"), 1);
+    EXPECT_EQ(seeded.count("<value>file:///tmp/Dv%C4%9B%20p%C3%ADsn%C4%9B</value>"), 1);
+    EXPECT_EQ(seeded.count("<value>11,20,300,400;1;0,0,0,0;</value>"), 1);
+    EXPECT_FALSE(seeded.contains("<value>10,20"));
+    EXPECT_THROW(Profile("/proc/zvonika"), RuntimeError);
+}
+
+TEST(Installation, NamesWhatIsMissing) {
+    QTemporaryDir folder;
+    const auto path = [&](const char* name) { return folder.filePath(name); };
+    const auto missing = [&](const char* program) {
+        return findLibreOffice({{path("none"), path(program)}, {path("plugins")}}).missing;
+    };
+    for (const char* program : {"good", "old", "nocalc", "nowindows"}) {
+        store(path(program) + "/soffice.bin", "");
+        store(path(program) + "/bootstraprc", QByteArray("[Bootstrap]\nProductKey=LibreOffice ") +
+                                                  (program == std::string("old") ? "6.4" : "7.4") + "\n");
+        if (program != std::string("nocalc")) store(path(program) + "/libsclo.so", "");
+        if (program != std::string("nowindows")) store(path(program) + "/libvclplug_genlo.so", "");
+    }
+    EXPECT_TRUE(missing("good").contains("sestavena bez spojení"));
+    store(path("plugins/libzvonika_libreoffice.so"), "");
+    store(path("plugins/zvonika-hlidac"), "");
+    EXPECT_TRUE(missing("none").contains("není na tomto počítači nainstalován"));
+    EXPECT_TRUE(missing("old").contains("6.4 je příliš starý"));
+    EXPECT_TRUE(missing("nocalc").contains("chybí tabulkový program Calc"));
+    EXPECT_TRUE(missing("nowindows").contains("bez oken"));
+    EXPECT_EQ(missing("good"), "");
+    const Installation best = findLibreOffice({{path("old"), path("good")}, {path("plugins")}});
+    EXPECT_EQ(best.version, "7.4");
+}
+
+TEST(PatientCalls, NothingIsEnteredTwiceAndFailuresComeThrough) {
+    PatientCalls calls({[] {}, [] { return false; }, [] {}});
+    int nested = 0;
+    std::atomic<bool> release = false;
+    // Comes while the slow call is waited for, as a command from the window would.
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(),
+        [&] {
+            try {
+                calls.run(std::chrono::seconds(10), [] {});
+            } catch (const RuntimeError& refusal) {
+                nested = refusal.number();
+            }
+            release = true;
+        },
+        Qt::QueuedConnection);
+    const auto slow = [&] {
+        while (!release)
+            std::this_thread::yield();
+        throw RuntimeError(9);
+    };
+    EXPECT_THROW(calls.run(std::chrono::seconds(10), slow), RuntimeError);
+    EXPECT_EQ(nested, 1004);
+    calls.run(std::chrono::seconds(10), [&] { nested = 0; });
+    EXPECT_EQ(nested, 0);
+}
+
+TEST(PatientCalls, ACallThatCannotBeBrokenOffIsLeftBehind) {
+    auto release = std::make_shared<std::atomic<bool>>(false);
+    int asked = 0;
+    PatientCalls calls({[] {}, [&] { return ++asked < 2; }, [] {}});
+    EXPECT_THROW(calls.run(std::chrono::milliseconds(50),
+                           [release] {
+                               while (!*release)
+                                   std::this_thread::yield();
+                           }),
+                 RuntimeError);
+    EXPECT_EQ(asked, 2);
+    EXPECT_THROW(calls.run(std::chrono::milliseconds(50), [] {}), RuntimeError);
+    *release = true;
+}
+
+TEST(UserNotices, BringManyActsAsOneAndNoneAfterTheEnd) {
+    int delivered = 0;
+    UserNotices* made = nullptr;
+    UserNotices::Acts acts;
+    UserNotices notices(
+        [&] {
+            ++delivered;
+            acts = made->take();
+        },
+        [](const QString&) {});
+    made = &notices;
+    std::thread([&] {
+        for (int i = 0; i < 50; ++i)
+            notices.cursorMoved();
+    }).join();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(delivered, 1);
+    EXPECT_TRUE(acts.moved && !acts.edited);
+    notices.deliverAgain();
+    notices.cellsEdited();
+    notices.stop();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(delivered, 1);
+}
+
+} // namespace zvonika::testing
