@@ -60,7 +60,7 @@ InstallationPlaces InstallationPlaces::usual() {
         opt.entryList({QStringLiteral("libreoffice*")}, QDir::Dirs, QDir::Name | QDir::Reversed);
     for (const QString& folder : own)
         places.programFolders << opt.filePath(folder + QStringLiteral("/program"));
-    places.pluginFolders = pluginFolders();
+    places.pluginFolders = zvonika::pluginFolders();
     return places;
 }
 
