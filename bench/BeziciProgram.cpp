@@ -1,6 +1,7 @@
 #include "bench/BeziciProgram.h"
 
 #include "app/Program.h"
+#include "platform/IniSettingsStore.h"
 
 #include <QApplication>
 #include <QDir>
@@ -48,15 +49,22 @@ QVector<CellValue> radekPisne(int radek, const BassTable& basy) {
     return bunky;
 }
 
-QString domov(const QTemporaryDir& slozka) {
+QString domov(const QTemporaryDir& slozka, Tabulka tabulka) {
     QDir().mkpath(slozka.filePath("domov/Dokumenty/Heligonka/Zvonika"));
+    IniSettingsStore nastaveni(slozka.filePath("nastaveni/Tonavox12.ini"));
+    VolbaTabulky(nastaveni).zvol(tabulka);
     return slozka.filePath("domov");
 }
 
 } // namespace
 
-BeziciProgram::BeziciProgram(QApplication& aplikace, testing::RucniHodiny* hodiny)
-    : hodiny_(hodiny), sestava_(aplikace, {domov(slozka_), slozka_.filePath("nastaveni"), hodiny}) {
+Tabulka pozadovanaTabulka() {
+    const bool calc = QCoreApplication::arguments().contains(QStringLiteral("--tabulka=libreoffice"));
+    return calc ? Tabulka::LibreOffice : Tabulka::Vestavena;
+}
+
+BeziciProgram::BeziciProgram(QApplication& aplikace, testing::RucniHodiny* hodiny, Tabulka tabulka)
+    : hodiny_(hodiny), sestava_(aplikace, {domov(slozka_, tabulka), slozka_.filePath("nastaveni"), hodiny}) {
     program().Main();
     cekejNaOkna();
     program().modely().tonina.nastavStupnici(Key(QStringLiteral("C dur")));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Sestava.h"
+#include "app/VolbaTabulky.h"
 #include "tests/support/RucniHodiny.h"
 
 #include <QObject>
@@ -24,13 +25,18 @@ struct CasAkce {
     int malbyTabulky = 0;      ///< and in the sheet window
 };
 
-/// The real program over its built-in spreadsheet, both windows on the screen, in a folder of its own.
-/// Everything that fails throws std::runtime_error.
+/// The spreadsheet that the command line asks for: "--tabulka=libreoffice", the built-in one without it.
+Tabulka pozadovanaTabulka();
+
+/// The real program over a spreadsheet, both windows on the screen, in a folder of its own. Everything that
+/// fails throws std::runtime_error. Of a spreadsheet that is not built in only the calls are measured: it
+/// paints in its own process and its own time.
 class BeziciProgram : public QObject {
     Q_OBJECT
 public:
     /// `hodiny`: the clock of automatic stepping; none: the system's.
-    explicit BeziciProgram(QApplication& aplikace, testing::RucniHodiny* hodiny = nullptr);
+    explicit BeziciProgram(QApplication& aplikace, testing::RucniHodiny* hodiny = nullptr,
+                           Tabulka tabulka = Tabulka::Vestavena);
     ~BeziciProgram() override;
 
     Program& program() { return sestava_.program(); }

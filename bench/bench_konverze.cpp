@@ -1,5 +1,6 @@
-// bench_konverze: how long a song takes into another key, from the click on "Provést" until the box says that
-// it is done, with both windows on the screen and the note table read afresh for every tone.
+// bench_konverze [--tabulka=libreoffice]: how long a song takes into another key, from the click on "Provést"
+// until the box says that it is done, with both windows on the screen and the note table read afresh for
+// every tone.
 #include "app/Program.h"
 #include "bench/BeziciProgram.h"
 #include "bench/Kvantily.h"
@@ -94,7 +95,7 @@ void konverze(benchmark::State& stav, BeziciProgram& bezici) {
 }
 
 void zmer(QApplication& aplikace) {
-    BeziciProgram bezici(aplikace);
+    BeziciProgram bezici(aplikace, nullptr, pozadovanaTabulka());
     auto* mereni = benchmark::RegisterBenchmark(
         "konverze", [&bezici](benchmark::State& stav) { konverze(stav, bezici); });
     for (const int hmatu : {125, 250, 500, 1000})

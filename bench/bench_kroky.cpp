@@ -1,4 +1,5 @@
-// bench_kroky: what the player waits for, from the click to the painted frames of both windows.
+// bench_kroky [--tabulka=libreoffice]: what the player waits for, from the click to the painted frames of
+// both windows.
 #include "app/Program.h"
 #include "bench/BeziciProgram.h"
 #include "bench/Kvantily.h"
@@ -166,7 +167,7 @@ void zaregistrujVse(BeziciProgram& program) {
 
 void zmer(QApplication& aplikace) {
     testing::RucniHodiny hodiny;
-    BeziciProgram program(aplikace, &hodiny);
+    BeziciProgram program(aplikace, &hodiny, pozadovanaTabulka());
     const QWidget& okno = program.program().okno();
     benchmark::AddCustomContext("platform", QGuiApplication::platformName().toStdString());
     benchmark::AddCustomContext("main_window",

@@ -88,9 +88,15 @@ def first_window(command, folder):
 
 def candidates(bin_folder):
     """Name, how it is measured, command; and the names of what is not installed."""
-    found = [("Zvonika", probe, [os.path.join(bin_folder, "start_probe")]),
+    own = os.path.join(bin_folder, "start_probe")
+    found = [("Zvonika", probe, [own]),
              ("empty window", probe, [os.path.join(bin_folder, "empty_window")])]
     missing = []
+    if shutil.which("soffice"):
+        # Its first instance is started and ended, and the second is there, before the window is painted.
+        found.append(("Zvonika, Calc", probe, [own, "libreoffice"]))
+    else:
+        missing.append("LibreOffice")
     for name, commands in PEERS.items():
         command = next(filter(None, map(shutil.which, commands)), None)
         if command and shutil.which("xdotool"):

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """summary.py FOLDER: what kroky.json, tempo.json, konverze.json and start.json in FOLDER say, beside what is
-aimed at."""
+aimed at; then kroky-calc.json and konverze-calc.json beside them."""
 import json
 import os
 import sys
@@ -11,6 +11,8 @@ AIM_DRIFT_MS = 10
 AIM_CONVERSION = (500, 1000)  # grips of seven tones, ms
 AIM_START_MS = 150
 AIM_RESIDENT_MB = 60
+# LibreOffice Calc as the spreadsheet, medians in ms.
+AIMS_CALC = {"cmdDalsi": 50, "cmdJakDal": 50, "Timer1": 50, "cmdTah": 100, "konverze": 10000, "start": 3000}
 
 
 def read(folder, name):
@@ -84,6 +86,31 @@ def start(results):
             print(f"  {what}: {', '.join(results[what])}")
 
 
+def benchmarks(results):
+    """Medians and slowest of each benchmark by name and grips, in ms; those that failed are left out."""
+    return {tuple(result["name"].split("/")[:2]): (result["total_median_ms"], result["total_max_ms"])
+            for result in (results or {"benchmarks": []})["benchmarks"] if not result.get("error_occurred")}
+
+
+def side_by_side(folder):
+    """The built-in spreadsheet and Calc; of Calc the calls and this program's own painting."""
+    rows = []
+    for name in ("kroky", "konverze"):
+        own, calc = (benchmarks(read(folder, f"{name}{which}.json")) for which in ("", "-calc"))
+        rows += [(*key, own.get(key), calc[key]) for key in calc]
+    programs = (read(folder, "start.json") or {"programs": {}})["programs"]
+    if "Zvonika, Calc" in programs:
+        times = [(programs[name]["first_paint"], programs[name]["slowest"]) for name in ("Zvonika", "Zvonika, Calc")]
+        rows.append(("start", "-", *times))
+    if not rows:
+        return
+    print("The built-in spreadsheet and LibreOffice Calc, ms")
+    print(f"{'':<12}{'grips':>6}{'built-in':>10}{'Calc':>10}{'Calc max':>10}  aim")
+    for name, grips, own, calc in rows:
+        print(f"{name:<12}{grips:>6}{own[0] if own else float('nan'):10.1f}{calc[0]:10.1f}{calc[1]:10.1f}  "
+              + verdict((calc[0],), (AIMS_CALC.get(name),)))
+
+
 def main():
     folder = sys.argv[1]
     for name, show in (("kroky.json", steps), ("tempo.json", tempo), ("konverze.json", conversion),
@@ -92,6 +119,7 @@ def main():
         if results:
             show(results)
             print()
+    side_by_side(folder)
 
 
 if __name__ == "__main__":

@@ -125,15 +125,18 @@ void Hrac::obrazek(const QString& nazev) {
     ++obrazku_;
     const QString soubor =
         QStringLiteral("%1/%2-%3.png").arg(slozka_).arg(obrazku_, 2, 10, QLatin1Char('0')).arg(nazev);
-    QImage obraz = snimek();
-    if (ustaleni_ > 0)
-        QTest::qWaitFor(
-            [&] {
-                const QImage predtim = std::exchange(obraz, (QTest::qWait(ustaleni_), snimek()));
-                return obraz == predtim;
-            },
-            trpelivost);
+    const QImage obraz = ustaleny();
     if (!obraz.save(soubor)) throw std::runtime_error("obrázek nelze uložit: " + soubor.toStdString());
+}
+
+QImage Hrac::ustaleny() const {
+    QImage obraz = snimek();
+    for (int cekano = 0; ustaleni_ > 0 && cekano < trpelivost; cekano += ustaleni_) {
+        QTest::qWait(ustaleni_);
+        const QImage predtim = std::exchange(obraz, snimek());
+        if (obraz == predtim) break;
+    }
+    return obraz;
 }
 
 QImage Hrac::snimek() const {

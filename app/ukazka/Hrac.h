@@ -46,6 +46,7 @@ protected:
     QString slozka_;
 
 private:
+    QImage ustaleny() const;
     QImage snimek() const;
 
     int ustaleni_;
