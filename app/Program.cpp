@@ -48,14 +48,25 @@ bool Program::Form_Load() {
     return cele;
 }
 
+void Program::spustTabulku() {
+    try {
+        SpustExcel(prostredi_.spoustecExcelu, modely_.pisen);
+    } catch (const RuntimeError& nezdar) {
+        procNejdeTabulka_ = nezdar.cause();
+        throw; // the start-up reports the number
+    }
+    modely_.pisen.excel().setListener(this);
+}
+
 bool Program::chceNahradniTabulku() const {
     if (!prostredi_.tabulky.nahradni) return false;
     const Answer odpoved = prostredi_.dialogs.message(
         {QStringLiteral("Tabulkový program"),
          QStringLiteral(
-             "Zvolený tabulkový program se nepodařilo spustit. Bez něho nelze písničky otevírat ani "
-             "zapisovat.\n\nChcete teď pracovat s vestavěnou tabulkou Zvoniky? Volba programu se tím nemění; "
-             "změnit ji můžete v nabídce Doplňky."),
+             "Zvolený tabulkový program se nepodařilo spustit. %1\n\nBez něho nelze písničky otevírat ani "
+             "zapisovat. Chcete teď pracovat s vestavěnou tabulkou Zvoniky? Volba programu se tím nemění; "
+             "změnit ji můžete v nabídce Doplňky.")
+             .arg(procNejdeTabulka_),
          Icon::Question, Buttons::YesNo});
     return odpoved == Answer::Yes;
 }
@@ -63,10 +74,7 @@ bool Program::chceNahradniTabulku() const {
 KrokySpusteni Program::krokySpusteni() {
     return {
         [this] { okno_->nastavVzdyNahore(); },
-        [this] {
-            SpustExcel(prostredi_.spoustecExcelu, modely_.pisen);
-            modely_.pisen.excel().setListener(this);
-        },
+        [this] { spustTabulku(); },
         [this](bool obracene) { modely_.diskant.nastavObraceneCislovani(obracene); },
         [this](bool zapnuto) { modely_.diskant.nastavNazvy(zapnuto, tonina()); },
         [this](bool zapnuto) { modely_.diskant.nastavCislovani(zapnuto); },
@@ -79,8 +87,16 @@ KrokySpusteni Program::krokySpusteni() {
 void Program::zaregistrujPrikazy() {
     Konverzace& k = konverzace_;
     prikazy_ = {
-        {"cmdNovaSkladba", [&k] { k.zivotPisne.cmdNovaSkladba(); }},
-        {"cmdEdit", [&k] { k.zivotPisne.cmdEdit(); }},
+        {"cmdNovaSkladba",
+         [this, &k] {
+             k.zivotPisne.cmdNovaSkladba();
+             ponechKlavesnici();
+         }},
+        {"cmdEdit",
+         [this, &k] {
+             k.zivotPisne.cmdEdit();
+             ponechKlavesnici();
+         }},
         {"cmdEndEdit", [&k] { k.zivotPisne.cmdEndEdit(); }},
         {"cmdStupnice", [this] { vyberStupnici(); }},
         {"cmdTah", [&k] { k.zapisHmatu.cmdTah(); }},

@@ -56,6 +56,7 @@ private:
     void propojModely();
     void nastavPoradiFokusu();
     bool Form_Load();
+    void spustTabulku();
     bool chceNahradniTabulku() const;
     KrokySpusteni krokySpusteni();
     void vyberStupnici();
@@ -65,6 +66,7 @@ private:
     bool provedUdalost(const Obsluha& obsluha);
     void Form_Unload();
     void prejdiNaTabulku();
+    void ponechKlavesnici();
     void nastavZkratky();
 
     void cursorMoved() override;
@@ -76,6 +78,7 @@ private:
     Konverzace konverzace_;
     Automat automat_;
     QHash<QString, Obsluha> prikazy_;
+    QString procNejdeTabulka_; ///< why the spreadsheet did not start; "" where nothing is known
     std::unique_ptr<Form1> okno_;
     OknoNapovedy napoveda_;
 };

@@ -154,6 +154,11 @@ void Program::prejdiNaTabulku() {
     provedUdalost([this] { modely_.pisen.excel().showToUser(); });
 }
 
+// The window of a workbook that has just come up would take it along.
+void Program::ponechKlavesnici() {
+    if (modely_.pisen.otevrena()) okno_->activateWindow();
+}
+
 void Program::prejdiNaHlavniOkno() {
     QWidget* kam = napoveda_.otevrena() ? napoveda_.okno() : static_cast<QWidget*>(okno_.get());
     kam->raise();

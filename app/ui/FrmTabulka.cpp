@@ -47,10 +47,10 @@ QWidget* FrmTabulka::postavVolby(const QVector<NabidkaTabulky>& nabidka) {
     mrizka->setVerticalSpacing(3);
     for (const NabidkaTabulky& jedna : nabidka)
         pridejVolbu(*mrizka, jedna);
-    if (auto* zvolena = optTabulka_->button(static_cast<int>(volba_.zvolena()))) {
-        zvolena->setChecked(true);
-        zvolena->setFocus();
-    }
+    auto* zvolena = optTabulka_->button(static_cast<int>(volba_.zvolena()));
+    if (!zvolena) zvolena = optTabulka_->button(static_cast<int>(Tabulka::Vestavena));
+    zvolena->setChecked(true);
+    zvolena->setFocus();
     return ram;
 }
 

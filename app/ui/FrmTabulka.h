@@ -14,6 +14,7 @@ namespace zvonika {
 class FrmTabulka : public QDialog {
     Q_OBJECT
 public:
+    /// `nabidka` holds the built-in spreadsheet at least; it stands for a choice that is not offered.
     FrmTabulka(VolbaTabulky& volba, const QVector<NabidkaTabulky>& nabidka, QWidget* parent = nullptr);
 
 private:

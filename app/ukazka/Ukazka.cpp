@@ -74,6 +74,7 @@ void Ukazka::zalozPisen() {
                QTest::keyClick(vstup, Qt::Key_Return);
            });
     cekej([this] { return program_.okno().windowTitle() == nazevPisne + ".xls"; }, "založená píseň");
+    cekejNaOkno(&program_.okno(), "hlavní okno nad novou písní");
     soubor_ = program_.pracovniSlozka() + QDir::separator() + nazevPisne + ".xls";
 }
 
@@ -143,6 +144,7 @@ void Ukazka::otevriPisen() {
                QTest::keyClick(jmeno, Qt::Key_Return);
            });
     cekej([this] { return program_.okno().windowTitle() == nazevPisne + ".xls"; }, "otevřená píseň");
+    cekejNaOkno(&program_.okno(), "hlavní okno nad otevřenou písní");
     klikni("cmdPrvni");
     klikni(hmaty_[0].tlak ? "cmdReadTlak" : "cmdReadTah");
     obrazek("znovu-otevreno");

@@ -27,7 +27,8 @@ protected:
         dialogs.expect("Neočekávaná chyba programu.", "chybě číslo 429");
     }
     void spust(Answer odpoved) {
-        dialogs.expect("Tabulkový program", "Chcete teď pracovat s vestavěnou tabulkou Zvoniky?", odpoved);
+        dialogs.expect("Tabulkový program",
+                       "spustit. LibreOffice není na tomto počítači nainstalován.\n\nBez něho", odpoved);
         OknoSPisni::SetUp();
     }
 };
