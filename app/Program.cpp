@@ -48,25 +48,14 @@ bool Program::Form_Load() {
     return cele;
 }
 
-void Program::spustTabulku() {
-    try {
-        SpustExcel(prostredi_.spoustecExcelu, modely_.pisen);
-    } catch (const RuntimeError& nezdar) {
-        procNejdeTabulka_ = nezdar.cause();
-        throw; // the start-up reports the number
-    }
-    modely_.pisen.excel().setListener(this);
-}
-
 bool Program::chceNahradniTabulku() const {
     if (!prostredi_.tabulky.nahradni) return false;
     const Answer odpoved = prostredi_.dialogs.message(
         {QStringLiteral("Tabulkový program"),
          QStringLiteral(
-             "Zvolený tabulkový program se nepodařilo spustit. %1\n\nBez něho nelze písničky otevírat ani "
-             "zapisovat. Chcete teď pracovat s vestavěnou tabulkou Zvoniky? Volba programu se tím nemění; "
-             "změnit ji můžete v nabídce Doplňky.")
-             .arg(procNejdeTabulka_),
+             "Zvolený tabulkový program se nepodařilo spustit. Bez něho nelze písničky otevírat ani "
+             "zapisovat.\n\nChcete teď pracovat s vestavěnou tabulkou Zvoniky? Volba programu se tím nemění; "
+             "změnit ji můžete v nabídce Doplňky."),
          Icon::Question, Buttons::YesNo});
     return odpoved == Answer::Yes;
 }
@@ -74,7 +63,10 @@ bool Program::chceNahradniTabulku() const {
 KrokySpusteni Program::krokySpusteni() {
     return {
         [this] { okno_->nastavVzdyNahore(); },
-        [this] { spustTabulku(); },
+        [this] {
+            SpustExcel(prostredi_.spoustecExcelu, modely_.pisen);
+            modely_.pisen.excel().setListener(this);
+        },
         [this](bool obracene) { modely_.diskant.nastavObraceneCislovani(obracene); },
         [this](bool zapnuto) { modely_.diskant.nastavNazvy(zapnuto, tonina()); },
         [this](bool zapnuto) { modely_.diskant.nastavCislovani(zapnuto); },

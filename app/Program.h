@@ -56,7 +56,6 @@ private:
     void propojModely();
     void nastavPoradiFokusu();
     bool Form_Load();
-    void spustTabulku();
     bool chceNahradniTabulku() const;
     KrokySpusteni krokySpusteni();
     void vyberStupnici();
@@ -78,7 +77,6 @@ private:
     Konverzace konverzace_;
     Automat automat_;
     QHash<QString, Obsluha> prikazy_;
-    QString procNejdeTabulka_; ///< why the spreadsheet did not start; "" where nothing is known
     std::unique_ptr<Form1> okno_;
     OknoNapovedy napoveda_;
 };

@@ -63,6 +63,7 @@ void LibreOfficeApplication::start() {
         [this] { deliverNotices(); },
         [process = process_](const QString& path) { process->tellDocument(path); });
     connectTo(pipe);
+    process_->tellStarted();
     calcFolder_ = ask([](CalcEngine& calc) { return calc.folder(); });
 }
 

@@ -147,8 +147,15 @@ void OfficeProcess::end() {
     guardian_ = -1;
 }
 
+void OfficeProcess::tellStarted() {
+    tell("started\n");
+}
+
 void OfficeProcess::tellDocument(const QString& nativePath) {
-    const QByteArray line = "file:" + QFile::encodeName(nativePath) + '\n';
+    tell("file:" + QFile::encodeName(nativePath) + '\n');
+}
+
+void OfficeProcess::tell(const QByteArray& line) {
     const std::scoped_lock lock(mutex_);
     // A guardian that has ended means an office that has ended, which the next call to it tells.
     if (line_ >= 0) send(line_, line.constData(), static_cast<std::size_t>(line.size()), MSG_NOSIGNAL);

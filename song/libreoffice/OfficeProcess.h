@@ -29,10 +29,14 @@ public:
     bool waitForEnd(std::chrono::milliseconds time) const;
     /// Ends it at once; unsaved changes are lost.
     void end();
+    /// The office is up: it holds by now what it would leave behind.
+    void tellStarted();
     /// The office has a document open. From any thread.
     void tellDocument(const QString& nativePath);
 
 private:
+    void tell(const QByteArray& line);
+
     mutable std::mutex mutex_;
     mutable pid_t guardian_ = -1; ///< -1 once it is known to have ended
     int line_ = -1;

@@ -27,8 +27,7 @@ protected:
         dialogs.expect("Neočekávaná chyba programu.", "chybě číslo 429");
     }
     void spust(Answer odpoved) {
-        dialogs.expect("Tabulkový program",
-                       "spustit. LibreOffice není na tomto počítači nainstalován.\n\nBez něho", odpoved);
+        dialogs.expect("Tabulkový program", "Chcete teď pracovat s vestavěnou tabulkou Zvoniky?", odpoved);
         OknoSPisni::SetUp();
     }
 };

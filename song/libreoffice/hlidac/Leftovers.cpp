@@ -34,7 +34,6 @@ std::string lockOf(const std::string& document) {
 } // namespace
 
 void Leftovers::lookAt(pid_t office) {
-    if (!pipes_.empty()) return;
     const auto held = socketsOf(office);
     std::ifstream all("/proc/net/unix");
     for (std::string line; std::getline(all, line);) {
@@ -57,6 +56,9 @@ void Leftovers::remove() const {
         if (const std::string lock = lockOf(document); isOwnLock(lock)) unlink(lock.c_str());
     for (const std::string& pipe : pipes_)
         unlink(pipe.c_str());
+    unlink((profile_ + "/.lock").c_str());
+    std::error_code absent;
+    fs::remove_all(temporaryFolder(), absent);
 }
 
 } // namespace zvonika

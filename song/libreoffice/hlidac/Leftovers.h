@@ -10,12 +10,16 @@ namespace zvonika {
 /// Plain POSIX: this runs in the guardian process, which knows no Qt.
 class Leftovers {
 public:
-    /// `profileUrl`: as the office was given it; lock files carry it.
-    explicit Leftovers(std::string profileUrl) : profileUrl_(std::move(profileUrl)) {}
+    /// `profileUrl`: as the office was given it, lock files carry it; `profile`: the same as a native folder.
+    Leftovers(std::string profileUrl, std::string profile)
+        : profileUrl_(std::move(profileUrl)), profile_(std::move(profile)) {}
+
+    /// Where the office is to put its temporary files.
+    std::string temporaryFolder() const { return profile_ + "/docasne"; }
 
     /// The office has this document open; native full name.
     void addDocument(const std::string& path) { documents_.insert(path); }
-    /// Notes the pipes that the running office listens on, once it has some.
+    /// Notes the pipes that the running office listens on.
     void lookAt(pid_t office);
     /// Removes what is there, after the end of the office. Lock files of others stay.
     void remove() const;
@@ -23,7 +27,7 @@ public:
 private:
     bool isOwnLock(const std::string& path) const;
 
-    std::string profileUrl_;
+    std::string profileUrl_, profile_;
     std::set<std::string> documents_;
     std::set<std::string> pipes_;
 };

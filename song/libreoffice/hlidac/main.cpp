@@ -1,5 +1,5 @@
 // zvonika-hlidac PROFILE_URL LOG PROGRAM ARGUMENT...: runs an office for Zvonika and sees to it that nothing
-// of it stays behind.
+// of it stays behind. LOG lies in the folder of the profile.
 //
 // Standard input is the line from Zvonika: "file:PATH" names a document that the office has open, anything
 // else only wakes. When the line breaks, Zvonika has ended, however it did, and the office is ended too.
@@ -14,6 +14,7 @@
 #include <poll.h>
 #include <string>
 #include <sys/prctl.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -113,6 +114,10 @@ int main(int argc, char* argv[]) {
     if (argc < 4) return 2;
     closefrom(profileLock + 1);
     setenv("SAL_ENABLE_FILE_LOCKING", "1", 1);
-    zvonika::Leftovers leftovers(argv[1]);
+    const std::string log = argv[2];
+    zvonika::Leftovers leftovers(argv[1], log.substr(0, log.rfind('/')));
+    if (const std::string folder = leftovers.temporaryFolder();
+        mkdir(folder.c_str(), 0700) == 0 || errno == EEXIST)
+        setenv("TMPDIR", folder.c_str(), 1);
     return run(argv + 3, argv[2], leftovers);
 }

@@ -164,6 +164,11 @@ TEST_F(CalcFailures, NothingOutlivesAProgramThatIsKilled) {
         EXPECT_TRUE(allGone(world.profiles.path())) << way;
         EXPECT_TRUE(locksIn(world.folder.path()).isEmpty()) << way;
         EXPECT_TRUE(QDir("/tmp").entryList({pipes}, QDir::System).isEmpty()) << way;
+        const QStringList kept = {"user", "vystup.txt", "zvonika.lock"};
+        EXPECT_EQ(QDir(world.profiles.path() + "/1")
+                      .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name),
+                  kept)
+            << way;
     }
 }
 
