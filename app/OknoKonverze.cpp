@@ -8,16 +8,34 @@
 #include "song/ZivotPisne.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 
 namespace zvonika {
+
+namespace {
+
+constexpr int obnovaMs = 33;
+
+/// Lets the windows paint and answer while a run has the thread. Not at every call: each turn also brings the
+/// journal to the disk, and nobody sees more than thirty pictures a second.
+std::function<void()> zpracovaniZprav() {
+    QElapsedTimer odMinule;
+    odMinule.start();
+    return [odMinule]() mutable {
+        if (!odMinule.hasExpired(obnovaMs)) return;
+        QCoreApplication::processEvents();
+        odMinule.start();
+    };
+}
+
+} // namespace
 
 void mnuKonverze(QWidget& okno, Modely& modely, ZivotPisne& zivotPisne, const Prostredi& prostredi) {
     // The main window's events wait until the dialog is closed, so the dialog catches its failures itself.
     ObsluhaUdalosti udalosti(prostredi.dialogs, prostredi.shell);
     const auto udalost = [&](const std::function<void()>& procedura) { udalosti.proved(procedura); };
     StavKonverze stav;
-    Konverze konverze(modely.pisen, prostredi.dialogs, prostredi.drive, stav,
-                      [] { QCoreApplication::processEvents(); });
+    Konverze konverze(modely.pisen, prostredi.dialogs, prostredi.drive, stav, zpracovaniZprav());
     konverze.Form_Load();
     FrmKonverze(konverze, stav, udalost, &okno).exec();
     udalost([&] { konverze.Form_Unload(); });

@@ -58,7 +58,9 @@ private:
         } else if (klik_ == Hodiny::time_point()) {
             okno->findChild<QAbstractButton*>(QStringLiteral("optStupnice(1)"))->setChecked(true);
             klik_ = Hodiny::now();
-            okno->findChild<QAbstractButton*>(QStringLiteral("cmdGo"))->click();
+            // Not from here: this timer is silent until its own handler has returned.
+            auto* cmdGo = okno->findChild<QAbstractButton*>(QStringLiteral("cmdGo"));
+            QTimer::singleShot(0, cmdGo, &QAbstractButton::click);
         }
     }
 

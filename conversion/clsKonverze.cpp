@@ -1,7 +1,6 @@
 #include "conversion/clsKonverze.h"
 
 #include "conversion/NahradText.h"
-#include "theory/TabulkaNot.h"
 
 namespace zvonika {
 
@@ -39,12 +38,11 @@ std::optional<QString> clsKonverze::Konvertuj(const QString& zdrojova, const QSt
 }
 
 std::optional<QString> clsKonverze::najdiTon(const QString& zdroj, const QString& cil, const QString& ton) {
-    const TabulkaNot tabulka(drive_.programFolder());
-    chybaTabulky_ = tabulka.chyba();
+    tabulka_.nacti(drive_.programFolder());
     for (int i = prvniPolozka; i <= posledniPolozka; ++i) {
-        const auto jmeno = tabulka.ton(i, zdroj);
+        const auto jmeno = tabulka_.ton(i, zdroj);
         if (!jmeno) return std::nullopt; // an entry without the key ends the search
-        if (*jmeno == ton) return tabulka.ton(i, cil);
+        if (*jmeno == ton) return tabulka_.ton(i, cil);
     }
     return std::nullopt;
 }

@@ -3,6 +3,7 @@
 #include "platform/Dialogs.h"
 #include "platform/Drive.h"
 #include "song/SongSheet.h"
+#include "theory/TabulkaNot.h"
 
 #include <functional>
 #include <optional>
@@ -41,7 +42,7 @@ public:
     QString ZmenaLadeni(const QString& soucasna, const QString& nova, const QString& radek);
 
     /// What was wrong with the table when `Konvertuj` read it last; "" when nothing was.
-    const QString& chybaTabulky() const { return chybaTabulky_; }
+    const QString& chybaTabulky() const { return tabulka_.chyba(); }
 
 private:
     QString bezMezery(const QString& stupnice) const;
@@ -56,7 +57,7 @@ private:
     Dialogs& dialogs_;
     Drive& drive_;
     std::function<void()> zpracujZpravy_;
-    QString chybaTabulky_;
+    TabulkaNot tabulka_;
 };
 
 } // namespace zvonika

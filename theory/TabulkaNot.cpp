@@ -8,6 +8,8 @@ namespace zvonika {
 
 namespace {
 
+const QString jmeno = QStringLiteral("Tabulka tónů konverze.xml");
+
 /// The fewest entries that conversion and intervals together reach for: the heading and 57 tones.
 constexpr int nejmenePolozek = 58;
 
@@ -17,9 +19,17 @@ bool jeMimoStupnici(const pugi::xml_node& polozka) {
 
 } // namespace
 
-TabulkaNot::TabulkaNot(const QString& slozkaProgramu) {
-    const QString jmeno = QStringLiteral("Tabulka tónů konverze.xml");
-    chyba_ = loadXmlTable(slozkaProgramu + QStringLiteral("/konverze.xml"), jmeno, dokument_);
+void TabulkaNot::nacti(const QString& slozkaProgramu) {
+    const XmlTableFile soubor = readXmlTable(slozkaProgramu + QStringLiteral("/konverze.xml"), jmeno);
+    if (!soubor.content.isEmpty() && soubor.content == obsah_) return;
+    obsah_ = soubor.content;
+    polozky_.clear();
+    dokument_.reset();
+    chyba_ = soubor.trouble.isEmpty() ? parseXmlTable(obsah_, jmeno, dokument_) : soubor.trouble;
+    rozeber();
+}
+
+void TabulkaNot::rozeber() {
     for (const auto& nalez : dokument_.select_nodes("//nota"))
         polozky_.push_back(nalez.node());
     const auto prvniMimo = std::find_if(polozky_.cbegin(), polozky_.cend(), jeMimoStupnici);

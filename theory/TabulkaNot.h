@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 #include <optional>
@@ -14,8 +15,11 @@ namespace zvonika {
 /// `mimoStupnici`. Nothing is ever raised: a table that cannot be read has no entries.
 class TabulkaNot {
 public:
-    /// `slozkaProgramu`: native folder of the table. The file is read at once, and only then.
-    explicit TabulkaNot(const QString& slozkaProgramu);
+    /// Without entries until the table is read.
+    TabulkaNot() = default;
+    explicit TabulkaNot(const QString& slozkaProgramu) { nacti(slozkaProgramu); }
+    /// Reads the file in this native folder, only now; cheap where it says the same as last time.
+    void nacti(const QString& slozkaProgramu);
 
     int pocet() const { return static_cast<int>(polozky_.size()); }
     /// Number of entries before the first one that lies outside the scale, the heading included.
@@ -29,6 +33,9 @@ public:
     const QString& chyba() const { return chyba_; }
 
 private:
+    void rozeber();
+
+    QByteArray obsah_;
     pugi::xml_document dokument_;
     std::vector<pugi::xml_node> polozky_;
     int pocetStupnu_ = 0;

@@ -12,6 +12,7 @@
 #include "song/embedded/ui/SheetTable.h"
 #include "song/embedded/ui/SheetTabs.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -162,9 +163,12 @@ void SheetWindow::commitPending() {
 }
 
 void SheetWindow::wireDocument() {
-    connect(document_, &Document::selectionChanged, this, &SheetWindow::showSelection);
-    connect(document_, &Document::cellsChanged, this, &SheetWindow::showCell);
-    connect(document_, &Document::journalTroubleChanged, this, &SheetWindow::showCell);
+    connect(document_, &Document::selectionChanged, this, [this] {
+        followDue_ = true;
+        showSoon();
+    });
+    connect(document_, &Document::cellsChanged, this, &SheetWindow::showSoon);
+    connect(document_, &Document::journalTroubleChanged, this, &SheetWindow::showSoon);
     connect(document_, &Document::sheetsChanged, this, &SheetWindow::showSheets);
     connect(document_, &Document::nameChanged, this, &SheetWindow::showTitle);
     connect(document_, &Document::modifiedChanged, this, &SheetWindow::showTitle);
@@ -189,11 +193,30 @@ void SheetWindow::showSheets() {
 }
 
 void SheetWindow::showSelection() {
-    table_->follow(document_->selection());
-    showCell();
+    followDue_ = true;
+    showDue();
 }
 
-void SheetWindow::showCell() {
+/// The program goes over thousands of cells in a row: what comes before the next painting is shown once.
+void SheetWindow::showSoon() {
+    if (std::exchange(showDue_, true)) return;
+    QMetaObject::invokeMethod(this, &SheetWindow::showDue, Qt::QueuedConnection);
+    qApp->installEventFilter(this);
+}
+
+// The next key may be there already; it is meant for the cell where the cursor is by now.
+bool SheetWindow::eventFilter(QObject* watched, QEvent* event) {
+    const auto type = event->type();
+    if (type == QEvent::KeyPress || type == QEvent::ShortcutOverride || type == QEvent::InputMethod ||
+        type == QEvent::MouseButtonPress)
+        showDue();
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void SheetWindow::showDue() {
+    if (std::exchange(showDue_, false)) qApp->removeEventFilter(this);
+    if (!document_) return;
+    if (std::exchange(followDue_, false)) table_->follow(document_->selection());
     const CellPosition cell = document_->selection().active;
     line_->showCell(cell, document_->editText(document_->activeSheet(), cell));
     footer_->setStatus(statusText(*document_));

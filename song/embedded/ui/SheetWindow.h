@@ -35,6 +35,7 @@ Q_SIGNALS:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     QWidget* makeTop();
@@ -45,13 +46,16 @@ private:
     void showTitle();
     void showSheets();
     void showSelection();
-    void showCell();
+    void showSoon();
+    void showDue();
     bool renameSheet(int sheet, const QString& name);
 
     SheetCommands& commands_;
     Document* document_ = nullptr;
     int shownSheet_ = 0;
     bool committing_ = false;
+    bool showDue_ = false;   ///< what the document says is to be shown
+    bool followDue_ = false; ///< its selection too
     SheetModel* model_;
     SheetTable* table_;
     SheetMenu* menu_;

@@ -11,6 +11,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QLabel>
 #include <QLineEdit>
 #include <QTemporaryDir>
 #include <QTest>
@@ -45,9 +46,16 @@ protected:
         table().setFocus();
     }
 
-    SheetTable& table() const { return *window->findChild<SheetTable*>(); }
+    /// What the program did to the document comes into sight when its command is done.
+    template <typename Part>
+    Part& part(const char* name = nullptr) const {
+        QCoreApplication::sendPostedEvents(window, QEvent::MetaCall);
+        return *window->findChild<Part*>(QString::fromLatin1(name));
+    }
+    SheetTable& table() const { return part<SheetTable>(); }
     SheetTabs& tabs() const { return *window->findChild<SheetTabs*>(); }
-    QLineEdit& line() const { return *window->findChild<QLineEdit*>(QStringLiteral("obsahBunky")); }
+    QLineEdit& line() const { return part<QLineEdit>("obsahBunky"); }
+    QString status() const { return part<QLabel>("stavTabulky").text(); }
     QLineEdit* editor() const { return window->findChild<QLineEdit*>(QStringLiteral("editBunky")); }
     QAction& action(const char* name) const { return *window->findChild<QAction*>(QLatin1String(name)); }
 
