@@ -52,6 +52,8 @@ void CompoundFileWriter::resizeChain(CompoundFile::Chain& chain, std::size_t sec
         fat_[chain.back()] = freeSector;
         chain.pop_back();
     }
+    // A table that calls the last sector free must not have it given out again.
+    if (!chain.empty()) fat_[chain.back()] = endOfChain;
     if (chain.size() < sectors) growTable(sectors - chain.size());
     while (chain.size() < sectors) {
         const std::uint32_t sector = allocate();
