@@ -24,13 +24,17 @@ AIMS = {("edit", 500): (0.02, 15), ("edit", 60000): (0.25, 100)}
 
 
 def measured(command):
-    """Seconds, processor seconds and peak MiB of a process."""
-    start = time.monotonic()
-    process = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-    _, status, usage = os.wait4(process.pid, 0)
-    if status != 0:
-        raise RuntimeError("%s ended with %d" % (command[0], status))
-    return time.monotonic() - start, usage.ru_utime + usage.ru_stime, usage.ru_maxrss / 1024
+    """Seconds, processor seconds and peak MiB of a process. Its peak comes from GNU time, which starts it: started from
+    here, it would count what this script holds."""
+    with tempfile.NamedTemporaryFile("r") as peak:
+        start = time.monotonic()
+        process = subprocess.Popen(["/usr/bin/time", "-f", "%M", "-o", peak.name, *command],
+                                   stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        _, status, usage = os.wait4(process.pid, 0)
+        seconds = time.monotonic() - start
+        if status != 0:
+            raise RuntimeError("%s ended with %d" % (command[0], status))
+        return seconds, usage.ru_utime + usage.ru_stime, int(peak.read()) / 1024
 
 
 class Program:
@@ -131,7 +135,7 @@ def cells(program, size, ours):
     ratio = "" if program is ours else "%.1f ×" % (seconds / median(ours, size)[0])
     aim = AIMS.get((program.task, size)) if program is ours else None
     verdict = "" if not aim else " ✓" if seconds <= aim[0] and memory <= aim[1] else " (aim %g s, %d MiB)" % aim
-    return "%.3f" % seconds, "%.3f" % cpu, "%.0f%s%s" % (memory, verdict, " | " + ratio if ratio else " | 1")
+    return "%.4f" % seconds, "%.4f" % cpu, "%.0f%s%s" % (memory, verdict, " | " + ratio if ratio else " | 1")
 
 
 def table(found, task):
