@@ -7,9 +7,9 @@ using Druh = DruhTlacitka;
 const QVector<TlacitkoPrikazu>& tlacitkaPrikazu() {
     static const QVector<TlacitkoPrikazu> tabulka = {
         // the song
-        {"cmdNovaSkladba", "Nová píseň", "", {60, 60, 1200, 400}, Druh::Hlavni, "Ctrl+N"},
-        {"cmdEdit", "Otevřít", "", {1290, 60, 1170, 400}, Druh::Hlavni, "Ctrl+O"},
-        {"cmdEndEdit", "Konec písničky", "", {2490, 60, 1290, 400}, Druh::Hlavni, "Ctrl+E"},
+        {"cmdNovaSkladba", "Nová píseň", "", {60, 60, 1150, 400}, Druh::Hlavni, "Ctrl+N"},
+        {"cmdEdit", "Otevřít", "", {1240, 60, 950, 400}, Druh::Hlavni, "Ctrl+O"},
+        {"cmdEndEdit", "Konec písničky", "", {2220, 60, 1560, 400}, Druh::Hlavni, "Ctrl+E"},
         // its key
         {"cmdStupnice",
          "Vyberte tóninu",
@@ -45,12 +45,12 @@ const QVector<TlacitkoPrikazu>& tlacitkaPrikazu() {
         {"cmdZvuk(1)", "Midi", "Přehrát Midi", {13370, 9940, 1260, 390}},
         {"cmdZvuk(2)", "Wav", "Přehrát Wav", {14680, 9940, 1260, 390}},
         // releasing
-        {"cmdUvolDiskant", "Uvolnit diskant", "", {7680, 5290, 1500, 370}},
-        {"cmdUvolBasy", "Uvolnit basy", "", {7680, 5690, 1500, 370}},
-        {"cmdUvolNoty", "Uvolnit noty", "", {7680, 6090, 1500, 370}},
-        {"cmdUvolniPultony", "b", "Uvolnit půltóny", {7680, 6490, 480, 370}},
-        {"cmdUvolOdrazky", "Uvolnit odrážky", "", {8190, 6490, 990, 370}},
-        {"cmdUvolKnofl", "Uvolnit vše", "", {7680, 6890, 1500, 420}, Druh::Hlavni, "F4"},
+        {"cmdUvolDiskant", "Uvolnit diskant", "", {7680, 5290, 1500, 360}},
+        {"cmdUvolBasy", "Uvolnit basy", "", {7680, 5670, 1500, 360}},
+        {"cmdUvolNoty", "Uvolnit noty", "", {7680, 6050, 1500, 360}},
+        {"cmdUvolniPultony", "b", "Uvolnit půltóny", {7680, 6430, 380, 440}},
+        {"cmdUvolOdrazky", "Uvolnit odrážky", "", {8090, 6430, 1090, 440}},
+        {"cmdUvolKnofl", "Uvolnit vše", "", {7680, 6900, 1500, 410}, Druh::Hlavni, "F4"},
         // intervals, under the choice of their size
         {"cmdInterval",
          "Vrchní interval",

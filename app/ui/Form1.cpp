@@ -131,8 +131,32 @@ void Form1::postavTlacitka() {
         umisti(tlacitko, radek.twips);
         tlacitko->setEnabled(stavy_.povolen(radek.jmeno));
     }
+    spojSousedy();
     tlacitka_[QStringLiteral("cmdJakDal")]->nastavObrazek(PrikazoveTlacitko::Obrazek::Sipka);
     tlacitka_[QStringLiteral("cmdZvuk(0)")]->nastavObrazek(PrikazoveTlacitko::Obrazek::Nota);
+}
+
+/// The others of its row; of a button that has a row for itself, the like ones of its column.
+void Form1::spojSousedy() {
+    using Prikazy = std::vector<PrikazoveTlacitko*>;
+    const auto vyber = [this](const TlacitkoPrikazu& prvni, const auto& sousedi) {
+        Prikazy sousede;
+        for (const TlacitkoPrikazu& druhe : tlacitkaPrikazu())
+            if (druhe.jmeno != prvni.jmeno && sousedi(prvni.twips, druhe.twips))
+                sousede.push_back(tlacitka_[druhe.jmeno]);
+        return sousede;
+    };
+    const auto vRade = [](const QRect& a, const QRect& b) {
+        return a.top() == b.top() && a.height() == b.height();
+    };
+    const auto veSloupci = [](const QRect& a, const QRect& b) {
+        return a.left() == b.left() && a.size() == b.size();
+    };
+    for (const TlacitkoPrikazu& radek : tlacitkaPrikazu()) {
+        Prikazy sousede = vyber(radek, vRade);
+        if (sousede.empty()) sousede = vyber(radek, veSloupci);
+        tlacitka_[radek.jmeno]->nastavSousedy(std::move(sousede));
+    }
 }
 
 void Form1::postavPopisky() {

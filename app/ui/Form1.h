@@ -49,6 +49,7 @@ protected:
 
 private:
     void postavTlacitka();
+    void spojSousedy();
     void postavPopisky();
     void postavAutomat(Timer1& timer1);
     void postavMenu();

@@ -8,6 +8,9 @@ namespace zvonika {
 namespace {
 
 constexpr int vlajkyPopisku = Qt::AlignCenter | Qt::TextWordWrap;
+constexpr QMargins okraje(3, 2, 3, 3);
+constexpr int nejmensiPismo = 7;         // px
+constexpr double nejvetsiUstupek = 0.75; // of what a caption could have by itself
 
 QColor zakladniBarva(PrikazoveTlacitko::Vyznam vyznam) {
     switch (vyznam) {
@@ -100,16 +103,14 @@ void PrikazoveTlacitko::paintEvent(QPaintEvent*) {
     }
     QColor pismo = jeTmava(barva) ? QColor(Qt::white) : QColor(0x22, 0x1E, 0x18);
     if (!isEnabled()) pismo = QColor(0x9A, 0x94, 0x88);
-    QRect misto = rect().adjusted(3, 2, -3, -3);
+    const QRect misto = rect().marginsRemoved(okraje);
     if (text().isEmpty()) {
         kresliObrazek(painter, misto, pismo);
         return;
     }
-    if (obrazek_ != Obrazek::Zadny) {
+    if (obrazek_ != Obrazek::Zadny)
         kresliObrazek(painter, {misto.topLeft(), QSize(misto.height() * 3 / 4, misto.height())}, pismo);
-        misto.setLeft(misto.left() + misto.height() * 3 / 4);
-    }
-    kresliPopisek(painter, misto, pismo);
+    kresliPopisek(painter, mistoPopisku(), pismo);
 }
 
 void PrikazoveTlacitko::kresliObrazek(QPainter& painter, const QRect& misto, const QColor& barva) {
@@ -129,20 +130,40 @@ void PrikazoveTlacitko::kresliObrazek(QPainter& painter, const QRect& misto, con
     }
 }
 
-void PrikazoveTlacitko::prizpusobPismo(const QRect& misto) {
+/// Beside the picture, where there is one.
+QRect PrikazoveTlacitko::mistoPopisku() const {
+    QRect misto = rect().marginsRemoved(okraje);
+    if (obrazek_ != Obrazek::Zadny) misto.setLeft(misto.left() + misto.height() * 3 / 4);
+    return misto;
+}
+
+int PrikazoveTlacitko::vlastniPismo() {
+    const QRect misto = mistoPopisku();
     Prizpusobene& p = prizpusobene_;
-    if (p.zaklad == font() && p.text == text() && p.misto == misto.size()) return;
-    p = {font(), font(), text(), misto.size()};
-    for (int velikost = p.zaklad.pixelSize(); velikost > 7; --velikost) {
-        p.pismo.setPixelSize(velikost);
-        const QRect potreba = QFontMetrics(p.pismo).boundingRect(misto, vlajkyPopisku, text());
-        if (potreba.width() <= misto.width() && potreba.height() <= misto.height()) return;
+    if (p.zaklad == font() && p.text == text() && p.misto == misto.size()) return p.velikost;
+    p = {font().pixelSize(), font(), text(), misto.size()};
+    for (QFont pismo = p.zaklad; p.velikost > nejmensiPismo; --p.velikost) {
+        pismo.setPixelSize(p.velikost);
+        const QRect potreba = QFontMetrics(pismo).boundingRect(misto, vlajkyPopisku, text());
+        if (potreba.width() <= misto.width() && potreba.height() <= misto.height()) break;
     }
+    return p.velikost;
+}
+
+int PrikazoveTlacitko::spolecnePismo() {
+    const int vlastni = vlastniPismo();
+    int spolecne = vlastni;
+    for (PrikazoveTlacitko* soused : sousede_) {
+        const int jeho = soused->text().isEmpty() ? vlastni : soused->vlastniPismo();
+        if (jeho >= vlastni * nejvetsiUstupek) spolecne = std::min(spolecne, jeho);
+    }
+    return spolecne;
 }
 
 void PrikazoveTlacitko::kresliPopisek(QPainter& painter, const QRect& misto, const QColor& barva) {
-    prizpusobPismo(misto);
-    painter.setFont(prizpusobene_.pismo);
+    QFont pismo = font();
+    pismo.setPixelSize(spolecnePismo());
+    painter.setFont(pismo);
     painter.setPen(barva);
     painter.drawText(misto, vlajkyPopisku, text());
 }

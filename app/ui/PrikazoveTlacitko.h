@@ -4,6 +4,7 @@
 #include <QPushButton>
 
 #include <optional>
+#include <vector>
 
 namespace zvonika {
 
@@ -20,6 +21,9 @@ public:
     /// The drawn picture; it stands in the middle, or to the left of a caption.
     enum class Obrazek { Zadny, Sipka, Nota, Spustit, Zastavit };
     void nastavObrazek(Obrazek obrazek);
+    /// Buttons that stand in one row or column with this one: their captions take the size that suits all,
+    /// unless that would make long ones of short ones hard to read.
+    void nastavSousedy(std::vector<PrikazoveTlacitko*> sousede) { sousede_ = std::move(sousede); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -30,17 +34,21 @@ private:
     QColor plocha() const;
     void kresliObrazek(QPainter& painter, const QRect& misto, const QColor& barva);
     void kresliPopisek(QPainter& painter, const QRect& misto, const QColor& barva);
-    void prizpusobPismo(const QRect& misto);
+    QRect mistoPopisku() const;
+    int vlastniPismo();
+    int spolecnePismo();
 
-    /// The font that was fitted last, and what it was fitted to.
+    /// The size in pixels that was fitted last, and what it was fitted to.
     struct Prizpusobene {
-        QFont zaklad, pismo;
+        int velikost = 0;
+        QFont zaklad;
         QString text;
         QSize misto;
     };
 
     Vyznam vyznam_;
     Prizpusobene prizpusobene_;
+    std::vector<PrikazoveTlacitko*> sousede_;
     std::optional<QColor> barva_;
     Obrazek obrazek_ = Obrazek::Zadny;
 };
