@@ -18,6 +18,8 @@ public:
     virtual ~CalcObserver() = default;
     virtual void cursorMoved() = 0;
     virtual void cellsEdited() = 0;
+    /// A workbook is being closed, by whomever.
+    virtual void workbookCloses() = 0;
     /// Calc has this file open from now on, whoever opened it.
     virtual void fileOpened(const QString& nativePath) = 0;
 };

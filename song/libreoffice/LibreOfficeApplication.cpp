@@ -49,6 +49,14 @@ LibreOfficeApplication::LibreOfficeApplication(const LibreOfficeSurroundings& su
               [this] { return wantsToWait(); }, [this] { process_->end(); }}) {
     if (!surroundings_.installation.usable())
         throw AutomationError(error::cannotCreateObject, surroundings_.installation.missing);
+    untilShown_.setSingleShot(true);
+    QObject::connect(&untilShown_, &QTimer::timeout, [this] {
+        if (calls_.busy()) return untilShown_.start();
+        try {
+            showCursor();
+        } catch (const AutomationError&) { // the next call tells
+        }
+    });
     start();
 }
 
@@ -56,7 +64,7 @@ void LibreOfficeApplication::start() {
     const QString pipe = freshPipe();
     {
         const Profile profile(surroundings_.profiles);
-        profile.seed({places_.folder(), surroundings_.window});
+        profile.seed({places_.folder(), surroundings_.window, surroundings_.installation.version});
         process_ = std::make_shared<OfficeProcess>(surroundings_.installation, profile, pipe);
     }
     notices_ = std::make_shared<UserNotices>(
@@ -201,7 +209,7 @@ std::optional<QString> LibreOfficeApplication::getOpenFilename(const QString& fi
 }
 
 OpenWorkbook LibreOfficeApplication::active() const {
-    const OpenWorkbook workbook = ask([](CalcEngine& calc) { return calc.active(); });
+    const OpenWorkbook workbook = askAside([](CalcEngine& calc) { return calc.active(); });
     if (workbook.id == 0)
         throw AutomationError(error::objectNotSet, QStringLiteral("V tabulce není otevřen žádný sešit."));
     return workbook;
@@ -248,13 +256,19 @@ void LibreOfficeApplication::closeActiveWorkbook() {
 }
 
 QString LibreOfficeApplication::activeWorkbookName() const {
-    return ask([](CalcEngine& calc) { return calc.active(); }).name;
+    return askAside([](CalcEngine& calc) { return calc.active(); }).name;
 }
 
 void LibreOfficeApplication::activateWindow(const QString& name) {
-    const bool found = ask([name](CalcEngine& calc) {
+    requireRunning();
+    const unsigned acts = notices_->acts();
+    if (seen_.isActive(name, acts)) return;
+    const auto isActive = [name](CalcEngine& calc) {
         const OpenWorkbook active = calc.active();
-        if (active.id != 0 && sameName(active.name, name)) return true;
+        return active.id != 0 && sameName(active.name, name);
+    };
+    if (askAside(isActive)) return seen_.learnActive(name, acts);
+    const bool found = ask([name](CalcEngine& calc) {
         const auto open = calc.workbooks();
         const auto wanted = std::find_if(open.begin(), open.end(),
                                          [&](const OpenWorkbook& one) { return sameName(one.name, name); });

@@ -6,9 +6,12 @@
 #include "song/libreoffice/Installation.h"
 #include "song/libreoffice/OfficeProcess.h"
 #include "song/libreoffice/PatientCalls.h"
+#include "song/libreoffice/ReadAhead.h"
 #include "song/libreoffice/UserNotices.h"
 
+#include <QElapsedTimer>
 #include <QRect>
+#include <QTimer>
 
 #include <optional>
 #include <type_traits>
@@ -113,17 +116,45 @@ private:
     void saveUnder(const QString& nativePath);
     bool mayReplace(const QString& name);
 
+    /// What Calc shows of the cursor follows a fast program at the pace of a film.
+    void select(const CellRange& range);
+    void showCursor() const;
+    CellPosition cursor() const;
+    CellValue cell(CellPosition position) const;
+
     /// Carries out `calls` on the thread of the engine, once this application is known to run.
     template <typename Calls>
-    auto ask(Milliseconds patience, Calls calls) const;
+    auto ask(Milliseconds patience, Calls calls) const {
+        showCursor();
+        seen_.forget();
+        sinceShown_.invalidate();
+        return askAside(patience, std::move(calls));
+    }
     template <typename Calls>
     auto ask(Calls calls) const {
         return ask(surroundings_.patience.cell, std::move(calls));
+    }
+    /// The same for calls which leave what has been seen of the sheet as it is.
+    template <typename Calls>
+    auto askAside(Milliseconds patience, Calls calls) const;
+    template <typename Calls>
+    auto askAside(Calls calls) const {
+        return askAside(surroundings_.patience.cell, std::move(calls));
     }
 
     LibreOfficeSurroundings surroundings_;
     mutable WorkbookPlaces places_;
     mutable QString calcFolder_; ///< native, as Calc was last known to have it
+    mutable ReadAhead seen_;
+    /// A selection that Calc has not been given yet; void when the user has acted since.
+    struct Owed {
+        CellRange range;
+        unsigned acts;
+    };
+    mutable std::optional<Owed> owed_;
+    mutable QElapsedTimer sinceShown_; ///< invalid: what follows is another matter than moving
+    unsigned shownAfter_ = 0;          ///< how many acts of the user
+    QTimer untilShown_;
     SpreadsheetListener* listener_ = nullptr;
     CellBlock clipboard_;
     State state_ = State::Running;
@@ -135,7 +166,7 @@ private:
 };
 
 template <typename Calls>
-auto LibreOfficeApplication::ask(Milliseconds patience, Calls calls) const {
+auto LibreOfficeApplication::askAside(Milliseconds patience, Calls calls) const {
     using Result = std::invoke_result_t<Calls, CalcEngine&>;
     requireRunning();
     // Shared, because a call that never ends stays behind with what it holds.

@@ -4,11 +4,13 @@
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 namespace zvonika {
 
 namespace {
 
+constexpr int frame = 40;                        ///< ms between two pictures of a moving cursor
 constexpr qint64 largestBlock = qint64{1} << 20; ///< cells handed over in one call
 constexpr qsizetype longestText = 32767;         ///< of a cell in the format .xls
 constexpr qsizetype longestSheetName = 31;
@@ -119,42 +121,86 @@ void LibreOfficeApplication::selectNextSheet() {
 }
 
 void LibreOfficeApplication::selectRange(const QString& address) {
-    ask([selected = range(address)](CalcEngine& calc) { calc.select(selected); });
+    select(range(address));
+}
+
+// Each movement of the cursor may scroll the window, which would take most of the time of a run over a song.
+void LibreOfficeApplication::select(const CellRange& range) {
+    requireRunning();
+    const unsigned acts = notices_->acts();
+    const bool soon = sinceShown_.isValid() && !sinceShown_.hasExpired(frame) && acts == shownAfter_;
+    owed_ = Owed{range, acts};
+    if (soon) {
+        if (!untilShown_.isActive()) untilShown_.start(frame);
+        return;
+    }
+    showCursor();
+    shownAfter_ = acts;
+    sinceShown_.start();
+}
+
+void LibreOfficeApplication::showCursor() const {
+    const auto due = std::exchange(owed_, std::nullopt);
+    if (!due || due->acts != notices_->acts()) return;
+    seen_.forgetCursor();
+    askAside([range = due->range](CalcEngine& calc) { calc.select(range); });
+}
+
+CellPosition LibreOfficeApplication::cursor() const {
+    requireRunning();
+    const unsigned acts = notices_->acts();
+    if (owed_ && owed_->acts == acts) return owed_->range.first;
+    if (const auto seen = seen_.cursor(acts)) return *seen;
+    const CellPosition found = askAside([](CalcEngine& calc) { return calc.cursor(); });
+    seen_.learnCursor(found, acts);
+    return found;
+}
+
+CellValue LibreOfficeApplication::cell(CellPosition position) const {
+    requireRunning();
+    const unsigned acts = notices_->acts();
+    if (const auto seen = seen_.value(position, acts)) return *seen;
+    const CellRange piece = ReadAhead::pieceWith(position);
+    const CellBlock found = askAside([piece](CalcEngine& calc) { return calc.read(piece); });
+    seen_.learnCells(piece, found, acts);
+    return found.at(position.row - piece.first.row).at(position.column - piece.first.column);
 }
 
 CellValue LibreOfficeApplication::value(const QString& address) const {
-    return ask(
-        [cell = single(range(address).first)](CalcEngine& calc) { return calc.read(cell).at(0).at(0); });
+    return cell(range(address).first);
 }
 
 void LibreOfficeApplication::setValue(const QString& address, const CellValue& value) {
     refuseLongText(value);
     const CellRange target = range(address);
     if (isEmpty(value)) return clearContents(address);
-    ask([target = block(target), value](CalcEngine& calc) {
+    seen_.forgetCells();
+    askAside([target = block(target), value](CalcEngine& calc) {
         calc.write(target.first, filled(target, value));
     });
 }
 
 CellValue LibreOfficeApplication::activeCellValue() const {
-    return ask([](CalcEngine& calc) { return calc.read(single(calc.cursor())).at(0).at(0); });
+    return cell(cursor());
 }
 
 void LibreOfficeApplication::setActiveCellValue(const CellValue& value) {
     refuseLongText(value);
-    ask([value](CalcEngine& calc) { calc.write(calc.cursor(), {{value}}); });
+    const CellPosition target = cursor();
+    seen_.forgetCells();
+    askAside([target, value](CalcEngine& calc) { calc.write(target, {{value}}); });
 }
 
 int LibreOfficeApplication::activeRow() const {
-    return ask([](CalcEngine& calc) { return calc.cursor(); }).row;
+    return cursor().row;
 }
 
 QString LibreOfficeApplication::activeAddress() const {
-    return absoluteAddress(ask([](CalcEngine& calc) { return calc.cursor(); }));
+    return absoluteAddress(cursor());
 }
 
 void LibreOfficeApplication::moveCursor(int rows, int columns) {
-    ask([rows, columns](CalcEngine& calc) { calc.select(single(moved(calc.cursor(), rows, columns))); });
+    select(single(moved(cursor(), rows, columns)));
 }
 
 void LibreOfficeApplication::clearContents(const QString& address) {
@@ -185,7 +231,7 @@ void LibreOfficeApplication::paste() {
 }
 
 CellBlock LibreOfficeApplication::readBlock(const QString& address) const {
-    return ask([source = block(range(address))](CalcEngine& calc) { return calc.read(source); });
+    return askAside([source = block(range(address))](CalcEngine& calc) { return calc.read(source); });
 }
 
 void LibreOfficeApplication::writeBlock(const QString& address, const CellBlock& written) {

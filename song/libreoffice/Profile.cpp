@@ -51,6 +51,8 @@ QVector<Setting> settings(const ProfileSeed& seed) {
     if (!seed.workFolder.isEmpty())
         all.push_back({"/org.openoffice.Office.Paths/Paths/org.openoffice.Office.Paths:NamedPath['Work']",
                        "WritePath", QUrl::fromLocalFile(seed.workFolder).toEncoded()});
+    if (!seed.version.isEmpty())
+        all.push_back({"/org.openoffice.Setup/Product", "ooSetupLastVersion", seed.version.toLatin1()});
     if (const QRect& at = seed.window; !at.isEmpty())
         all.push_back({spreadsheets, "ooSetupFactoryWindowAttributes",
                        QStringLiteral("%1,%2,%3,%4;1;0,0,0,0;")

@@ -9,6 +9,9 @@ namespace zvonika {
 struct ProfileSeed {
     QString workFolder; ///< native; where Calc's file choices start; "": as it was
     QRect window;       ///< of a workbook's window, in pixels of the screen; empty: as it was
+    /// Of the LibreOffice that is started, as "7.4". One that has never run in a profile spends its first
+    /// second on trying out the display.
+    QString version = {};
 };
 
 /// The user profile of Zvonika's own office, apart from the user's. Several Zvonikas each have one.

@@ -6,11 +6,13 @@ UserNotices::UserNotices(std::function<void()> deliver, std::function<void(const
     : deliver_(std::move(deliver)), opened_(std::move(opened)), receiver_(std::make_unique<QObject>()) {}
 
 void UserNotices::cursorMoved() {
+    ++acts_;
     moved_ = true;
     post();
 }
 
 void UserNotices::cellsEdited() {
+    ++acts_;
     edited_ = true;
     post();
 }

@@ -19,7 +19,11 @@ public:
 
     void cursorMoved() override;
     void cellsEdited() override;
+    void workbookCloses() override { ++acts_; }
     void fileOpened(const QString& nativePath) override { opened_(nativePath); }
+
+    /// How many acts have been heard of, those too that are not delivered.
+    unsigned acts() const { return acts_; }
 
     struct Acts {
         bool edited = false;
@@ -37,6 +41,7 @@ private:
 
     std::function<void()> deliver_;
     std::function<void(const QString&)> opened_;
+    std::atomic<unsigned> acts_ = 0;
     std::atomic<bool> edited_ = false;
     std::atomic<bool> moved_ = false;
     std::atomic<bool> posted_ = false;

@@ -27,6 +27,11 @@ void UserEvents::modified(const css::lang::EventObject&) {
     if (users()) observer_.cellsEdited();
 }
 
+void UserEvents::notifyClosing(const css::lang::EventObject&) {
+    closed_ = true;
+    if (!stopped_) observer_.workbookCloses();
+}
+
 void UserEvents::moved() {
     if (users()) observer_.cursorMoved();
 }

@@ -34,7 +34,7 @@ public:
     void SAL_CALL activeSpreadsheetChanged(const css::sheet::ActivationEvent& event) override;
     void SAL_CALL modified(const css::lang::EventObject&) override;
     void SAL_CALL queryClosing(const css::lang::EventObject&, sal_Bool) override {}
-    void SAL_CALL notifyClosing(const css::lang::EventObject&) override { closed_ = true; }
+    void SAL_CALL notifyClosing(const css::lang::EventObject&) override;
     void SAL_CALL disposing(const css::lang::EventObject&) override {}
 
 private:

@@ -4,6 +4,7 @@
 #include "song/libreoffice/Installation.h"
 #include "song/libreoffice/PatientCalls.h"
 #include "song/libreoffice/Profile.h"
+#include "song/libreoffice/ReadAhead.h"
 #include "song/libreoffice/UserNotices.h"
 #include "song/libreoffice/ViewData.h"
 
@@ -64,14 +65,31 @@ TEST(Profile, IsTakenOnceAndKeepsTheUsersSettings) {
                              "oor:op=\"fuse\"><value>1</value></prop></item>\n";
     store(file, "<?xml version=\"1.0\"?>\n<oor:items>\n" + users + "</oor:items>\n");
     first.seed({"/tmp/Dvě písně", QRect(10, 20, 300, 400)});
-    first.seed({"/tmp/Dvě písně", QRect(11, 20, 300, 400)});
+    first.seed({"/tmp/Dvě písně", QRect(11, 20, 300, 400), "7.4"});
     const QByteArray seeded = contents(file);
     EXPECT_TRUE(seeded.contains(users));
     EXPECT_EQ(seeded.count("WarnAlienFormat"), 1);
+    EXPECT_EQ(seeded.count("<value>7.4</value>"), 1);
     EXPECT_EQ(seeded.count("<value>file:///tmp/Dv%C4%9B%20p%C3%ADsn%C4%9B</value>"), 1);
     EXPECT_EQ(seeded.count("<value>11,20,300,400;1;0,0,0,0;</value>"), 1);
     EXPECT_FALSE(seeded.contains("<value>10,20"));
     EXPECT_THROW(Profile("/proc/zvonika"), RuntimeError);
+}
+
+TEST(ReadAhead, KnowsThePieceItHasReadUntilTheUserActs) {
+    ReadAhead seen;
+    EXPECT_FALSE(seen.value({7, 2}, 0));
+    const CellRange piece = ReadAhead::pieceWith({7, 2});
+    CellBlock cells(piece.rows(), QVector<CellValue>(piece.columns()));
+    cells[1][22] = QString("C dur");
+    seen.learnCells(piece, cells, 5);
+    EXPECT_EQ(seen.value({8, 23}, 5), CellValue(QString("C dur")));
+    EXPECT_FALSE(seen.value({8, 24}, 5) || seen.value({6, 2}, 5) || seen.value({8, 23}, 6));
+    seen.learnCursor({8, 2}, 6);
+    EXPECT_FALSE(seen.value({8, 23}, 6)) << "what was known before the act is gone";
+    EXPECT_EQ(seen.cursor(6), (CellPosition{8, 2}));
+    EXPECT_EQ(ReadAhead::pieceWith({lastRow, 30}), single({lastRow, 30}));
+    EXPECT_EQ(ReadAhead::pieceWith({lastRow, 3}).last.row, lastRow);
 }
 
 TEST(Installation, NamesWhatIsMissing) {

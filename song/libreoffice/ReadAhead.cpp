@@ -1,0 +1,65 @@
+#include "song/libreoffice/ReadAhead.h"
+
+#include <algorithm>
+
+namespace zvonika {
+
+namespace {
+constexpr qint64 moment = 100;  ///< ms
+constexpr int rowsAhead = 4;    ///< a song is mostly read from row to row
+constexpr int songColumns = 23; ///< A to W
+} // namespace
+
+CellRange ReadAhead::pieceWith(CellPosition cell) {
+    if (cell.column > songColumns) return single(cell);
+    return {{cell.row, 1}, {std::min(cell.row + rowsAhead - 1, lastRow), songColumns}};
+}
+
+bool ReadAhead::fresh(unsigned acts) const {
+    return acts == acts_ && age_.isValid() && !age_.hasExpired(moment);
+}
+
+void ReadAhead::begin(unsigned acts) {
+    if (fresh(acts)) return;
+    forget();
+    acts_ = acts;
+    age_.start();
+}
+
+std::optional<CellPosition> ReadAhead::cursor(unsigned acts) const {
+    return fresh(acts) ? cursor_ : std::nullopt;
+}
+
+std::optional<CellValue> ReadAhead::value(CellPosition cell, unsigned acts) const {
+    if (cells_.isEmpty() || !piece_.contains(cell) || !fresh(acts)) return std::nullopt;
+    return cells_.at(cell.row - piece_.first.row).at(cell.column - piece_.first.column);
+}
+
+bool ReadAhead::isActive(const QString& workbook, unsigned acts) const {
+    return fresh(acts) && !workbook_.isEmpty() && workbook_ == workbook;
+}
+
+void ReadAhead::learnActive(const QString& workbook, unsigned acts) {
+    begin(acts);
+    workbook_ = workbook;
+}
+
+void ReadAhead::learnCursor(CellPosition cursor, unsigned acts) {
+    begin(acts);
+    cursor_ = cursor;
+}
+
+void ReadAhead::learnCells(const CellRange& piece, CellBlock cells, unsigned acts) {
+    begin(acts);
+    piece_ = piece;
+    cells_ = std::move(cells);
+}
+
+void ReadAhead::forget() {
+    forgetCursor();
+    forgetCells();
+    workbook_.clear();
+    age_.invalidate();
+}
+
+} // namespace zvonika

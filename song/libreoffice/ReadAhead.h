@@ -1,0 +1,46 @@
+#pragma once
+
+#include "song/Address.h"
+#include "song/CellValue.h"
+
+#include <QElapsedTimer>
+
+#include <optional>
+
+namespace zvonika {
+
+/// What was last seen of the active sheet of Calc, for a moment: a program that asks cell by cell then calls
+/// Calc once for a piece of the sheet. Whatever the user does there ends it, and so does the moment.
+class ReadAhead {
+public:
+    /// The piece of a sheet to read when this cell is asked for.
+    static CellRange pieceWith(CellPosition cell);
+
+    /// `acts`: how many acts of the user have been heard of. An answer is there only if it is the same number
+    /// as at the time of reading.
+    std::optional<CellPosition> cursor(unsigned acts) const;
+    std::optional<CellValue> value(CellPosition cell, unsigned acts) const;
+    bool isActive(const QString& workbook, unsigned acts) const; ///< false when that is not known
+
+    /// `acts` is the number before the reading.
+    void learnCursor(CellPosition cursor, unsigned acts);
+    void learnCells(const CellRange& piece, CellBlock cells, unsigned acts);
+    void learnActive(const QString& workbook, unsigned acts);
+
+    void forgetCursor() { cursor_.reset(); }
+    void forgetCells() { cells_.clear(); }
+    void forget();
+
+private:
+    bool fresh(unsigned acts) const;
+    void begin(unsigned acts);
+
+    std::optional<CellPosition> cursor_;
+    QString workbook_;
+    CellRange piece_;
+    CellBlock cells_; ///< of `piece_`; empty when nothing is known
+    unsigned acts_ = 0;
+    QElapsedTimer age_;
+};
+
+} // namespace zvonika
