@@ -79,6 +79,13 @@ std::vector<char*> pointers(std::vector<std::string>& texts) {
         QStringLiteral("LibreOffice Calc nelze spustit: %1.").arg(QString::fromLocal8Bit(strerror(reason))));
 }
 
+/// The connection writes into a pipe of the office's, which may end at any moment; a failed write tells
+/// enough.
+void ignoreBrokenPipes() {
+    struct sigaction present = {};
+    if (sigaction(SIGPIPE, nullptr, &present) == 0 && present.sa_handler == SIG_DFL) signal(SIGPIPE, SIG_IGN);
+}
+
 /// The guardian reads from `line` and keeps the profile's lock.
 pid_t spawn(std::vector<std::string> command, int line, int profileLock) {
     auto surroundings = environment();
@@ -88,8 +95,12 @@ pid_t spawn(std::vector<std::string> command, int line, int profileLock) {
     posix_spawn_file_actions_adddup2(&files, profileLock, lockInGuardian);
     posix_spawnattr_t attributes;
     posix_spawnattr_init(&attributes);
-    posix_spawnattr_setflags(&attributes,
-                             POSIX_SPAWN_SETPGROUP); // Ctrl+C in a terminal is for the program alone
+    sigset_t pipes;
+    sigemptyset(&pipes);
+    sigaddset(&pipes, SIGPIPE);
+    posix_spawnattr_setsigdefault(&attributes, &pipes);
+    // A group of its own: Ctrl+C in a terminal is for the program alone.
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGDEF);
     pid_t started = -1;
     const int failure = posix_spawn(&started, command.front().c_str(), &files, &attributes,
                                     pointers(command).data(), pointers(surroundings).data());
@@ -102,6 +113,7 @@ pid_t spawn(std::vector<std::string> command, int line, int profileLock) {
 } // namespace
 
 OfficeProcess::OfficeProcess(const Installation& installation, const Profile& profile, const QString& pipe) {
+    ignoreBrokenPipes();
     int ends[2];
     if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0) cannotStart(errno);
     line_ = ends[1];
