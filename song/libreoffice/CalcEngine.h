@@ -65,6 +65,7 @@ public:
     virtual CellPosition cursor() = 0;
     virtual CellRange selection() = 0;
     virtual void select(const CellRange& range) = 0; ///< its first cell becomes the active cell
+    virtual bool hasFormulas() = 0;                  ///< on the active sheet
     virtual CellPosition used() = 0;                 ///< last row and column of the active sheet's contents
     virtual CellBlock read(const CellRange& range) = 0;
     virtual QVector<QStringList> formulas(const CellRange& range) = 0;  ///< "" where a cell has none
@@ -80,7 +81,7 @@ struct CalcAddress {
 };
 
 /// Raised with every change of the classes above: a plug-in built for others is not used.
-constexpr int calcPluginVersion = 1;
+constexpr int calcPluginVersion = 2;
 
 /// What a plug-in exports: "zvonikaCalcPluginVersion" and "zvonikaConnectToCalc". The latter returns when
 /// Calc has answered, or nullptr when `keepTrying` gave up; AutomationError 429 when the connection cannot be

@@ -121,6 +121,7 @@ private:
     void showCursor() const;
     CellPosition cursor() const;
     CellValue cell(CellPosition position) const;
+    void noteWrite(CellPosition position, const CellValue& value);
 
     /// Carries out `calls` on the thread of the engine, once this application is known to run.
     template <typename Calls>

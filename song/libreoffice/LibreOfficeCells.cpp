@@ -156,13 +156,23 @@ CellPosition LibreOfficeApplication::cursor() const {
     return found;
 }
 
+void LibreOfficeApplication::noteWrite(CellPosition position, const CellValue& value) {
+    const auto* text = std::get_if<QString>(&value);
+    const auto isControl = [](QChar c) { return c.unicode() < 0x20; };
+    if (text && !text->isEmpty() && std::none_of(text->begin(), text->end(), isControl))
+        seen_.write(position, *text, notices_->acts());
+    else
+        seen_.forgetCells();
+}
+
 CellValue LibreOfficeApplication::cell(CellPosition position) const {
     requireRunning();
     const unsigned acts = notices_->acts();
     if (const auto seen = seen_.value(position, acts)) return *seen;
     const CellRange piece = ReadAhead::pieceWith(position);
-    const CellBlock found = askAside([piece](CalcEngine& calc) { return calc.read(piece); });
-    seen_.learnCells(piece, found, acts);
+    const auto [found, plain] =
+        askAside([piece](CalcEngine& calc) { return std::pair(calc.read(piece), !calc.hasFormulas()); });
+    seen_.learnCells(piece, found, plain, acts);
     return found.at(position.row - piece.first.row).at(position.column - piece.first.column);
 }
 
@@ -174,7 +184,10 @@ void LibreOfficeApplication::setValue(const QString& address, const CellValue& v
     refuseLongText(value);
     const CellRange target = range(address);
     if (isEmpty(value)) return clearContents(address);
-    seen_.forgetCells();
+    if (target.rows() == 1 && target.columns() == 1)
+        noteWrite(target.first, value);
+    else
+        seen_.forgetCells();
     askAside([target = block(target), value](CalcEngine& calc) {
         calc.write(target.first, filled(target, value));
     });
@@ -187,7 +200,7 @@ CellValue LibreOfficeApplication::activeCellValue() const {
 void LibreOfficeApplication::setActiveCellValue(const CellValue& value) {
     refuseLongText(value);
     const CellPosition target = cursor();
-    seen_.forgetCells();
+    noteWrite(target, value);
     askAside([target, value](CalcEngine& calc) { calc.write(target, {{value}}); });
 }
 

@@ -6,7 +6,7 @@ namespace zvonika {
 
 namespace {
 constexpr qint64 moment = 100;  ///< ms
-constexpr int rowsAhead = 4;    ///< a song is mostly read from row to row
+constexpr int rowsAhead = 8;    ///< a song is mostly read from row to row
 constexpr int songColumns = 23; ///< A to W
 } // namespace
 
@@ -49,8 +49,15 @@ void ReadAhead::learnCursor(CellPosition cursor, unsigned acts) {
     cursor_ = cursor;
 }
 
-void ReadAhead::learnCells(const CellRange& piece, CellBlock cells, unsigned acts) {
+void ReadAhead::write(CellPosition cell, const QString& text, unsigned acts) {
+    if (!plain_ || !fresh(acts)) return forgetCells();
+    if (!cells_.isEmpty() && piece_.contains(cell))
+        cells_[cell.row - piece_.first.row][cell.column - piece_.first.column] = text;
+}
+
+void ReadAhead::learnCells(const CellRange& piece, CellBlock cells, bool plain, unsigned acts) {
     begin(acts);
+    plain_ = plain;
     piece_ = piece;
     cells_ = std::move(cells);
 }

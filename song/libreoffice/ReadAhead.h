@@ -24,7 +24,10 @@ public:
 
     /// `acts` is the number before the reading.
     void learnCursor(CellPosition cursor, unsigned acts);
-    void learnCells(const CellRange& piece, CellBlock cells, unsigned acts);
+    /// `plain`: no cell of the sheet depends on another.
+    void learnCells(const CellRange& piece, CellBlock cells, bool plain, unsigned acts);
+    /// The program writes a text that is kept letter by letter.
+    void write(CellPosition cell, const QString& text, unsigned acts);
     void learnActive(const QString& workbook, unsigned acts);
 
     void forgetCursor() { cursor_.reset(); }
@@ -39,6 +42,7 @@ private:
     QString workbook_;
     CellRange piece_;
     CellBlock cells_; ///< of `piece_`; empty when nothing is known
+    bool plain_ = false;
     unsigned acts_ = 0;
     QElapsedTimer age_;
 };

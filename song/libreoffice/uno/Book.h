@@ -52,6 +52,7 @@ public:
     CellPosition cursor() const;
     CellRange selection() const;
     void select(const CellRange& range);
+    bool hasFormulas() const;
     CellPosition used() const;
     CellBlock read(const CellRange& range) { return values_.read(sheet(), range); }
     QVector<QStringList> formulas(const CellRange& range) const;

@@ -7,6 +7,7 @@
 #include <com/sun/star/sheet/CellFlags.hpp>
 #include <com/sun/star/sheet/XCellRangeAddressable.hpp>
 #include <com/sun/star/sheet/XCellRangeFormula.hpp>
+#include <com/sun/star/sheet/XCellRangesQuery.hpp>
 #include <com/sun/star/sheet/XSheetOperation.hpp>
 #include <com/sun/star/sheet/XUsedAreaCursor.hpp>
 
@@ -77,6 +78,13 @@ void Book::select(const CellRange& range) {
     dispatcher_->executeDispatch(as<css::frame::XDispatchProvider>(frame_), rtl::OUString(".uno:GoToCell"),
                                  rtl::OUString(), 0,
                                  properties(property("ToPoint", toUno(absoluteAddress(range)))));
+}
+
+bool Book::hasFormulas() const {
+    const auto query = as<css::sheet::XCellRangesQuery>(sheet());
+    const auto found =
+        keeper_.keep(query->queryContentCells(static_cast<sal_Int16>(css::sheet::CellFlags::FORMULA)));
+    return found->getRangeAddresses().hasElements();
 }
 
 CellPosition Book::used() const {

@@ -40,6 +40,7 @@ public:
     CellPosition cursor() override;
     CellRange selection() override;
     void select(const CellRange& range) override;
+    bool hasFormulas() override;
     CellPosition used() override;
     CellBlock read(const CellRange& range) override;
     QVector<QStringList> formulas(const CellRange& range) override;

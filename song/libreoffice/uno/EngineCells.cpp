@@ -31,6 +31,10 @@ void Engine::select(const CellRange& range) {
     onBook([&](Book& book) { book.select(range); });
 }
 
+bool Engine::hasFormulas() {
+    return onBook([&](Book& book) { return book.hasFormulas(); });
+}
+
 CellPosition Engine::used() {
     return onBook([&](Book& book) { return book.used(); });
 }

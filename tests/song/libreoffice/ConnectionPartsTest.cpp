@@ -82,9 +82,15 @@ TEST(ReadAhead, KnowsThePieceItHasReadUntilTheUserActs) {
     const CellRange piece = ReadAhead::pieceWith({7, 2});
     CellBlock cells(piece.rows(), QVector<CellValue>(piece.columns()));
     cells[1][22] = QString("C dur");
-    seen.learnCells(piece, cells, 5);
+    seen.learnCells(piece, cells, true, 5);
     EXPECT_EQ(seen.value({8, 23}, 5), CellValue(QString("C dur")));
     EXPECT_FALSE(seen.value({8, 24}, 5) || seen.value({6, 2}, 5) || seen.value({8, 23}, 6));
+    seen.write({8, 23}, "G dur", 5);
+    EXPECT_EQ(seen.value({8, 23}, 5), CellValue(QString("G dur")));
+    seen.learnCells(piece, cells, false, 5);
+    seen.write({8, 2}, "c1,", 5);
+    EXPECT_FALSE(seen.value({8, 23}, 5)) << "it may have been calculated from what was written";
+    seen.learnCells(piece, cells, true, 5);
     seen.learnCursor({8, 2}, 6);
     EXPECT_FALSE(seen.value({8, 23}, 6)) << "what was known before the act is gone";
     EXPECT_EQ(seen.cursor(6), (CellPosition{8, 2}));
