@@ -36,7 +36,7 @@ public:
     /// start in (need not exist). The native full name, or nothing on Cancel.
     virtual std::optional<QString> openFile(const QString& title, const QString& filter, const QString& folder) = 0;
 
-    /// Asks for a name to save under; confirms overwriting by itself. As `openFile`.
+    /// Asks for a name to save under, ends it in ".xls", confirms overwriting by itself. As `openFile`.
     virtual std::optional<QString> saveFile(const QString& title, const QString& filter, const QString& suggested) = 0;
 };
 

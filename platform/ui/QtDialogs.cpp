@@ -152,6 +152,12 @@ void setUp(QFileDialog& dialog, const QString& filter, const QString& folder) {
     dialog.resize(720, 460);
 }
 
+// The box itself gives its suffix only to names without any dot, not to "1. Ach synku".
+QString withSuffix(const QString& file, const QString& suffix) {
+    const QString ending = QLatin1Char('.') + suffix;
+    return file.endsWith(ending, Qt::CaseInsensitive) ? file : file + ending;
+}
+
 std::optional<QString> chosenFile(QFileDialog& dialog) {
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     return dialog.selectedFiles().constFirst();
@@ -226,9 +232,11 @@ std::optional<QString> QtDialogs::saveFile(const QString& title, const QString& 
     dialog.selectFile(QFileInfo(suggested).fileName());
     nameTheParts(dialog, QStringLiteral("Uložit"));
     for (;;) {
-        const auto file = chosenFile(dialog);
-        if (!file || !QFileInfo::exists(*file)) return file;
-        if (message(overwriteQuestion(dialog.windowTitle(), *file)) == Answer::Yes) return file;
+        const auto chosen = chosenFile(dialog);
+        if (!chosen) return {};
+        const QString file = withSuffix(*chosen, dialog.defaultSuffix());
+        if (!QFileInfo::exists(file)) return file;
+        if (message(overwriteQuestion(dialog.windowTitle(), file)) == Answer::Yes) return file;
     }
 }
 

@@ -190,5 +190,22 @@ TEST_F(FileChoice, SavingAddsTheEndingAndAsksBeforeOverwriting) {
               folder.filePath(QStringLiteral("jiná.xls")));
 }
 
+TEST_F(FileChoice, ANameWithADotStandsForTheSongOfThatName) {
+    const QString song = folder.filePath(QStringLiteral("1. Ach synku.xls"));
+    ASSERT_TRUE(QFile::copy(folder.filePath(QStringLiteral("kočka.xls")), song));
+    bool asked = false;
+    whenOpen<QFileDialog>([&asked](QFileDialog& box) {
+        whenOpen<QMessageBox>([&asked](QMessageBox& question) {
+            asked = question.text().contains(QStringLiteral("„1. Ach synku.xls“ již existuje"));
+            whenOpen<QFileDialog>([](QFileDialog& again) { typeName(again, QStringLiteral("2. Ach")); });
+            QTest::keyClick(&question, Qt::Key_Escape);
+        });
+        typeName(box, QStringLiteral("1. Ach synku"));
+    });
+    EXPECT_EQ(dialogs.saveFile(title, filter, folder.filePath(QStringLiteral("a.xls"))),
+              folder.filePath(QStringLiteral("2. Ach.xls")));
+    EXPECT_TRUE(asked);
+}
+
 } // namespace
 } // namespace zvonika
