@@ -10,7 +10,7 @@ using namespace CompoundFormat;
 
 CompoundFileWriter::CompoundFileWriter(const CompoundFile& source)
     : source_(source), fat_(source.fat_), fatSectors_(source.fatSectors_),
-      difatSectors_(source.difatSectors_), sectorCount_(source.sectorsInFile()) {}
+      difatSectors_(source.difatSectors_), used_(source.used_), sectorCount_(source.sectorsInFile()) {}
 
 CompoundFile::Bytes CompoundFileWriter::replaceStream(std::uint32_t entry, ByteView contents) {
     const std::size_t size = std::max<std::size_t>(contents.size(), source_.miniCutoff_);
@@ -21,6 +21,7 @@ CompoundFile::Bytes CompoundFileWriter::replaceStream(std::uint32_t entry, ByteV
     out_.resize(offsetOf(sectorCount_)); // the last sector may have been cut short
 
     endMiniStream();
+    markOtherStreams(entry);
     CompoundFile::Chain chain = releaseOldStream(entry);
     resizeChain(chain, sectors);
     writeContents(chain, contents);
@@ -35,6 +36,23 @@ CompoundFile::Bytes CompoundFileWriter::replaceStream(std::uint32_t entry, ByteV
 /// that are laid out anew; strict readers refuse that.
 void CompoundFileWriter::endMiniStream() {
     if (!source_.miniStreamSectors_.empty()) fat_[source_.miniStreamSectors_.back()] = endOfChain;
+}
+
+void CompoundFileWriter::markOtherStreams(std::uint32_t replaced) {
+    for (std::uint32_t entry = 0; entry < source_.entryCount(); ++entry) {
+        const std::uint8_t* bytes = &source_.file_[source_.entryOffset(entry)];
+        if (entry == replaced || bytes[Entry::type] != Entry::stream || source_.isInMiniStream(entry))
+            continue;
+        markChain(load32(bytes + Entry::firstSector), source_.sectorsFor(source_.streamSize(entry)));
+    }
+}
+
+/// Ends at a sector that is marked already, so that entries which share a chain cost no more than one.
+void CompoundFileWriter::markChain(std::uint32_t sector, std::uint64_t most) {
+    for (; most > 0 && sector < used_.size() && !used_[sector]; --most) {
+        used_[sector] = true;
+        sector = sector < source_.fat_.size() ? source_.fat_[sector] : endOfChain;
+    }
 }
 
 CompoundFile::Chain CompoundFileWriter::releaseOldStream(std::uint32_t entry) {
@@ -65,9 +83,9 @@ void CompoundFileWriter::resizeChain(CompoundFile::Chain& chain, std::size_t sec
     fat_[chain.back()] = endOfChain;
 }
 
-/// A damaged table may call free what the container's own structures stand in.
+/// A table may call free what the container's own structures stand in, or the last sector of a stream.
 bool CompoundFileWriter::isFree(std::uint32_t sector) const {
-    return fat_[sector] == freeSector && (sector >= source_.used_.size() || !source_.used_[sector]);
+    return fat_[sector] == freeSector && (sector >= used_.size() || !used_[sector]);
 }
 
 std::uint32_t CompoundFileWriter::covered() const {

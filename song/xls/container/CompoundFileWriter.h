@@ -13,6 +13,9 @@ public:
 
 private:
     void endMiniStream();
+    /// Marks the sectors of all streams but `replaced`, whatever the table says of them.
+    void markOtherStreams(std::uint32_t replaced);
+    void markChain(std::uint32_t sector, std::uint64_t most);
     CompoundFile::Chain releaseOldStream(std::uint32_t entry);
     void resizeChain(CompoundFile::Chain& chain, std::size_t sectors);
     std::uint32_t allocate();
@@ -35,6 +38,7 @@ private:
     std::vector<std::uint32_t> fat_;
     CompoundFile::Chain fatSectors_;
     CompoundFile::Chain difatSectors_;
+    std::vector<bool> used_; ///< sectors never to be given out; none of the replaced stream
     std::uint32_t sectorCount_;
     std::uint32_t nextFree_ = 0;
 };

@@ -21,27 +21,32 @@ Bytes filledUp(Bytes contents) {
     return contents;
 }
 
-/// A container with 4,096-byte sectors around a workbook stream.
-Bytes largeSectorFile(Bytes stream) {
-    constexpr std::size_t sector = 4096;
-    const std::size_t size = stream.size();
-    stream.resize((size + sector - 1) / sector * sector);
-    Bytes header(sector);
+/// A container with sectors of this size around the streams "Workbook" and "Xorkbook"; the table says
+/// `last` of the last sector of each.
+Bytes containerOf(std::size_t sector, const std::vector<Bytes>& contents, std::uint32_t last = 0xFFFFFFFE) {
     const Bytes small = CompoundFile::withEmptyStream("Workbook").bytes();
-    std::copy_n(small.begin(), 512, header.begin());
-    header[26] = 4;
-    header[30] = 12;
-    header[40] = 1; // directory sectors are counted in this version
+    Bytes header(small.begin(), small.begin() + 512), streams;
+    header[26] = sector == 512 ? 3 : 4;
+    header[30] = sector == 512 ? 9 : 12;
+    header[40] = sector == 512 ? 0 : 1; // directory sectors are counted in version 4
+    header.resize(sector);
     Bytes fat = le(4, {0xFFFFFFFD, 0xFFFFFFFE});
-    const std::size_t sectors = stream.size() / sector;
-    for (std::size_t i = 0; i < sectors; ++i)
-        fat = fat + le(4, {i + 1 < sectors ? i + 3 : 0xFFFFFFFE});
+    Bytes directory(small.begin() + 1024, small.begin() + 1024 + 128);
+    for (std::size_t i = 0; i < contents.size(); ++i) {
+        Bytes entry(small.begin() + 1024 + 128, small.begin() + 1024 + 256);
+        entry[0] = static_cast<std::uint8_t>('W' + i);
+        if (i + 1 < contents.size()) std::ranges::copy(le(4, {i + 2}), entry.begin() + 72);
+        std::ranges::copy(le(4, {fat.size() / 4}) + le(8, {contents[i].size()}), entry.begin() + 116);
+        directory = directory + entry;
+        streams = streams + contents[i];
+        streams.resize((streams.size() + sector - 1) / sector * sector);
+        while (fat.size() / 4 < 1 + streams.size() / sector)
+            fat = fat + le(4, {fat.size() / 4 + 1});
+        fat = fat + le(4, {last});
+    }
     fat.resize(sector, 0xFF);
-    Bytes directory(small.begin() + 1024, small.begin() + 1536);
-    const Bytes place = le(4, {2}) + le(8, {size});
-    std::ranges::copy(place, directory.begin() + 128 + 116);
     directory.resize(sector);
-    return header + fat + directory + stream;
+    return header + fat + directory + streams;
 }
 
 TEST(Container, KeepsAStreamOfEverySize) {
@@ -82,11 +87,30 @@ TEST(Container, KeepsTheOtherStreams) {
     }
 }
 
+TEST(Container, KeepsAStreamWhoseLastSectorTheTableCallsFree) {
+    const struct {
+        std::size_t sector, size;
+    } table[] = {{512, 5000}, {512, 30000}, {4096, 5000}, {4096, 9000}, {4096, 700000}};
+    for (const auto& [sector, size] : table) {
+        SCOPED_TRACE(std::to_string(sector) + " " + std::to_string(size));
+        const Bytes other = pattern(4097, 9), fresh = pattern(size, 5);
+        const Bytes file = containerOf(sector, {pattern(4200, 1), other}, 0xFFFFFFFF);
+        CompoundFile container(CompoundFile(file).withStream(1, fresh));
+        EXPECT_EQ(container.readStream(1), fresh);
+        EXPECT_EQ(container.readStream(*container.findStream("Xorkbook")), other);
+        container = CompoundFile(container.withStream(1, pattern(4200, 1)));
+        container = CompoundFile(container.withStream(1, fresh));
+        EXPECT_EQ(container.readStream(2), other);
+        EXPECT_LE(container.bytes().size(), file.size() + size + 4 * sector)
+            << "freed sectors are used again";
+    }
+}
+
 TEST(Container, WithLargeSectorsIsEditedToo) {
     Workbook book = Workbook::create(u"List");
     for (int row = 0; row < 400; ++row)
         book.setValue(0, {row, 0}, 0.123 + row);
-    const Bytes file = largeSectorFile(streamOf(book.save()));
+    const Bytes file = containerOf(4096, {streamOf(book.save())});
     book = Workbook::open(file);
     EXPECT_EQ(book.value(0, {399, 0}), Value(399.123));
     EXPECT_EQ(book.save(), file);
