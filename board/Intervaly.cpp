@@ -45,12 +45,15 @@ QString vysledek(const VychodiskoIntervalu& vychodisko, const ZadaniIntervalu& z
     if (!vychodisko.mimoStupnici)
         return QStringLiteral("%1 od tónu %2 ve stupnici %3 je %4.")
             .arg(interval, od, zadani.stupnice.text(), veVete(nota));
-    return QStringLiteral("Odhad: %1 do stupnice %2 nepatří, stupně se počítají od %3. %4 od %1 je %5.")
-        .arg(od, zadani.stupnice.text(), veVete(vychodisko.opora), interval, veVete(nota));
+    const QString oktava = vychodisko.posun < 0   ? QStringLiteral(" o oktávu níž")
+                           : vychodisko.posun > 0 ? QStringLiteral(" o oktávu výš")
+                                                  : QString();
+    return QStringLiteral("Odhad: %1 do stupnice %2 nepatří, stupně se počítají od %3%6. %4 od %1 je %5.")
+        .arg(od, zadani.stupnice.text(), veVete(vychodisko.opora), interval, veVete(nota), oktava);
 }
 
 QString neniVeStupnici(const VychodiskoIntervalu& vychodisko, const Key& stupnice) {
-    return QStringLiteral("Tón %1 ve stupnici %2 není, interval od něj nejde určit. ")
+    return QStringLiteral("Tón %1 ve stupnici %2 není, interval od něj nejde určit.")
         .arg(veVete(vychodisko.nazev), stupnice.text());
 }
 
@@ -157,7 +160,7 @@ void Intervaly::spoctiAUkaz(const VychodiskoIntervalu& vychodisko, const ZadaniI
     if (!nota.jePrazdny()) {
         if (zobrazeni_.ukaz(nota, noty_.UrciPolohuNoty(nota))) oznam(vysledek(vychodisko, zadani, nota));
     } else if (!intervaly.zna(vychodisko.opora, zadani.stupnice)) {
-        oznam(neniVeStupnici(vychodisko, zadani.stupnice) + intervaly.chyba());
+        oznam(intervaly.chyba().isEmpty() ? neniVeStupnici(vychodisko, zadani.stupnice) : intervaly.chyba());
     }
 }
 

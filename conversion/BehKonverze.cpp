@@ -25,8 +25,8 @@ constexpr int sloupecI = 9;
 
 KonecBehu BehKonverze::odZacatku() {
     for (;;) {
+        adresa_ = excel().activeAddress();
         if (!isEmpty(excel().activeCellValue())) {
-            adresa_ = excel().activeAddress();
             if (const auto konec = overStupnici()) return *konec;
             if (const auto konec = prevedBunku()) return *konec;
         } else if (!lzePreskocit()) {
@@ -46,7 +46,7 @@ KonecBehu BehKonverze::odAktivniBunky() {
 /// Behind the tones of a small grip the row goes on with its direction; an empty first cell is the song's
 /// end.
 bool BehKonverze::lzePreskocit() const {
-    const auto misto = parseAddress(excel().activeAddress());
+    const auto misto = parseAddress(adresa_);
     if (!misto || misto->first.column <= sloupecB || misto->first.column >= sloupecI) return false;
     return jeSmer(excel().value(QStringLiteral("I%1").arg(misto->first.row)));
 }
@@ -74,7 +74,8 @@ std::optional<KonecBehu> BehKonverze::prevedBunku() {
     const CellValue puvodni = excel().value(adresa_);
     const auto novy = o_.konverze.Konvertuj(o_.stav.lblStupnice, cilova_, cellText(puvodni));
     excel().activateWindow(o_.pisen.aktualniPisen);
-    excel().setActiveCellValue(novy ? CellValue(*novy) : CellValue());
+    // Not to the active cell: a click into the spreadsheet may have moved it meanwhile.
+    excel().setValue(adresa_, novy ? CellValue(*novy) : CellValue());
     zaznamenejZtratu(puvodni, novy.value_or(QString()));
     return std::nullopt;
 }
@@ -90,7 +91,9 @@ void BehKonverze::zaznamenejZtratu(const CellValue& puvodni, const QString& novy
 
 /// On the direction the row is done: it gets its new key and the next one follows.
 std::optional<KonecBehu> BehKonverze::posunVpravo() {
-    excel().moveCursor(0, 1);
+    const auto misto = parseAddress(adresa_);
+    if (!misto) throw AutomationError(error::applicationDefined);
+    excel().selectRange(absoluteAddress(CellPosition{misto->first.row, misto->first.column + 1}));
     if (!jeSmer(excel().activeCellValue())) return std::nullopt;
     const int radek = excel().activeRow();
     excel().setValue(QStringLiteral("W%1").arg(radek), cilova_);

@@ -49,10 +49,12 @@ void Konverze::cmdVyberPisen() {
     if (stav_.bezi) return;
     const Obsluha obsluha(stav_);
     zdroj_.vyber();
+    stav_.selhala = false;
 }
 
 void Konverze::cmdGo() {
     if (stav_.bezi) return;
+    if (stav_.selhala) return;
     const Obsluha obsluha(stav_);
     const QString cilova = std::exchange(stav_.lblLadeni, {});
     cilova.isEmpty() ? zacni() : pokracuj(cilova);
@@ -77,7 +79,7 @@ void Konverze::zacni() {
     }
     const auto cilova = zvolenaStupnice(stav_);
     if (!lzeZacit(cilova) || !pripravKopii(*cilova)) return;
-    poBehu(beh(*cilova).odZacatku());
+    proved(*cilova, &BehKonverze::odZacatku);
 }
 
 bool Konverze::lzeZacit(const std::optional<QString>& cilova) {
@@ -109,6 +111,7 @@ bool Konverze::pripravKopii(const QString& cilova) {
     }
     kopie_ = pisen_.aktualniPisen;
     ztraty_ = {};
+    odmitnuteJmeno_.clear();
     puvodniList_ = excel.activeSheetName();
     rozdelanyList_ = cilova + QStringLiteral(" Nedokončeno");
     excel.renameActiveSheet(rozdelanyList_);
@@ -128,7 +131,15 @@ bool Konverze::pripravKopii(const QString& cilova) {
 void Konverze::pokracuj(const QString& cilova) {
     pisen_.excel().activateWindow(pisen_.aktualniPisen);
     stav_.ceka = false;
-    poBehu(beh(cilova).odAktivniBunky());
+    proved(cilova, &BehKonverze::odAktivniBunky);
+}
+
+/// Until the run has said how it ended, the copy is no song to begin with.
+void Konverze::proved(const QString& cilova, KonecBehu (BehKonverze::*odkud)()) {
+    stav_.selhala = true;
+    BehKonverze rozbehnuty = beh(cilova);
+    poBehu((rozbehnuty.*odkud)());
+    stav_.selhala = false;
 }
 
 BehKonverze Konverze::beh(const QString& cilova) {
@@ -166,13 +177,23 @@ void Konverze::dokonci() {
     excel.clearContents(QStringLiteral("V1:V%1").arg(posledni));
     excel.selectRange(QStringLiteral("A1")); // the run has scrolled the syllables out of sight
     excel.selectRange(QStringLiteral("B1"));
-    excel.renameActiveSheet(stav_.Check1 ? nazevListuHeligonky(cilova_) : puvodniList_);
+    prejmenujList(stav_.Check1 ? nazevListuHeligonky(cilova_) : puvodniList_);
     dokoncena_ = true;
     dialogs_.message({QStringLiteral("Hotovo"),
                       QStringLiteral("Skladba byla na aktivním listu překonvertována podle nastavených "
                                      "požadavků a uložena do souboru \n") +
                           kopie_ + u'.',
                       Icon::Information});
+}
+
+/// Another sheet of the song may have that name; the song is converted nonetheless.
+void Konverze::prejmenujList(const QString& jmeno) {
+    try {
+        pisen_.excel().renameActiveSheet(jmeno);
+    } catch (const AutomationError& odmitnuti) {
+        if (odmitnuti.number() != error::applicationDefined) throw;
+        odmitnuteJmeno_ = jmeno;
+    }
 }
 
 void Konverze::cekejNaStupnici() {
@@ -196,6 +217,9 @@ QString Konverze::veta() const {
     QStringList vety;
     if (!dokoncena_)
         vety << QStringLiteral("Konverze není dokončena, list kopie se jmenuje „%1“.").arg(rozdelanyList_);
+    else if (!odmitnuteJmeno_.isEmpty())
+        vety << QStringLiteral("Převedený list zůstal „%1“, na „%2“ přejmenovat nešel.")
+                    .arg(rozdelanyList_, odmitnuteJmeno_);
     if (!ztraty_.veta().isEmpty()) vety << ztraty_.veta();
     if (!zdroj_.jeZHlavnihoOkna()) vety << QStringLiteral("Kopie je v souboru „%1“.").arg(kopie_);
     return vety.join(u' ');

@@ -38,8 +38,10 @@ private:
     bool pripravKopii(const QString& cilova);
     void pokracuj(const QString& cilova);
     BehKonverze beh(const QString& cilova);
+    void proved(const QString& cilova, KonecBehu (BehKonverze::*odkud)());
     void poBehu(KonecBehu konec);
     void dokonci();
+    void prejmenujList(const QString& jmeno);
     void cekejNaStupnici();
     void zavri();
     bool odmitni(const QString& nadpis, const QString& text, Icon ikona = Icon::Critical);
@@ -54,6 +56,7 @@ private:
     QString cilova_;                      ///< target key of the run
     QString kopie_;                       ///< file name of the copy; "" before there is one
     QString puvodniList_, rozdelanyList_; ///< name of the copy's sheet before and during the run
+    QString odmitnuteJmeno_;              ///< that the copy's sheet could not get
     bool dokoncena_ = false;
     bool zastavit_ = false;
 };

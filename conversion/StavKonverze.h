@@ -21,9 +21,10 @@ public:
     QString lblStupnice;        ///< the key in which the rows now being converted are written, as it stands
     QString lblLadeni;          ///< the new target key on its way into the resumed run; not shown
     bool pokracovatViditelne = false;
-    bool ceka = false; ///< the run waits at a key change for cmdPokracovat
-    bool bezi = false; ///< a click is being served: nothing else may be begun
-    int radek = 0;     ///< row being converted; 0 before the first
+    bool ceka = false;    ///< the run waits at a key change for cmdPokracovat
+    bool bezi = false;    ///< a click is being served: nothing else may be begun
+    bool selhala = false; ///< a run has failed: its copy is neither the song nor converted
+    int radek = 0;        ///< row being converted; 0 before the first
     bool zavreno = false;
 
     // --- set by the user ---

@@ -10,6 +10,7 @@ namespace {
 
 constexpr int prvniVychozi = 1; // the heading is never a starting point
 constexpr int posledniVychozi = 57;
+constexpr int nenalezen = 0;
 
 /// The name of the table's element for the key: "G dur" is Gdur.
 QString prvekToniny(const Key& stupnice) {
@@ -27,7 +28,8 @@ void clsIntervaly::UrciInterval(const ToneName& ton, const Key& stupnice, std::i
     vysledek = {};
     const QString tonina = prvekToniny(stupnice);
     const auto odkud = pozice(ton, tonina);
-    if (!odkud) return;
+    if (!odkud) ohlasMimoTabulku();
+    if (!odkud || *odkud == nenalezen) return;
     const int kam = *odkud + kroky;
     const auto nota = stupen(kam, tonina);
     if (!nota)
@@ -41,14 +43,16 @@ void clsIntervaly::UrciInterval(const ToneName& ton, const Key& stupnice, std::i
 }
 
 bool clsIntervaly::zna(const ToneName& ton, const Key& stupnice) const {
-    return pozice(ton, prvekToniny(stupnice)).has_value();
+    return pozice(ton, prvekToniny(stupnice)).value_or(nenalezen) != nenalezen;
 }
 
 std::optional<int> clsIntervaly::pozice(const ToneName& ton, const QString& tonina) const {
     const int posledni = std::min(posledniVychozi, tabulka_.pocetStupnu() - 1);
     for (int i = prvniVychozi; i <= posledni; ++i)
         if (stupen(i, tonina) == ton) return i;
-    return std::nullopt;
+    // The steps of a whole table end where they are marked to end.
+    const bool vsechny = posledni == posledniVychozi || tabulka_.pocetStupnu() < tabulka_.pocet();
+    return vsechny ? std::optional(nenalezen) : std::nullopt;
 }
 
 std::optional<ToneName> clsIntervaly::stupen(int pozice, const QString& tonina) const {

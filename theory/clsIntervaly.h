@@ -33,6 +33,7 @@ public:
     const QString& chyba() const { return tabulka_.chyba(); }
 
 private:
+    /// 0: not in the scale. Nothing: the table ends before that is known.
     std::optional<int> pozice(const ToneName& ton, const QString& tonina) const;
     std::optional<ToneName> stupen(int pozice, const QString& tonina) const;
     bool existuje(const ToneName& nota) const;

@@ -140,8 +140,8 @@ void FrmKonverze::ukazBeh() {
     cmdVyberPisen_->setEnabled(stav_.vyberPovolen && !stav_.bezi);
     frame1_->setEnabled(lzeVolit);
     check1_->setEnabled(lzeVolit);
-    // A waiting run is gone on with: from the beginning the half-converted copy would be taken for a song.
-    cmdGo_->setEnabled(!stav_.bezi && !stav_.ceka);
+    // A waiting run is gone on with, a failed one is over: a half-converted copy would be taken for a song.
+    cmdGo_->setEnabled(!stav_.bezi && !stav_.ceka && !stav_.selhala);
     cmdGo_->setDefault(!stav_.ceka);
     cmdPokracovat_->setVisible(stav_.pokracovatViditelne);
     cmdPokracovat_->setEnabled(!stav_.bezi && stav_.ceka);

@@ -271,11 +271,36 @@ TEST_F(KonverzeTest, TheEndButtonStopsARunBehindItsRow) {
     EXPECT_TRUE(stav.zavreno);
 }
 
+TEST_F(KonverzeTest, ACursorMovedMeanwhileDoesNotLeadTheRunAstray) {
+    otevri({tah, tlak});
+    zpravy = [this] { excel->userSelects("D9"); };
+    ocekavejHotovo();
+    preved("G dur");
+    EXPECT_EQ(radek(1), "B=g,|C=h,|I=Tah|W=G dur");
+    EXPECT_EQ(radek(2), "B=a,|I=Tlak|W=G dur");
+    EXPECT_EQ(radek(9), "");
+}
+
+TEST_F(KonverzeTest, ANameThatAnotherSheetHasLeavesTheWorkingName) {
+    otevri({tah, tlak});
+    stav.Check1 = true;
+    zpravy = [this] { excel->fail("renameActiveSheet", 1004); };
+    ocekavejHotovo();
+    preved("F dur");
+    EXPECT_TRUE(stav.zavreno);
+    EXPECT_EQ(list(), "F dur Nedokončeno");
+    EXPECT_TRUE(konverze.veta().startsWith("Převedený list zůstal „F dur Nedokončeno“, na „"))
+        << konverze.veta().toStdString();
+}
+
 TEST_F(KonverzeTest, AFailureInTheRunLeavesTheDialogUsable) {
     otevri({tah, tlak});
-    excel->fail("setActiveCellValue", 1004);
+    excel->fail("setValue", 1004);
     EXPECT_THROW(preved("G dur"), AutomationError);
     EXPECT_FALSE(stav.bezi || stav.zavreno);
+    EXPECT_TRUE(stav.selhala);
+    konverze.cmdGo(); // the half-converted copy is not converted once more
+    EXPECT_EQ(disk.size(), 2u);
     konverze.cmdKonec();
     EXPECT_TRUE(stav.zavreno);
     excel->userClosesWorkbook();

@@ -152,7 +152,14 @@ TEST_F(IntervalyTest, WithoutMarksEveryEntryIsAStep) {
 
 TEST_F(IntervalyTest, AMissingTableKnowsNoToneAndSaysWhy) {
     const clsIntervaly bezTabulky(slozka.path(), dialogs);
+    dialogs.expect("", mimoTabulku);
     EXPECT_EQ(urci(bezTabulky, "c1,", "C dur", 1), "");
+    const clsIntervaly kratka(slozkaSTabulkou({"x", "c1,", "d1,"}), dialogs);
+    EXPECT_EQ(urci(kratka, "c1,", "C dur", 1), "d1,");
+    for (const auto& [ton, stupnice] : {std::pair("h1,", "C dur"), std::pair("c1,", "G dur")}) {
+        dialogs.expect("", mimoTabulku); // the search meets the table's end
+        EXPECT_EQ(urci(kratka, ton, stupnice, 1), "");
+    }
     EXPECT_TRUE(bezTabulky.chyba().contains("konverze.xml"));
     EXPECT_EQ(intervaly.chyba(), "");
 }

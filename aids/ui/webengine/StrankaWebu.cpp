@@ -15,7 +15,6 @@ using Nastaveni = QWebEngineSettings::WebAttribute;
 /// What a page could reach out with; the engine's own defaults are kinder to it.
 constexpr Nastaveni zakazano[] = {
     QWebEngineSettings::LocalContentCanAccessRemoteUrls,
-
     QWebEngineSettings::AllowRunningInsecureContent,
     QWebEngineSettings::AllowGeolocationOnInsecureOrigins,
     QWebEngineSettings::AllowWindowActivationFromJavaScript,
