@@ -20,6 +20,15 @@ const CellSlot* SheetLayout::findCell(CellKey key) const {
     return behind != begin && behind[-1].key == key ? behind - 1 : nullptr;
 }
 
+std::span<const CellSlot> SheetLayout::recordsOf(CellKey key) const {
+    const CellSlot* last = findCell(key);
+    if (!last) return {};
+    const CellSlot* first = last;
+    while (first != cells.data() && first[-1].key == key)
+        --first;
+    return {first, last + 1};
+}
+
 const RowSlot* SheetLayout::findRow(std::uint32_t row) const {
     const auto behind = std::ranges::upper_bound(rows, row, {}, &RowSlot::row);
     if (behind == rows.begin() || std::prev(behind)->row != row) return nullptr;

@@ -4,6 +4,7 @@
 #include "song/xls/records/CellRecord.h"
 
 #include <algorithm>
+#include <span>
 #include <vector>
 
 namespace zvonika::xls {
@@ -67,6 +68,8 @@ public:
 
     /// The record that holds a cell; null when there is none.
     const CellSlot* findCell(CellKey key) const;
+    /// All records that hold a cell; the last of them counts.
+    std::span<const CellSlot> recordsOf(CellKey key) const;
     const RowSlot* findRow(std::uint32_t row) const;
     /// The block that a record at this offset belongs to; null outside all blocks.
     const RowBlock* blockAt(std::uint32_t offset) const;

@@ -31,6 +31,12 @@ public:
         next_ = column + 1;
     }
 
+    void drop(CellKey key) {
+        keepUpTo(columnOf(key));
+        flush();
+        next_ = columnOf(key) + 1;
+    }
+
     std::vector<std::uint8_t> finish() {
         keepUpTo(run_.u16(2) + checkedColumns(run_).count);
         flush();
@@ -89,14 +95,44 @@ void replaceSingle(SheetPatch& patch, const Record& record, const CellChange& ch
         encodeCell(change.key, format, change.content).view());
 }
 
+/// True for a cell with more behind it than its text: other cells may depend on that.
+bool isShared(ByteView stream, const Record& record) {
+    const std::uint32_t end = endOfCell(stream, record.offset);
+    for (std::uint32_t at = record.end(); at < end;) {
+        const Record attached = recordAt(stream, at);
+        if (!attached.is(RecordType::String) && !attached.is(RecordType::Continue)) return true;
+        at = attached.end();
+    }
+    return false;
+}
+
+using Runs = std::map<std::uint32_t, RunSplitter>;
+
+RunSplitter& splitter(Runs& runs, const Record& record) {
+    return runs.try_emplace(record.offset, record).first->second;
+}
+
+/// Where a cell has several records, programs differ in which of them counts once the last one is blank.
+void removeEarlier(SheetPatch& patch, Runs& runs, CellKey key) {
+    const std::span<const CellSlot> slots = patch.layout.recordsOf(key);
+    for (const CellSlot& slot : slots.first(slots.size() - 1)) {
+        const Record record = recordAt(patch.stream, slot.record);
+        if (isRun(record))
+            splitter(runs, record).drop(key);
+        else if (!isShared(patch.stream, record))
+            put(patch, slot.record, endOfCell(patch.stream, slot.record), {});
+    }
+}
+
 } // namespace
 
 void replaceCells(SheetPatch& patch, std::span<const CellChange> changes) {
-    std::map<std::uint32_t, RunSplitter> runs;
+    Runs runs;
     for (const CellChange& change : changes) {
+        removeEarlier(patch, runs, change.key);
         const Record record = recordAt(patch.stream, patch.layout.findCell(change.key)->record);
         if (isRun(record))
-            runs.try_emplace(record.offset, record).first->second.change(change);
+            splitter(runs, record).change(change);
         else
             replaceSingle(patch, record, change);
     }

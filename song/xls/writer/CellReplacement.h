@@ -6,7 +6,8 @@
 
 namespace zvonika::xls {
 
-/// Replaces cells that have a record. MulRk and MulBlank are split where the new cell does not fit in.
+/// Replaces cells that have a record. MulRk and MulBlank are split where the new cell does not fit in. A
+/// cell that has several records keeps the last one.
 void replaceCells(SheetPatch& patch, std::span<const CellChange> changes);
 
 } // namespace zvonika::xls

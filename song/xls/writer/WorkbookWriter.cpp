@@ -80,8 +80,8 @@ private:
             count += layout.sharedTexts;
         for (std::size_t i = 0; i < changes_.size(); ++i)
             for (const CellChange& change : changes_[i]) {
-                const CellSlot* old = model_.layouts[i].findCell(change.key);
-                if (old && recordAt(model_.stream, old->record).is(RecordType::LabelSst)) --count;
+                for (const CellSlot& old : model_.layouts[i].recordsOf(change.key))
+                    if (recordAt(model_.stream, old.record).is(RecordType::LabelSst)) --count;
                 if (isText(change)) ++count;
             }
         return static_cast<std::uint32_t>(count);

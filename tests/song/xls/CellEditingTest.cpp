@@ -229,7 +229,59 @@ TEST(Cells, OutOfOrderAndTwiceAreFound) {
     Workbook book = Workbook::open(fileWithTable(table));
     EXPECT_EQ(book.value(0, {5, 1}), Value(3.5)) << "the later record counts";
     expectTable(edited(table, {{{5, 1}, true}, {{1, 1}, false}}),
-                {table[0], boolean(1, 1, 15, false), boolean(5, 1, 15, true)});
+                {boolean(1, 1, 15, false), boolean(5, 1, 15, true)});
+}
+
+TEST(Cells, OfSeveralRecordsKeepNoneOfTheOlderOnes) {
+    const Rec text{0x0207, le(2, {1}) + Bytes{0, 'b'}};
+    const Rec blanks{0x00BE, le(2, {0, 0, 30, 31, 32, 2})};
+    const Rec shared{0x04BC, le(2, {0, 1}) + Bytes{0, 0, 0, 2} + le(2, {3}) + Bytes{0x1E, 5, 0}};
+    const Rec member = formula(1, 0, Bytes(8), sharedWith(0, 0));
+    const Rec holder = formula(0, 0, Bytes(8), sharedWith(0, 0));
+    const Rec last = numberCell(0, 0, 2.5), other = numberCell(1, 0, 7.5);
+    const struct {
+        const char* what;
+        std::vector<Rec> table;
+        CellRef cell;
+        std::vector<Rec> cleared;
+    } table[] = {
+        {"single records",
+         {numberCell(0, 0, 1.5), numberCell(0, 0, 3.5), last, other},
+         {0, 0},
+         {blank(0, 0, 15), other}},
+        {"a formula and its text",
+         {formula(0, 0, textResult, {0x17, 1, 0, 'x'}), text, other, last},
+         {0, 0},
+         {other, blank(0, 0, 15)}},
+        {"inside a run",
+         {mulRk(0, 0, {10, 11, 12}), numberCell(0, 1, 2.5)},
+         {0, 1},
+         {rk(0, 0, 20, 10), rk(0, 2, 22, 12), blank(0, 1, 15)}},
+        {"at the end of a run",
+         {blanks, numberCell(0, 2, 1.5)},
+         {0, 2},
+         {{0x00BE, le(2, {0, 0, 30, 31, 1})}, blank(0, 2, 15)}},
+        {"a run of nothing else",
+         {{0x00BD, le(2, {0, 0, 15}) + le(4, {6}) + le(2, {0})}, last},
+         {0, 0},
+         {blank(0, 0, 15)}},
+        {"what others share stays",
+         {holder, shared, member, last},
+         {0, 0},
+         {holder, shared, member, blank(0, 0, 15)}},
+    };
+    for (const auto& [what, before, cell, cleared] : table) {
+        SCOPED_TRACE(what);
+        expectTable(edited(before, {{cell, Value()}}), cleared);
+    }
+    Workbook book = Workbook::create(u"List");
+    book.setValue(0, {0, 0}, std::u16string(u"a"));
+    std::vector<Rec> all = recordsOf(book.save());
+    const auto label = std::ranges::find(all, 0x00FD, &Rec::id);
+    all.insert(label, *label);
+    book = Workbook::open(fileAround(bytesOf(all)));
+    book.setValue(0, {0, 0}, std::u16string(u"b"));
+    EXPECT_EQ(find(recordsOf(book.save()), 0x00FC)->u32(0), 1U) << "texts in cells are counted";
 }
 
 TEST(Cells, OfEveryKindAreRead) {
