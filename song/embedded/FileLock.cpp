@@ -1,6 +1,7 @@
 #include "song/embedded/FileLock.h"
 
 #include "platform/RuntimeError.h"
+#include "song/embedded/ExclusiveFile.h"
 #include "song/embedded/FileSentences.h"
 #include "song/embedded/ProcessStart.h"
 
@@ -9,6 +10,7 @@
 #include <QFileInfo>
 #include <QStringList>
 #include <QSysInfo>
+#include <QThread>
 
 #include <utility>
 
@@ -17,6 +19,8 @@ namespace zvonika {
 namespace {
 
 const QString formName = QStringLiteral("Tabulka Zvoniky 1");
+constexpr int attempts = 40;
+constexpr unsigned long pauseBetween = 5; ///< ms; a lock is written in much less
 
 /// Two links to one file mean one lock.
 QFileInfo lockedFile(const QString& nativePath) {
@@ -42,15 +46,16 @@ QByteArray textOf(const LockHolder& holder) {
     return lines.join(QLatin1Char('\n')).toUtf8();
 }
 
-/// What a process that died between making and writing its lock has left says nothing and counts for nothing.
+/// Something else under a lock's name says nothing and counts for nothing.
 std::optional<LockHolder> parsed(const QByteArray& text) {
     const QStringList lines = QString::fromUtf8(text).split(QLatin1Char('\n'));
     if (lines.size() < 8 || lines[0] != formName) return {};
     return LockHolder{{}, lines[1], lines[2], lines[3].toLongLong(), lines[6], lines[5], lines[4]};
 }
 
+/// Copies of one installation have one identifier on many computers.
 bool isSameMachine(const LockHolder& a, const LockHolder& b) {
-    return a.machine.isEmpty() || b.machine.isEmpty() ? a.host == b.host : a.machine == b.machine;
+    return a.host == b.host && (a.machine.isEmpty() || b.machine.isEmpty() || a.machine == b.machine);
 }
 
 /// Of a process on another computer nothing can be known.
@@ -62,9 +67,45 @@ bool isGone(const LockHolder& holder) {
     return !start || (!holder.start.isEmpty() && !start->isEmpty() && *start != holder.start);
 }
 
-QByteArray contents(const QString& path) {
+enum class State { Free, Held, Dead, Meaningless, BeingWritten };
+
+struct Found {
+    State state = State::Free;
+    QByteArray text;
+    LockHolder holder; ///< of a lock that cannot be read, the user at most
+
+    bool counts() const { return state == State::Held || state == State::BeingWritten; }
+};
+
+Found look(const QString& path) {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.read(4096) : QByteArray();
+    if (!file.open(QIODevice::ReadOnly))
+        return QFileInfo::exists(path) ? Found{State::Held, {}, {}} : Found{};
+    const QByteArray text = file.read(4096);
+    if (text.isEmpty()) return {State::BeingWritten, {}, {}};
+    const auto holder = parsed(text);
+    if (!holder) return {State::Meaningless, text, {}};
+    return {isGone(*holder) ? State::Dead : State::Held, text, *holder};
+}
+
+/// One that stays empty is of somebody all the same.
+Found lookWhenWritten(const QString& path) {
+    Found found = look(path);
+    for (int i = 1; i < attempts && found.state == State::BeingWritten; ++i) {
+        QThread::msleep(pauseBetween);
+        found = look(path);
+    }
+    if (found.counts()) found.holder.user = QFileInfo(path).owner();
+    return found;
+}
+
+// A name with NUL is no file's.
+bool isNoName(const QString& nativePath) {
+    return nativePath.contains(QChar(u'\0'));
+}
+
+[[noreturn]] void refuse(const QString& nativePath, const LockHolder& holder) {
+    throw RuntimeError(error::applicationDefined, openElsewhere(nativePath, holder));
 }
 
 } // namespace
@@ -80,41 +121,46 @@ QString FileLock::lockName(const QString& nativePath) {
 }
 
 std::optional<LockHolder> FileLock::holder(const QString& nativePath) {
-    // A name with NUL is no file's.
-    if (nativePath.contains(QChar(u'\0'))) return {};
-    const QString path = lockName(nativePath);
-    auto found = parsed(contents(path));
-    if (!found || isGone(*found)) return {};
-    found->user = QFileInfo(path).owner();
-    return found;
+    if (isNoName(nativePath)) return {};
+    const Found found = lookWhenWritten(lockName(nativePath));
+    return found.counts() ? std::optional(found.holder) : std::nullopt;
 }
 
 FileLock FileLock::acquire(const QString& nativePath) {
-    if (const auto other = holder(nativePath))
-        throw RuntimeError(error::applicationDefined, openElsewhere(nativePath, *other));
-    return takeOver(nativePath);
+    FileLock lock;
+    if (isNoName(nativePath)) return lock;
+    const QString path = lockName(nativePath);
+    for (int i = 0; i < attempts; ++i) {
+        const Found found = lookWhenWritten(path);
+        if (found.counts()) refuse(nativePath, found.holder);
+        Exclusive step = found.state == State::Free ? Exclusive::Done : removeExclusively(path, found.text);
+        if (step == Exclusive::Done) {
+            lock.foundStale_ = lock.foundStale_ || found.state == State::Dead;
+            step = lock.make(path);
+        }
+        if (step != Exclusive::OtherFirst) return lock;
+        QThread::msleep(pauseBetween);
+    }
+    refuse(nativePath, {});
 }
 
 FileLock FileLock::takeOver(const QString& nativePath) {
     FileLock lock;
-    if (nativePath.contains(QChar(u'\0'))) return lock;
+    if (isNoName(nativePath)) return lock;
     const QString path = lockName(nativePath);
-    lock.foundStale_ = QFile::remove(path);
-    lock.write(path);
+    QFile::remove(path);
+    lock.make(path);
     return lock;
 }
 
-bool FileLock::write(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered)) return false;
+Exclusive FileLock::make(const QString& path) {
     const QByteArray text = textOf(ourselves());
-    if (file.write(text) != text.size()) { // a full disk; others could not tell whose it is
-        file.remove();
-        return false;
+    const Exclusive made = makeExclusively(path, text);
+    if (made == Exclusive::Done) {
+        path_ = path;
+        text_ = text;
     }
-    path_ = path;
-    text_ = text;
-    return true;
+    return made;
 }
 
 FileLock::FileLock(FileLock&& other) noexcept
@@ -133,7 +179,7 @@ FileLock::~FileLock() {
 
 // Another one may have taken the lock over.
 void FileLock::release() {
-    if (isHeld() && contents(path_) == text_) QFile::remove(path_);
+    if (isHeld() && look(path_).text == text_) QFile::remove(path_);
 }
 
 } // namespace zvonika

@@ -6,19 +6,21 @@
 
 namespace zvonika {
 
-/// Who has a file open.
+enum class Exclusive;
+
+/// Who has a file open. Of a lock that cannot be read, the user at most is known.
 struct LockHolder {
-    QString user;    ///< may be ""
-    QString host;    ///< the computer's name
-    QString program; ///< without folder
-    qint64 process = 0;
+    QString user;                 ///< may be ""
+    QString host;                 ///< the computer's name; may be ""
+    QString program;              ///< without folder; may be ""
+    qint64 process = 0;           ///< 0: not known
     QString machine, boot, start; ///< tell whether it still runs
     bool isThisProcess() const;
 };
 
 /// Tells others that a file is open here, by a hidden file ".~<name>.zamek" beside it. The lock of a process
-/// of this computer that is gone counts for nothing, also when its number is in use again. Where no such file
-/// can be made (folder not writable), the file stays unlocked.
+/// of this computer that is gone counts for nothing, also when its number is in use again; one that cannot be
+/// read counts. Where no such file can be made (folder not writable), the file stays unlocked.
 class FileLock {
 public:
     FileLock() = default; ///< locks nothing
@@ -28,19 +30,20 @@ public:
 
     /// The living process that has the file open; nothing when there is none.
     static std::optional<LockHolder> holder(const QString& nativePath);
-    /// 1004, saying who has it open, when another one holds the lock, in this process or elsewhere.
+    /// 1004, saying who has it open, when another one holds the lock, in this process or elsewhere. Of
+    /// several that try at once, one gets it.
     static FileLock acquire(const QString& nativePath);
     /// Takes the lock, whoever holds it. The other one no longer counts, even while it has the file open.
     static FileLock takeOver(const QString& nativePath);
 
     bool isHeld() const { return !path_.isEmpty(); }
-    /// A dead process had the file open when the lock was taken.
+    /// A process known to be dead had the file open when the lock was acquired.
     bool foundStale() const { return foundStale_; }
     /// Name of the lock file of a file.
     static QString lockName(const QString& nativePath);
 
 private:
-    bool write(const QString& path);
+    Exclusive make(const QString& path);
     void release();
 
     QString path_;

@@ -132,7 +132,9 @@ QString whoHolds(const LockHolder& holder) {
     QStringList known;
     if (!holder.user.isEmpty()) known << QStringLiteral("uživatel %1").arg(holder.user);
     if (!holder.host.isEmpty()) known << QStringLiteral("počítač %1").arg(holder.host);
-    known << QStringLiteral("program %1, proces %2").arg(holder.program).arg(holder.process);
+    if (holder.process != 0)
+        known << QStringLiteral("program %1, proces %2").arg(holder.program).arg(holder.process);
+    if (known.isEmpty()) known << QStringLiteral("neznámý uživatel");
     return known.join(QStringLiteral(", "));
 }
 

@@ -5,9 +5,13 @@
 
 #include <QSysInfo>
 
+#include <algorithm>
 #include <csignal>
+#include <map>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <vector>
 
 namespace zvonika::testing {
 
@@ -54,24 +58,59 @@ private:
 class FileLockTest : public ::testing::Test, protected World {
 protected:
     FileLockTest() { store(song, "x"); }
-    /// The lock of this process with one of its lines replaced; returns whether it counts.
-    bool countsWith(int line, const QByteArray& text) {
+    /// The lock of this process with some of its lines replaced; returns whether it counts.
+    bool countsWith(const std::map<int, QByteArray>& changes) {
         QByteArray lock;
         {
             const FileLock held = FileLock::acquire(song);
             lock = contents(FileLock::lockName(song));
         }
         QList<QByteArray> lines = lock.split('\n');
-        lines[line] = text;
+        for (const auto& [line, text] : changes)
+            lines[line] = text;
         store(FileLock::lockName(song), lines.join('\n'));
         const bool counts = FileLock::holder(song).has_value();
         QFile::remove(FileLock::lockName(song));
         return counts;
     }
+    /// How many of so many processes that acquire the lock at the same moment hold it.
+    int winnersOf(int processes) {
+        int start[2], done[2];
+        EXPECT_EQ(::pipe(start) + ::pipe(done), 0);
+        std::vector<pid_t> children;
+        for (int i = 0; i < processes; ++i)
+            if (children.push_back(::fork()); children.back() == 0) tryAtOnce(start, done[1]);
+        ::close(start[0]);
+        ::close(start[1]); // off they go
+        std::string told(std::size_t(processes), '?');
+        for (char& one : told)
+            EXPECT_EQ(::read(done[0], &one, 1), 1);
+        ::close(done[0]);
+        ::close(done[1]);
+        for (const pid_t child : children) {
+            ::kill(child, SIGKILL);
+            ::waitpid(child, nullptr, 0);
+        }
+        return int(std::count(told.begin(), told.end(), 'h'));
+    }
+    [[noreturn]] void tryAtOnce(const int (&start)[2], int done) const {
+        ::close(start[1]);
+        char nothing = 0;
+        (void)!::read(start[0], &nothing, 1); // returns when the last one that could write has closed
+        try {
+            const FileLock lock = FileLock::acquire(song);
+            if (::write(done, lock.isHeld() ? "h" : "-", 1) == 1)
+                for (;;)
+                    ::pause();
+        } catch (const RuntimeError&) {
+            (void)!::write(done, "-", 1);
+        }
+        ::_exit(1);
+    }
     const QString song = path(QStringLiteral("píseň.xls"));
 };
 
-enum Line { program = 2, process = 3, start = 4, boot = 5, machine = 6 };
+enum Line { host = 1, program = 2, process = 3, start = 4, boot = 5, machine = 6 };
 
 } // namespace
 
@@ -106,13 +145,68 @@ TEST_F(FileLockTest, OfADeadProcessCountsForNothing) {
 }
 
 TEST_F(FileLockTest, CountsForAsLongAsItsOwnerRuns) {
-    EXPECT_TRUE(countsWith(program, "jiny"));
-    EXPECT_FALSE(countsWith(start, "1")) << "the number is in use again";
-    EXPECT_FALSE(countsWith(boot, "jiny-start-pocitace"));
-    EXPECT_TRUE(countsWith(machine, "jiny-pocitac")) << "nothing is known of its processes";
-    EXPECT_FALSE(countsWith(0, "jiny druh zamku"));
+    EXPECT_TRUE(countsWith({{program, "jiny"}}));
+    EXPECT_FALSE(countsWith({{start, "1"}})) << "the number is in use again";
+    EXPECT_FALSE(countsWith({{boot, "jiny-start-pocitace"}}));
+    EXPECT_TRUE(countsWith({{machine, "jiny-pocitac"}})) << "nothing is known of its processes";
+    EXPECT_TRUE(countsWith({{host, "ucebna-07"}, {boot, "jiny-start"}})) << "a copy of this installation";
+    EXPECT_FALSE(countsWith({{0, "jiny druh zamku"}}));
     store(FileLock::lockName(song), "Tabulka Zvoniky 1\npoc"); // its owner died while it wrote this
     EXPECT_TRUE(FileLock::acquire(song).isHeld());
+}
+
+TEST_F(FileLockTest, OfManyThatTryAtOnceOneGetsIt) {
+    QByteArray dead;
+    {
+        OtherProcess other(song);
+        ASSERT_TRUE(other.held);
+        dead = contents(FileLock::lockName(song));
+    }
+    for (int round = 0; round < 30; ++round) {
+        QFile::remove(FileLock::lockName(song));
+        if (round % 2 == 1) store(FileLock::lockName(song), dead);
+        EXPECT_EQ(winnersOf(6), 1) << (round % 2 == 1 ? "a dead process had it" : "free");
+    }
+}
+
+TEST_F(FileLockTest, ThatCannotBeReadIsOfSomebody) {
+    const QString lock = FileLock::lockName(song);
+    store(lock, {});
+    EXPECT_TRUE(FileLock::holder(song)) << "empty: being written";
+    EXPECT_TRUE(refusalOf([&] { FileLock::acquire(song); }).startsWith(QStringLiteral("1004")));
+    store(lock, "x");
+    ASSERT_TRUE(QFile::setPermissions(lock, {}));
+    const QString user = QFileInfo(lock).owner();
+    ::chmod(QFile::encodeName(folder.path()), 0777);
+    const bool root = ::geteuid() == 0;
+    if (root) {
+        ASSERT_EQ(::seteuid(65534), 0);
+    }
+    const auto found = FileLock::holder(song);
+    const QString refusal = refusalOf([&] { FileLock::acquire(song); });
+    if (root) {
+        ASSERT_EQ(::seteuid(0), 0);
+    }
+    ASSERT_TRUE(found);
+    EXPECT_EQ(found->user, user);
+    EXPECT_EQ(refusal,
+              QStringLiteral("1004 Soubor „píseň.xls“ je už otevřen jinde (uživatel %1).").arg(user));
+    EXPECT_EQ(contents(lock), "x");
+}
+
+TEST_F(FileLockTest, CanBeReadByEverybody) {
+    const mode_t mask = ::umask(077);
+    const FileLock lock = FileLock::acquire(song);
+    ::umask(mask);
+    EXPECT_EQ(QFile::permissions(FileLock::lockName(song)) & QFile::ReadOther, QFile::ReadOther);
+}
+
+TEST_F(FileLockTest, TakenOverFromALivingOneDoesNotCountAsStale) {
+    OtherProcess other(song);
+    ASSERT_TRUE(other.held);
+    const FileLock lock = FileLock::takeOver(song);
+    EXPECT_TRUE(lock.isHeld());
+    EXPECT_FALSE(lock.foundStale()) << "what it is writing would be cleared away";
 }
 
 TEST_F(FileLockTest, TakenOverIsNotGivenBackByTheOneThatHadIt) {
