@@ -298,6 +298,9 @@ int Workbook::activeSheet() const {
 
 void Workbook::setActiveSheet(int sheet) {
     const auto index = static_cast<std::uint32_t>(impl_->sheet(sheet));
+    if (impl_->model.globals.window1 == absent) return;
+    // The file may name a chart sheet or one that is not there: no reason to change an unchanged file.
+    if (!isModified() && sheet == activeSheet()) return;
     impl_->edits.activeSheet = index;
     if (index == impl_->fileActiveSheet()) impl_->edits.activeSheet.reset();
 }

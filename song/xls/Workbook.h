@@ -89,7 +89,8 @@ public:
     void setColumnWidth(int sheet, int column, int width);
 
     int activeSheet() const;
-    /// Makes the sheet the only selected one. A workbook without a Window1 record cannot keep it.
+    /// Makes the sheet the only selected one; nothing happens while nothing else is changed and the sheet is
+    /// `activeSheet` anyway. A workbook without a Window1 record cannot keep it: the call is ignored.
     void setActiveSheet(int sheet);
     /// The cell the cursor stood on when the sheet was last saved.
     CellRef activeCell(int sheet) const;

@@ -147,4 +147,30 @@ TEST(Pitfalls, OneSheetIsSelectedWhereSeveralWere) {
     EXPECT_EQ(find(recordsOf(book.save()), 0x003D)->u16(14), 1);
 }
 
+TEST(Pitfalls, AnActiveSheetThatIsNoWorksheetIsNoChange) {
+    const std::vector<Rec> all = recordsOf(readFixture("xlwt.xls"));
+    const auto changed = [&](std::uint16_t id, std::size_t at, std::uint8_t value) {
+        std::vector<Rec> records = all;
+        const auto record = std::ranges::find(records, id, &Rec::id);
+        record->data[at] = value;
+        return fileAround(bytesOf(records));
+    };
+    const struct {
+        const char* what;
+        Bytes file;
+        bool changes; ///< whether choosing the last worksheet does
+    } table[] = {{"a chart sheet", changed(0x0085, 5, 2), false}, // one worksheet is left
+                 {"beyond the last", changed(0x003D, 10, 99), true},
+                 {"no Window1", without("xlwt.xls", {0x003D}), false}};
+    for (const auto& [what, file, changes] : table) {
+        SCOPED_TRACE(what);
+        Workbook book = Workbook::open(file);
+        book.setActiveSheet(book.activeSheet());
+        EXPECT_EQ(book.save(), file);
+        book.setActiveSheet(book.sheetCount() - 1);
+        EXPECT_EQ(book.isModified(), changes);
+        EXPECT_EQ(Workbook::open(book.save()).activeSheet(), changes ? book.sheetCount() - 1 : 0);
+    }
+}
+
 } // namespace
