@@ -23,6 +23,13 @@ xls::CellRef ref(CellPosition cell) {
     throw RuntimeError(error::applicationDefined, sentence);
 }
 
+/// The engine knows only the case of ASCII letters.
+bool isOtherSheetsName(const Document& document, int sheet, const QString& name) {
+    for (int other = 1; other <= document.sheetCount(); ++other)
+        if (other != sheet && document.sheetName(other).compare(name, Qt::CaseInsensitive) == 0) return true;
+    return false;
+}
+
 } // namespace
 
 int Document::sheetCount() const {
@@ -48,11 +55,12 @@ void Document::activateSheet(int sheet) {
 void Document::renameSheet(int sheet, const QString& name) {
     if (name == sheetName(sheet)) return;
     try {
+        if (isOtherSheetsName(*this, sheet, name)) throw std::invalid_argument("another sheet has this name");
         book_.renameSheet(sheet - 1, name.toStdU16String());
     } catch (const std::invalid_argument&) {
         refuse(QStringLiteral(
                    "Jméno listu „%1“ nelze použít: má mít 1 až 31 znaků, žádný z nich : \\ / ? * [ ], "
-                   "a v sešitu smí být jen jednou.")
+                   "nemá začínat ani končit apostrofem a v sešitu smí být jen jednou.")
                    .arg(name));
     }
     setModified(true);

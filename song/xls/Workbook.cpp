@@ -34,6 +34,8 @@ void requireName(const std::u16string& name) {
         throw std::invalid_argument("a sheet name has 1 to 31 characters");
     if (name.find_first_of(forbidden) != std::u16string::npos)
         throw std::invalid_argument("a sheet name has none of : \\ / ? * [ ]");
+    if (name.front() == u'\'' || name.back() == u'\'')
+        throw std::invalid_argument("a sheet name neither begins nor ends with an apostrophe");
 }
 
 bool sameName(const std::u16string& a, const std::u16string& b) {

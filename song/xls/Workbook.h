@@ -55,7 +55,8 @@ public:
     int sheetCount() const;
     std::u16string sheetName(int sheet) const;
     /// Throws std::invalid_argument when the name is empty, longer than 31 units, contains one of : \ / ? * [
-    /// ] or is already another sheet's name (compared without regard to ASCII case).
+    /// ], begins or ends with an apostrophe, or is already another sheet's name (compared without regard to
+    /// ASCII case).
     void renameSheet(int sheet, const std::u16string& name);
 
     Value value(int sheet, CellRef cell) const;

@@ -185,6 +185,21 @@ TEST_F(DocumentTest, SignalsTellOfChangesAndOnlyOfChanges) {
     EXPECT_EQ(sheets.count(), 1);
 }
 
+TEST_F(DocumentTest, SheetNamesThatSpreadsheetsTakeForEqualOrRefuseAreRefused) {
+    const QString file = folder.filePath(QStringLiteral("dva.xls"));
+    QFile::copy(QStringLiteral(XLS_DATA "/xlwt.xls"), file);
+    const auto two = Document::open(file, {});
+    two->renameSheet(2, QStringLiteral("Žlutý"));
+    for (const char* name : {"ŽLUTÝ", "žlutý", "'a", "a'", "", "a:b"})
+        EXPECT_TRUE(
+            refusalOf([&] { two->renameSheet(1, QString::fromUtf8(name)); })
+                .startsWith(
+                    QStringLiteral("1004 Jméno listu „%1“ nelze použít: ").arg(QString::fromUtf8(name))))
+            << name;
+    two->renameSheet(2, QStringLiteral("ŽLUTÝ")); // its own name in another case
+    EXPECT_EQ(two->sheetName(2), QStringLiteral("ŽLUTÝ"));
+}
+
 TEST_F(DocumentTest, ColumnWidthsAreKeptInTheFile) {
     document.setColumnWidth(1, 1, 24.5);
     document.setColumnWidth(1, 2, 999);

@@ -26,13 +26,14 @@ TEST(SheetName, IsRefusedWhenASpreadsheetWould) {
     for (const std::u16string& name :
          {std::u16string(), std::u16string(32, u'a'), std::u16string(u"a:b"), std::u16string(u"a\\b"),
           std::u16string(u"a/b"), std::u16string(u"a?"), std::u16string(u"*"), std::u16string(u"[a"),
-          std::u16string(u"a]"), book.sheetName(1)})
+          std::u16string(u"a]"), std::u16string(u"'a"), std::u16string(u"a'"), book.sheetName(1)})
         EXPECT_THROW(book.renameSheet(0, name), std::invalid_argument);
     EXPECT_THROW(Workbook::create(u"a/b"), std::invalid_argument);
     book.renameSheet(1, u"Sheet");
     EXPECT_THROW(book.renameSheet(0, u"sHEET"), std::invalid_argument);
     book.renameSheet(1, u"SHEET"); // its own name in another case
     EXPECT_EQ(book.sheetName(1), u"SHEET");
+    book.renameSheet(1, u"d'un"); // an apostrophe inside is one like any
 }
 
 TEST(ColumnWidth, SplitsTheRecordThatCoversMoreColumns) {
