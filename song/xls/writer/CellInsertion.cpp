@@ -114,8 +114,17 @@ std::uint32_t CellInsertion::cellPosition(CellKey key, std::uint32_t floor, std:
     std::uint32_t position = floor;
     if (hasPrevious && std::prev(next)->record < limit)
         position = std::max(position, endOfCell(patch_.stream, std::prev(next)->record));
-    if (position != absent) return position;
-    return next != cells.end() ? next->record : layout_.tablePosition(patch_.stream);
+    if (next == cells.end()) return position != absent ? position : layout_.tablePosition(patch_.stream);
+    if (position == absent) return next->record;
+    // Row records out of order must not take the cells out of theirs.
+    const bool isOrdered = !hasPrevious || std::prev(next)->record < next->record;
+    return isOrdered && isWithin(limit, next->record) ? std::min(position, next->record) : position;
+}
+
+bool CellInsertion::isWithin(std::uint32_t limit, std::uint32_t offset) const {
+    if (limit == noLimit) return true;
+    const RowBlock* block = layout_.blockAt(offset);
+    return block && block->dbCell == limit;
 }
 
 bool CellInsertion::standsAlone(const RowSlot& slot) const {

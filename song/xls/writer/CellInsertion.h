@@ -27,6 +27,8 @@ private:
     void insertNewBlock(std::span<const RowCells> rows);
 
     std::uint32_t cellPosition(CellKey key, std::uint32_t floor, std::uint32_t limit) const;
+    /// Whether a record stands in the block that ends with this DbCell record; true for no limit.
+    bool isWithin(std::uint32_t limit, std::uint32_t offset) const;
     /// True for a Row record without another Row record before or behind it.
     bool standsAlone(const RowSlot& slot) const;
     std::uint32_t endOfRowRun(std::uint32_t rowRecord);

@@ -224,6 +224,28 @@ TEST(NewCell, StandsInOrderWhereverTheRowsAre) {
                  boolean(2, 7, 15, true)});
 }
 
+TEST(NewCell, StandsInOrderWhereARowRecordDoesNot) {
+    const Rec five = numberCell(5, 0, 1.5), one = numberCell(1, 0, 1.5);
+    const std::vector<Rec> before{row(1, 0, 1), one, row(5, 0, 1), five, row(2, 0, 0)};
+    const struct {
+        const char* what;
+        CellRef cell;
+        std::vector<Rec> after;
+    } table[] = {
+        {"in that row", {2, 1}, {before[0], one, before[2], boolean(2, 1, 15, true), five, row(2, 1, 2)}},
+        {"in the row behind",
+         {3, 1},
+         {before[0], one, before[2], row(3, 1, 2), boolean(3, 1, 15, true), five, before[4]}},
+        {"in the last row",
+         {6, 1},
+         {before[0], one, before[2], five, row(6, 1, 2), boolean(6, 1, 15, true), before[4]}},
+    };
+    for (const auto& [what, cell, after] : table) {
+        SCOPED_TRACE(what);
+        expectTable(edited(before, {{cell, true}}), after);
+    }
+}
+
 TEST(Cells, OutOfOrderAndTwiceAreFound) {
     const std::vector<Rec> table{numberCell(5, 1, 1.5), numberCell(1, 1, 2.5), numberCell(5, 1, 3.5)};
     Workbook book = Workbook::open(fileWithTable(table));
