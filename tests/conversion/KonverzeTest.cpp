@@ -43,6 +43,7 @@ TEST_F(KonverzeTest, RewritesACopyAndLeavesTheSongAlone) {
 TEST_F(KonverzeTest, NothingIsSavedBeforeEverythingIsKnown) {
     dialogs.expect("Neočekávaná chyba.", "Píseň ze které se má konvertovat, není otevřena.");
     preved("G dur");
+    EXPECT_EQ(dialogs.last.icon, Icon::Critical);
     otevri({tah});
     konverze.Form_Load();
     stav.optStupnice.reset();
@@ -60,6 +61,7 @@ TEST_F(KonverzeTest, NothingIsSavedBeforeEverythingIsKnown) {
     dialogs.expect("Neúplné údaje.",
                    "Píseň neobsahuje záznam ve kterém ladění je zapsána. Konverze nebude provedena !");
     konverze.cmdGo();
+    EXPECT_EQ(dialogs.last.icon, Icon::Critical);
     EXPECT_EQ(excel->calls("saveActiveWorkbook") + excel->calls("saveActiveWorkbookAs"), 0);
     EXPECT_FALSE(stav.zavreno || stav.bezi);
     EXPECT_EQ(konverze.veta(), "");
@@ -72,6 +74,7 @@ TEST_F(KonverzeTest, AnOlderCopyIsReplacedOnlyWhenTheUserAgrees) {
     dialogs.expect(kopie, "Soubor již existuje. Přejete si ho vymazat a nahradit novým ?", Answer::Cancel);
     dialogs.expect("Storno převodu.", "Zpracování zrušeno uživatelem.");
     preved("G dur");
+    EXPECT_EQ(dialogs.last.icon, Icon::Information);
     EXPECT_TRUE(stav.zavreno && drive.files.contains(kopie));
     EXPECT_FALSE(konverze.predanaKopie());
 
@@ -101,6 +104,7 @@ TEST_F(KonverzeTest, AnEmptySongLeavesACopyForWritingByHand) {
     dialogs.expect("Přerušeno na začátku.",
                    "Smažte soubor Polka G dur.xls\nEventuelně může být tento soubor použit");
     preved("G dur");
+    EXPECT_EQ(dialogs.last.icon, Icon::Critical);
     EXPECT_EQ(list(), "G dur Nedokončeno");
     EXPECT_TRUE(stav.zavreno && konverze.predanaKopie());
 }
@@ -191,6 +195,7 @@ TEST_F(KonverzeTest, ARowWithoutAKeyEndsTheRun) {
     dialogs.expect("Neúplné údaje.",
                    "Není uvedeno ladění zdrojového řádku. Konverze bude předčasně ukončena.");
     preved("G dur");
+    EXPECT_EQ(dialogs.last.icon, Icon::Critical);
     EXPECT_FALSE(stav.zavreno);
     EXPECT_EQ(excel->text("B2"), "d1,");
     EXPECT_EQ(list(), "G dur Nedokončeno");
@@ -227,6 +232,7 @@ TEST_F(KonverzeTest, ASongChosenInTheDialogIsClosedAgain) {
     dialogs.expect("Nevhodný soubor.",
                    "Vyberte jinou píseň.\nPokročilí uživatelé mohou zapsat ladění do sloupce W.");
     vyberSoubor(soubor("Bez tóniny.xls", {"B=c1,"}));
+    EXPECT_EQ(dialogs.last.icon, Icon::Critical);
     EXPECT_EQ(excel->activeWorkbookName(), "");
     EXPECT_EQ(pisen.aktualniPisen, "zavřená ručně.xls");
     EXPECT_TRUE(stav.vyberPovolen);
