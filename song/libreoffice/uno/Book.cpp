@@ -5,7 +5,9 @@
 
 #include <QFileInfo>
 
+#include <com/sun/star/awt/XToolkitExperimental.hpp>
 #include <com/sun/star/awt/XTopWindow.hpp>
+#include <com/sun/star/awt/XWindowPeer.hpp>
 #include <com/sun/star/frame/XStorable2.hpp>
 #include <com/sun/star/frame/XTitle.hpp>
 #include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
@@ -78,8 +80,17 @@ void Book::refuseWhatXlsLoses() const {
     }
 }
 
+// Keys that Calc has not come to yet belong to what is being typed.
+void Book::awaitKeys() {
+    const Ref<css::awt::XWindowPeer> window(frame_->getContainerWindow(), css::uno::UNO_QUERY);
+    if (!window.is()) return;
+    const Ref<css::awt::XToolkitExperimental> toolkit(window->getToolkit(), css::uno::UNO_QUERY);
+    if (toolkit.is()) toolkit->processEventsToIdle();
+}
+
 // What is being typed in a cell is taken over when the cursor leaves it.
 void Book::commitEntry() {
+    awaitKeys();
     const CellPosition here = cursor();
     select(single({here.row > 1 ? here.row - 1 : here.row + 1, here.column}));
     select(single(here));

@@ -64,6 +64,7 @@ private:
          CalcObserver& observer, const Ref<css::frame::XDispatchHelper>& dispatcher, Keeper& keeper);
     Ref<css::sheet::XSpreadsheet> sheet() const;
     void refuseWhatXlsLoses() const;
+    void awaitKeys();
     void commitEntry();
     QString title() const;
 
