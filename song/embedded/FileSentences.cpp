@@ -61,6 +61,8 @@ QString openReason(std::errc error) {
         return QStringLiteral("nemáte oprávnění ho číst");
     case std::errc::file_too_large:
         return QStringLiteral("je příliš velký");
+    case std::errc::not_enough_memory:
+        return QStringLiteral("nestačí paměť počítače");
     default:
         return QStringLiteral("při čtení z disku nastala chyba");
     }

@@ -39,6 +39,11 @@ xls::Bytes readBytes(const QString& path) {
     return bytes;
 }
 
+/// For the user one sentence is enough; whoever looks into the file needs to know where.
+void logRefusal(const QString& path, const std::exception& refusal) {
+    qWarning("%s: %s", qUtf8Printable(path), refusal.what());
+}
+
 } // namespace
 
 WorkbookFile readWorkbook(const QString& nativePath) {
@@ -47,10 +52,14 @@ WorkbookFile readWorkbook(const QString& nativePath) {
         QByteArray hash = contentHash(bytes);
         return {xls::Workbook::open(std::move(bytes)), std::move(hash)};
     } catch (const xls::FormatError& refusal) {
+        logRefusal(nativePath, refusal);
         refuse(openRefused(nativePath, refusal.refusal()));
     } catch (const RuntimeError&) {
         throw;
-    } catch (const std::exception&) { // lengths that no memory holds, places that are not there
+    } catch (const std::bad_alloc&) {
+        refuse(openRefused(nativePath, std::errc::not_enough_memory));
+    } catch (const std::exception& failure) { // places that are not there
+        logRefusal(nativePath, failure);
         refuse(openRefused(nativePath, xls::Refusal::Damaged));
     }
 }

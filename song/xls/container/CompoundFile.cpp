@@ -104,19 +104,27 @@ void CompoundFile::readDifat() {
     }
 }
 
-CompoundFile::Chain CompoundFile::follow(const std::vector<std::uint32_t>& table, std::uint32_t first,
+std::size_t CompoundFile::linkOffset(const std::vector<std::uint32_t>& table, std::uint32_t sector) const {
+    const Chain& sectors = &table == &fat_ ? fatSectors_ : miniFatSectors_;
+    const std::uint32_t perSector = sectorSize() / 4;
+    return sectorOffset(sectors[sector / perSector]) + 4 * std::size_t{sector % perSector};
+}
+
+CompoundFile::Chain CompoundFile::follow(const std::vector<std::uint32_t>& table, std::size_t firstAt,
                                          std::vector<bool>& used, const char* place,
                                          std::uint64_t most) const {
     Chain chain;
-    for (std::uint32_t sector = first; sector != endOfChain && chain.size() < most; sector = table[sector]) {
+    for (std::uint32_t sector = load32(&file_[firstAt]); sector != endOfChain && chain.size() < most;
+         sector = table[sector]) {
+        const auto refuseSector = [&](Refusal refusal, std::string expected) {
+            const std::size_t at = chain.empty() ? firstAt : linkOffset(table, chain.back());
+            refuse(refusal, place, at, std::move(expected), "sector " + std::to_string(sector));
+        };
         if (sector >= used.size() && sector <= lastRegularSector)
-            refuse(Refusal::Truncated, place, sectorOffset(sector),
-                   "a sector below " + std::to_string(used.size()), std::to_string(sector));
+            refuseSector(Refusal::Truncated, "a sector below " + std::to_string(used.size()));
         if (sector >= used.size() || sector >= table.size())
-            refuse(Refusal::Damaged, place, 0, "a chain of sectors", "sector " + std::to_string(sector));
-        if (used[sector])
-            refuse(Refusal::Damaged, place, sectorOffset(sector), "an unused sector",
-                   "sector " + std::to_string(sector) + " used twice");
+            refuseSector(Refusal::Damaged, "a chain of sectors");
+        if (used[sector]) refuseSector(Refusal::Damaged, "a sector that is not in use");
         used[sector] = true;
         chain.push_back(sector);
     }
@@ -124,8 +132,7 @@ CompoundFile::Chain CompoundFile::follow(const std::vector<std::uint32_t>& table
 }
 
 void CompoundFile::readDirectory() {
-    const std::uint32_t first = load32(&file_[Header::firstDirectorySector]);
-    directorySectors_ = follow(fat_, first, used_, "directory");
+    directorySectors_ = follow(fat_, Header::firstDirectorySector, used_, "directory");
     for (const std::uint32_t sector : directorySectors_)
         if (file_.size() - sectorOffset(sector) < sectorSize())
             refuse(Refusal::Truncated, "directory", sectorOffset(sector), "a whole sector",
@@ -135,12 +142,11 @@ void CompoundFile::readDirectory() {
 }
 
 void CompoundFile::readMiniFat() {
-    const std::uint8_t* root = &file_[entryOffset(0)];
     const std::uint64_t size = streamSize(0);
     if (size == 0) return;
-    miniFatSectors_ = follow(fat_, load32(&file_[Header::firstMiniFatSector]), used_, "mini FAT");
+    miniFatSectors_ = follow(fat_, Header::firstMiniFatSector, used_, "mini FAT");
     miniStreamSectors_ =
-        follow(fat_, load32(root + Entry::firstSector), used_, "mini stream", sectorsFor(size));
+        follow(fat_, entryOffset(0) + Entry::firstSector, used_, "mini stream", sectorsFor(size));
     for (const std::uint32_t sector : miniFatSectors_) {
         const std::size_t begin = sectorOffset(sector);
         if (file_.size() - begin < sectorSize())
@@ -199,9 +205,10 @@ std::optional<std::uint32_t> CompoundFile::findStream(const std::string& name) c
     return std::nullopt;
 }
 
-CompoundFile::Bytes CompoundFile::gather(const Chain& chain, std::uint64_t size, const char* place) const {
+CompoundFile::Bytes CompoundFile::gather(const Chain& chain, std::uint32_t entry, const char* place) const {
+    const std::uint64_t size = streamSize(entry);
     if (size > (static_cast<std::uint64_t>(chain.size()) << sectorShift_))
-        refuse(Refusal::Truncated, place, 0, std::to_string(size) + " bytes",
+        refuse(Refusal::Truncated, place, entryOffset(entry) + Entry::size, std::to_string(size) + " bytes",
                std::to_string(chain.size()) + " sectors");
     Bytes out;
     out.reserve(static_cast<std::size_t>(size));
@@ -224,13 +231,11 @@ CompoundFile::Bytes CompoundFile::gather(const Chain& chain, std::uint64_t size,
 CompoundFile::Chain CompoundFile::miniChain(std::uint32_t entry) const {
     std::vector<bool> used(miniFat_.size());
     const std::uint64_t most = (streamSize(entry) + miniSectorSize - 1) / miniSectorSize;
-    const std::uint32_t first = load32(&file_[entryOffset(entry) + Entry::firstSector]);
-    return follow(miniFat_, first, used, "mini stream chain", most);
+    return follow(miniFat_, entryOffset(entry) + Entry::firstSector, used, "mini stream chain", most);
 }
 
 CompoundFile::Bytes CompoundFile::readMini(std::uint32_t entry, std::uint64_t size) const {
-    const std::uint64_t rootSize = streamSize(0);
-    const Bytes mini = gather(miniStreamSectors_, rootSize, "mini stream");
+    const Bytes mini = gather(miniStreamSectors_, 0, "mini stream");
     Bytes out;
     for (const std::uint32_t sector : miniChain(entry)) {
         const std::size_t begin = static_cast<std::size_t>(sector) * miniSectorSize;
@@ -241,21 +246,21 @@ CompoundFile::Bytes CompoundFile::readMini(std::uint32_t entry, std::uint64_t si
         out.insert(out.end(), from, from + static_cast<std::ptrdiff_t>(wanted));
     }
     if (out.size() != size)
-        refuse(Refusal::Truncated, "mini stream", 0, std::to_string(size) + " bytes",
-               std::to_string(out.size()));
+        refuse(Refusal::Truncated, "mini stream", entryOffset(entry) + Entry::size,
+               std::to_string(size) + " bytes", std::to_string(out.size()));
     return out;
 }
 
 CompoundFile::Bytes CompoundFile::readStream(std::uint32_t entry) const {
     const std::uint64_t size = streamSize(entry);
     if (isInMiniStream(entry)) return readMini(entry, size);
-    return gather(streamChain(entry), size, "stream");
+    return gather(streamChain(entry), entry, "stream");
 }
 
 CompoundFile::Chain CompoundFile::streamChain(std::uint32_t entry) const {
     std::vector<bool> used = used_;
-    const std::uint32_t first = load32(&file_[entryOffset(entry) + Entry::firstSector]);
-    return follow(fat_, first, used, "stream", sectorsFor(streamSize(entry)));
+    return follow(fat_, entryOffset(entry) + Entry::firstSector, used, "stream",
+                  sectorsFor(streamSize(entry)));
 }
 
 std::optional<ByteView> CompoundFile::viewStream(std::uint32_t entry) const {

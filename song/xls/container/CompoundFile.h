@@ -56,16 +56,19 @@ private:
     std::vector<std::uint32_t> rootMembers() const;
 
     /// Follows a chain through a sector table to its end, but not beyond `most` sectors: some writers let the
-    /// chains of short streams run on into what stands behind. `used` marks the sectors and must not have
-    /// them marked already.
-    Chain follow(const std::vector<std::uint32_t>& table, std::uint32_t first, std::vector<bool>& used,
+    /// chains of short streams run on into what stands behind. `firstAt`: where in the file the number of the
+    /// first sector stands. `used` marks the sectors and must not have them marked already.
+    Chain follow(const std::vector<std::uint32_t>& table, std::size_t firstAt, std::vector<bool>& used,
                  const char* place, std::uint64_t most = ~std::uint64_t{0}) const;
+    /// Where in the file a sector's entry in this table stands.
+    std::size_t linkOffset(const std::vector<std::uint32_t>& table, std::uint32_t sector) const;
     /// The sectors of a stream in the mini stream.
     Chain miniChain(std::uint32_t entry) const;
     /// Sectors that so many bytes take.
     std::uint64_t sectorsFor(std::uint64_t bytes) const { return (bytes + sectorSize() - 1) >> sectorShift_; }
     Chain streamChain(std::uint32_t entry) const;
-    Bytes gather(const Chain& chain, std::uint64_t size, const char* place) const;
+    /// The contents of the entry's stream, which stand in these sectors.
+    Bytes gather(const Chain& chain, std::uint32_t entry, const char* place) const;
     Bytes readMini(std::uint32_t entry, std::uint64_t size) const;
 
     Bytes file_;

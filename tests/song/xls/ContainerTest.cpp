@@ -132,6 +132,7 @@ struct Damage {
     std::size_t offset;
     Bytes bytes;
     Refusal refusal;
+    bool namesThePlace = true; ///< that very offset
 };
 
 TEST(Container, DamageIsNamed) {
@@ -140,16 +141,16 @@ TEST(Container, DamageIsNamed) {
         {"sector size", 30, {11}, Refusal::Damaged},
         {"mini sector size", 32, {9}, Refusal::Damaged},
         {"more FAT sectors than the file", 44, le(4, {1000}), Refusal::Truncated},
-        {"FAT outside the file", 76, le(4, {5000}), Refusal::Truncated},
+        {"FAT outside the file", 76, le(4, {5000}), Refusal::Truncated, false},
         {"directory chain without end", 512 + 4, le(4, {1}), Refusal::Damaged},
         {"directory outside the file", 48, le(4, {7777}), Refusal::Truncated},
-        {"no root", 1024 + 66, {2}, Refusal::Damaged},
+        {"no root", 1024 + 66, {2}, Refusal::Damaged, false},
         {"stream in a circle", 512 + 4 * 10, le(4, {3}), Refusal::Damaged},
         {"stream through the directory", 512 + 4 * 10, le(4, {1}), Refusal::Damaged},
         {"stream into a free sector", 512 + 4 * 10, le(4, {0xFFFFFFFF}), Refusal::Damaged},
         {"stream outside the file", 512 + 4 * 10, le(4, {60}), Refusal::Truncated},
         {"stream shorter than its size", 1024 + 128 + 120, le(4, {99999}), Refusal::Truncated},
-        {"stream of no mini stream", 1024 + 128 + 120, le(4, {64}), Refusal::Truncated},
+        {"stream of no mini stream", 1024 + 128 + 120, le(4, {64}), Refusal::Truncated, false},
     };
     for (const Damage& damage : table) {
         Bytes file = good;
@@ -161,6 +162,8 @@ TEST(Container, DamageIsNamed) {
         } catch (const FormatError& error) {
             EXPECT_EQ(error.refusal(), damage.refusal) << damage.what << ": " << error.what();
             EXPECT_FALSE(error.place().empty());
+            EXPECT_EQ(error.offset() == damage.offset, damage.namesThePlace) << error.what();
+            EXPECT_NE(error.offset(), 0U) << damage.what;
         }
     }
 }
