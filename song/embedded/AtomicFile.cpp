@@ -86,15 +86,33 @@ std::optional<struct stat> existing(const QByteArray& path) {
     return info;
 }
 
+constexpr char accessList[] = "system.posix_acl_access";
+
+/// A new file may have got one from its folder: it would open the file to others, under the same mode.
+void dropInheritedAccess(const QByteArray& from, int file, bool withAccess) {
+    if (!withAccess || ::getxattr(from, accessList, nullptr, 0) < 0) (void)::fremovexattr(file, accessList);
+}
+
+/// Where a file system keeps no modes, nothing can be set and nothing need be: a mode that lets nobody in who
+/// was not let in before is good enough.
+void setMode(int file, mode_t mode) {
+    struct stat now {};
+    check(::fstat(file, &now));
+    if ((now.st_mode & 07777) == mode || ::fchmod(file, mode) == 0) return;
+    const int reason = errno;
+    const bool unsupported = reason == EOPNOTSUPP || reason == EPERM || reason == ENOSYS;
+    if (!unsupported || (now.st_mode & 07777 & ~mode) != 0) fail(reason);
+}
+
 /// Access lists and what else hangs on the file, as far as the file system and the user's rights let it.
-void copyAttributes(const QByteArray& from, int to) {
+void copyAttributes(const QByteArray& from, int to, bool withAccess) {
     QByteArray names(64 << 10, '\0');
     const auto length = ::listxattr(from, names.data(), static_cast<std::size_t>(names.size()));
     if (length <= 0) return;
     names.truncate(length);
     QByteArray value(64 << 10, '\0');
     for (const QByteArray& name : names.split('\0')) {
-        if (name.isEmpty()) continue;
+        if (name.isEmpty() || (name == accessList && !withAccess)) continue;
         const auto size = ::getxattr(from, name, value.data(), static_cast<std::size_t>(value.size()));
         if (size >= 0) (void)::fsetxattr(to, name, value.constData(), static_cast<std::size_t>(size), 0);
     }
@@ -119,12 +137,13 @@ public:
     // Giving a file away may not be permitted; the contents matter more. What its group was allowed must not
     // go to another group then.
     void keepRights(const QByteArray& target, const struct stat& info) {
+        const bool groupKept = ::fchown(file_.get(), info.st_uid, info.st_gid) == 0 ||
+                               ::fchown(file_.get(), uid_t(-1), info.st_gid) == 0;
         mode_t mode = info.st_mode & 07777;
-        if (::fchown(file_.get(), info.st_uid, info.st_gid) < 0 &&
-            ::fchown(file_.get(), uid_t(-1), info.st_gid) < 0)
-            mode = (mode & 0707) | ((mode & 07) << 3);
-        check(::fchmod(file_.get(), mode));
-        copyAttributes(target, file_.get());
+        if (!groupKept) mode = (mode & 0707) | ((mode & 07) << 3);
+        dropInheritedAccess(target, file_.get(), groupKept);
+        setMode(file_.get(), mode);
+        copyAttributes(target, file_.get(), groupKept);
     }
 
     void write(std::span<const std::uint8_t> bytes) {

@@ -116,6 +116,25 @@ TEST_F(AtomicFileTest, WhatHangsOnTheFileStays) {
     EXPECT_STREQ(value, "poznámka");
 }
 
+TEST_F(AtomicFileTest, TheFoldersAccessListLetsNobodyElseIn) {
+    write(song, "stará");
+    const QByteArray file = QFile::encodeName(path(song));
+    ASSERT_EQ(::chmod(file, 0640), 0);
+    // Version 2, then tag, rights and number of each entry, as the kernel wants them: user 1234 may write.
+    const auto list = QByteArray::fromHex("02000000"
+                                          "01000700ffffffff"
+                                          "02000600d2040000"
+                                          "04000700ffffffff"
+                                          "10000700ffffffff"
+                                          "20000500ffffffff");
+    if (::setxattr(QFile::encodeName(folder.path()), "system.posix_acl_default", list.constData(),
+                   std::size_t(list.size()), 0) < 0)
+        GTEST_SKIP() << "the file system has no access lists";
+    write(song, "nová");
+    EXPECT_LT(::getxattr(file, "system.posix_acl_access", nullptr, 0), 0);
+    EXPECT_EQ(info(song).st_mode & 07777, 0640U);
+}
+
 TEST_F(AtomicFileTest, LeftoversOfKilledWritersOfThisFileAreClearedAway) {
     write(song, "stará");
     write(QStringLiteral("jiná.xls"), "x");
