@@ -127,9 +127,9 @@ void EmbeddedApplication::saveActiveWorkbook() {
 }
 
 void EmbeddedApplication::saveInPlace(Document& saved, const QString& nativePath) {
-    const bool changed = saved.isChangedOnDisk();
-    if (!Saving(session_).mayWrite(saved))
-        refuse(changed ? notOverwritten(nativePath) : notConverted(nativePath));
+    Saving saving(session_);
+    if (!saving.mayConvert(saved)) refuse(notConverted(nativePath));
+    if (!saving.mayOverwrite(saved)) refuse(notOverwritten(nativePath));
     saved.saveAs(nativePath);
 }
 

@@ -37,14 +37,14 @@ bool Saving::agreed(const QString& question, Answer proposed) {
                {jmenoTabulky, question, Icon::Exclamation, Buttons::YesNo, proposed}) == Answer::Yes;
 }
 
-bool Saving::mayWrite(Document& document) {
-    if (document.isChangedOnDisk() && !agreed(overwriteQuestion(document.path()), Answer::No)) return false;
-    return session_.isOpen(document) && mayConvert(document);
-}
-
 bool Saving::mayConvert(Document& document) {
     if (!document.isOldFormat() || !document.isModified()) return true;
     return agreed(conversionQuestion(document.name()), Answer::Yes) && session_.isOpen(document);
+}
+
+bool Saving::mayOverwrite(Document& document) {
+    if (!document.isChangedOnDisk()) return true;
+    return agreed(overwriteQuestion(document.path()), Answer::No) && session_.isOpen(document);
 }
 
 void Saving::makeRoom(const QString& name, const Document* self) {
@@ -64,7 +64,7 @@ void Saving::putAway(Document& document) {
 
 Saving::Outcome Saving::store(Document& document) {
     if (document.path().isEmpty()) return storeElsewhere(document);
-    if (!mayWrite(document)) return Outcome::Refused;
+    if (!mayConvert(document) || !mayOverwrite(document)) return Outcome::Refused;
     return attempt([&] { document.save(); });
 }
 

@@ -17,11 +17,12 @@ class Saving {
 public:
     explicit Saving(Session& session) : session_(session) {}
 
-    /// Asks before a save in its place writes over what another program has put into the file, or converts
-    /// it. False when the user does not want it.
-    bool mayWrite(Document& document);
-    /// Asks before a save turns a workbook of an older format into one of the present format.
+    /// Asks before a save turns a workbook of an older format into one of the present format. False when the
+    /// user does not want it.
     bool mayConvert(Document& document);
+    /// Asks before a save in its place writes over what another program has put into the file. The last
+    /// question before the save: others can write while a box is up.
+    bool mayOverwrite(Document& document);
     /// Before a workbook takes this file name: when another one of that name is open, as a song whose save
     /// was refused, offers to save it elsewhere and to close it. 1004 when it stays open.
     void makeRoom(const QString& name, const Document* self = nullptr);

@@ -77,6 +77,12 @@ TEST_F(SaveQuestionsTest, WhatASaveDoesToAnOlderFileIsSaidBefore) {
     dialogs.expect(jmenoTabulky, conversion, Answer::No);
     EXPECT_TRUE(saving().startsWith(QStringLiteral("1004 Soubor „stará.xls“ uložen není: sešit měl zůstat")));
     EXPECT_EQ(contents(old), before);
+    store(old, foreign); // what is on the disk is looked at last
+    dialogs.expect(jmenoTabulky, conversion, Answer::Yes)
+        .expect(jmenoTabulky, QStringLiteral("Soubor „stará.xls“ na disku mezitím změnil"), Answer::No);
+    EXPECT_TRUE(saving().contains(QStringLiteral("není: na disku ho mezitím změnil")));
+    EXPECT_EQ(contents(old), foreign);
+    store(old, before);
     dialogs.expect(jmenoTabulky, conversion, Answer::Yes);
     EXPECT_EQ(saving(), QStringLiteral("0"));
     EXPECT_NE(contents(old), before);
