@@ -67,7 +67,9 @@ private:
     template <typename Action>
     bool attempt(Action action);
     Place place() const;
-    bool mayClose(Document& document);
+    /// Adds a document whose changes the user does not want to `unwanted`.
+    bool mayClose(Document& document, std::vector<Document*>& unwanted);
+    void giveUp(const std::vector<Document*>& unwanted);
 
     Session& session_;
     QString copiedText_; ///< as it went to the clipboard
