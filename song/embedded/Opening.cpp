@@ -5,6 +5,7 @@
 #include "song/embedded/RecoverySentences.h"
 #include "song/embedded/Session.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 namespace zvonika {
@@ -14,13 +15,13 @@ Opening::Opening(Session& session, JournalFolder journals)
 
 std::unique_ptr<Document> Opening::open(const QString& nativePath) {
     auto document = Document::open(nativePath, journals_, lock(nativePath));
-    for (auto& pending : journals_.pending(nativePath))
+    for (auto& pending : pending(nativePath))
         offer(*document, std::move(pending));
     return document;
 }
 
 void Opening::recoverUnsaved() {
-    for (auto& pending : journals_.pending({})) {
+    for (auto& pending : pending({})) {
         const QString name = pending.contents.base.name;
         auto document =
             std::make_unique<Document>(session_.find(name) ? session_.nextName() : name, journals_);
@@ -44,6 +45,17 @@ FileLock Opening::lock(const QString& nativePath) {
     if (answer != Answer::Yes)
         throw RuntimeError(error::applicationDefined, openElsewhere(nativePath, *holder));
     return FileLock::takeOver(nativePath);
+}
+
+std::vector<PendingJournal> Opening::pending(const QString& nativePath) {
+    QStringList unreadable;
+    auto found = journals_.pending(nativePath, &unreadable);
+    for (const QString& place : unreadable)
+        session_.dialogs().message(
+            {jmenoTabulky,
+             unreadableJournal(QFileInfo(nativePath).fileName(), QDir::toNativeSeparators(place)),
+             Icon::Exclamation});
+    return found;
 }
 
 void Opening::offer(Document& document, PendingJournal pending) {

@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <memory>
+#include <vector>
 
 namespace zvonika {
 
@@ -26,6 +27,7 @@ public:
 
 private:
     FileLock lock(const QString& nativePath);
+    std::vector<PendingJournal> pending(const QString& nativePath);
     void offer(Document& document, PendingJournal pending);
     bool wanted(const Document& document, const PendingJournal& pending);
     void recover(Document& document, PendingJournal pending);

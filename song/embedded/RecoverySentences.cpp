@@ -9,9 +9,23 @@ bool isFew(int count) {
 }
 
 QString remained(int count) {
-    if (count == 1) return QStringLiteral("zůstala 1 neuložená změna");
-    if (isFew(count)) return QStringLiteral("zůstaly %1 neuložené změny").arg(count);
-    return QStringLiteral("zůstalo %1 neuložených změn").arg(count);
+    if (count == 1) return QStringLiteral("zůstala z minula 1 neuložená změna");
+    if (isFew(count)) return QStringLiteral("zůstaly z minula %1 neuložené změny").arg(count);
+    return QStringLiteral("zůstalo z minula %1 neuložených změn").arg(count);
+}
+
+QString openingOffered() {
+    return QStringLiteral("Chcete sešit otevřít? Jinak se odloží a program ho už nenabídne.");
+}
+
+QString returnOffered(int count) {
+    if (count == 1)
+        return QStringLiteral(
+            "Chcete ji vrátit? Jinak se sešit otevře tak, jak byl uložen, a tato změna se odloží; "
+            "program ji už nenabídne.");
+    return QStringLiteral(
+        "Chcete je vrátit? Jinak se sešit otevře tak, jak byl uložen, a tyto změny se odloží; "
+        "program je už nenabídne.");
 }
 
 QString inWords(const QDateTime& when) {
@@ -31,15 +45,20 @@ QString recoveryQuestion(const QString& workbook, const JournalContents& journal
     const bool neverSaved = journal.base.path.isEmpty();
     const QString kind =
         neverSaved ? QStringLiteral("V dosud neuloženém sešitu") : QStringLiteral("V sešitu");
-    QString text = QStringLiteral("Program minule neskončil řádně. %1 „%2“ po něm %3 (poslední %4).")
+    QString text = QStringLiteral("%1 „%2“ %3 (poslední %4).")
                        .arg(kind, workbook, remained(count), inWords(journal.lastChange()));
     if (changedSince)
         text += QStringLiteral("\n\nPozor: soubor se od té doby změnil. Změny patří k jeho dřívější podobě.");
-    if (neverSaved) return text + QStringLiteral("\n\nChcete sešit otevřít?");
-    return text +
-           (count == 1 ? QStringLiteral("\n\nChcete ji vrátit? ")
-                       : QStringLiteral("\n\nChcete je vrátit? ")) +
-           QStringLiteral("Jinak se sešit otevře tak, jak byl uložen.");
+    return text + QStringLiteral("\n\n") + (neverSaved ? openingOffered() : returnOffered(count));
+}
+
+QString unreadableJournal(const QString& workbook, const QString& place) {
+    const QString whose = workbook.isEmpty() ? QStringLiteral("sešitu, který ještě nebyl uložen,")
+                                             : QStringLiteral("sešitu „%1“").arg(workbook);
+    return QStringLiteral(
+               "Záznam neuložených změn %1 je poškozený a nic z něj vrátit nejde; leží odložen v souboru "
+               "„%2“.")
+        .arg(whose, place);
 }
 
 QString partlyRecovered(const QString& workbook, int refused) {

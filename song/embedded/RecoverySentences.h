@@ -9,9 +9,11 @@ namespace zvonika {
 /// Czech: 1 "změna", 2 to 4 "změny", otherwise "změn".
 QString changesInWords(int count);
 
-/// Asks whether to make the changes that a crash has left. `changedSince`: the file has other contents now
+/// Asks whether to make the changes that were left unsaved. `changedSince`: the file has other contents now
 /// than the changes were made to.
 QString recoveryQuestion(const QString& workbook, const JournalContents& journal, bool changedSince);
+/// A journal that is damaged from its beginning, and where it lies. `workbook`: "" when it was never saved.
+QString unreadableJournal(const QString& workbook, const QString& place);
 /// Some changes could not be made.
 QString partlyRecovered(const QString& workbook, int refused);
 

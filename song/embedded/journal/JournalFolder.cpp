@@ -79,13 +79,11 @@ JournalFile JournalFolder::begin(const QString& song, const QByteArray& contents
 }
 
 /// Adds the journal to the found ones, or clears it away.
-void JournalFolder::look(JournalFile file, std::vector<PendingJournal>& found) const {
+void JournalFolder::look(JournalFile file, std::vector<PendingJournal>& found,
+                         QStringList* unreadable) const {
     const QByteArray bytes = readable(file);
     auto contents = readJournal(bytes);
-    if (!contents) {
-        bytes.isEmpty() ? file.remove() : setAside(std::move(file));
-        return;
-    }
+    if (!contents) return clearAway(std::move(file), bytes.isEmpty(), unreadable);
     contents->dropSaved(contentHashOfFile);
     if (contents->groups.empty())
         file.remove();
@@ -93,12 +91,18 @@ void JournalFolder::look(JournalFile file, std::vector<PendingJournal>& found) c
         found.push_back({std::move(file), std::move(*contents)});
 }
 
-std::vector<PendingJournal> JournalFolder::pending(const QString& song) const {
+void JournalFolder::clearAway(JournalFile file, bool isEmpty, QStringList* unreadable) const {
+    if (isEmpty) return file.remove();
+    const QString place = setAside(std::move(file));
+    if (unreadable) unreadable->append(place);
+}
+
+std::vector<PendingJournal> JournalFolder::pending(const QString& song, QStringList* unreadable) const {
     std::vector<PendingJournal> found;
     if (isOff()) return found;
     const QDir folder(path_);
     for (const QString& name : folder.entryList({key(song) + QStringLiteral("-*") + ending}, QDir::Files)) {
-        if (auto file = JournalFile::open(folder.filePath(name))) look(std::move(*file), found);
+        if (auto file = JournalFile::open(folder.filePath(name))) look(std::move(*file), found, unreadable);
     }
     std::ranges::stable_sort(found, isOlder);
     return found;
@@ -109,16 +113,19 @@ void JournalFolder::setAsideAll(const QString& song) const {
         setAside(std::move(journal.file));
 }
 
-void JournalFolder::setAside(JournalFile file) const {
+QString JournalFolder::setAside(JournalFile file) const {
     QDir aside(QDir(path_).filePath(asideName));
     const QString base = QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd_HH-mm-ss"));
-    if (!aside.mkpath(QStringLiteral("."))) return;
+    const QString before = file.path();
+    if (!aside.mkpath(QStringLiteral("."))) return before;
     for (int number = 0; number < mostOfOneSong; ++number) {
         const QString target = aside.filePath(QStringLiteral("%1_%2%3").arg(base).arg(number).arg(ending));
         if (QFileInfo::exists(target)) continue;
-        if (file.moveTo(target)) pruneAside(aside);
-        return;
+        if (!file.moveTo(target)) return before;
+        pruneAside(aside);
+        return target;
     }
+    return before;
 }
 
 } // namespace zvonika

@@ -4,6 +4,7 @@
 #include "song/embedded/journal/JournalFile.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <vector>
 
@@ -29,14 +30,17 @@ public:
     /// Begins a journal with these first entries. std::system_error when that cannot be done.
     JournalFile begin(const QString& song, const QByteArray& contents) const;
     /// Oldest first. What turns out to be saved by now, or empty, is deleted on the way. `song`: its native
-    /// full name, "" for workbooks that were never saved.
-    std::vector<PendingJournal> pending(const QString& song) const;
+    /// full name, "" for workbooks that were never saved. `unreadable` gets the names under which journals
+    /// that cannot be read have been put aside.
+    std::vector<PendingJournal> pending(const QString& song, QStringList* unreadable = nullptr) const;
     /// Puts a journal out of the way, into the folder "odmitnute", where nothing but the user finds it again.
-    void setAside(JournalFile file) const;
+    /// Its name there, or where it is if that fails.
+    QString setAside(JournalFile file) const;
     void setAsideAll(const QString& song) const; ///< what is pending
 
 private:
-    void look(JournalFile file, std::vector<PendingJournal>& found) const;
+    void look(JournalFile file, std::vector<PendingJournal>& found, QStringList* unreadable) const;
+    void clearAway(JournalFile file, bool isEmpty, QStringList* unreadable) const;
 
     QString path_;
 };

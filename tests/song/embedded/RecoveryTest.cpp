@@ -77,7 +77,7 @@ TEST_F(RecoveryTest, EveryWayToChangeASongComesBack) {
     const CellBlock before = app->readBlock(QStringLiteral("A1:J8"));
     crash();
     start();
-    dialogs.expect(title, QStringLiteral("V sešitu „Kočka.xls“ po něm zůstalo"), Answer::Yes);
+    dialogs.expect(title, QStringLiteral("V sešitu „Kočka.xls“ zůstalo z minula "), Answer::Yes);
     open();
     EXPECT_EQ(app->readBlock(QStringLiteral("A1:J8")), before);
     EXPECT_EQ(app->activeSheetName(), QStringLiteral("Tonavox XII"));
@@ -95,9 +95,9 @@ TEST_F(RecoveryTest, EveryWayToChangeASongComesBack) {
 }
 
 TEST_F(RecoveryTest, TheQuestionSaysHowManyChangesAndWhen) {
-    const std::pair<int, const char*> cases[] = {{1, "zůstala 1 neuložená změna (poslední "},
-                                                 {3, "zůstaly 3 neuložené změny (poslední "},
-                                                 {5, "zůstalo 5 neuložených změn (poslední "}};
+    const std::pair<int, const char*> cases[] = {{1, "zůstala z minula 1 neuložená změna (poslední "},
+                                                 {3, "zůstaly z minula 3 neuložené změny (poslední "},
+                                                 {5, "zůstalo z minula 5 neuložených změn (poslední "}};
     for (const auto& [count, words] : cases) {
         start();
         open();
@@ -118,6 +118,7 @@ TEST_F(RecoveryTest, TurnedDownTheSongIsAsItWasSavedAndTheJournalIsKeptAside) {
     crashWith("B2", "d");
     dialogs.expect(title, QStringLiteral("Chcete ji vrátit?"), Answer::No);
     open();
+    EXPECT_TRUE(dialogs.last.text.endsWith(QStringLiteral("se odloží; program ji už nenabídne.")));
     EXPECT_EQ(text("B2"), QString());
     EXPECT_FALSE(document().isModified());
     EXPECT_EQ(contents(song), saved);
@@ -193,6 +194,31 @@ TEST_F(RecoveryTest, WhatTheUserOrTheProgramGaveUpIsNotOffered) {
         way();
         EXPECT_EQ(journalCount(), 0);
     }
+}
+
+TEST_F(RecoveryTest, WhoChangesHisMindWhileQuittingGivesNothingUp) {
+    start();
+    open();
+    write("B2", "d");
+    app->addWorkbook();
+    write("B1", "f");
+    const QString question = QStringLiteral("Chcete uložit změny");
+    dialogs.expect(title, question, Answer::No).expect(title, question, Answer::Cancel);
+    EXPECT_FALSE(app->commands().quit());
+    crash();
+    EXPECT_EQ(journalCount(), 2);
+}
+
+TEST_F(RecoveryTest, ADamagedJournalIsToldOfWithItsPlace) {
+    crashWith("B2", "d");
+    const QDir records(state.filePath(QStringLiteral("zaznamy")));
+    store(records.filePath(records.entryList(QDir::Files).value(0)), "co to je?");
+    dialogs.expect(title, QStringLiteral("Záznam neuložených změn sešitu „Kočka.xls“ je poškozený"));
+    open();
+    const QString place =
+        dialogs.last.text.section(QStringLiteral("„"), -1).section(QStringLiteral("“"), 0, 0);
+    EXPECT_EQ(contents(place), "co to je?") << place.toStdString();
+    EXPECT_EQ(text("B1"), QStringLiteral("c"));
 }
 
 TEST_F(RecoveryTest, WhatCouldNotBeSavedAtTheEndIsOfferedAgain) {
