@@ -7,7 +7,7 @@
 #include "song/Pas.h"
 #include "song/SongPanel.h"
 #include "song/SongSheet.h"
-#include "song/Timer1.h"
+#include "playing/stepping/Timer1.h"
 #include "song/ZobrazovaciOsnova.h"
 #include "theory/NotovaOsnova.h"
 #include "theory/Tonina.h"

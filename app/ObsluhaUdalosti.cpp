@@ -1,6 +1,6 @@
 #include "app/ObsluhaUdalosti.h"
 
-#include "song/Hlaseni.h"
+#include "platform/Hlaseni.h"
 
 #include <QScopedValueRollback>
 

@@ -5,7 +5,7 @@
 #include "app/Prostredi.h"
 #include "conversion/Konverze.h"
 #include "conversion/ui/FrmKonverze.h"
-#include "song/ZivotPisne.h"
+#include "playing/song/ZivotPisne.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

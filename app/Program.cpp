@@ -4,9 +4,9 @@
 #include "app/OknaPomucek.h"
 #include "app/OknoKonverze.h"
 #include "app/Prikazy.h"
-#include "song/PrikazyPisne.h"
-#include "song/SpusteniExcelu.h"
-#include "song/StavovyRadek.h"
+#include "playing/stepping/PrikazyPisne.h"
+#include "playing/song/SpusteniExcelu.h"
+#include "playing/stepping/StavovyRadek.h"
 
 #include <QApplication>
 #include <QLineEdit>

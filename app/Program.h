@@ -5,7 +5,7 @@
 #include "app/OknoNapovedy.h"
 #include "app/Spusteni.h"
 #include "app/ui/Form1.h"
-#include "song/Automat.h"
+#include "playing/stepping/Automat.h"
 
 #include <QHash>
 #include <QObject>

@@ -8,7 +8,7 @@
 #include "platform/SettingsStore.h"
 #include "platform/Shell.h"
 #include "platform/WakeUpClock.h"
-#include "song/SpreadsheetApplication.h"
+#include "spreadsheet/SpreadsheetApplication.h"
 
 namespace zvonika {
 

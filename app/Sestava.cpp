@@ -13,8 +13,8 @@
 #include "platform/ui/CzechTranslator.h"
 #include "platform/ui/DesktopShell.h"
 #include "platform/ui/QtDialogs.h"
-#include "song/embedded/EmbeddedApplication.h"
-#include "song/embedded/ui/SheetWindow.h"
+#include "spreadsheet/embedded/EmbeddedApplication.h"
+#include "spreadsheet/embedded/ui/SheetWindow.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,7 +1,7 @@
 #include "app/TabulkaLibreOffice.h"
 
 #include "app/ui/PrubehSpusteni.h"
-#include "song/libreoffice/LibreOfficeApplication.h"
+#include "spreadsheet/libreoffice/LibreOfficeApplication.h"
 
 #include <QElapsedTimer>
 #include <QGuiApplication>

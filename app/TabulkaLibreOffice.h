@@ -3,7 +3,7 @@
 #include "app/VolbaTabulky.h"
 #include "platform/Dialogs.h"
 #include "platform/Drive.h"
-#include "song/SpreadsheetApplication.h"
+#include "spreadsheet/SpreadsheetApplication.h"
 
 #include <QRect>
 

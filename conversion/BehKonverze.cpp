@@ -1,6 +1,6 @@
 #include "conversion/BehKonverze.h"
 
-#include "song/Address.h"
+#include "spreadsheet/Address.h"
 #include "theory/Tonavox12.h"
 
 namespace zvonika {

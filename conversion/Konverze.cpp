@@ -2,7 +2,7 @@
 
 #include "conversion/KopiePisne.h"
 #include "conversion/ListHeligonky.h"
-#include "song/Address.h"
+#include "spreadsheet/Address.h"
 #include "theory/Toniny.h"
 
 #include <algorithm>

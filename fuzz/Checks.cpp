@@ -1,6 +1,6 @@
 #include "fuzz/Checks.h"
 
-#include "song/xls/container/CompoundFile.h"
+#include "spreadsheet/xls/container/CompoundFile.h"
 
 #include <algorithm>
 #include <cstdio>

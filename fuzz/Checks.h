@@ -1,6 +1,6 @@
 #pragma once
 
-#include "song/xls/Workbook.h"
+#include "spreadsheet/xls/Workbook.h"
 
 /// What must hold for the engine whatever the bytes are. A breach ends the process (abort, or an exception
 /// that nobody catches), so that a fuzzer and the replaying test see it.

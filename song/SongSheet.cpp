@@ -1,6 +1,6 @@
 #include "song/SongSheet.h"
 
-#include "song/Address.h"
+#include "spreadsheet/Address.h"
 
 #include <algorithm>
 

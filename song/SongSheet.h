@@ -1,7 +1,7 @@
 #pragma once
 
 #include "song/Grip.h"
-#include "song/SpreadsheetApplication.h"
+#include "spreadsheet/SpreadsheetApplication.h"
 
 #include <QVector>
 

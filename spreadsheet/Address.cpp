@@ -1,4 +1,4 @@
-#include "song/Address.h"
+#include "spreadsheet/Address.h"
 
 #include <algorithm>
 #include <utility>

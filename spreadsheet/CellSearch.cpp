@@ -1,4 +1,4 @@
-#include "song/CellSearch.h"
+#include "spreadsheet/CellSearch.h"
 
 #include <algorithm>
 

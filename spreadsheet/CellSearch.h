@@ -1,7 +1,7 @@
 #pragma once
 
-#include "song/Address.h"
-#include "song/SpreadsheetApplication.h"
+#include "spreadsheet/Address.h"
+#include "spreadsheet/SpreadsheetApplication.h"
 
 #include <functional>
 #include <optional>

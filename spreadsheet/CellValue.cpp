@@ -1,4 +1,4 @@
-#include "song/CellValue.h"
+#include "spreadsheet/CellValue.h"
 
 #include <QLocale>
 

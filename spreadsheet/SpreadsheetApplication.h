@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/RuntimeError.h"
-#include "song/CellValue.h"
+#include "spreadsheet/CellValue.h"
 
 #include <QString>
 

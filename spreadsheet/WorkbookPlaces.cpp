@@ -1,4 +1,4 @@
-#include "song/WorkbookPlaces.h"
+#include "spreadsheet/WorkbookPlaces.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 
 #include "platform/Drive.h"
 #include "platform/SettingsStore.h"
-#include "song/SpreadsheetApplication.h"
+#include "spreadsheet/SpreadsheetApplication.h"
 
 namespace zvonika {
 

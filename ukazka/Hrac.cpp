@@ -1,4 +1,4 @@
-#include "app/ukazka/Hrac.h"
+#include "ukazka/Hrac.h"
 
 #include "app/Program.h"
 #include "app/ui/Form1.h"

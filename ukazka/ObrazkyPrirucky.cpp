@@ -1,4 +1,4 @@
-#include "app/ukazka/ObrazkyPrirucky.h"
+#include "ukazka/ObrazkyPrirucky.h"
 
 #include "app/Program.h"
 #include "app/ui/Form1.h"

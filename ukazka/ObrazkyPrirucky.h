@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/ukazka/Hrac.h"
+#include "ukazka/Hrac.h"
 
 #include <QRect>
 #include <QString>

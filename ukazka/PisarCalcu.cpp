@@ -1,4 +1,4 @@
-#include "app/ukazka/PisarCalcu.h"
+#include "ukazka/PisarCalcu.h"
 
 #include "app/Program.h"
 

@@ -1,4 +1,4 @@
-#include "app/ukazka/Pisnicka.h"
+#include "ukazka/Pisnicka.h"
 
 #include <QStringList>
 

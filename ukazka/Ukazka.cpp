@@ -1,8 +1,8 @@
-#include "app/ukazka/Ukazka.h"
+#include "ukazka/Ukazka.h"
 
 #include "app/Program.h"
 #include "app/ui/Form1.h"
-#include "app/ukazka/PisarCalcu.h"
+#include "ukazka/PisarCalcu.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app/VolbaTabulky.h"
-#include "app/ukazka/Hrac.h"
-#include "app/ukazka/Pisnicka.h"
+#include "ukazka/Hrac.h"
+#include "ukazka/Pisnicka.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 // The demonstration's conversions: into another key, and as a version for the heligonka.
 #include "app/Program.h"
 #include "app/ui/Form1.h"
-#include "app/ukazka/Ukazka.h"
+#include "ukazka/Ukazka.h"
 
 #include <QTest>
 

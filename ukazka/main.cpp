@@ -3,7 +3,7 @@
 #include "app/Program.h"
 #include "app/Sestava.h"
 #include "app/VolbaTabulky.h"
-#include "app/ukazka/Ukazka.h"
+#include "ukazka/Ukazka.h"
 #include "platform/IniSettingsStore.h"
 
 #include <QApplication>

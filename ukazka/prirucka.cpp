@@ -3,7 +3,7 @@
 // recovery needs.
 #include "app/Program.h"
 #include "app/Sestava.h"
-#include "app/ukazka/ObrazkyPrirucky.h"
+#include "ukazka/ObrazkyPrirucky.h"
 
 #include <QApplication>
 #include <QDir>

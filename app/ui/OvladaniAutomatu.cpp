@@ -1,7 +1,7 @@
 #include "app/ui/OvladaniAutomatu.h"
 
 #include "app/ui/PrikazoveTlacitko.h"
-#include "song/Timer1.h"
+#include "playing/stepping/Timer1.h"
 
 #include <QLabel>
 #include <QSlider>

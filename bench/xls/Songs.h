@@ -1,6 +1,6 @@
 #pragma once
 
-#include "song/xls/Workbook.h"
+#include "spreadsheet/xls/Workbook.h"
 
 #include <string>
 

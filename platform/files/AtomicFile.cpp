@@ -1,6 +1,6 @@
-#include "song/embedded/AtomicFile.h"
+#include "platform/files/AtomicFile.h"
 
-#include "song/embedded/journal/Checksum.h"
+#include "platform/files/Checksum.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,5 +1,5 @@
-#include "song/embedded/AtomicFile.h"
-#include "song/embedded/journal/Checksum.h"
+#include "platform/files/AtomicFile.h"
+#include "platform/files/Checksum.h"
 
 #include <QDir>
 #include <QFileInfo>

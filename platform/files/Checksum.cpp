@@ -1,4 +1,4 @@
-#include "song/embedded/journal/Checksum.h"
+#include "platform/files/Checksum.h"
 
 #include <array>
 

@@ -1,4 +1,4 @@
-#include "song/embedded/ExclusiveFile.h"
+#include "platform/files/ExclusiveFile.h"
 
 #include <QFile>
 

@@ -1,9 +1,9 @@
-#include "song/embedded/FileLock.h"
+#include "platform/files/FileLock.h"
 
 #include "platform/RuntimeError.h"
-#include "song/embedded/ExclusiveFile.h"
-#include "song/embedded/FileSentences.h"
-#include "song/embedded/ProcessStart.h"
+#include "platform/files/ExclusiveFile.h"
+#include "platform/files/LockSentences.h"
+#include "platform/files/ProcessStart.h"
 
 #include <QCoreApplication>
 #include <QFile>

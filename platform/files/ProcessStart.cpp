@@ -1,4 +1,4 @@
-#include "song/embedded/ProcessStart.h"
+#include "platform/files/ProcessStart.h"
 
 #include <QFile>
 #include <QStringList>

@@ -1,4 +1,4 @@
-#include "board/Intervaly.h"
+#include "playing/intervals/Intervaly.h"
 
 #include "board/TrebleBoard.h"
 #include "song/ZobrazovaciOsnova.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "board/ZobrazeniIntervalu.h"
+#include "playing/intervals/ZobrazeniIntervalu.h"
 #include "song/SongPanel.h"
 #include "song/SongSheet.h"
 #include "theory/CisloTonu.h"

@@ -1,4 +1,4 @@
-#include "board/ZobrazeniIntervalu.h"
+#include "playing/intervals/ZobrazeniIntervalu.h"
 
 #include "board/TrebleBoard.h"
 #include "platform/Dialogs.h"

@@ -1,4 +1,4 @@
-#include "board/KlikDiskantu.h"
+#include "playing/recording/KlikDiskantu.h"
 
 #include "theory/Tonina.h"
 #include "theory/clsNotyZapis.h"

@@ -1,6 +1,6 @@
-#include "board/PoZapisu.h"
+#include "playing/recording/PoZapisu.h"
 
-#include "song/PrikazyPisne.h"
+#include "playing/stepping/PrikazyPisne.h"
 
 namespace zvonika {
 

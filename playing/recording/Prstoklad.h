@@ -6,8 +6,6 @@
 
 namespace zvonika {
 
-class TrebleBoard;
-
 /// Fingering marks collected for the grip being recorded: entries "l12;1\" (main button 12, thumb) and
 /// "s14;4\" (auxiliary button 14, ring finger) in the order of entering. Only `odeber` empties them.
 class Prstoklad {
@@ -26,24 +24,6 @@ private:
 
     Dialogs& dialogs_;
     QString prstoklad_;
-};
-
-/// Shows the fingering of a stored grip on the buttons.
-class ZobrazeniPrstokladu {
-public:
-    ZobrazeniPrstokladu(TrebleBoard& diskant, Dialogs& dialogs) : diskant_(diskant), dialogs_(dialogs) {}
-
-    /// Stacks the fingers of a record, the text of column V, on the captions of the buttons. A record that
-    /// cannot be read to its end is reported to the user here; what was read before stays shown.
-    void ZobrazPrstoklad(const QString& zaznam);
-    /// True when `ZobrazPrstoklad` would have nothing to report.
-    static bool jePlatny(const QString& zaznam);
-
-private:
-    void ohlasNeplatnyZaznam();
-
-    TrebleBoard& diskant_;
-    Dialogs& dialogs_;
 };
 
 } // namespace zvonika

@@ -1,4 +1,4 @@
-#include "board/RadekZapisu.h"
+#include "playing/recording/RadekZapisu.h"
 
 namespace zvonika {
 

@@ -1,4 +1,4 @@
-#include "board/Uvolneni.h"
+#include "playing/recording/Uvolneni.h"
 
 #include "board/BassBoard.h"
 #include "board/TrebleBoard.h"

@@ -1,4 +1,4 @@
-#include "board/ZapisBasu.h"
+#include "playing/recording/ZapisBasu.h"
 
 #include "platform/Contact.h"
 

@@ -2,7 +2,7 @@
 
 #include "board/BassBoard.h"
 #include "board/BassTable.h"
-#include "board/RadekZapisu.h"
+#include "playing/recording/RadekZapisu.h"
 #include "platform/Dialogs.h"
 
 namespace zvonika {

@@ -1,4 +1,4 @@
-#include "board/ZapisHmatu.h"
+#include "playing/recording/ZapisHmatu.h"
 
 #include "platform/Contact.h"
 #include "theory/Tonavox12.h"

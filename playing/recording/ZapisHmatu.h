@@ -1,9 +1,9 @@
 #pragma once
 
-#include "board/PoZapisu.h"
-#include "board/Prstoklad.h"
+#include "playing/recording/PoZapisu.h"
+#include "playing/recording/Prstoklad.h"
 #include "board/TrebleBoard.h"
-#include "board/ZapisBasu.h"
+#include "playing/recording/ZapisBasu.h"
 #include "platform/Dialogs.h"
 #include "theory/Tonina.h"
 

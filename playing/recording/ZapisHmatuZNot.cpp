@@ -1,4 +1,4 @@
-#include "board/ZapisHmatuZNot.h"
+#include "playing/recording/ZapisHmatuZNot.h"
 
 #include "platform/Contact.h"
 #include "theory/Tonavox12.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "board/ZapisHmatu.h"
+#include "playing/recording/ZapisHmatu.h"
 
 namespace zvonika {
 

@@ -1,6 +1,6 @@
-#include "board/ZapisNoty.h"
+#include "playing/recording/ZapisNoty.h"
 
-#include "board/KlikDiskantu.h"
+#include "playing/recording/KlikDiskantu.h"
 
 namespace zvonika {
 

@@ -1,4 +1,4 @@
-#include "song/SlozkaPisni.h"
+#include "playing/song/SlozkaPisni.h"
 
 namespace zvonika {
 

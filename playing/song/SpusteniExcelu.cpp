@@ -1,4 +1,4 @@
-#include "song/SpusteniExcelu.h"
+#include "playing/song/SpusteniExcelu.h"
 
 #include "platform/Drive.h"
 

@@ -1,6 +1,6 @@
-#include "song/UkonceniExcelu.h"
+#include "playing/song/UkonceniExcelu.h"
 
-#include "song/Hlaseni.h"
+#include "platform/Hlaseni.h"
 
 namespace zvonika {
 

@@ -1,9 +1,9 @@
-#include "song/ZivotPisne.h"
+#include "playing/song/ZivotPisne.h"
 
-#include "song/Hlaseni.h"
-#include "song/Listy.h"
-#include "song/PrikazyPisne.h"
-#include "song/SlozkaPisni.h"
+#include "platform/Hlaseni.h"
+#include "playing/stepping/Listy.h"
+#include "playing/stepping/PrikazyPisne.h"
+#include "playing/song/SlozkaPisni.h"
 
 namespace zvonika {
 

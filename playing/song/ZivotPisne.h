@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/Drive.h"
-#include "song/Navigace.h"
-#include "song/Zvuk.h"
+#include "playing/stepping/Navigace.h"
+#include "playing/song/Zvuk.h"
 
 namespace zvonika {
 

@@ -1,6 +1,6 @@
-#include "song/Zvuk.h"
+#include "playing/song/Zvuk.h"
 
-#include "song/PrikazyPisne.h"
+#include "playing/stepping/PrikazyPisne.h"
 
 namespace zvonika {
 

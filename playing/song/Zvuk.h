@@ -2,7 +2,7 @@
 
 #include "platform/Drive.h"
 #include "platform/Media.h"
-#include "song/OkoliPisne.h"
+#include "playing/stepping/OkoliPisne.h"
 
 namespace zvonika {
 

@@ -1,4 +1,4 @@
-#include "song/Automat.h"
+#include "playing/stepping/Automat.h"
 
 #include <algorithm>
 #include <utility>

@@ -2,7 +2,7 @@
 
 #include "platform/WakeUpClock.h"
 #include "song/CommandStates.h"
-#include "song/Timer1.h"
+#include "playing/stepping/Timer1.h"
 
 #include <functional>
 

@@ -1,4 +1,4 @@
-#include "song/Listy.h"
+#include "playing/stepping/Listy.h"
 
 namespace zvonika {
 

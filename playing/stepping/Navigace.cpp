@@ -1,8 +1,8 @@
-#include "song/Navigace.h"
+#include "playing/stepping/Navigace.h"
 
 #include "board/TrebleBoard.h"
-#include "song/Listy.h"
-#include "song/PrikazyPisne.h"
+#include "playing/stepping/Listy.h"
+#include "playing/stepping/PrikazyPisne.h"
 
 #include <utility>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "song/OkoliPisne.h"
-#include "song/PasPisne.h"
-#include "song/ZobrazeniHmatu.h"
+#include "playing/stepping/OkoliPisne.h"
+#include "playing/stepping/PasPisne.h"
+#include "playing/stepping/ZobrazeniHmatu.h"
 
 #include <functional>
 #include <utility>

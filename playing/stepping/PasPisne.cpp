@@ -1,4 +1,4 @@
-#include "song/PasPisne.h"
+#include "playing/stepping/PasPisne.h"
 
 namespace zvonika {
 

@@ -1,8 +1,8 @@
-#include "song/ZobrazeniHmatu.h"
+#include "playing/stepping/ZobrazeniHmatu.h"
 
 #include "board/BassBoard.h"
 #include "board/BassTable.h"
-#include "board/Prstoklad.h"
+#include "playing/stepping/ZobrazeniPrstokladu.h"
 #include "board/TrebleBoard.h"
 #include "song/ZobrazovaciOsnova.h"
 #include "theory/Tonavox12.h"

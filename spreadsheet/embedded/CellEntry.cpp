@@ -1,4 +1,4 @@
-#include "song/embedded/CellEntry.h"
+#include "spreadsheet/embedded/CellEntry.h"
 
 #include <QRegularExpression>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "song/CellValue.h"
+#include "spreadsheet/CellValue.h"
 
 namespace zvonika {
 

@@ -1,8 +1,8 @@
-#include "song/embedded/Document.h"
+#include "spreadsheet/embedded/Document.h"
 
 #include "platform/RuntimeError.h"
-#include "song/embedded/CellEntry.h"
-#include "song/embedded/XlsValue.h"
+#include "spreadsheet/embedded/CellEntry.h"
+#include "spreadsheet/embedded/XlsValue.h"
 
 #include <algorithm>
 #include <cmath>

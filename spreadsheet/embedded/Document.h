@@ -1,11 +1,11 @@
 #pragma once
 
-#include "song/Address.h"
-#include "song/CellValue.h"
-#include "song/embedded/FileLock.h"
-#include "song/embedded/History.h"
-#include "song/embedded/journal/Journal.h"
-#include "song/xls/Workbook.h"
+#include "spreadsheet/Address.h"
+#include "spreadsheet/CellValue.h"
+#include "platform/files/FileLock.h"
+#include "spreadsheet/embedded/History.h"
+#include "spreadsheet/embedded/journal/Journal.h"
+#include "spreadsheet/xls/Workbook.h"
 
 #include <QObject>
 

@@ -1,6 +1,6 @@
 #include "platform/RuntimeError.h"
-#include "song/embedded/Document.h"
-#include "song/embedded/XlsValue.h"
+#include "spreadsheet/embedded/Document.h"
+#include "spreadsheet/embedded/XlsValue.h"
 
 #include <algorithm>
 #include <new>

@@ -1,9 +1,9 @@
 #include "platform/RuntimeError.h"
-#include "song/embedded/AtomicFile.h"
-#include "song/embedded/Document.h"
-#include "song/embedded/FileSentences.h"
-#include "song/embedded/WorkbookFile.h"
-#include "song/embedded/journal/ContentHash.h"
+#include "platform/files/AtomicFile.h"
+#include "spreadsheet/embedded/Document.h"
+#include "spreadsheet/embedded/FileSentences.h"
+#include "spreadsheet/embedded/WorkbookFile.h"
+#include "spreadsheet/embedded/journal/ContentHash.h"
 
 #include <QFileInfo>
 

@@ -1,5 +1,5 @@
 #include "platform/RuntimeError.h"
-#include "song/embedded/Document.h"
+#include "spreadsheet/embedded/Document.h"
 
 #include <algorithm>
 #include <stdexcept>

@@ -1,8 +1,8 @@
-#include "song/embedded/EmbeddedApplication.h"
+#include "spreadsheet/embedded/EmbeddedApplication.h"
 
-#include "song/embedded/Opening.h"
-#include "song/embedded/SaveSentences.h"
-#include "song/embedded/Saving.h"
+#include "spreadsheet/embedded/Opening.h"
+#include "spreadsheet/embedded/SaveSentences.h"
+#include "spreadsheet/embedded/Saving.h"
 
 #include <QFileInfo>
 

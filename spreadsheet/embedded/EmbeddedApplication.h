@@ -1,9 +1,9 @@
 #pragma once
 
-#include "song/SpreadsheetApplication.h"
-#include "song/WorkbookPlaces.h"
-#include "song/embedded/Session.h"
-#include "song/embedded/SheetCommands.h"
+#include "spreadsheet/SpreadsheetApplication.h"
+#include "spreadsheet/WorkbookPlaces.h"
+#include "spreadsheet/embedded/Session.h"
+#include "spreadsheet/embedded/SheetCommands.h"
 
 namespace zvonika {
 

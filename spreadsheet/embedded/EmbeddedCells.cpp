@@ -1,5 +1,5 @@
-#include "song/CellSearch.h"
-#include "song/embedded/EmbeddedApplication.h"
+#include "spreadsheet/CellSearch.h"
+#include "spreadsheet/embedded/EmbeddedApplication.h"
 
 namespace zvonika {
 

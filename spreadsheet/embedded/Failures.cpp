@@ -1,8 +1,8 @@
-#include "song/embedded/Failures.h"
+#include "spreadsheet/embedded/Failures.h"
 
 #include "platform/Dialogs.h"
 #include "platform/RuntimeError.h"
-#include "song/embedded/Session.h"
+#include "spreadsheet/embedded/Session.h"
 
 #include <new>
 

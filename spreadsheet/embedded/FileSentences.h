@@ -1,14 +1,12 @@
 #pragma once
 
-#include "song/xls/FormatError.h"
+#include "spreadsheet/xls/FormatError.h"
 
 #include <QString>
 
 #include <system_error>
 
 namespace zvonika {
-
-struct LockHolder;
 
 /// Why a file was not opened or saved: one Czech sentence that names the file, for the user.
 QString openRefused(const QString& nativePath, xls::Refusal refusal);
@@ -18,8 +16,5 @@ QString saveRefused(const QString& nativePath, const std::error_code& error);
 QString saveRefused(const QString& nativePath);
 /// Why changes cannot be recorded for the case of a crash.
 QString journalRefused(const std::error_code& error);
-QString openElsewhere(const QString& nativePath, const LockHolder& holder);
-/// "uživatel jana, počítač doma, program zvonika, proces 123"
-QString whoHolds(const LockHolder& holder);
 
 } // namespace zvonika

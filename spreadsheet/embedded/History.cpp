@@ -1,4 +1,4 @@
-#include "song/embedded/History.h"
+#include "spreadsheet/embedded/History.h"
 
 #include <algorithm>
 #include <iterator>

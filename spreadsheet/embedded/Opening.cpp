@@ -1,9 +1,10 @@
-#include "song/embedded/Opening.h"
+#include "spreadsheet/embedded/Opening.h"
 
 #include "platform/RuntimeError.h"
-#include "song/embedded/FileSentences.h"
-#include "song/embedded/RecoverySentences.h"
-#include "song/embedded/Session.h"
+#include "platform/files/LockSentences.h"
+#include "spreadsheet/embedded/FileSentences.h"
+#include "spreadsheet/embedded/RecoverySentences.h"
+#include "spreadsheet/embedded/Session.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "song/embedded/FileLock.h"
-#include "song/embedded/journal/JournalFolder.h"
+#include "platform/files/FileLock.h"
+#include "spreadsheet/embedded/journal/JournalFolder.h"
 
 #include <QString>
 

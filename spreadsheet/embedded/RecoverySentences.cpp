@@ -1,4 +1,4 @@
-#include "song/embedded/RecoverySentences.h"
+#include "spreadsheet/embedded/RecoverySentences.h"
 
 namespace zvonika {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "song/embedded/journal/JournalContents.h"
+#include "spreadsheet/embedded/journal/JournalContents.h"
 
 #include <QString>
 

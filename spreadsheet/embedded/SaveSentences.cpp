@@ -1,4 +1,4 @@
-#include "song/embedded/SaveSentences.h"
+#include "spreadsheet/embedded/SaveSentences.h"
 
 #include <QDateTime>
 #include <QFileInfo>

@@ -1,8 +1,8 @@
-#include "song/embedded/Saving.h"
+#include "spreadsheet/embedded/Saving.h"
 
-#include "song/embedded/Failures.h"
-#include "song/embedded/SaveSentences.h"
-#include "song/embedded/Session.h"
+#include "spreadsheet/embedded/Failures.h"
+#include "spreadsheet/embedded/SaveSentences.h"
+#include "spreadsheet/embedded/Session.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
-#include "song/embedded/Session.h"
+#include "spreadsheet/embedded/Session.h"
 
 #include "platform/RuntimeError.h"
-#include "song/SpreadsheetApplication.h"
+#include "spreadsheet/SpreadsheetApplication.h"
 
 #include <algorithm>
 #include <utility>

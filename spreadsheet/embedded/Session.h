@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/Dialogs.h"
-#include "song/embedded/Document.h"
-#include "song/embedded/SheetView.h"
+#include "spreadsheet/embedded/Document.h"
+#include "spreadsheet/embedded/SheetView.h"
 
 #include <functional>
 #include <memory>

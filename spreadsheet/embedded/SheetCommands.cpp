@@ -1,9 +1,9 @@
-#include "song/embedded/SheetCommands.h"
+#include "spreadsheet/embedded/SheetCommands.h"
 
-#include "song/embedded/CellEntry.h"
-#include "song/embedded/Failures.h"
-#include "song/embedded/Session.h"
-#include "song/embedded/TabSeparatedText.h"
+#include "spreadsheet/embedded/CellEntry.h"
+#include "spreadsheet/embedded/Failures.h"
+#include "spreadsheet/embedded/Session.h"
+#include "spreadsheet/embedded/TabSeparatedText.h"
 
 #include <algorithm>
 #include <utility>

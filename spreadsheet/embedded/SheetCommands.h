@@ -1,7 +1,7 @@
 #pragma once
 
-#include "song/CellValue.h"
-#include "song/embedded/Document.h"
+#include "spreadsheet/CellValue.h"
+#include "spreadsheet/embedded/Document.h"
 
 #include <QString>
 #include <QStringList>

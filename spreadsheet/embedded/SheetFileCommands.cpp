@@ -1,6 +1,6 @@
-#include "song/embedded/Saving.h"
-#include "song/embedded/Session.h"
-#include "song/embedded/SheetCommands.h"
+#include "spreadsheet/embedded/Saving.h"
+#include "spreadsheet/embedded/Session.h"
+#include "spreadsheet/embedded/SheetCommands.h"
 
 namespace zvonika {
 

@@ -1,4 +1,4 @@
-#include "song/embedded/TabSeparatedText.h"
+#include "spreadsheet/embedded/TabSeparatedText.h"
 
 namespace zvonika {
 

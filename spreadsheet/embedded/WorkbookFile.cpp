@@ -1,8 +1,8 @@
-#include "song/embedded/WorkbookFile.h"
+#include "spreadsheet/embedded/WorkbookFile.h"
 
 #include "platform/RuntimeError.h"
-#include "song/embedded/FileSentences.h"
-#include "song/embedded/journal/ContentHash.h"
+#include "spreadsheet/embedded/FileSentences.h"
+#include "spreadsheet/embedded/journal/ContentHash.h"
 
 #include <QFile>
 #include <QFileInfo>

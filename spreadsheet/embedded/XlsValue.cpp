@@ -1,4 +1,4 @@
-#include "song/embedded/XlsValue.h"
+#include "spreadsheet/embedded/XlsValue.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "song/CellValue.h"
-#include "song/xls/Value.h"
+#include "spreadsheet/CellValue.h"
+#include "spreadsheet/xls/Value.h"
 
 namespace zvonika {
 

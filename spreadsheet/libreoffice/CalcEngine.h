@@ -1,7 +1,7 @@
 #pragma once
 
-#include "song/Address.h"
-#include "song/CellValue.h"
+#include "spreadsheet/Address.h"
+#include "spreadsheet/CellValue.h"
 
 #include <QString>
 #include <QStringList>

@@ -1,4 +1,4 @@
-#include "song/libreoffice/CallThread.h"
+#include "spreadsheet/libreoffice/CallThread.h"
 
 #include <condition_variable>
 #include <mutex>

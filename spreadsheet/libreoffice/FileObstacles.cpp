@@ -1,4 +1,4 @@
-#include "song/libreoffice/FileObstacles.h"
+#include "spreadsheet/libreoffice/FileObstacles.h"
 
 #include "platform/RuntimeError.h"
 

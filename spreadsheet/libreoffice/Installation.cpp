@@ -1,4 +1,4 @@
-#include "song/libreoffice/Installation.h"
+#include "spreadsheet/libreoffice/Installation.h"
 
 #include "platform/PluginFolders.h"
 

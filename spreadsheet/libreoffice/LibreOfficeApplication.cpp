@@ -1,7 +1,7 @@
-#include "song/libreoffice/LibreOfficeApplication.h"
+#include "spreadsheet/libreoffice/LibreOfficeApplication.h"
 
-#include "song/libreoffice/FileObstacles.h"
-#include "song/libreoffice/Plugin.h"
+#include "spreadsheet/libreoffice/FileObstacles.h"
+#include "spreadsheet/libreoffice/Plugin.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

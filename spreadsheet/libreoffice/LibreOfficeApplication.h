@@ -1,13 +1,13 @@
 #pragma once
 
 #include "platform/Dialogs.h"
-#include "song/WorkbookPlaces.h"
-#include "song/libreoffice/CalcEngine.h"
-#include "song/libreoffice/Installation.h"
-#include "song/libreoffice/OfficeProcess.h"
-#include "song/libreoffice/PatientCalls.h"
-#include "song/libreoffice/ReadAhead.h"
-#include "song/libreoffice/UserNotices.h"
+#include "spreadsheet/WorkbookPlaces.h"
+#include "spreadsheet/libreoffice/CalcEngine.h"
+#include "spreadsheet/libreoffice/Installation.h"
+#include "spreadsheet/libreoffice/OfficeProcess.h"
+#include "spreadsheet/libreoffice/PatientCalls.h"
+#include "spreadsheet/libreoffice/ReadAhead.h"
+#include "spreadsheet/libreoffice/UserNotices.h"
 
 #include <QElapsedTimer>
 #include <QRect>

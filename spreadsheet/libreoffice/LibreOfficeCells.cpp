@@ -1,6 +1,6 @@
 // Sheets and cells.
-#include "song/CellSearch.h"
-#include "song/libreoffice/LibreOfficeApplication.h"
+#include "spreadsheet/CellSearch.h"
+#include "spreadsheet/libreoffice/LibreOfficeApplication.h"
 
 #include <algorithm>
 #include <memory>

@@ -1,7 +1,7 @@
-#include "song/libreoffice/OfficeProcess.h"
+#include "spreadsheet/libreoffice/OfficeProcess.h"
 
 #include "platform/RuntimeError.h"
-#include "song/libreoffice/Installation.h"
+#include "spreadsheet/libreoffice/Installation.h"
 
 #include <QFile>
 #include <QUrl>

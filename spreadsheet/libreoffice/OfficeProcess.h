@@ -1,6 +1,6 @@
 #pragma once
 
-#include "song/libreoffice/Profile.h"
+#include "spreadsheet/libreoffice/Profile.h"
 
 #include <QString>
 

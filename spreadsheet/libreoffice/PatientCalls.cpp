@@ -1,4 +1,4 @@
-#include "song/libreoffice/PatientCalls.h"
+#include "spreadsheet/libreoffice/PatientCalls.h"
 
 #include "platform/RuntimeError.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "song/libreoffice/CallThread.h"
+#include "spreadsheet/libreoffice/CallThread.h"
 
 #include <functional>
 

@@ -1,7 +1,7 @@
-#include "song/libreoffice/Plugin.h"
+#include "spreadsheet/libreoffice/Plugin.h"
 
 #include "platform/RuntimeError.h"
-#include "song/libreoffice/Installation.h"
+#include "spreadsheet/libreoffice/Installation.h"
 
 #include <QLibrary>
 

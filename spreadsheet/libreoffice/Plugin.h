@@ -1,6 +1,6 @@
 #pragma once
 
-#include "song/libreoffice/CalcEngine.h"
+#include "spreadsheet/libreoffice/CalcEngine.h"
 
 namespace zvonika {
 

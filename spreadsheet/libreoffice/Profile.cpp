@@ -1,4 +1,4 @@
-#include "song/libreoffice/Profile.h"
+#include "spreadsheet/libreoffice/Profile.h"
 
 #include "platform/RuntimeError.h"
 

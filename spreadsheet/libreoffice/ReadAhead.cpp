@@ -1,4 +1,4 @@
-#include "song/libreoffice/ReadAhead.h"
+#include "spreadsheet/libreoffice/ReadAhead.h"
 
 #include <algorithm>
 

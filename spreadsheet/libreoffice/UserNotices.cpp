@@ -1,4 +1,4 @@
-#include "song/libreoffice/UserNotices.h"
+#include "spreadsheet/libreoffice/UserNotices.h"
 
 namespace zvonika {
 

@@ -1,4 +1,4 @@
-#include "song/libreoffice/ViewData.h"
+#include "spreadsheet/libreoffice/ViewData.h"
 
 #include <QList>
 

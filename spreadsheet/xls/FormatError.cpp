@@ -1,4 +1,4 @@
-#include "song/xls/FormatError.h"
+#include "spreadsheet/xls/FormatError.h"
 
 #include <utility>
 

@@ -1,16 +1,16 @@
-#include "song/xls/Workbook.h"
+#include "spreadsheet/xls/Workbook.h"
 
-#include "song/xls/biff5/Translation.h"
-#include "song/xls/book/BlankWorkbook.h"
-#include "song/xls/book/BookStream.h"
-#include "song/xls/book/CellReader.h"
-#include "song/xls/book/SheetSettings.h"
-#include "song/xls/book/SheetUse.h"
-#include "song/xls/book/Version.h"
-#include "song/xls/book/WorkbookModel.h"
-#include "song/xls/container/CompoundFile.h"
-#include "song/xls/writer/SharedFormulas.h"
-#include "song/xls/writer/WorkbookWriter.h"
+#include "spreadsheet/xls/biff5/Translation.h"
+#include "spreadsheet/xls/book/BlankWorkbook.h"
+#include "spreadsheet/xls/book/BookStream.h"
+#include "spreadsheet/xls/book/CellReader.h"
+#include "spreadsheet/xls/book/SheetSettings.h"
+#include "spreadsheet/xls/book/SheetUse.h"
+#include "spreadsheet/xls/book/Version.h"
+#include "spreadsheet/xls/book/WorkbookModel.h"
+#include "spreadsheet/xls/container/CompoundFile.h"
+#include "spreadsheet/xls/writer/SharedFormulas.h"
+#include "spreadsheet/xls/writer/WorkbookWriter.h"
 
 #include <algorithm>
 #include <cmath>

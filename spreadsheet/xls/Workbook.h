@@ -1,7 +1,7 @@
 #pragma once
 
-#include "song/xls/FormatError.h"
-#include "song/xls/Value.h"
+#include "spreadsheet/xls/FormatError.h"
+#include "spreadsheet/xls/Value.h"
 
 #include <cstdint>
 #include <functional>

@@ -1,7 +1,7 @@
 #include "aids/ZmenaCesty.h"
 
 #include "song/SongSheet.h"
-#include "tests/song/FakeDrive.h"
+#include "tests/support/FakeDrive.h"
 #include "tests/support/ScriptedDialogs.h"
 
 #include <gtest/gtest.h>

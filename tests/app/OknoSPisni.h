@@ -3,7 +3,7 @@
 #include "app/Program.h"
 #include "tests/app/PametoveNastaveni.h"
 #include "tests/app/ZaznamovyShell.h"
-#include "tests/song/FakeDrive.h"
+#include "tests/support/FakeDrive.h"
 #include "tests/support/FakeSpreadsheet.h"
 #include "tests/support/RucniHodiny.h"
 #include "tests/support/ScriptedDialogs.h"

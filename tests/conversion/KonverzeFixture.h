@@ -1,7 +1,7 @@
 #pragma once
 
 #include "conversion/Konverze.h"
-#include "tests/song/FakeDrive.h"
+#include "tests/support/FakeDrive.h"
 #include "tests/support/FakeSpreadsheet.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "theory/Toniny.h"

@@ -1,6 +1,6 @@
 #include "tests/integration/CelyProgram.h"
 
-#include "song/Address.h"
+#include "spreadsheet/Address.h"
 
 #include <QAbstractButton>
 #include <QAction>

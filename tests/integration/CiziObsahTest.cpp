@@ -1,6 +1,6 @@
 // A song sheet with numbers, formulas, errors and rubbish where a grip should stand.
 #include "tests/integration/CelyProgram.h"
-#include "tests/song/xls/XlsFiles.h"
+#include "tests/spreadsheet/xls/XlsFiles.h"
 
 namespace zvonika::testing {
 

@@ -1,7 +1,7 @@
 // Opening what is no song: one box that says why, and everything as it was before.
-#include "song/embedded/FileLock.h"
+#include "platform/files/FileLock.h"
 #include "tests/integration/CelyProgram.h"
-#include "tests/song/xls/XlsFiles.h"
+#include "tests/spreadsheet/xls/XlsFiles.h"
 
 #include <QDir>
 

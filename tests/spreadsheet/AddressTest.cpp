@@ -1,6 +1,6 @@
-#include "song/Address.h"
+#include "spreadsheet/Address.h"
 
-#include "tests/song/embedded/Rig.h"
+#include "tests/spreadsheet/embedded/Rig.h"
 
 namespace zvonika {
 

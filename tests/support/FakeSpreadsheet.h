@@ -1,6 +1,6 @@
 #pragma once
 
-#include "song/SpreadsheetApplication.h"
+#include "spreadsheet/SpreadsheetApplication.h"
 #include "tests/support/FakeSheet.h"
 
 #include <QHash>

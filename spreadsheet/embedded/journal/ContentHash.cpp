@@ -1,4 +1,4 @@
-#include "song/embedded/journal/ContentHash.h"
+#include "spreadsheet/embedded/journal/ContentHash.h"
 
 #include <QCryptographicHash>
 #include <QFile>

@@ -1,6 +1,6 @@
-#include "song/embedded/journal/Journal.h"
+#include "spreadsheet/embedded/journal/Journal.h"
 
-#include "song/embedded/journal/JournalFormat.h"
+#include "spreadsheet/embedded/journal/JournalFormat.h"
 
 namespace zvonika {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "song/embedded/journal/JournalFolder.h"
+#include "spreadsheet/embedded/journal/JournalFolder.h"
 
 #include <optional>
 

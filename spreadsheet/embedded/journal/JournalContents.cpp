@@ -1,6 +1,6 @@
-#include "song/embedded/journal/JournalContents.h"
+#include "spreadsheet/embedded/journal/JournalContents.h"
 
-#include "song/embedded/journal/JournalFormat.h"
+#include "spreadsheet/embedded/journal/JournalFormat.h"
 
 #include <set>
 #include <tuple>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "song/embedded/journal/JournalEntry.h"
+#include "spreadsheet/embedded/journal/JournalEntry.h"
 
 #include <functional>
 #include <optional>

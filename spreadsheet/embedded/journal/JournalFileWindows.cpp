@@ -1,4 +1,4 @@
-#include "song/embedded/journal/JournalFile.h"
+#include "spreadsheet/embedded/journal/JournalFile.h"
 
 #include <QDir>
 

@@ -1,6 +1,6 @@
-#include "song/embedded/journal/JournalFolder.h"
+#include "spreadsheet/embedded/journal/JournalFolder.h"
 
-#include "song/embedded/journal/ContentHash.h"
+#include "spreadsheet/embedded/journal/ContentHash.h"
 
 #include <QCryptographicHash>
 #include <QDir>

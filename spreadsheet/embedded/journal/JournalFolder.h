@@ -1,7 +1,7 @@
 #pragma once
 
-#include "song/embedded/journal/JournalContents.h"
-#include "song/embedded/journal/JournalFile.h"
+#include "spreadsheet/embedded/journal/JournalContents.h"
+#include "spreadsheet/embedded/journal/JournalFile.h"
 
 #include <QString>
 #include <QStringList>

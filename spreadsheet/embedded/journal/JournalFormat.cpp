@@ -1,6 +1,6 @@
-#include "song/embedded/journal/JournalFormat.h"
+#include "spreadsheet/embedded/journal/JournalFormat.h"
 
-#include "song/embedded/journal/Checksum.h"
+#include "platform/files/Checksum.h"
 
 #include <QDataStream>
 #include <QIODevice>

@@ -1,7 +1,7 @@
-#include "song/embedded/ui/CellDelegate.h"
+#include "spreadsheet/embedded/ui/CellDelegate.h"
 
-#include "song/embedded/ui/SheetColours.h"
-#include "song/embedded/ui/SheetTable.h"
+#include "spreadsheet/embedded/ui/SheetColours.h"
+#include "spreadsheet/embedded/ui/SheetTable.h"
 
 #include <QLineEdit>
 #include <QPainter>

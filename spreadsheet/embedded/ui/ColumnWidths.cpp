@@ -1,8 +1,8 @@
-#include "song/embedded/ui/ColumnWidths.h"
+#include "spreadsheet/embedded/ui/ColumnWidths.h"
 
-#include "song/embedded/Document.h"
-#include "song/embedded/SheetCommands.h"
-#include "song/embedded/ui/SongColumns.h"
+#include "spreadsheet/embedded/Document.h"
+#include "spreadsheet/embedded/SheetCommands.h"
+#include "spreadsheet/embedded/ui/SongColumns.h"
 
 #include <QHeaderView>
 #include <QScopedValueRollback>

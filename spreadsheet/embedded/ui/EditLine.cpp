@@ -1,4 +1,4 @@
-#include "song/embedded/ui/EditLine.h"
+#include "spreadsheet/embedded/ui/EditLine.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>

@@ -1,6 +1,6 @@
-#include "song/embedded/ui/SheetFooter.h"
+#include "spreadsheet/embedded/ui/SheetFooter.h"
 
-#include "song/embedded/ui/SheetTabs.h"
+#include "spreadsheet/embedded/ui/SheetTabs.h"
 
 #include <QAbstractScrollArea>
 #include <QHBoxLayout>

@@ -1,8 +1,8 @@
-#include "song/embedded/ui/SheetHeader.h"
+#include "spreadsheet/embedded/ui/SheetHeader.h"
 
-#include "song/Address.h"
-#include "song/embedded/ui/SheetColours.h"
-#include "song/embedded/ui/SongColumns.h"
+#include "spreadsheet/Address.h"
+#include "spreadsheet/embedded/ui/SheetColours.h"
+#include "spreadsheet/embedded/ui/SongColumns.h"
 
 #include <QPainter>
 

@@ -1,7 +1,7 @@
-#include "song/embedded/ui/SheetMenu.h"
+#include "spreadsheet/embedded/ui/SheetMenu.h"
 
-#include "song/embedded/Document.h"
-#include "song/embedded/SheetCommands.h"
+#include "spreadsheet/embedded/Document.h"
+#include "spreadsheet/embedded/SheetCommands.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "song/Address.h"
+#include "spreadsheet/Address.h"
 
 #include <QAbstractTableModel>
 

@@ -1,7 +1,7 @@
-#include "song/embedded/ui/SheetStatus.h"
+#include "spreadsheet/embedded/ui/SheetStatus.h"
 
-#include "song/embedded/Document.h"
-#include "song/embedded/ui/SongColumns.h"
+#include "spreadsheet/embedded/Document.h"
+#include "spreadsheet/embedded/ui/SongColumns.h"
 
 #include <QStringList>
 

@@ -1,9 +1,9 @@
-#include "song/embedded/ui/SheetTable.h"
+#include "spreadsheet/embedded/ui/SheetTable.h"
 
-#include "song/embedded/ui/CellDelegate.h"
-#include "song/embedded/ui/SheetColours.h"
-#include "song/embedded/ui/SheetHeader.h"
-#include "song/embedded/ui/SheetModel.h"
+#include "spreadsheet/embedded/ui/CellDelegate.h"
+#include "spreadsheet/embedded/ui/SheetColours.h"
+#include "spreadsheet/embedded/ui/SheetHeader.h"
+#include "spreadsheet/embedded/ui/SheetModel.h"
 
 #include <QKeyEvent>
 #include <QScopedValueRollback>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "song/embedded/Document.h"
+#include "spreadsheet/embedded/Document.h"
 
 #include <QTableView>
 

@@ -1,4 +1,4 @@
-#include "song/embedded/ui/SheetTabs.h"
+#include "spreadsheet/embedded/ui/SheetTabs.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>

@@ -1,16 +1,16 @@
-#include "song/embedded/ui/SheetWindow.h"
+#include "spreadsheet/embedded/ui/SheetWindow.h"
 
-#include "song/embedded/Document.h"
-#include "song/embedded/SheetCommands.h"
-#include "song/embedded/ui/ColumnWidths.h"
-#include "song/embedded/ui/EditLine.h"
-#include "song/embedded/ui/SheetColours.h"
-#include "song/embedded/ui/SheetFooter.h"
-#include "song/embedded/ui/SheetMenu.h"
-#include "song/embedded/ui/SheetModel.h"
-#include "song/embedded/ui/SheetStatus.h"
-#include "song/embedded/ui/SheetTable.h"
-#include "song/embedded/ui/SheetTabs.h"
+#include "spreadsheet/embedded/Document.h"
+#include "spreadsheet/embedded/SheetCommands.h"
+#include "spreadsheet/embedded/ui/ColumnWidths.h"
+#include "spreadsheet/embedded/ui/EditLine.h"
+#include "spreadsheet/embedded/ui/SheetColours.h"
+#include "spreadsheet/embedded/ui/SheetFooter.h"
+#include "spreadsheet/embedded/ui/SheetMenu.h"
+#include "spreadsheet/embedded/ui/SheetModel.h"
+#include "spreadsheet/embedded/ui/SheetStatus.h"
+#include "spreadsheet/embedded/ui/SheetTable.h"
+#include "spreadsheet/embedded/ui/SheetTabs.h"
 
 #include <QApplication>
 #include <QCloseEvent>

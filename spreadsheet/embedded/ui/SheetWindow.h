@@ -1,6 +1,6 @@
 #pragma once
 
-#include "song/embedded/SheetView.h"
+#include "spreadsheet/embedded/SheetView.h"
 
 #include <QMainWindow>
 

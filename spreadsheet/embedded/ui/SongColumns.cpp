@@ -1,4 +1,4 @@
-#include "song/embedded/ui/SongColumns.h"
+#include "spreadsheet/embedded/ui/SongColumns.h"
 
 namespace zvonika {
 

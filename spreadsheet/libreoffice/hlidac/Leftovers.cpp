@@ -1,4 +1,4 @@
-#include "song/libreoffice/hlidac/Leftovers.h"
+#include "spreadsheet/libreoffice/hlidac/Leftovers.h"
 
 #include <filesystem>
 #include <fstream>

@@ -5,7 +5,7 @@
 // else only wakes. When the line breaks, Zvonika has ended, however it did, and the office is ended too.
 // Descriptor 3 holds the lock of the office's profile for as long as this process lives. The exit code is the
 // office's.
-#include "song/libreoffice/hlidac/Leftovers.h"
+#include "spreadsheet/libreoffice/hlidac/Leftovers.h"
 
 #include <cerrno>
 #include <csignal>

@@ -1,7 +1,7 @@
-#include "song/libreoffice/uno/Book.h"
+#include "spreadsheet/libreoffice/uno/Book.h"
 
-#include "song/libreoffice/uno/Failures.h"
-#include "song/libreoffice/uno/Interaction.h"
+#include "spreadsheet/libreoffice/uno/Failures.h"
+#include "spreadsheet/libreoffice/uno/Interaction.h"
 
 #include <QFileInfo>
 

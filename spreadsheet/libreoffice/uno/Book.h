@@ -1,8 +1,8 @@
 #pragma once
 
-#include "song/libreoffice/CalcEngine.h"
-#include "song/libreoffice/uno/UserEvents.h"
-#include "song/libreoffice/uno/Values.h"
+#include "spreadsheet/libreoffice/CalcEngine.h"
+#include "spreadsheet/libreoffice/uno/UserEvents.h"
+#include "spreadsheet/libreoffice/uno/Values.h"
 
 #include <com/sun/star/awt/XWindow.hpp>
 #include <com/sun/star/frame/XDispatchHelper.hpp>

@@ -1,7 +1,7 @@
 // The sheets and cells of a workbook.
-#include "song/libreoffice/ViewData.h"
-#include "song/libreoffice/uno/Book.h"
-#include "song/libreoffice/uno/Failures.h"
+#include "spreadsheet/libreoffice/ViewData.h"
+#include "spreadsheet/libreoffice/uno/Book.h"
+#include "spreadsheet/libreoffice/uno/Failures.h"
 
 #include <com/sun/star/container/XNamed.hpp>
 #include <com/sun/star/sheet/CellFlags.hpp>

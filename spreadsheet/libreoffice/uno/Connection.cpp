@@ -1,4 +1,4 @@
-#include "song/libreoffice/uno/Connection.h"
+#include "spreadsheet/libreoffice/uno/Connection.h"
 
 #include "platform/RuntimeError.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "song/libreoffice/CalcEngine.h"
-#include "song/libreoffice/uno/Uno.h"
+#include "spreadsheet/libreoffice/CalcEngine.h"
+#include "spreadsheet/libreoffice/uno/Uno.h"
 
 #include <atomic>
 #include <com/sun/star/bridge/XBridge.hpp>

@@ -1,6 +1,6 @@
-#include "song/libreoffice/uno/Engine.h"
+#include "spreadsheet/libreoffice/uno/Engine.h"
 
-#include "song/libreoffice/uno/Interaction.h"
+#include "spreadsheet/libreoffice/uno/Interaction.h"
 
 #include <QFileInfo>
 

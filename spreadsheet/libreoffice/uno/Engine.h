@@ -1,8 +1,8 @@
 #pragma once
 
-#include "song/libreoffice/uno/Book.h"
-#include "song/libreoffice/uno/Connection.h"
-#include "song/libreoffice/uno/Failures.h"
+#include "spreadsheet/libreoffice/uno/Book.h"
+#include "spreadsheet/libreoffice/uno/Connection.h"
+#include "spreadsheet/libreoffice/uno/Failures.h"
 
 #include <memory>
 #include <vector>

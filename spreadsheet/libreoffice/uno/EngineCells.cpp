@@ -1,5 +1,5 @@
 // Sheets and cells of the active workbook.
-#include "song/libreoffice/uno/Engine.h"
+#include "spreadsheet/libreoffice/uno/Engine.h"
 
 namespace zvonika {
 

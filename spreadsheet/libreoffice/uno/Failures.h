@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/RuntimeError.h"
-#include "song/libreoffice/uno/Uno.h"
+#include "spreadsheet/libreoffice/uno/Uno.h"
 
 #include <com/sun/star/lang/DisposedException.hpp>
 #include <com/sun/star/util/CloseVetoException.hpp>

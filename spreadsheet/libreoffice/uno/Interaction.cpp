@@ -1,4 +1,4 @@
-#include "song/libreoffice/uno/Interaction.h"
+#include "spreadsheet/libreoffice/uno/Interaction.h"
 
 #include <com/sun/star/document/BrokenPackageRequest.hpp>
 #include <com/sun/star/document/LockedDocumentRequest.hpp>

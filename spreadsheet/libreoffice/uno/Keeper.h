@@ -1,6 +1,6 @@
 #pragma once
 
-#include "song/libreoffice/uno/Uno.h"
+#include "spreadsheet/libreoffice/uno/Uno.h"
 
 #include <chrono>
 #include <deque>

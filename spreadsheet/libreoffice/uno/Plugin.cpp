@@ -1,6 +1,6 @@
 // What the program finds in the plug-in.
 #include "platform/RuntimeError.h"
-#include "song/libreoffice/uno/Engine.h"
+#include "spreadsheet/libreoffice/uno/Engine.h"
 
 #include <exception>
 

@@ -1,4 +1,4 @@
-#include "song/libreoffice/uno/UserEvents.h"
+#include "spreadsheet/libreoffice/uno/UserEvents.h"
 
 #include <com/sun/star/sheet/XActivationBroadcaster.hpp>
 #include <com/sun/star/util/XCloseBroadcaster.hpp>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "song/libreoffice/CalcEngine.h"
-#include "song/libreoffice/uno/Keeper.h"
+#include "spreadsheet/libreoffice/CalcEngine.h"
+#include "spreadsheet/libreoffice/uno/Keeper.h"
 
 #include <atomic>
 #include <com/sun/star/frame/XController.hpp>

@@ -1,6 +1,6 @@
-#include "song/libreoffice/uno/Values.h"
+#include "spreadsheet/libreoffice/uno/Values.h"
 
-#include "song/libreoffice/uno/Failures.h"
+#include "spreadsheet/libreoffice/uno/Failures.h"
 
 #include <algorithm>
 #include <com/sun/star/beans/XPropertySet.hpp>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "song/Address.h"
-#include "song/CellValue.h"
-#include "song/libreoffice/uno/Keeper.h"
+#include "spreadsheet/Address.h"
+#include "spreadsheet/CellValue.h"
+#include "spreadsheet/libreoffice/uno/Keeper.h"
 
 #include <com/sun/star/sheet/XSpreadsheet.hpp>
 #include <com/sun/star/util/XNumberFormats.hpp>

@@ -1,6 +1,6 @@
-#include "song/xls/biff5/CodePage.h"
+#include "spreadsheet/xls/biff5/CodePage.h"
 
-#include "song/xls/FormatError.h"
+#include "spreadsheet/xls/FormatError.h"
 
 #include <algorithm>
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "song/xls/records/Endian.h"
+#include "spreadsheet/xls/records/Endian.h"
 
 #include <cstdint>
 #include <string>

@@ -1,6 +1,6 @@
-#include "song/xls/biff5/Formats.h"
+#include "spreadsheet/xls/biff5/Formats.h"
 
-#include "song/xls/strings/UnicodeText.h"
+#include "spreadsheet/xls/strings/UnicodeText.h"
 
 namespace zvonika::xls {
 

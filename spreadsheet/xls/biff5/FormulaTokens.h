@@ -1,6 +1,6 @@
 #pragma once
 
-#include "song/xls/biff5/CodePage.h"
+#include "spreadsheet/xls/biff5/CodePage.h"
 
 #include <optional>
 #include <vector>

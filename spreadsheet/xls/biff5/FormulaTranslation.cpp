@@ -1,8 +1,8 @@
-#include "song/xls/biff5/FormulaTranslation.h"
+#include "spreadsheet/xls/biff5/FormulaTranslation.h"
 
-#include "song/xls/biff5/Formats.h"
-#include "song/xls/biff5/FormulaTokens.h"
-#include "song/xls/strings/UnicodeText.h"
+#include "spreadsheet/xls/biff5/Formats.h"
+#include "spreadsheet/xls/biff5/FormulaTokens.h"
+#include "spreadsheet/xls/strings/UnicodeText.h"
 
 namespace zvonika::xls {
 

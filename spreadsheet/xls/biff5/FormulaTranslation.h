@@ -1,7 +1,7 @@
 #pragma once
 
-#include "song/xls/biff5/CodePage.h"
-#include "song/xls/records/CellRecord.h"
+#include "spreadsheet/xls/biff5/CodePage.h"
+#include "spreadsheet/xls/records/CellRecord.h"
 
 #include <optional>
 #include <string>

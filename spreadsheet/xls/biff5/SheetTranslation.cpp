@@ -1,11 +1,11 @@
-#include "song/xls/biff5/SheetTranslation.h"
+#include "spreadsheet/xls/biff5/SheetTranslation.h"
 
-#include "song/xls/FormatError.h"
-#include "song/xls/biff5/Formats.h"
-#include "song/xls/biff5/FormulaTranslation.h"
-#include "song/xls/records/Bof.h"
-#include "song/xls/records/CellRecord.h"
-#include "song/xls/strings/UnicodeText.h"
+#include "spreadsheet/xls/FormatError.h"
+#include "spreadsheet/xls/biff5/Formats.h"
+#include "spreadsheet/xls/biff5/FormulaTranslation.h"
+#include "spreadsheet/xls/records/Bof.h"
+#include "spreadsheet/xls/records/CellRecord.h"
+#include "spreadsheet/xls/strings/UnicodeText.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "song/xls/biff5/CodePage.h"
-#include "song/xls/strings/TextPool.h"
+#include "spreadsheet/xls/biff5/CodePage.h"
+#include "spreadsheet/xls/strings/TextPool.h"
 
 #include <vector>
 

@@ -1,7 +1,7 @@
-#include "song/xls/book/BlankWorkbook.h"
+#include "spreadsheet/xls/book/BlankWorkbook.h"
 
-#include "song/xls/records/Bof.h"
-#include "song/xls/strings/UnicodeText.h"
+#include "spreadsheet/xls/records/Bof.h"
+#include "spreadsheet/xls/strings/UnicodeText.h"
 
 #include <initializer_list>
 #include <string_view>

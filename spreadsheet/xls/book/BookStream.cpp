@@ -1,8 +1,8 @@
-#include "song/xls/book/BookStream.h"
+#include "spreadsheet/xls/book/BookStream.h"
 
-#include "song/xls/FormatError.h"
-#include "song/xls/book/Version.h"
-#include "song/xls/records/Record.h"
+#include "spreadsheet/xls/FormatError.h"
+#include "spreadsheet/xls/book/Version.h"
+#include "spreadsheet/xls/records/Record.h"
 
 #include <utility>
 

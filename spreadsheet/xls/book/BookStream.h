@@ -1,6 +1,6 @@
 #pragma once
 
-#include "song/xls/container/CompoundFile.h"
+#include "spreadsheet/xls/container/CompoundFile.h"
 
 namespace zvonika::xls {
 

@@ -1,7 +1,7 @@
-#include "song/xls/book/CellReader.h"
+#include "spreadsheet/xls/book/CellReader.h"
 
-#include "song/xls/records/Rk.h"
-#include "song/xls/strings/UnicodeText.h"
+#include "spreadsheet/xls/records/Rk.h"
+#include "spreadsheet/xls/strings/UnicodeText.h"
 
 namespace zvonika::xls {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "song/xls/Value.h"
-#include "song/xls/book/SheetLayout.h"
-#include "song/xls/strings/SharedStrings.h"
+#include "spreadsheet/xls/Value.h"
+#include "spreadsheet/xls/book/SheetLayout.h"
+#include "spreadsheet/xls/strings/SharedStrings.h"
 
 namespace zvonika::xls {
 

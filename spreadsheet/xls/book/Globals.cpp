@@ -1,8 +1,8 @@
-#include "song/xls/book/Globals.h"
+#include "spreadsheet/xls/book/Globals.h"
 
-#include "song/xls/FormatError.h"
-#include "song/xls/records/Record.h"
-#include "song/xls/strings/UnicodeText.h"
+#include "spreadsheet/xls/FormatError.h"
+#include "spreadsheet/xls/records/Record.h"
+#include "spreadsheet/xls/strings/UnicodeText.h"
 
 namespace zvonika::xls {
 

@@ -1,6 +1,6 @@
-#include "song/xls/book/SheetLayout.h"
+#include "spreadsheet/xls/book/SheetLayout.h"
 
-#include "song/xls/FormatError.h"
+#include "spreadsheet/xls/FormatError.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "song/xls/book/Globals.h"
-#include "song/xls/records/CellRecord.h"
+#include "spreadsheet/xls/book/Globals.h"
+#include "spreadsheet/xls/records/CellRecord.h"
 
 #include <algorithm>
 #include <span>

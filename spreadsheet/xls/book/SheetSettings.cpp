@@ -1,4 +1,4 @@
-#include "song/xls/book/SheetSettings.h"
+#include "spreadsheet/xls/book/SheetSettings.h"
 
 namespace zvonika::xls {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "song/xls/book/SheetLayout.h"
+#include "spreadsheet/xls/book/SheetLayout.h"
 
 #include <cstdint>
 #include <optional>

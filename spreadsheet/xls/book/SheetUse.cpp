@@ -1,4 +1,4 @@
-#include "song/xls/book/SheetUse.h"
+#include "spreadsheet/xls/book/SheetUse.h"
 
 #include <algorithm>
 

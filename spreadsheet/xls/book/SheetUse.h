@@ -1,6 +1,6 @@
 #pragma once
 
-#include "song/xls/book/WorkbookModel.h"
+#include "spreadsheet/xls/book/WorkbookModel.h"
 
 namespace zvonika::xls {
 

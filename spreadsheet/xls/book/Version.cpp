@@ -1,7 +1,7 @@
-#include "song/xls/book/Version.h"
+#include "spreadsheet/xls/book/Version.h"
 
-#include "song/xls/FormatError.h"
-#include "song/xls/records/Record.h"
+#include "spreadsheet/xls/FormatError.h"
+#include "spreadsheet/xls/records/Record.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -1,6 +1,6 @@
-#include "song/xls/book/WorkbookModel.h"
+#include "spreadsheet/xls/book/WorkbookModel.h"
 
-#include "song/xls/FormatError.h"
+#include "spreadsheet/xls/FormatError.h"
 
 #include <algorithm>
 #include <numeric>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "song/xls/book/SheetLayout.h"
-#include "song/xls/strings/SharedStrings.h"
-#include "song/xls/strings/TextPool.h"
+#include "spreadsheet/xls/book/SheetLayout.h"
+#include "spreadsheet/xls/strings/SharedStrings.h"
+#include "spreadsheet/xls/strings/TextPool.h"
 
 #include <cstdint>
 #include <map>

@@ -1,10 +1,10 @@
-#include "song/xls/container/CompoundFile.h"
+#include "spreadsheet/xls/container/CompoundFile.h"
 
-#include "song/xls/FormatError.h"
-#include "song/xls/container/CompoundFileWriter.h"
-#include "song/xls/container/CompoundFormat.h"
-#include "song/xls/container/DirectoryTree.h"
-#include "song/xls/container/FileKind.h"
+#include "spreadsheet/xls/FormatError.h"
+#include "spreadsheet/xls/container/CompoundFileWriter.h"
+#include "spreadsheet/xls/container/CompoundFormat.h"
+#include "spreadsheet/xls/container/DirectoryTree.h"
+#include "spreadsheet/xls/container/FileKind.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,6 +1,6 @@
-#include "song/xls/container/CompoundFileWriter.h"
+#include "spreadsheet/xls/container/CompoundFileWriter.h"
 
-#include "song/xls/container/CompoundFormat.h"
+#include "spreadsheet/xls/container/CompoundFormat.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
-#include "song/xls/container/DirectoryTree.h"
+#include "spreadsheet/xls/container/DirectoryTree.h"
 
-#include "song/xls/container/CompoundFormat.h"
-#include "song/xls/records/Endian.h"
+#include "spreadsheet/xls/container/CompoundFormat.h"
+#include "spreadsheet/xls/records/Endian.h"
 
 #include <algorithm>
 #include <bit>

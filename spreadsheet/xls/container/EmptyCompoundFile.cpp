@@ -1,5 +1,5 @@
-#include "song/xls/container/CompoundFile.h"
-#include "song/xls/container/CompoundFormat.h"
+#include "spreadsheet/xls/container/CompoundFile.h"
+#include "spreadsheet/xls/container/CompoundFormat.h"
 
 #include <algorithm>
 

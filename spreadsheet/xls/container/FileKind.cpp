@@ -1,7 +1,7 @@
-#include "song/xls/container/FileKind.h"
+#include "spreadsheet/xls/container/FileKind.h"
 
-#include "song/xls/FormatError.h"
-#include "song/xls/container/CompoundFormat.h"
+#include "spreadsheet/xls/FormatError.h"
+#include "spreadsheet/xls/container/CompoundFormat.h"
 
 #include <algorithm>
 #include <string>

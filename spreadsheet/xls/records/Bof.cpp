@@ -1,4 +1,4 @@
-#include "song/xls/records/Bof.h"
+#include "spreadsheet/xls/records/Bof.h"
 
 namespace zvonika::xls {
 

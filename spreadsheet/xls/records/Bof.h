@@ -1,6 +1,6 @@
 #pragma once
 
-#include "song/xls/records/Record.h"
+#include "spreadsheet/xls/records/Record.h"
 
 namespace zvonika::xls {
 

@@ -1,7 +1,7 @@
-#include "song/xls/records/CellRecord.h"
+#include "spreadsheet/xls/records/CellRecord.h"
 
-#include "song/xls/FormatError.h"
-#include "song/xls/records/Rk.h"
+#include "spreadsheet/xls/FormatError.h"
+#include "spreadsheet/xls/records/Rk.h"
 
 #include <bit>
 

@@ -1,4 +1,4 @@
-#include "song/xls/records/PatchList.h"
+#include "spreadsheet/xls/records/PatchList.h"
 
 #include <algorithm>
 #include <tuple>

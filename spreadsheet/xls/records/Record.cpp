@@ -1,6 +1,6 @@
-#include "song/xls/records/Record.h"
+#include "spreadsheet/xls/records/Record.h"
 
-#include "song/xls/FormatError.h"
+#include "spreadsheet/xls/FormatError.h"
 
 namespace zvonika::xls {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "song/xls/records/Endian.h"
-#include "song/xls/records/RecordType.h"
+#include "spreadsheet/xls/records/Endian.h"
+#include "spreadsheet/xls/records/RecordType.h"
 
 #include <span>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "song/xls/records/RecordType.h"
+#include "spreadsheet/xls/records/RecordType.h"
 
 #include <algorithm>
 #include <cstdio>

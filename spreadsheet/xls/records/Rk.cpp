@@ -1,4 +1,4 @@
-#include "song/xls/records/Rk.h"
+#include "spreadsheet/xls/records/Rk.h"
 
 #include <bit>
 #include <cmath>

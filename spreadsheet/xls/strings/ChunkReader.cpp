@@ -1,7 +1,7 @@
-#include "song/xls/strings/ChunkReader.h"
+#include "spreadsheet/xls/strings/ChunkReader.h"
 
-#include "song/xls/FormatError.h"
-#include "song/xls/records/Record.h"
+#include "spreadsheet/xls/FormatError.h"
+#include "spreadsheet/xls/records/Record.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
-#include "song/xls/strings/SharedStrings.h"
+#include "spreadsheet/xls/strings/SharedStrings.h"
 
-#include "song/xls/FormatError.h"
-#include "song/xls/records/Record.h"
-#include "song/xls/strings/ChunkReader.h"
-#include "song/xls/strings/UnicodeText.h"
+#include "spreadsheet/xls/FormatError.h"
+#include "spreadsheet/xls/records/Record.h"
+#include "spreadsheet/xls/strings/ChunkReader.h"
+#include "spreadsheet/xls/strings/UnicodeText.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "song/xls/records/Endian.h"
-#include "song/xls/strings/TextPool.h"
+#include "spreadsheet/xls/records/Endian.h"
+#include "spreadsheet/xls/strings/TextPool.h"
 
 #include <optional>
 #include <string>

@@ -1,7 +1,7 @@
-#include "song/xls/strings/StringTableWriter.h"
+#include "spreadsheet/xls/strings/StringTableWriter.h"
 
-#include "song/xls/records/Record.h"
-#include "song/xls/strings/UnicodeText.h"
+#include "spreadsheet/xls/records/Record.h"
+#include "spreadsheet/xls/strings/UnicodeText.h"
 
 namespace zvonika::xls {
 

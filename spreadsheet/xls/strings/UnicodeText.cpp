@@ -1,6 +1,6 @@
-#include "song/xls/strings/UnicodeText.h"
+#include "spreadsheet/xls/strings/UnicodeText.h"
 
-#include "song/xls/FormatError.h"
+#include "spreadsheet/xls/FormatError.h"
 
 #include <algorithm>
 

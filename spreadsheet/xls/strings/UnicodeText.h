@@ -1,6 +1,6 @@
 #pragma once
 
-#include "song/xls/strings/ChunkReader.h"
+#include "spreadsheet/xls/strings/ChunkReader.h"
 
 #include <cstdint>
 #include <string>

@@ -1,6 +1,6 @@
-#include "song/xls/writer/CellInsertion.h"
+#include "spreadsheet/xls/writer/CellInsertion.h"
 
-#include "song/xls/book/SheetSettings.h"
+#include "spreadsheet/xls/book/SheetSettings.h"
 
 #include <algorithm>
 #include <limits>

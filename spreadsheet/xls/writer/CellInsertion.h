@@ -1,6 +1,6 @@
 #pragma once
 
-#include "song/xls/writer/SheetPatch.h"
+#include "spreadsheet/xls/writer/SheetPatch.h"
 
 #include <map>
 #include <span>

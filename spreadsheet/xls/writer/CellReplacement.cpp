@@ -1,6 +1,6 @@
-#include "song/xls/writer/CellReplacement.h"
+#include "spreadsheet/xls/writer/CellReplacement.h"
 
-#include "song/xls/records/Rk.h"
+#include "spreadsheet/xls/records/Rk.h"
 
 #include <map>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "song/xls/writer/RowIndex.h"
+#include "spreadsheet/xls/writer/RowIndex.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
-#include "song/xls/writer/SettingsPatch.h"
+#include "spreadsheet/xls/writer/SettingsPatch.h"
 
-#include "song/xls/book/SheetSettings.h"
-#include "song/xls/strings/UnicodeText.h"
+#include "spreadsheet/xls/book/SheetSettings.h"
+#include "spreadsheet/xls/strings/UnicodeText.h"
 
 #include <algorithm>
 

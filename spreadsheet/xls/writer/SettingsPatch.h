@@ -1,7 +1,7 @@
 #pragma once
 
-#include "song/xls/book/WorkbookModel.h"
-#include "song/xls/records/PatchList.h"
+#include "spreadsheet/xls/book/WorkbookModel.h"
+#include "spreadsheet/xls/records/PatchList.h"
 
 namespace zvonika::xls {
 

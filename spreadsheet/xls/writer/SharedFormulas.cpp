@@ -1,4 +1,4 @@
-#include "song/xls/writer/SharedFormulas.h"
+#include "spreadsheet/xls/writer/SharedFormulas.h"
 
 #include <algorithm>
 #include <map>

@@ -1,6 +1,6 @@
-#include "song/xls/writer/SharedStringsPatch.h"
+#include "spreadsheet/xls/writer/SharedStringsPatch.h"
 
-#include "song/xls/records/Record.h"
+#include "spreadsheet/xls/records/Record.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "song/xls/book/WorkbookModel.h"
-#include "song/xls/records/PatchList.h"
-#include "song/xls/strings/StringTableWriter.h"
+#include "spreadsheet/xls/book/WorkbookModel.h"
+#include "spreadsheet/xls/records/PatchList.h"
+#include "spreadsheet/xls/strings/StringTableWriter.h"
 
 #include <vector>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "song/xls/book/SheetLayout.h"
-#include "song/xls/records/PatchList.h"
+#include "spreadsheet/xls/book/SheetLayout.h"
+#include "spreadsheet/xls/records/PatchList.h"
 
 #include <map>
 #include <set>

@@ -1,11 +1,11 @@
-#include "song/xls/writer/WorkbookWriter.h"
+#include "spreadsheet/xls/writer/WorkbookWriter.h"
 
-#include "song/xls/writer/CellInsertion.h"
-#include "song/xls/writer/CellReplacement.h"
-#include "song/xls/writer/RowIndex.h"
-#include "song/xls/writer/SettingsPatch.h"
-#include "song/xls/writer/SharedFormulas.h"
-#include "song/xls/writer/SharedStringsPatch.h"
+#include "spreadsheet/xls/writer/CellInsertion.h"
+#include "spreadsheet/xls/writer/CellReplacement.h"
+#include "spreadsheet/xls/writer/RowIndex.h"
+#include "spreadsheet/xls/writer/SettingsPatch.h"
+#include "spreadsheet/xls/writer/SharedFormulas.h"
+#include "spreadsheet/xls/writer/SharedStringsPatch.h"
 
 #include <algorithm>
 

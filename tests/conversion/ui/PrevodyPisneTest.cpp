@@ -3,7 +3,7 @@
 #include "conversion/ui/FrmKonverze.h"
 #include "platform/HomeDrive.h"
 #include "platform/IniSettingsStore.h"
-#include "song/embedded/EmbeddedApplication.h"
+#include "spreadsheet/embedded/EmbeddedApplication.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "theory/Tonavox12.h"
 #include "theory/Toniny.h"

@@ -1,7 +1,7 @@
-#include "song/embedded/AtomicFile.h"
+#include "platform/files/AtomicFile.h"
 
-#include "tests/song/embedded/Rig.h"
-#include "tests/song/embedded/SmallDisk.h"
+#include "tests/spreadsheet/embedded/Rig.h"
+#include "tests/spreadsheet/embedded/SmallDisk.h"
 
 #include <sys/stat.h>
 #include <sys/wait.h>

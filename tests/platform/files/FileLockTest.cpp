@@ -1,7 +1,7 @@
-#include "song/embedded/FileLock.h"
+#include "platform/files/FileLock.h"
 
-#include "song/embedded/ProcessStart.h"
-#include "tests/song/embedded/Rig.h"
+#include "platform/files/ProcessStart.h"
+#include "tests/spreadsheet/embedded/Rig.h"
 
 #include <QSysInfo>
 

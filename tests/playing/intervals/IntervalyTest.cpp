@@ -1,6 +1,6 @@
-#include "board/Intervaly.h"
+#include "playing/intervals/Intervaly.h"
 
-#include "tests/board/ZapisovaniFixture.h"
+#include "tests/playing/recording/ZapisovaniFixture.h"
 
 namespace zvonika {
 namespace {

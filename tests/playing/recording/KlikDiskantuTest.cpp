@@ -1,7 +1,7 @@
-#include "board/KlikDiskantu.h"
+#include "playing/recording/KlikDiskantu.h"
 
-#include "board/ZapisNoty.h"
-#include "tests/board/ZapisovaniFixture.h"
+#include "playing/recording/ZapisNoty.h"
+#include "tests/playing/recording/ZapisovaniFixture.h"
 #include "theory/clsNotyZapis.h"
 
 namespace zvonika {

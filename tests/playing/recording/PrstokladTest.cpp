@@ -1,6 +1,7 @@
-#include "board/Prstoklad.h"
+#include "playing/recording/Prstoklad.h"
 
 #include "board/TrebleBoard.h"
+#include "playing/stepping/ZobrazeniPrstokladu.h"
 #include "tests/support/ScriptedDialogs.h"
 
 #include <gtest/gtest.h>

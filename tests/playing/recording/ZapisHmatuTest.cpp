@@ -1,5 +1,5 @@
 #include "platform/Contact.h"
-#include "tests/board/ZapisovaniFixture.h"
+#include "tests/playing/recording/ZapisovaniFixture.h"
 
 namespace zvonika {
 namespace {

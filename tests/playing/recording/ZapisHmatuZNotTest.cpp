@@ -1,4 +1,4 @@
-#include "tests/board/ZapisovaniFixture.h"
+#include "tests/playing/recording/ZapisovaniFixture.h"
 #include "tests/theory/KresleniTonu.h"
 
 namespace zvonika {

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "board/KlikDiskantu.h"
-#include "board/Uvolneni.h"
-#include "board/ZapisHmatu.h"
-#include "board/ZapisHmatuZNot.h"
+#include "playing/recording/KlikDiskantu.h"
+#include "playing/recording/Uvolneni.h"
+#include "playing/recording/ZapisHmatu.h"
+#include "playing/recording/ZapisHmatuZNot.h"
 #include "song/ZobrazovaciOsnova.h"
 #include "tests/support/FakeSpreadsheet.h"
 #include "tests/support/ScriptedDialogs.h"

@@ -1,8 +1,8 @@
-#include "song/UkonceniExcelu.h"
+#include "playing/song/UkonceniExcelu.h"
 
-#include "song/Hlaseni.h"
-#include "song/SpusteniExcelu.h"
-#include "tests/song/SongFixture.h"
+#include "platform/Hlaseni.h"
+#include "playing/song/SpusteniExcelu.h"
+#include "tests/playing/SongFixture.h"
 
 namespace zvonika::testing {
 

@@ -1,6 +1,6 @@
-#include "song/Hlaseni.h"
-#include "song/SlozkaPisni.h"
-#include "tests/song/SongFixture.h"
+#include "platform/Hlaseni.h"
+#include "playing/song/SlozkaPisni.h"
+#include "tests/playing/SongFixture.h"
 
 namespace zvonika::testing {
 

@@ -1,4 +1,4 @@
-#include "tests/song/SongFixture.h"
+#include "tests/playing/SongFixture.h"
 
 namespace zvonika::testing {
 

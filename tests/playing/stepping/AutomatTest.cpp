@@ -1,7 +1,7 @@
 // Automatic stepping against a clock that is turned by hand.
-#include "song/Automat.h"
+#include "playing/stepping/Automat.h"
 
-#include "tests/song/SongFixture.h"
+#include "tests/playing/SongFixture.h"
 #include "tests/support/RucniHodiny.h"
 
 namespace zvonika::testing {

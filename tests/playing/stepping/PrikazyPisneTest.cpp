@@ -1,4 +1,4 @@
-#include "song/PrikazyPisne.h"
+#include "playing/stepping/PrikazyPisne.h"
 
 #include <QStringList>
 

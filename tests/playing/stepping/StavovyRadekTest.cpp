@@ -1,4 +1,4 @@
-#include "song/StavovyRadek.h"
+#include "playing/stepping/StavovyRadek.h"
 
 #include <gtest/gtest.h>
 

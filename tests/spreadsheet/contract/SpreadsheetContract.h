@@ -6,7 +6,7 @@
 //     INSTANTIATE_TEST_SUITE_P(Embedded, SpreadsheetContract,
 //                              ::testing::Values(SpreadsheetRigFactory{"embedded", makeEmbeddedRig}));
 
-#include "song/SpreadsheetApplication.h"
+#include "spreadsheet/SpreadsheetApplication.h"
 
 #include <QFile>
 #include <QFileInfo>

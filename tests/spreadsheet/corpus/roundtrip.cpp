@@ -1,7 +1,7 @@
 // Opens a workbook and saves it twice: without a change, and with the changes of a listing.
 // Usage: corpus_roundtrip FILE LISTING SAME CHANGED
 // A line of the listing is "sheet row column what": n and a number, t and a text, or - to empty the cell.
-#include "song/xls/Workbook.h"
+#include "spreadsheet/xls/Workbook.h"
 
 #include <codecvt>
 #include <cstdio>

@@ -1,5 +1,5 @@
-#include "tests/song/embedded/Rig.h"
-#include "tests/song/xls/XlsFiles.h"
+#include "tests/spreadsheet/embedded/Rig.h"
+#include "tests/spreadsheet/xls/XlsFiles.h"
 
 namespace zvonika::testing {
 

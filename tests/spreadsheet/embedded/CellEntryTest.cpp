@@ -1,8 +1,8 @@
-#include "song/embedded/CellEntry.h"
+#include "spreadsheet/embedded/CellEntry.h"
 
-#include "song/embedded/TabSeparatedText.h"
-#include "song/embedded/XlsValue.h"
-#include "tests/song/embedded/Rig.h"
+#include "spreadsheet/embedded/TabSeparatedText.h"
+#include "spreadsheet/embedded/XlsValue.h"
+#include "tests/spreadsheet/embedded/Rig.h"
 
 #include <limits>
 

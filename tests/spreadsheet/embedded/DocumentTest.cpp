@@ -1,6 +1,6 @@
-#include "song/embedded/Document.h"
+#include "spreadsheet/embedded/Document.h"
 
-#include "tests/song/embedded/Rig.h"
+#include "tests/spreadsheet/embedded/Rig.h"
 
 namespace zvonika::testing {
 

@@ -1,5 +1,5 @@
-#include "tests/song/contract/SpreadsheetContract.h"
-#include "tests/song/embedded/Rig.h"
+#include "tests/spreadsheet/contract/SpreadsheetContract.h"
+#include "tests/spreadsheet/embedded/Rig.h"
 
 namespace zvonika::testing {
 

@@ -1,7 +1,7 @@
-#include "song/embedded/Document.h"
-#include "song/embedded/FileSentences.h"
-#include "song/embedded/WorkbookFile.h"
-#include "tests/song/embedded/Rig.h"
+#include "spreadsheet/embedded/Document.h"
+#include "spreadsheet/embedded/FileSentences.h"
+#include "spreadsheet/embedded/WorkbookFile.h"
+#include "tests/spreadsheet/embedded/Rig.h"
 
 #include <functional>
 #include <stdexcept>

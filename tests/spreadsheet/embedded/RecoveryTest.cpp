@@ -1,4 +1,4 @@
-#include "tests/song/embedded/Rig.h"
+#include "tests/spreadsheet/embedded/Rig.h"
 
 namespace zvonika::testing {
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/HomeDrive.h"
-#include "song/SpreadsheetApplication.h"
-#include "song/embedded/EmbeddedApplication.h"
+#include "spreadsheet/SpreadsheetApplication.h"
+#include "spreadsheet/embedded/EmbeddedApplication.h"
 #include "tests/support/MemorySettings.h"
 #include "tests/support/ScriptedDialogs.h"
 

@@ -1,5 +1,5 @@
-#include "song/embedded/Failures.h"
-#include "tests/song/embedded/Rig.h"
+#include "spreadsheet/embedded/Failures.h"
+#include "tests/spreadsheet/embedded/Rig.h"
 
 #include <new>
 

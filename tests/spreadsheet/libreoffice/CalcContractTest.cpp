@@ -1,5 +1,5 @@
-#include "tests/song/contract/SpreadsheetContract.h"
-#include "tests/song/libreoffice/CalcWorld.h"
+#include "tests/spreadsheet/contract/SpreadsheetContract.h"
+#include "tests/spreadsheet/libreoffice/CalcWorld.h"
 
 #include <QTest>
 

@@ -1,6 +1,6 @@
 // A long run over the cells of a real Calc.
 #include "conversion/Konverze.h"
-#include "tests/song/libreoffice/CalcWorld.h"
+#include "tests/spreadsheet/libreoffice/CalcWorld.h"
 #include "theory/Toniny.h"
 
 #include <QDir>

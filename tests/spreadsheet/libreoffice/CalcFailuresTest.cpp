@@ -1,4 +1,4 @@
-#include "tests/song/libreoffice/CalcWorld.h"
+#include "tests/spreadsheet/libreoffice/CalcWorld.h"
 
 #include <QElapsedTimer>
 #include <QFile>

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "platform/HomeDrive.h"
-#include "song/libreoffice/LibreOfficeApplication.h"
-#include "tests/song/libreoffice/OfficeProcesses.h"
-#include "tests/song/libreoffice/VirtualScreen.h"
+#include "spreadsheet/libreoffice/LibreOfficeApplication.h"
+#include "tests/spreadsheet/libreoffice/OfficeProcesses.h"
+#include "tests/spreadsheet/libreoffice/VirtualScreen.h"
 #include "tests/support/MemorySettings.h"
 #include "tests/support/ScriptedDialogs.h"
 

@@ -1,12 +1,12 @@
 // What stands around Calc and needs none: the view's text, the profile, what is installed, calls that take
 // long.
 #include "platform/RuntimeError.h"
-#include "song/libreoffice/Installation.h"
-#include "song/libreoffice/PatientCalls.h"
-#include "song/libreoffice/Profile.h"
-#include "song/libreoffice/ReadAhead.h"
-#include "song/libreoffice/UserNotices.h"
-#include "song/libreoffice/ViewData.h"
+#include "spreadsheet/libreoffice/Installation.h"
+#include "spreadsheet/libreoffice/PatientCalls.h"
+#include "spreadsheet/libreoffice/Profile.h"
+#include "spreadsheet/libreoffice/ReadAhead.h"
+#include "spreadsheet/libreoffice/UserNotices.h"
+#include "spreadsheet/libreoffice/ViewData.h"
 
 #include <QCoreApplication>
 #include <QDir>

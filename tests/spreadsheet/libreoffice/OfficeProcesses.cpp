@@ -1,4 +1,4 @@
-#include "tests/song/libreoffice/OfficeProcesses.h"
+#include "tests/spreadsheet/libreoffice/OfficeProcesses.h"
 
 #include <QDir>
 #include <QFile>

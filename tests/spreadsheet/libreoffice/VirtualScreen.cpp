@@ -1,4 +1,4 @@
-#include "tests/song/libreoffice/VirtualScreen.h"
+#include "tests/spreadsheet/libreoffice/VirtualScreen.h"
 
 #include <QTest>
 

@@ -1,7 +1,7 @@
 // A real Calc on a screen of its own. Exit code 77, which counts as skipped, where LibreOffice is not
 // installed. With "wait" or "vanish", a folder and a folder for profiles it is a program with a song open,
 // for the test of what outlives it: it waits to be killed, or ends without any closing step.
-#include "tests/song/libreoffice/CalcWorld.h"
+#include "tests/spreadsheet/libreoffice/CalcWorld.h"
 
 #include <QCoreApplication>
 

@@ -1,7 +1,7 @@
-#include "song/xls/biff5/CodePage.h"
-#include "song/xls/biff5/FormulaTokens.h"
-#include "song/xls/container/CompoundFile.h"
-#include "tests/song/xls/XlsFiles.h"
+#include "spreadsheet/xls/biff5/CodePage.h"
+#include "spreadsheet/xls/biff5/FormulaTokens.h"
+#include "spreadsheet/xls/container/CompoundFile.h"
+#include "tests/spreadsheet/xls/XlsFiles.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
-#include "song/xls/records/CellRecord.h"
-#include "tests/song/xls/XlsFiles.h"
+#include "spreadsheet/xls/records/CellRecord.h"
+#include "tests/spreadsheet/xls/XlsFiles.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 // Small files that claim to be large: reading them costs neither much time nor much memory.
-#include "song/xls/container/CompoundFile.h"
-#include "tests/song/xls/XlsFiles.h"
+#include "spreadsheet/xls/container/CompoundFile.h"
+#include "tests/spreadsheet/xls/XlsFiles.h"
 
 #include <algorithm>
 #include <ctime>

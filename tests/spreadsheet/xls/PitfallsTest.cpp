@@ -1,5 +1,5 @@
 // What files of other programs lack or have too much of.
-#include "tests/song/xls/XlsFiles.h"
+#include "tests/spreadsheet/xls/XlsFiles.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
-#include "song/xls/container/CompoundFile.h"
-#include "tests/song/xls/XlsFiles.h"
+#include "spreadsheet/xls/container/CompoundFile.h"
+#include "tests/spreadsheet/xls/XlsFiles.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "tests/song/xls/XlsFiles.h"
+#include "tests/spreadsheet/xls/XlsFiles.h"
 
 #include <bit>
 #include <cmath>

@@ -1,6 +1,6 @@
-#include "tests/song/xls/XlsFiles.h"
+#include "tests/spreadsheet/xls/XlsFiles.h"
 
-#include "song/xls/container/CompoundFile.h"
+#include "spreadsheet/xls/container/CompoundFile.h"
 
 #include <algorithm>
 #include <bit>

@@ -1,6 +1,6 @@
 // Writes files of the engine into a folder, with a listing of their cells, for other programs to read.
 // Usage: write_xls_samples FOLDER [FILE.xls ...]; each further file is opened, changed and saved there, too.
-#include "song/xls/Workbook.h"
+#include "spreadsheet/xls/Workbook.h"
 
 #include <bit>
 #include <cstdio>

@@ -8,7 +8,7 @@
 // Boxes are answered by "yes" or "no" and told of on a line of their own: asked <text>.
 #include "platform/HomeDrive.h"
 #include "platform/SettingsStore.h"
-#include "song/embedded/EmbeddedApplication.h"
+#include "spreadsheet/embedded/EmbeddedApplication.h"
 
 #include <QCoreApplication>
 

@@ -1,7 +1,7 @@
-#include "song/embedded/journal/JournalFormat.h"
+#include "spreadsheet/embedded/journal/JournalFormat.h"
 
-#include "song/embedded/journal/Checksum.h"
-#include "song/embedded/journal/JournalContents.h"
+#include "platform/files/Checksum.h"
+#include "spreadsheet/embedded/journal/JournalContents.h"
 
 #include <gtest/gtest.h>
 #include <limits>

@@ -1,9 +1,9 @@
-#include "song/embedded/journal/Journal.h"
+#include "spreadsheet/embedded/journal/Journal.h"
 
-#include "song/embedded/journal/ContentHash.h"
-#include "song/embedded/journal/JournalFormat.h"
-#include "tests/song/embedded/Rig.h"
-#include "tests/song/embedded/SmallDisk.h"
+#include "spreadsheet/embedded/journal/ContentHash.h"
+#include "spreadsheet/embedded/journal/JournalFormat.h"
+#include "tests/spreadsheet/embedded/Rig.h"
+#include "tests/spreadsheet/embedded/SmallDisk.h"
 
 namespace zvonika::testing {
 

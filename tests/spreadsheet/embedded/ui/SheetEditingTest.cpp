@@ -1,4 +1,4 @@
-#include "tests/song/embedded/ui/SheetWindowFixture.h"
+#include "tests/spreadsheet/embedded/ui/SheetWindowFixture.h"
 
 #include <QFile>
 

@@ -2,10 +2,10 @@
 
 #include "platform/HomeDrive.h"
 #include "platform/IniSettingsStore.h"
-#include "song/embedded/EmbeddedApplication.h"
-#include "song/embedded/ui/SheetTable.h"
-#include "song/embedded/ui/SheetTabs.h"
-#include "song/embedded/ui/SheetWindow.h"
+#include "spreadsheet/embedded/EmbeddedApplication.h"
+#include "spreadsheet/embedded/ui/SheetTable.h"
+#include "spreadsheet/embedded/ui/SheetTabs.h"
+#include "spreadsheet/embedded/ui/SheetWindow.h"
 #include "tests/support/ScriptedDialogs.h"
 
 #include <QAction>

@@ -1,5 +1,5 @@
-#include "song/xls/Workbook.h"
-#include "tests/song/embedded/ui/SheetWindowFixture.h"
+#include "spreadsheet/xls/Workbook.h"
+#include "tests/spreadsheet/embedded/ui/SheetWindowFixture.h"
 
 #include <QFile>
 #include <QLabel>
