@@ -9,10 +9,10 @@
 #include "playing/recording/ZapisHmatu.h"
 #include "playing/recording/ZapisHmatuZNot.h"
 #include "playing/recording/ZapisNoty.h"
-#include "playing/stepping/ZobrazeniPrstokladu.h"
-#include "playing/stepping/Navigace.h"
 #include "playing/song/UkonceniExcelu.h"
 #include "playing/song/ZivotPisne.h"
+#include "playing/stepping/Navigace.h"
+#include "playing/stepping/ZobrazeniPrstokladu.h"
 #include "theory/VolbaStupnice.h"
 #include "theory/clsNotyZapis.h"
 

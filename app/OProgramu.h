@@ -9,7 +9,8 @@ namespace zvonika {
 void cmdOPrg(Dialogs& dialogs);
 
 /// Mail to the author (`mnuMailAutorovi`): a word of explanation, then the mail link to the desktop. The link
-/// begins with a quotation mark and keeps its own version number. False when the desktop has nothing to send mail with.
+/// begins with a quotation mark and keeps its own version number. False when the desktop has nothing to send
+/// mail with.
 bool mnuMailAutorovi(Dialogs& dialogs, Shell& shell);
 
 /// Exit by the menu (`mnuKonec`): true when the user confirmed.

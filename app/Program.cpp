@@ -4,8 +4,8 @@
 #include "app/OknaPomucek.h"
 #include "app/OknoKonverze.h"
 #include "app/Prikazy.h"
-#include "playing/stepping/PrikazyPisne.h"
 #include "playing/song/SpusteniExcelu.h"
+#include "playing/stepping/PrikazyPisne.h"
 #include "playing/stepping/StavovyRadek.h"
 
 #include <QApplication>

@@ -1,7 +1,7 @@
 #include "app/Spusteni.h"
 
-#include "platform/HodnotyNastaveni.h"
 #include "platform/Contact.h"
+#include "platform/HodnotyNastaveni.h"
 #include "platform/RuntimeError.h"
 
 namespace zvonika {

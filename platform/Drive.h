@@ -4,9 +4,9 @@
 
 namespace zvonika {
 
-/// The folders of the program's world: paths are written "C:\Dokumenty\..." and mean a native folder; drive C: is
-/// the user's home folder where the system has no drives. A native absolute path passes through unchanged, and a
-/// drive that does not exist yields an empty native path.
+/// The folders of the program's world: paths are written "C:\Dokumenty\..." and mean a native folder; drive
+/// C: is the user's home folder where the system has no drives. A native absolute path passes through
+/// unchanged, and a drive that does not exist yields an empty native path.
 class Drive {
 public:
     virtual ~Drive() = default;

@@ -17,8 +17,7 @@ public:
     /// Stores at once. A store that cannot be written keeps the value for the rest of the run.
     virtual void save(const QString& section, const QString& key, const QString& value) = 0;
 
-    QString getOr(const QString& section, const QString& key, const QString& fallback) const
-    {
+    QString getOr(const QString& section, const QString& key, const QString& fallback) const {
         return get(section, key).value_or(fallback);
     }
 };

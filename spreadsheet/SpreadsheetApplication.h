@@ -17,26 +17,27 @@ namespace zvonika {
 ///   1004 the application refuses: a file cannot be opened or saved, an address or a name is not valid.
 using AutomationError = RuntimeError;
 
-/// Told of what the user does in the application's own window; never of what the program does through the port.
-/// Calls arrive on the user-interface thread, outside of any port call.
+/// Told of what the user does in the application's own window; never of what the program does through the
+/// port. Calls arrive on the user-interface thread, outside of any port call.
 class SpreadsheetListener {
 public:
     virtual ~SpreadsheetListener() = default;
-    virtual void cursorMoved() = 0;  ///< another active cell or sheet
-    virtual void cellsEdited() = 0;  ///< cells, or the name of a sheet, have changed
+    virtual void cursorMoved() = 0; ///< another active cell or sheet
+    virtual void cellsEdited() = 0; ///< cells, or the name of a sheet, have changed
 };
 
 /// The fixed arguments of a save under a new name: normal format, no passwords, no backup.
 struct SaveAsArguments {
-    QString filename;         ///< full name, or a bare name (goes into the default folder and gets ".xls")
-    int fileFormat = -4143;   ///< the application's normal workbook format, .xls
+    QString filename;       ///< full name, or a bare name (goes into the default folder and gets ".xls")
+    int fileFormat = -4143; ///< the application's normal workbook format, .xls
     QString password = {};
     QString writeResPassword = {};
     bool readOnlyRecommended = false;
     bool createBackup = false;
 };
 
-/// The search used for the first empty cell of a column: empty text, formulas, part of the cell, by rows, forward.
+/// The search used for the first empty cell of a column: empty text, formulas, part of the cell, by rows,
+/// forward.
 struct FindArguments {
     QString what = {};
     int lookIn = -4123;
@@ -46,8 +47,9 @@ struct FindArguments {
     bool matchCase = false;
 };
 
-/// A running spreadsheet application with its cursor of active workbook, sheet and cell. Every operation may throw
-/// AutomationError; paths may be written with a drive ("C:\..."). Addresses are in A1 form without sheet name
+/// A running spreadsheet application with its cursor of active workbook, sheet and cell. Every operation may
+/// throw AutomationError; paths may be written with a drive ("C:\..."). Addresses are in A1 form without
+/// sheet name
 /// ("B7", "B1:B500", "$B$1"); rows and columns count from 1.
 class SpreadsheetApplication {
 public:
@@ -58,8 +60,8 @@ public:
     virtual QString defaultFilePath() const = 0;
     virtual void setDefaultFilePath(const QString& path) = 0;
     virtual void setVisible(bool visible) = 0;
-    /// Closes what is open; asks only for workbooks with unsaved changes, and what the user then does not save is
-    /// lost. On an application that the user has quit: 91 once, then it succeeds.
+    /// Closes what is open; asks only for workbooks with unsaved changes, and what the user then does not
+    /// save is lost. On an application that the user has quit: 91 once, then it succeeds.
     virtual void quit() = 0;
     virtual void setListener(SpreadsheetListener* listener) = 0;
     /// Brings the application's window to the front and gives it the keyboard.
@@ -110,8 +112,8 @@ public:
     virtual void writeBlock(const QString& address, const CellBlock& block) = 0;
 };
 
-/// Creates application objects ("excel.application"): each call a new instance, invisible and without a workbook.
-/// Throws AutomationError when the application cannot be started.
+/// Creates application objects ("excel.application"): each call a new instance, invisible and without a
+/// workbook. Throws AutomationError when the application cannot be started.
 using SpreadsheetLauncher = std::function<std::unique_ptr<SpreadsheetApplication>()>;
 
 } // namespace zvonika

@@ -3,8 +3,8 @@
 #include "app/Program.h"
 #include "app/Sestava.h"
 #include "app/VolbaTabulky.h"
-#include "ukazka/Ukazka.h"
 #include "platform/IniSettingsStore.h"
+#include "ukazka/Ukazka.h"
 
 #include <QApplication>
 #include <QDir>

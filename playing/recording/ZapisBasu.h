@@ -2,8 +2,8 @@
 
 #include "board/BassBoard.h"
 #include "board/BassTable.h"
-#include "playing/recording/RadekZapisu.h"
 #include "platform/Dialogs.h"
+#include "playing/recording/RadekZapisu.h"
 
 namespace zvonika {
 

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "board/TrebleBoard.h"
+#include "platform/Dialogs.h"
 #include "playing/recording/PoZapisu.h"
 #include "playing/recording/Prstoklad.h"
-#include "board/TrebleBoard.h"
 #include "playing/recording/ZapisBasu.h"
-#include "platform/Dialogs.h"
 #include "theory/Tonina.h"
 
 #include <utility>

@@ -1,9 +1,9 @@
 #include "playing/song/ZivotPisne.h"
 
 #include "platform/Hlaseni.h"
+#include "playing/song/SlozkaPisni.h"
 #include "playing/stepping/Listy.h"
 #include "playing/stepping/PrikazyPisne.h"
-#include "playing/song/SlozkaPisni.h"
 
 namespace zvonika {
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/Drive.h"
-#include "playing/stepping/Navigace.h"
 #include "playing/song/Zvuk.h"
+#include "playing/stepping/Navigace.h"
 
 namespace zvonika {
 

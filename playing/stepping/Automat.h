@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/WakeUpClock.h"
-#include "song/CommandStates.h"
 #include "playing/stepping/Timer1.h"
+#include "song/CommandStates.h"
 
 #include <functional>
 

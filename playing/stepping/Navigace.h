@@ -46,8 +46,8 @@ public:
     void UrciSmerMechu();
 
     /// The user has moved the cursor or edited cells in the spreadsheet's window: everything that is shown of
-    /// the song follows, without boxes and without touching cursor or marks. Lets no AutomationError out; does
-    /// nothing while another workbook than the song is in front.
+    /// the song follows, without boxes and without touching cursor or marks. Lets no AutomationError out;
+    /// does nothing while another workbook than the song is in front.
     void sledujKurzor();
 
 private:

@@ -2,8 +2,8 @@
 
 #include "board/BassBoard.h"
 #include "board/BassTable.h"
-#include "playing/stepping/ZobrazeniPrstokladu.h"
 #include "board/TrebleBoard.h"
+#include "playing/stepping/ZobrazeniPrstokladu.h"
 #include "song/ZobrazovaciOsnova.h"
 #include "theory/Tonavox12.h"
 

@@ -24,8 +24,8 @@ struct PlochyHmatu {
 
 /// Shows the grip of the current row: pull or push pictures of its treble and bass buttons, fingering,
 /// display staff and the text panel. Marks of the grip being recorded and the red piano keys stay as they
-/// are; a marked button that the shown grip lets go shows its red picture again. An interval that is shown goes. Calls that read the sheet
-/// make one block read and may throw AutomationError.
+/// are; a marked button that the shown grip lets go shows its red picture again. An interval that is shown
+/// goes. Calls that read the sheet make one block read and may throw AutomationError.
 class ZobrazeniHmatu {
 public:
     /// Puts the fingering of column V on the buttons, with its own messages.

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "platform/files/FileLock.h"
 #include "spreadsheet/Address.h"
 #include "spreadsheet/CellValue.h"
-#include "platform/files/FileLock.h"
 #include "spreadsheet/embedded/History.h"
 #include "spreadsheet/embedded/journal/Journal.h"
 #include "spreadsheet/xls/Workbook.h"

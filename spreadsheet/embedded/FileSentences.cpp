@@ -1,6 +1,5 @@
 #include "spreadsheet/embedded/FileSentences.h"
 
-
 #include <QDir>
 #include <QFileInfo>
 

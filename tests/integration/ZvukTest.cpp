@@ -31,8 +31,7 @@ TEST_F(ZvukTest, TheSongFileIsWholeWhenASoundButtonEndsTheProcess) {
 
     program.reset();
     spust();
-    otevri(pisen("Polka.xls"),
-           [this] { dialogs.expect("Tabulka Zvoniky", " z minula ", Answer::Yes); });
+    otevri(pisen("Polka.xls"), [this] { dialogs.expect("Tabulka Zvoniky", " z minula ", Answer::Yes); });
     EXPECT_NE(neulozena, QString());
     EXPECT_EQ(bunka("B3"), neulozena);
     EXPECT_EQ(napis("lblTon"), "3") << "at the grip that was recorded last";
