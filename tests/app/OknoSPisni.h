@@ -1,10 +1,10 @@
 #pragma once
 
 #include "app/Program.h"
-#include "tests/app/PametoveNastaveni.h"
 #include "tests/app/ZaznamovyShell.h"
 #include "tests/support/FakeDrive.h"
 #include "tests/support/FakeSpreadsheet.h"
+#include "tests/support/MemorySettings.h"
 #include "tests/support/RucniHodiny.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/ZaznamovaMedia.h"
@@ -53,7 +53,7 @@ protected:
     FakeDisk disk;
     FakeDrive drive;
     ScriptedDialogs dialogs;
-    PametoveNastaveni nastaveni;
+    MemorySettings nastaveni;
     ZaznamovyShell shell;
     RucniHodiny hodiny;
     ZaznamovaMedia media;

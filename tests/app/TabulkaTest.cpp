@@ -42,7 +42,7 @@ TEST(FrmTabulka, OffersWhatCanBeUsedAndStoresTheChoice) {
         {nullptr, nullptr, "0", 0},     {"1", nullptr, "1", 1}, {"nesmysl", "optTabulka(1)", "1", 0},
         {"1", "optTabulka(0)", "0", 1}, {"2", nullptr, "2", 2}, {"0", "optTabulka(2)", "0", 0}};
     for (const auto& [ulozena, klik, pak, oznacena] : pripady) {
-        zvonika::testing::PametoveNastaveni nastaveni;
+        zvonika::testing::MemorySettings nastaveni;
         if (ulozena) nastaveni.save("Tabulka", "Index", ulozena);
         VolbaTabulky volba(nastaveni);
         FrmTabulka dialog(volba, nabidka);
