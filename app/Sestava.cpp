@@ -133,6 +133,7 @@ struct Sestava::Casti {
 };
 
 Sestava::Sestava(QApplication& aplikace, const Umisteni& umisteni) {
+    QCoreApplication::setApplicationVersion(QStringLiteral(ZVONIKA_VERSION));
     nastavVzhled(aplikace);
     casti_ = std::make_unique<Casti>(umisteni);
     Casti::umisti(casti_->program.okno(), casti_->okna.hlavni);
