@@ -47,7 +47,7 @@ struct KonverzacePomucek {
 
 /// All conversations of the main window, built over the models and ports in the order in which they need each
 /// other. It owns them; what it hands out is good as long as it lives.
-class Konverzace : private ZobrazeniPisne {
+class Konverzace {
 public:
     /// No song is open then, and the commands say so. `otevriVyberStupnice`: shows the key dialog and returns
     /// when it is closed.
@@ -61,11 +61,6 @@ public:
 
 private:
     OkoliZapisu okoliZapisu();
-
-    void cmdReadTah() override { zobrazeniHmatu_.cmdReadTah(); }
-    void cmdReadTlak() override { zobrazeniHmatu_.cmdReadTlak(); }
-    void obnovRadek() override { zobrazeniHmatu_.ZobrazTexty(); }
-    void obnovPas() override { pasPisne_.obnov(); }
 
     Modely& modely_;
     Dialogs& dialogs_;

@@ -13,6 +13,7 @@
 #include "platform/ui/CzechTranslator.h"
 #include "platform/ui/DesktopShell.h"
 #include "platform/ui/QtDialogs.h"
+#include "song/PopisSloupcu.h"
 #include "spreadsheet/embedded/EmbeddedApplication.h"
 #include "spreadsheet/embedded/ui/SheetWindow.h"
 
@@ -105,7 +106,7 @@ struct Sestava::Casti {
     }
 
     std::unique_ptr<SheetView> oknoTabulky(SheetCommands& prikazy) {
-        auto okno = std::make_unique<SheetWindow>(prikazy);
+        auto okno = std::make_unique<SheetWindow>(prikazy, popisSloupcu());
         QObject::connect(okno.get(), &SheetWindow::f6Pressed, &program, &Program::prejdiNaHlavniOkno);
         umisti(*okno, okna.tabulka);
         return okno;

@@ -15,6 +15,7 @@
 #include "song/ui/PasWidget.h"
 #include "song/ui/ZobrazovaciOsnovaWidget.h"
 #include "theory/NazevIntervalu.h"
+#include "theory/NazvyTonu.h"
 #include "theory/ui/ZapisovaciOsnova.h"
 
 #include <QAbstractButton>
@@ -44,10 +45,8 @@ void ZapojeniOkna::umisti(QWidget* prvek, const QRect& twips) {
 void ZapojeniOkna::postavHmatnik() {
     const KonverzaceZapisu k = c_.konverzace.zapis();
     const Umisti kam = [this](QWidget* prvek, const QRect& twips) { umisti(prvek, twips); };
-    const auto nazev = [jmena = Tonavox12()](int n) mutable {
-        jmena.DejTon(CisloTonu(n));
-        return jmena.nazevTonu().text().chopped(1); // without the comma that ends every name
-    };
+    // Without the comma that ends every name.
+    const auto nazev = [](int n) { return nazevTonu(CisloTonu(n)).text().chopped(1); };
     const ObsluhaDiskantu diskant{
         [this, k](int n) { c_.udalosti.proved([k, n] { k.klikDiskantu.klik(n); }); },
         [this](int n, bool pomocny) { klikPrstu(n, pomocny); }, nazev};

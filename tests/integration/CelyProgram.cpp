@@ -1,5 +1,6 @@
 #include "tests/integration/CelyProgram.h"
 
+#include "song/PopisSloupcu.h"
 #include "spreadsheet/Address.h"
 
 #include <QAbstractButton>
@@ -82,7 +83,7 @@ std::unique_ptr<SpreadsheetApplication> CelyProgram::novaTabulka() {
     auto nova = std::make_unique<EmbeddedApplication>(
         drive, dialogs, vlastniNastaveniTabulky, JournalFolder(slozka.filePath(QStringLiteral("zaznamy"))),
         [this](SheetCommands& prikazy) {
-            auto okno = std::make_unique<SheetWindow>(prikazy);
+            auto okno = std::make_unique<SheetWindow>(prikazy, popisSloupcu());
             QObject::connect(okno.get(), &SheetWindow::f6Pressed, program.get(),
                              &Program::prejdiNaHlavniOkno);
             tabulka = okno.get();
