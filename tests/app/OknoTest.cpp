@@ -53,9 +53,8 @@ TEST_F(OknoSPisni, KeysRecordAGripOnceAndStepByTheBellows) {
     klikni("lbl(9)");
     klikni("lblSynchro(13)");
     klikni("ImgBas(30)");
-    for (int podruhe = 0; podruhe < 3; ++podruhe) // held down
-        QTest::sendKeyEvent(QTest::Press, &program->okno(), Qt::Key_F8, QString(), Qt::NoModifier, 0,
-                            podruhe > 0);
+    for (int opakovani = 0; opakovani < 3; ++opakovani) // held down
+        QTest::simulateEvent(&program->okno(), true, Qt::Key_F8, Qt::NoModifier, QString(), opakovani > 0);
     EXPECT_EQ(excel->text("B1"), "c1,");
     EXPECT_EQ(excel->text("C1"), "e1,");
     EXPECT_EQ(excel->text("I1"), "Tlak");
