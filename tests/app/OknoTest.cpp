@@ -90,7 +90,7 @@ TEST_F(OknoSPisni, EachCommandOfASideIsThatOfItsSide) {
                  {"cmdDalsiTah", 3, StavKnofliku::Tah},   {"cmdReadTlak", 3, StavKnofliku::Tlak},
                  {"cmdReadTah", 3, StavKnofliku::Tah},    {"cmdPredTlak", 2, StavKnofliku::Tlak},
                  {"cmdPredTah", 1, StavKnofliku::Tah},    {"cmdDalsi", 2, StavKnofliku::Tah},
-                 {"cmdPredchozi", 1, StavKnofliku::Tah},  {"cmdPosledni", 5, StavKnofliku::Tlak},
+                 {"cmdPredchozi", 1, StavKnofliku::Tah},  {"cmdPosledni", 5, StavKnofliku::Tah},
                  {"cmdJakDalZpet", 4, StavKnofliku::Tah}, {"cmdJakDal", 5, StavKnofliku::Tlak}};
     for (const auto& [prikaz, radek, strana] : kroky) {
         klikni(prikaz);
