@@ -19,6 +19,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QLibraryInfo>
 #include <QPalette>
 #include <QScreen>
 #include <QStandardPaths>
@@ -64,7 +65,7 @@ void nastavVzhled(QApplication& aplikace) {
     paleta.setColor(QPalette::HighlightedText, Qt::white);
     QApplication::setPalette(paleta);
     QApplication::setWindowIcon(ikonaProgramu());
-    static CzechTranslator cestina;
+    static CzechTranslator cestina({QLibraryInfo::path(QLibraryInfo::TranslationsPath), slozkaProgramu()});
     aplikace.installTranslator(&cestina);
 }
 
