@@ -5,8 +5,7 @@
 #include "playing/recording/ZapisHmatu.h"
 #include "playing/recording/ZapisHmatuZNot.h"
 #include "song/ZobrazovaciOsnova.h"
-#include "tests/support/FakeSpreadsheet.h"
-#include "tests/support/ScriptedDialogs.h"
+#include "tests/support/SpreadsheetWorld.h"
 #include "theory/NotovaOsnova.h"
 #include "theory/clsNotyZapis.h"
 
@@ -26,10 +25,10 @@ public:
 };
 
 /// The input board with an open song, its cursor on B1.
-class Zapisovani : public ::testing::Test {
+class Zapisovani : public ::testing::Test, protected SpreadsheetWorld {
 protected:
     Zapisovani() {
-        auto aplikace = std::make_unique<FakeSpreadsheet>();
+        auto aplikace = launch();
         excel = aplikace.get();
         excel->addWorkbook();
         pisen.aktualniPisen = excel->activeWorkbookName();
@@ -63,9 +62,8 @@ protected:
         return texty.join(u' ');
     }
 
-    ScriptedDialogs dialogs;
     Pisen pisen;
-    FakeSpreadsheet* excel = nullptr;
+    WatchedSpreadsheet* excel = nullptr;
     SongPanel panel;
     CommandStates prikazy;
     TrebleBoard diskant;
