@@ -1,12 +1,9 @@
 #pragma once
 
 #include "app/Program.h"
-#include "tests/app/PametoveNastaveni.h"
 #include "tests/app/ZaznamovyShell.h"
-#include "tests/support/FakeDrive.h"
-#include "tests/support/FakeSpreadsheet.h"
 #include "tests/support/RucniHodiny.h"
-#include "tests/support/ScriptedDialogs.h"
+#include "tests/support/SpreadsheetWorld.h"
 #include "tests/support/ZaznamovaMedia.h"
 
 #include <QAction>
@@ -16,21 +13,21 @@
 
 namespace zvonika::testing {
 
-/// The whole program with its real window over a spreadsheet in memory and scripted boxes.
-class OknoSPisni : public ::testing::Test {
+/// The whole program with its real window over a spreadsheet without a window and scripted boxes.
+class OknoSPisni : public ::testing::Test, protected SpreadsheetWorld {
 protected:
     void SetUp() override {
         drive.programFolderPath = QStringLiteral(ZVONIKA_RESOURCES);
         program = std::make_unique<Program>(
-            Prostredi{dialogs, nastaveni, drive, shell, [this] { return spoustecExcelu(); }, hodiny, media,
-                      [this](const MistoProhlizece& misto) { return tvurceProhlizece(misto); }, tabulky});
+            Prostredi{dialogs, nastaveni, drive, shell, tabulky, hodiny, media,
+                      [this](const MistoProhlizece& misto) { return tvurceProhlizece(misto); }});
         program->Main();
         program->okno().resize(1000, 720);
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&program->okno()));
     }
 
     std::unique_ptr<SpreadsheetApplication> novaTabulka() {
-        auto nova = std::make_unique<FakeSpreadsheet>(disk);
+        auto nova = launch();
         excel = nova.get();
         return nova;
     }
@@ -50,17 +47,14 @@ protected:
         return prvek(jmeno)->isEnabled();
     }
 
-    FakeDisk disk;
-    FakeDrive drive;
-    ScriptedDialogs dialogs;
-    PametoveNastaveni nastaveni;
+    MemorySettings nastaveni;
     ZaznamovyShell shell;
     RucniHodiny hodiny;
     ZaznamovaMedia media;
-    SpreadsheetLauncher spoustecExcelu = [this] { return novaTabulka(); };
     TvurceProhlizece tvurceProhlizece = jednoduchyProhlizec();
-    DalsiTabulky tabulky;
-    FakeSpreadsheet* excel = nullptr;
+    TabulkovyProgram vestavena{Tabulka::Vestavena, nabidkaVestavene, [this] { return novaTabulka(); }};
+    TabulkoveProgramy tabulky{{vestavena}, Tabulka::Vestavena};
+    WatchedSpreadsheet* excel = nullptr;
     std::unique_ptr<Program> program;
 };
 

@@ -5,11 +5,6 @@
 #include "theory/Toniny.h"
 
 #include <gtest/gtest.h>
-#include <ostream>
-
-inline void PrintTo(const QString& text, std::ostream* out) {
-    *out << '"' << text.toStdString() << '"';
-}
 
 namespace zvonika::testing {
 

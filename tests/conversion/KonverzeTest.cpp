@@ -227,19 +227,19 @@ TEST_F(KonverzeTest, WhatIsLostIsTold) {
 TEST_F(KonverzeTest, ASongChosenInTheDialogIsClosedAgain) {
     pisen.aktualniPisen = "zavřená ručně.xls";
     konverze.Form_Load();
-    const auto vyberSoubor = [&](const std::optional<QString>& plneJmeno) {
-        dialogs.expectFile("Vyberte písničku, kterou chcete konvertovat !", plneJmeno);
-        konverze.cmdVyberPisen();
-    };
-    vyberSoubor(std::nullopt);
-    dialogs.expect("Nevhodný soubor.",
-                   "Vyberte jinou píseň.\nPokročilí uživatelé mohou zapsat ladění do sloupce W.");
-    vyberSoubor(soubor("Bez tóniny.xls", {"B=c1,"}));
+    const QString titulek = "Vyberte písničku, kterou chcete konvertovat !";
+    dialogs.expectFile(titulek, std::nullopt);
+    konverze.cmdVyberPisen();
+    dialogs.expectFile(titulek, soubor("Bez tóniny.xls", {"B=c1,"}))
+        .expect("Nevhodný soubor.",
+                "Vyberte jinou píseň.\nPokročilí uživatelé mohou zapsat ladění do sloupce W.");
+    konverze.cmdVyberPisen();
     EXPECT_EQ(dialogs.last.icon, Icon::Critical);
     EXPECT_EQ(excel->workbooks(), 0);
     EXPECT_EQ(pisen.aktualniPisen, "zavřená ručně.xls");
     EXPECT_TRUE(stav.vyberPovolen);
-    vyberSoubor(soubor("Polka.xls", {tah}));
+    dialogs.expectFile(titulek, soubor("Polka.xls", {tah}));
+    konverze.cmdVyberPisen();
     EXPECT_EQ(stav.lblStupnice, "C dur");
     EXPECT_EQ(stav.cmdVyberPisen, "Polka.xls");
     EXPECT_FALSE(stav.vyberPovolen);

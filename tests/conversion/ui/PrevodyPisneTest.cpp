@@ -2,7 +2,7 @@
 #include "conversion/Konverze.h"
 #include "conversion/ui/FrmKonverze.h"
 #include "tests/support/SpreadsheetWorld.h"
-#include "theory/Tonavox12.h"
+#include "theory/NazvyTonu.h"
 #include "theory/Toniny.h"
 
 #include <QAbstractButton>
@@ -61,11 +61,8 @@ protected:
         return blok;
     }
     static QString ton(const QString& nazev, int posun, std::size_t kam) {
-        Tonavox12 model;
-        model.DejCisloTonu(ToneName(nazev));
-        QString stupnice = toniny[kam].nazev.toString();
-        model.DejTonVeStupnici(CisloTonu(model.cisloTonu().hodnota() + posun), stupnice);
-        return model.nazevTonu().text();
+        const CisloTonu cil(cisloTonu(ToneName(nazev)).hodnota() + posun);
+        return nazevTonu(cil, toniny[kam].key()).nazev.text();
     }
 
     Pisen pisen;
