@@ -110,6 +110,7 @@ TEST_F(SluzbyKonverze, ATargetWorkbookIsMadeWhereNothingIsInItsWay) {
     EXPECT_EQ(storedText(cil, "A1"), "nová");
 
     // The middle one of the missing folders is not made, and that saving fails then is not told.
+    otevri({});
     drive.removeFolder("C:\\Dokumenty");
     dialogs.expect("Pracovní adresář neexistuje.", "Cesta do C:\\Dokumenty\\Heligonka  nebyla nalezena.\n");
     EXPECT_FALSE(sluzby.VytvorCilovySoubor("G dur", "Polka.xls"));
