@@ -152,7 +152,9 @@ OpenWorkbook Engine::active() {
         try {
             return onBook([](Book& book) { return book.description(); });
         } catch (const RuntimeError&) {
-            if (!connected() || !find(activeId_)->closed()) throw;
+            // It may have been closed, and dropped, since it was looked for.
+            const Book* book = find(activeId_);
+            if (!connected() || (book && !book->closed())) throw;
         }
     }
     return {};
