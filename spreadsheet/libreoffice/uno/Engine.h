@@ -72,8 +72,7 @@ template <typename Calls>
 auto Engine::onBook(Calls calls) {
     return guarded([&] {
         Book* book = activeBook();
-        if (!book)
-            throw RuntimeError(error::objectNotSet, QStringLiteral("V tabulce není otevřen žádný sešit."));
+        if (!book) refuseNoWorkbook();
         try {
             return calls(*book);
         } catch (const css::lang::DisposedException&) {
