@@ -1,3 +1,4 @@
+#include "spreadsheet/Address.h"
 #include "tests/spreadsheet/libreoffice/CalcWorld.h"
 
 #include <QElapsedTimer>
