@@ -128,8 +128,11 @@ TEST(Leftovers, AreRemovedAndThoseOfOthersStay) {
     address.sun_family = AF_UNIX;
     snprintf(address.sun_path, sizeof address.sun_path, "/tmp/OSL_PIPE_test_%d", getpid());
     ASSERT_EQ(bind(listening, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
+    Leftovers ofAnother("file:///jiny", folder.filePath("jiny").toStdString());
+    ofAnother.lookAt(getppid());
     leftovers.lookAt(getpid());
     close(listening);
+    ofAnother.remove();
     EXPECT_TRUE(QFile::exists(address.sun_path));
 
     leftovers.remove();
