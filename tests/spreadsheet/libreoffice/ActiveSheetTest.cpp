@@ -48,6 +48,10 @@ TEST_F(ActiveSheet, AnActOfTheUserVoidsWhatIsKnown) {
     calc.everywhere = 1.0;
     EXPECT_EQ(cursor.position(), (CellPosition{7, 7}));
     EXPECT_EQ(cells.value("B1"), CellValue(1.0));
+    calc.everywhere = 2.0;
+    cells.clear("A1");
+    EXPECT_EQ(calc.cursor_, (CellPosition{7, 7})) << "where the user has put it";
+    EXPECT_EQ(cells.value("B1"), CellValue(2.0)) << "another cell may depend on what was cleared";
 }
 
 TEST_F(ActiveSheet, ATextThatCalcMayChangeIsReadBack) {

@@ -63,15 +63,17 @@ TEST(ChildProcess, OneProcessIsSignalledAndNeverAGroup) {
     EXPECT_TRUE(signalOne(getpid(), 0));
     for (const pid_t id : {-1, 0, 1, -getpid()})
         EXPECT_FALSE(signalOne(id, 0)) << id;
-    const pid_t id = fork();
-    if (id == 0) pause();
-    ChildProcess child(id);
-    EXPECT_TRUE(child.running());
-    EXPECT_FALSE(child.waitForEnd(std::chrono::milliseconds(0)));
-    child.kill();
-    EXPECT_FALSE(child.running());
-    EXPECT_FALSE(signalOne(id, 0)) << "gone, and waited for";
-    child.kill();
+    for (const bool byItself : {true, false}) {
+        const pid_t id = fork();
+        if (id == 0) pause();
+        ChildProcess child(id);
+        EXPECT_TRUE(child.running());
+        EXPECT_FALSE(child.waitForEnd(std::chrono::milliseconds(0)));
+        if (byItself) EXPECT_TRUE(signalOne(id, SIGTERM) && child.waitForEnd(std::chrono::seconds(60)));
+        child.kill();
+        EXPECT_FALSE(child.running());
+        EXPECT_FALSE(signalOne(id, 0)) << "gone, and waited for";
+    }
 }
 
 TEST(OfficeProcess, RunsUnderItsGuardianAndEndsWithIt) {
