@@ -69,7 +69,8 @@ TEST(ChildProcess, OneProcessIsSignalledAndNeverAGroup) {
         ChildProcess child(id);
         EXPECT_TRUE(child.running());
         EXPECT_FALSE(child.waitForEnd(std::chrono::milliseconds(0)));
-        if (byItself) EXPECT_TRUE(signalOne(id, SIGTERM) && child.waitForEnd(std::chrono::seconds(60)));
+        const bool ended = byItself && signalOne(id, SIGTERM) && child.waitForEnd(std::chrono::seconds(60));
+        EXPECT_EQ(ended, byItself);
         child.kill();
         EXPECT_FALSE(child.running());
         EXPECT_FALSE(signalOne(id, 0)) << "gone, and waited for";
