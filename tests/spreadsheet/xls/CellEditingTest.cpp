@@ -60,7 +60,10 @@ std::vector<Rec> saved(const std::vector<Rec>& table, const std::vector<std::pai
 /// The table's records after these values were set: as one row block, and without a description of blocks.
 std::vector<Rec> edited(const std::vector<Rec>& table, const std::vector<std::pair<CellRef, Value>>& values) {
     std::vector<Rec> after = saved(table, values);
-    if (table.front().id == 0x0208) {
+    const auto isRow = [](const Rec& record) { return record.id == 0x0208; };
+    const auto isBelow = [&](const auto& change) { return change.first.row >= table.front().u16(0); };
+    if (isRow(table.front()) && std::ranges::is_partitioned(table, isRow) &&
+        std::ranges::all_of(values, isBelow)) {
         std::vector<Rec> asBlock = table;
         asBlock.push_back(dbCellOf(table));
         std::vector<Rec> block = saved(asBlock, values);
