@@ -19,7 +19,7 @@ public:
 /// What follows a recorded grip: the cursor goes on and the window with it. May throw AutomationError.
 class PoZapisu {
 public:
-    PoZapisu(const Pisen& pisen, SongPanel& panel, CommandStates& prikazy, ZobrazeniPisne& zobrazeni)
+    PoZapisu(Pisen& pisen, SongPanel& panel, CommandStates& prikazy, ZobrazeniPisne& zobrazeni)
         : list_(pisen), pisen_(pisen), panel_(panel), prikazy_(prikazy), zobrazeni_(zobrazeni) {}
 
     /// One row down; a grip that stands there is shown by its direction. Otherwise the board stays as it is.
@@ -32,7 +32,7 @@ private:
     void ukazNovyRadek(int radek);
 
     SongSheet list_;
-    const Pisen& pisen_;
+    Pisen& pisen_;
     SongPanel& panel_;
     CommandStates& prikazy_;
     ZobrazeniPisne& zobrazeni_;

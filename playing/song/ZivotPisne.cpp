@@ -45,7 +45,7 @@ void zavriTise(SpreadsheetApplication& excel) {
     }
 }
 
-void zavriTise(const Pisen& pisen) {
+void zavriTise(Pisen& pisen) {
     try {
         if (pisen.AktivujPisen()) pisen.excel().closeActiveWorkbook();
     } catch (const std::exception&) {

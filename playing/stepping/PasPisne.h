@@ -1,7 +1,7 @@
 #pragma once
 
 #include "song/Pas.h"
-#include "song/SongSheet.h"
+#include "song/SongReader.h"
 
 namespace zvonika {
 
@@ -25,7 +25,7 @@ public:
 private:
     void nacti();
 
-    SongSheet list_;
+    SongReader list_;
     Pas& pas_;
 };
 

@@ -36,7 +36,7 @@ CisloTonu cisloTonu(const QString& nazev) {
 
 } // namespace
 
-ZobrazeniHmatu::ZobrazeniHmatu(const Pisen& pisen, const PlochyHmatu& plochy, UkazPrstoklad ukazPrstoklad)
+ZobrazeniHmatu::ZobrazeniHmatu(Pisen& pisen, const PlochyHmatu& plochy, UkazPrstoklad ukazPrstoklad)
     : list_(pisen), plochy_(plochy), ukazPrstoklad_(std::move(ukazPrstoklad)) {}
 
 void ZobrazeniHmatu::ZobrazHmat() {

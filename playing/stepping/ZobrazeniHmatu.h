@@ -49,7 +49,7 @@ public:
         ZobrazeniHmatu& zobrazeni_;
     };
 
-    ZobrazeniHmatu(const Pisen& pisen, const PlochyHmatu& plochy, UkazPrstoklad ukazPrstoklad);
+    ZobrazeniHmatu(Pisen& pisen, const PlochyHmatu& plochy, UkazPrstoklad ukazPrstoklad);
 
     /// True when the board shows the push side.
     bool zobrazenTlak() const { return zobrazenTlak_; }

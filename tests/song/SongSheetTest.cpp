@@ -57,6 +57,31 @@ TEST_F(SongSheetTest, ReadsEveryColumnOfARow) {
     EXPECT_EQ(excel->journal.size(), 2) << "the workbook, and one call for all rows";
 }
 
+TEST_F(SongSheetTest, WritesTheNamedPartsOfAGripAndNothingElse) {
+    const struct {
+        CastHmatu cast;
+        char prvni, posledni; ///< columns that it writes
+        const char* obsah;
+    } radky[] = {{CastHmatu::Tony, 'B', 'I', "t1,t2,,,,,,"},
+                 {CastHmatu::Smer, 'I', 'I', "Tlak"},
+                 {CastHmatu::Basy, 'M', 'T', "b1,,,,,,,"},
+                 {CastHmatu::Prstoklad, 'V', 'V', "l1;1\\"},
+                 {CastHmatu::Tonina, 'W', 'W', "G dur"}};
+    const Grip hmat{"ne", {"t1", "t2"}, "Tlak", {"b1"}, "l1;1\\", "G dur"};
+    for (const auto& [cast, prvni, posledni, obsah] : radky) {
+        excel->setValue("A2:X2", QStringLiteral("starý"));
+        excel->journal.clear();
+        list.zapis(2, hmat, {cast});
+        EXPECT_EQ(excel->journal.size(), 1) << obsah;
+        QStringList psane, ostatni;
+        for (char sloupec = 'A'; sloupec <= 'X'; ++sloupec)
+            (sloupec >= prvni && sloupec <= posledni ? psane : ostatni)
+                << excel->text(sloupec + QString("2"));
+        EXPECT_EQ(psane.join(u','), obsah);
+        EXPECT_EQ(ostatni.count("starý"), ostatni.size()) << obsah;
+    }
+}
+
 TEST_F(SongSheetTest, TonesEndAtTheFirstEmptyCellAndForeignContentsStayText) {
     excel->put("B1", CellValue(5.0));
     excel->put("C1", CellValue(CellError{"#N/A"}));
