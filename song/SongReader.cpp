@@ -54,6 +54,17 @@ QVector<Grip> SongReader::gripy(int prvni, int pocet) const {
     return gripy;
 }
 
+VyrezPisne SongReader::kolemKurzoru() const {
+    const int radek = aktualniRadek();
+    return kolem(radek, radek, radek);
+}
+
+VyrezPisne SongReader::kolem(int radek, int prvni, int posledni) const {
+    const int od = std::max(1, std::min(prvni, radek - sousedu));
+    const int po = std::max(posledni, radek + sousedu);
+    return {radek, od, gripy(od, po - od + 1)};
+}
+
 SmerMechu SongReader::smer(int radek) const {
     return smerMechu(cellText(pisen_.excel().value(adresa(sloupce::smer, radek))));
 }

@@ -8,6 +8,19 @@
 
 namespace zvonika {
 
+constexpr int sousedu = 2; ///< neighbours whose syllables are shown with a grip, on each side
+
+/// Rows that were read in one block, and which of them has the cursor.
+struct VyrezPisne {
+    int radek = 1; ///< that of the cursor; it is among `hmaty`
+    int prvni = 1; ///< that of the first of `hmaty`
+    QVector<Grip> hmaty;
+
+    /// Of any row; one that was not read is an empty grip.
+    Grip hmat(int r) const { return hmaty.value(r - prvni); }
+    const Grip& hmat() const { return hmaty.at(radek - prvni); }
+};
+
 /// Reads the song's rows in their fixed layout from the application's active sheet. Rows count from 1. Every
 /// call may throw AutomationError.
 class SongReader {
@@ -18,6 +31,10 @@ public:
     /// sheet are empty grips.
     QVector<Grip> gripy(int prvni, int pocet) const;
     Grip grip(int radek) const { return gripy(radek, 1).constFirst(); }
+    /// The neighbourhood of the cursor, in one block.
+    VyrezPisne kolemKurzoru() const;
+    /// The neighbourhood of the cursor's row `radek` and rows `prvni` to `posledni` besides, in one block.
+    VyrezPisne kolem(int radek, int prvni, int posledni) const;
 
     SmerMechu smer(int radek) const; ///< the row's direction alone
     int aktualniRadek() const;

@@ -106,8 +106,7 @@ void ZivotPisne::ozivNovouPisen() {
     okoli_.panel.titulek = excel.activeWorkbookName();
     okoli_.panel.listy = QStringList{okoli_.panel.lblLadeni};
     list_.VyberBunkuB();
-    s_.zobrazeni.ZobrazHmat();
-    s_.pas.ZobrazPas();
+    s_.navigace.ukazOdKurzoru();
 }
 
 void ZivotPisne::cmdEdit() {
@@ -132,8 +131,7 @@ void ZivotPisne::ukazOtevrenouPisen() {
     s_.zvuk.NajdiZvuk();
     list_.VyberBunkuB();
     NaplnListy();
-    s_.zobrazeni.ZobrazHmat();
-    s_.pas.ZobrazPas();
+    s_.navigace.ukazOdKurzoru();
 }
 
 void ZivotPisne::prevezmiPisen() {
@@ -160,14 +158,15 @@ void ZivotPisne::ukazList(const QString& list) {
     okoli_.panel.lblLadeni = list;
     okoli_.panel.Combo1 = list;
     ukazRadekListu();
-    s_.pas.ZobrazPas();
     excel.saveActiveWorkbook();
 }
 
 void ZivotPisne::ukazRadekListu() {
     const ZobrazeniHmatu::JedenPrikaz prikaz(s_.zobrazeni);
-    s_.navigace.UrciSmerMechu();
-    s_.zobrazeni.ZobrazHmat();
+    const VyrezPisne vyrez = s_.pas.ctiOdKurzoru();
+    s_.navigace.UrciSmerMechu(vyrez);
+    s_.zobrazeni.ZobrazHmat(vyrez);
+    s_.pas.ZobrazPas(vyrez);
 }
 
 void ZivotPisne::cmdEndEdit() {

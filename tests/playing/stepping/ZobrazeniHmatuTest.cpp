@@ -170,7 +170,7 @@ TEST_F(ZobrazeniHmatuTest, QuietShowingTakesTheSideFromTheRowAndLeavesTheCursor)
         predtim ? zobrazeni.cmdReadTlak() : zobrazeni.cmdReadTah();
         excel->put("I1", QString(smer));
         excel->selectRange("A1");
-        EXPECT_EQ(zobrazeni.ZobrazHmatPotichu(), smerMechu(smer));
+        EXPECT_EQ(zobrazeni.ZobrazHmatPotichu(SongReader(pisen).kolemKurzoru()), smerMechu(smer));
         EXPECT_EQ(zobrazeni.zobrazenTlak(), potom) << smer;
         EXPECT_EQ(diskant.stav(9), potom ? StavKnofliku::Tlak : StavKnofliku::Tah);
         EXPECT_EQ(excel->activeAddress(), "$A$1");
@@ -182,7 +182,7 @@ TEST_F(ZobrazeniHmatuTest, QuietShowingTellsAFaultyFingeringInsteadOfABox) {
     for (auto it = zaznamy.cbegin(); it != zaznamy.cend(); ++it) {
         prstoklady.clear();
         excel->put("V1", it.key());
-        zobrazeni.ZobrazHmatPotichu();
+        zobrazeni.ZobrazHmatPotichu(SongReader(pisen).kolemKurzoru());
         EXPECT_EQ(!prstoklady.isEmpty(), it.value()) << it.key().toStdString();
         EXPECT_EQ(panel.upozorneni.contains("Prstoklad"), !it.value()) << it.key().toStdString();
     }
