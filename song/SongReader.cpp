@@ -3,10 +3,13 @@
 #include "spreadsheet/Address.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace zvonika {
 
 namespace {
+
+constexpr int radkuNaraz = 512; ///< hardly any song is longer
 
 /// A row of the sheet as a block read of `sloupce::hmat` brings it.
 class Bunky {
@@ -52,6 +55,19 @@ QVector<Grip> SongReader::gripy(int prvni, int pocet) const {
     const CellBlock blok = pisen_.excel().readBlock(adresa(sloupce::hmat, prvni, posledni));
     std::transform(blok.cbegin(), blok.cend(), gripy.begin(), gripZBunek);
     return gripy;
+}
+
+QVector<Grip> SongReader::vsechnyHmaty() const {
+    QVector<Grip> pisen;
+    bool konec = false;
+    for (int prvni = 1; !konec && prvni <= lastRow; prvni += radkuNaraz) {
+        const QVector<Grip> hmaty = gripy(prvni, radkuNaraz);
+        const auto za =
+            std::find_if(hmaty.cbegin(), hmaty.cend(), [](const Grip& hmat) { return hmat.tony.isEmpty(); });
+        std::copy(hmaty.cbegin(), za, std::back_inserter(pisen));
+        konec = za != hmaty.cend();
+    }
+    return pisen;
 }
 
 VyrezPisne SongReader::kolemKurzoru() const {

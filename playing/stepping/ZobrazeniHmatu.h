@@ -58,7 +58,6 @@ public:
     /// The grip of the current row on the side of `zobrazenTlak`. What it cannot show (foreign tones, unknown
     /// basses, what follows an empty cell) stands in `panel.upozorneni`, which it always sets.
     void ZobrazHmat(const VyrezPisne& vyrez);
-    void ZobrazHmat() { ZobrazHmat(list_.kolemKurzoru()); }
     /// Pull side, then the cursor to column B.
     void cmdReadTah(const VyrezPisne& vyrez) { ukazNaStrane(false, vyrez); }
     void cmdReadTah() { cmdReadTah(list_.kolemKurzoru()); }

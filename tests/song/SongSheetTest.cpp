@@ -106,6 +106,31 @@ TEST_F(SongSheetTest, RowsBeyondTheEdgeOfTheSheetAreEmpty) {
     EXPECT_TRUE(hmaty[2].prazdny());
 }
 
+// The song as one list is what export and practice start from; the player's commands go by the cursor.
+TEST_F(SongSheetTest, TheWholeSongEndsBeforeTheFirstRowWithoutATone) {
+    const struct {
+        const char* popis;
+        int hmatu;         ///< rows with a tone from row 1 on
+        const char* bunka; ///< what stands below besides
+        int bloku;
+    } radky[] = {{"an empty sheet", 0, "A1", 1},           {"one grip", 1, "A2", 1},
+                 {"basses alone end it", 3, "M4", 1},      {"nor do grips behind a gap count", 4, "B6", 1},
+                 {"a tone behind an empty B", 4, "C5", 1}, {"longer than one read", 700, "A701", 2}};
+    for (const auto& [popis, hmatu, bunka, bloku] : radky) {
+        SCOPED_TRACE(popis);
+        excel->addWorkbook();
+        for (int radek = 1; radek <= hmatu; ++radek)
+            excel->put(QStringLiteral("B%1").arg(radek), QStringLiteral("t%1").arg(radek));
+        excel->put(bunka, "něco");
+        const int predtim = excel->calls("readBlock");
+        const QVector<Grip> pisen = list.vsechnyHmaty();
+        ASSERT_EQ(pisen.size(), hmatu);
+        EXPECT_EQ(pisen.isEmpty() ? QString() : pisen.last().tony.join(u' '),
+                  excel->text(QStringLiteral("B%1").arg(qMax(1, hmatu))));
+        EXPECT_EQ(excel->calls("readBlock") - predtim, bloku);
+    }
+}
+
 TEST_F(SongSheetTest, CursorGoesToColumnBOfItsRow) {
     excel->selectRange("F7");
     list.VyberBunkuB();
