@@ -305,8 +305,17 @@ TEST_F(KonverzeTest, AFailureInTheRunLeavesTheDialogUsable) {
     EXPECT_THROW(preved("G dur"), AutomationError);
     EXPECT_FALSE(stav.bezi || stav.zavreno);
     EXPECT_TRUE(stav.selhala);
+    konverze.cmdVyberPisen(); // cancelled
+    EXPECT_TRUE(stav.selhala);
     konverze.cmdGo(); // the half-converted copy is not converted once more
     EXPECT_EQ(disk.size(), 2u);
+    excel->fileChoice = soubor("Bez tóniny.xls", {"B=c1,"});
+    dialogs.expect("Nevhodný soubor.", "");
+    konverze.cmdVyberPisen();
+    EXPECT_TRUE(stav.selhala);
+    excel->fileChoice = soubor("Valčík.xls", {tah});
+    konverze.cmdVyberPisen();
+    EXPECT_FALSE(stav.selhala);
     konverze.cmdKonec();
     EXPECT_TRUE(stav.zavreno);
     excel->userClosesWorkbook();
