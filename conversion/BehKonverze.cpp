@@ -1,7 +1,7 @@
 #include "conversion/BehKonverze.h"
 
 #include "spreadsheet/Address.h"
-#include "theory/Tonavox12.h"
+#include "theory/NazvyTonu.h"
 
 namespace zvonika {
 
@@ -13,9 +13,7 @@ bool jeSmer(const CellValue& hodnota) {
 }
 
 bool jeTonNastroje(const QString& ton) {
-    Tonavox12 model;
-    model.DejCisloTonu(ToneName(ton));
-    return model.cisloTonu().jeVRozsahu();
+    return cisloTonu(ToneName(ton)).jeVRozsahu();
 }
 
 } // namespace

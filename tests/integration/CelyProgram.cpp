@@ -65,8 +65,14 @@ CelyProgram::CelyProgram()
 CelyProgram::~CelyProgram() = default;
 
 void CelyProgram::spust() {
-    program = std::make_unique<Program>(
-        Prostredi{dialogs, nastaveni, drive, shell, [this] { return novaTabulka(); }, hodiny, media});
+    program = std::make_unique<Program>(Prostredi{
+        dialogs,
+        nastaveni,
+        drive,
+        shell,
+        {{{Tabulka::Vestavena, nabidkaVestavene, [this] { return novaTabulka(); }}}, Tabulka::Vestavena},
+        hodiny,
+        media});
     program->Main();
     program->okno().resize(1000, 720);
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&program->okno()));
