@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <optional>
+#include <utility>
 
 namespace zvonika {
 
@@ -44,7 +45,8 @@ private:
     std::optional<KonecBehu> posunVpravo();
     bool lzePreskocit() const;
     void zaznamenejZtratu(const CellValue& puvodni, const QString& novy);
-    SpreadsheetApplication& excel() const { return o_.pisen.excel(); }
+    SpreadsheetApplication& excel() { return o_.pisen.excel(); }
+    const SpreadsheetApplication& excel() const { return std::as_const(o_.pisen).excel(); }
 
     Okoli o_;
     QString cilova_;

@@ -48,8 +48,7 @@ Konverze::Konverze(Pisen& pisen, Dialogs& dialogs, Drive& drive, StavKonverze& s
 void Konverze::cmdVyberPisen() {
     if (stav_.bezi) return;
     const Obsluha obsluha(stav_);
-    zdroj_.vyber();
-    stav_.selhala = false;
+    if (zdroj_.vyber()) stav_.selhala = false;
 }
 
 void Konverze::cmdGo() {

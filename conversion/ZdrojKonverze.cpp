@@ -11,16 +11,16 @@ void ZdrojKonverze::prevezmi() {
     if (stav_.lzeKonvertovat) ukaz(stupnice);
 }
 
-void ZdrojKonverze::vyber() {
+bool ZdrojKonverze::vyber() {
     SpreadsheetApplication& excel = pisen_.excel();
     const auto soubor = excel.getOpenFilename(
         QStringLiteral("Excel Files,*.xls"), QStringLiteral("Vyberte písničku, kterou chcete konvertovat !"));
-    if (!soubor) return;
+    if (!soubor) return false;
     excel.openWorkbook(*soubor);
     pisen_.aktualniPisen = excel.activeWorkbookName();
     if (!bunkaW1().isEmpty()) {
         ukaz(konverze_.ZjistiZapsaneLadeni(pisen_.aktualniPisen));
-        return;
+        return true;
     }
     dialogs_.message(
         {QStringLiteral("Nevhodný soubor."),
@@ -29,6 +29,7 @@ void ZdrojKonverze::vyber() {
              "provést. Vyberte jinou píseň.\nPokročilí uživatelé mohou zapsat ladění do sloupce W."),
          Icon::Critical});
     ulozAZavri();
+    return false;
 }
 
 void ZdrojKonverze::vrat() {

@@ -14,8 +14,9 @@ public:
 
     /// Takes the current song, if one is open.
     void prevezmi();
-    /// Lets the user choose a file. One without a written key is refused and closed again.
-    void vyber();
+    /// Lets the user choose a file. One without a written key is refused and closed again. True when another
+    /// song is there to be converted.
+    bool vyber();
     /// Saves what is the current song now. One that was chosen here is closed, and the current song is what
     /// it was before.
     void vrat();

@@ -18,7 +18,7 @@ const VolbyNahrady jednou{Qt::CaseInsensitive, 1, 1};
 clsKonverze::clsKonverze(Pisen& pisen, Dialogs& dialogs, Drive& drive, std::function<void()> zpracujZpravy)
     : pisen_(pisen), dialogs_(dialogs), drive_(drive), zpracujZpravy_(std::move(zpracujZpravy)) {}
 
-QString clsKonverze::bezMezery(const QString& stupnice) const {
+QString clsKonverze::bezMezery(const QString& stupnice) {
     int provedeno = 0;
     return NahradText(stupnice, QStringLiteral(" "), {}, jednou, zpracujZpravy_, provedeno);
 }

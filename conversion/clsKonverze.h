@@ -45,7 +45,7 @@ public:
     const QString& chybaTabulky() const { return tabulka_.chyba(); }
 
 private:
-    QString bezMezery(const QString& stupnice) const;
+    QString bezMezery(const QString& stupnice);
     std::optional<QString> najdiTon(const QString& zdroj, const QString& cil, const QString& ton);
     bool ExistujeSlozka(const QString& cesta) const;
     void zalozSlozku();

@@ -1,87 +1,52 @@
 #include "song/SongSheet.h"
 
-#include "spreadsheet/Address.h"
-
-#include <algorithm>
-
 namespace zvonika {
 
-namespace {
-
-/// A row of the sheet as a block read of `sloupce::hmat` brings it.
-class Bunky {
-public:
-    explicit Bunky(const QVector<CellValue>& radek) : radek_(radek) {}
-
-    QString text(int sloupec) const { return cellText(bunka(sloupec)); }
-    QStringList textyDoPrvniPrazdne(const Sloupce& sloupce) const {
-        QStringList texty;
-        for (int i = sloupce.prvni; i <= sloupce.posledni && !isEmpty(bunka(i)); ++i)
-            texty.append(text(i));
-        return texty;
-    }
-    bool maDalsi(const Sloupce& sloupce, const QStringList& precteno) const {
-        int i = sloupce.prvni + static_cast<int>(precteno.size());
-        while (i <= sloupce.posledni && isEmpty(bunka(i)))
-            ++i;
-        return i <= sloupce.posledni;
-    }
-
-private:
-    const CellValue& bunka(int sloupec) const { return radek_.at(sloupec - sloupce::hmat.prvni); }
-
-    const QVector<CellValue>& radek_;
-};
-
-Grip gripZBunek(const QVector<CellValue>& radek) {
-    const Bunky bunky(radek);
-    Grip grip{bunky.text(sloupce::slabika),   bunky.textyDoPrvniPrazdne(sloupce::tony),
-              bunky.text(sloupce::smer),      bunky.textyDoPrvniPrazdne(sloupce::basy),
-              bunky.text(sloupce::prstoklad), bunky.text(sloupce::tonina)};
-    grip.tonyZaMezerou = bunky.maDalsi(sloupce::tony, grip.tony);
-    grip.basyZaMezerou = bunky.maDalsi(sloupce::basy, grip.basy);
-    return grip;
+int SongSheet::zacniZapis() {
+    pisen_.excel().activateWindow(pisen_.aktualniPisen);
+    return VyberBunkuB();
 }
 
-} // namespace
-
-SpreadsheetApplication& Pisen::excel() const {
-    if (!aplikaceExcel)
-        throw AutomationError(error::objectNotSet, QStringLiteral("Tabulková aplikace není spuštěna."));
-    return *aplikaceExcel;
+void SongSheet::zapis(int radek, const Grip& hmat, std::initializer_list<CastHmatu> casti) {
+    for (const CastHmatu cast : casti)
+        zapisCast(radek, hmat, cast);
 }
 
-bool Pisen::AktivujPisen() const {
-    try {
-        excel().activateWindow(aktualniPisen);
-        return true;
-    } catch (const AutomationError&) {
-        return false;
+void SongSheet::zapisCast(int radek, const Grip& hmat, CastHmatu cast) {
+    switch (cast) {
+    case CastHmatu::Tony:
+        return zapisTexty({sloupce::tony.prvni, sloupce::smer}, radek, hmat.tony);
+    case CastHmatu::Smer:
+        return pisen_.excel().setValue(adresa(sloupce::smer, radek), hmat.smer);
+    case CastHmatu::Basy:
+        return zapisTexty({sloupce::basy.prvni, sloupce::zaBasy}, radek, hmat.basy);
+    case CastHmatu::Prstoklad:
+        return pisen_.excel().setValue(adresa(sloupce::prstoklad, radek), hmat.prstoklad);
+    case CastHmatu::Tonina:
+        return pisen_.excel().setValue(adresa(sloupce::tonina, radek), hmat.tonina);
     }
 }
 
-QVector<Grip> SongSheet::gripy(int prvni, int pocet) const {
-    QVector<Grip> gripy(pocet);
-    const int posledni = std::min(prvni + pocet - 1, lastRow);
-    if (posledni < prvni) return gripy;
-    const CellBlock blok = pisen_.excel().readBlock(adresa(sloupce::hmat, prvni, posledni));
-    std::transform(blok.cbegin(), blok.cend(), gripy.begin(), gripZBunek);
-    return gripy;
+void SongSheet::prepisTony(int radek, const QStringList& tony) {
+    if (tony.isEmpty()) return;
+    const int posledni = sloupce::tony.prvni + static_cast<int>(tony.size()) - 1;
+    zapisTexty({sloupce::tony.prvni, posledni}, radek, tony);
 }
 
-SmerMechu SongSheet::smer(int radek) const {
-    return smerMechu(cellText(pisen_.excel().value(adresa(sloupce::smer, radek))));
+void SongSheet::zapisTexty(const Sloupce& sloupce, int radek, const QStringList& texty) {
+    QVector<CellValue> bunky(sloupce.pocet());
+    for (qsizetype i = 0; i < texty.size(); ++i)
+        bunky[i] = texty.at(i);
+    pisen_.excel().writeBlock(adresa(sloupce, radek), {bunky});
 }
 
-int SongSheet::aktualniRadek() const {
-    return pisen_.excel().activeRow();
+int SongSheet::VyberBunkuB() {
+    const int radek = aktualniRadek();
+    vyberRadek(radek);
+    return radek;
 }
 
-void SongSheet::VyberBunkuB() const {
-    vyberRadek(aktualniRadek());
-}
-
-void SongSheet::vyberRadek(int radek) const {
+void SongSheet::vyberRadek(int radek) {
     pisen_.excel().selectRange(adresa(sloupce::tony.prvni, radek));
 }
 

@@ -1,45 +1,42 @@
 #pragma once
 
-#include "song/Grip.h"
-#include "song/SloupceRadku.h"
-#include "spreadsheet/SpreadsheetApplication.h"
+#include "song/SongReader.h"
 
-#include <QVector>
+#include <initializer_list>
 
 namespace zvonika {
 
-/// The song of the running program: the one application object and the names that every routine shares.
-struct Pisen {
-    std::unique_ptr<SpreadsheetApplication> aplikaceExcel; ///< null before start-up and after shutdown
-    QString aktualniPisen;      ///< file name of the song's workbook; "" when no song is open
-    QString cilovyListNazev;    ///< a second workbook, for bass tables; normally ""
-    QString puvodniCestaExcelu; ///< the application's default folder before the program changed it
-
-    /// The application; AutomationError 91 when there is none.
-    SpreadsheetApplication& excel() const;
-    /// Brings the song's window to the front; false, silently, when it is not open.
-    bool AktivujPisen() const;
-    bool otevrena() const { return !aktualniPisen.isEmpty(); }
+/// Parts of a grip row as they are written, each in one call to the application.
+enum class CastHmatu {
+    Tony,      ///< cells left over become empty, and so does the direction
+    Smer,      ///< the text as it stands in the grip
+    Basy,      ///< cells left over become empty, and so does the one behind them
+    Prstoklad, ///< empty or not
+    Tonina     ///< empty or not
 };
 
-/// The song's rows in their fixed layout, read and written through the application's active sheet.
-/// Rows count from 1. Every call may throw AutomationError.
-class SongSheet {
+/// The song's rows, read and written through the application's active sheet, and the cursor that goes over
+/// them. Every call may throw AutomationError; what was written before stays then.
+class SongSheet : public SongReader {
 public:
-    explicit SongSheet(const Pisen& pisen) : pisen_(pisen) {}
+    explicit SongSheet(Pisen& pisen) : SongReader(pisen), pisen_(pisen) {}
 
-    /// `pocet` consecutive rows from `prvni` in one call to the application; rows beyond the edge of the
-    /// sheet are empty grips.
-    QVector<Grip> gripy(int prvni, int pocet) const;
+    /// Brings the song's window to the front, selects column B of its current row and tells which that is.
+    int zacniZapis();
+    /// Writes these parts of the grip, in this order. Tones and basses are seven at most.
+    void zapis(int radek, const Grip& hmat, std::initializer_list<CastHmatu> casti);
+    /// Writes tones from the first one's cell on and leaves the cells behind them as they are.
+    void prepisTony(int radek, const QStringList& tony);
 
-    SmerMechu smer(int radek) const; ///< the row's direction alone
-    int aktualniRadek() const;
-    /// Selects column B of the active cell's row.
-    void VyberBunkuB() const;
-    void vyberRadek(int radek) const; ///< column B of that row
+    /// Selects column B of the active cell's row and tells which that is.
+    int VyberBunkuB();
+    void vyberRadek(int radek); ///< column B of that row
 
 private:
-    const Pisen& pisen_;
+    void zapisCast(int radek, const Grip& hmat, CastHmatu cast);
+    void zapisTexty(const Sloupce& sloupce, int radek, const QStringList& texty);
+
+    Pisen& pisen_;
 };
 
 } // namespace zvonika

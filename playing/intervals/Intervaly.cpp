@@ -102,9 +102,9 @@ void Intervaly::cmdIntervalOdNejnizsiho() {
         return;
     }
     okoli_.pisen.excel().activateWindow(okoli_.pisen.aktualniPisen);
-    const SongSheet list(okoli_.pisen);
+    const SongReader list(okoli_.pisen);
     const int radek = list.aktualniRadek();
-    const Grip hmat = list.gripy(radek, 1).constFirst();
+    const Grip hmat = list.grip(radek);
     const CisloTonu ton = nejnizsi(hmat.tony);
     if (ton.jeVRozsahu())
         ukaz(ton, hmat.tonina, okoli_.kroky);

@@ -2,7 +2,7 @@
 
 #include "playing/intervals/ZobrazeniIntervalu.h"
 #include "song/SongPanel.h"
-#include "song/SongSheet.h"
+#include "song/SongReader.h"
 #include "theory/CisloTonu.h"
 #include "theory/Key.h"
 #include "theory/clsNoty.h"
@@ -18,7 +18,7 @@ struct VychodiskoIntervalu;
 
 /// What the interval commands see of the program. Held by reference; all of it outlives them.
 struct OkoliIntervalu {
-    const Pisen& pisen;
+    Pisen& pisen;
     Dialogs& dialogs;
     SongPanel& panel; ///< `upozorneni` tells the result in words, or why there is none
     TrebleBoard& diskant;

@@ -6,12 +6,12 @@
 
 namespace zvonika {
 
-bool ZapisBasu::ZapisBasy(RadekZapisu& radek) {
+void ZapisBasu::ZapisBasy(SongSheet& list, int radek, Grip& hmat) {
     const Jmena jmena = jmenaOznacenych();
-    radek.zapisBasy(jmena.basy);
+    hmat.basy = jmena.basy;
+    list.zapis(radek, hmat, {CastHmatu::Basy});
     if (jmena.prebyva) ohlasPrebytek();
     if (jmena.nekteryBezeJmena) ohlasTabulku();
-    return !jmena.basy.isEmpty();
 }
 
 ZapisBasu::Jmena ZapisBasu::jmenaOznacenych() {

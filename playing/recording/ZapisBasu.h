@@ -3,7 +3,7 @@
 #include "board/BassBoard.h"
 #include "board/BassTable.h"
 #include "platform/Dialogs.h"
-#include "playing/recording/RadekZapisu.h"
+#include "song/SongSheet.h"
 
 namespace zvonika {
 
@@ -14,8 +14,9 @@ public:
         : basy_(basy), tabulka_(tabulka), dialogs_(dialogs) {}
 
     /// Writes the names of the marked basses by rising number, at most seven; the eighth gets its message. A
-    /// marked bass that the table does not name is left out, with a message. True when a bass was written.
-    bool ZapisBasy(RadekZapisu& radek);
+    /// marked bass that the table does not name is left out, with a message. What is written stands in
+    /// `hmat`.
+    void ZapisBasy(SongSheet& list, int radek, Grip& hmat);
 
 private:
     struct Jmena {

@@ -5,6 +5,12 @@
 
 namespace zvonika {
 
+QString OkoliZapisu::toninaRadku() const {
+    // The button's idle caption is "Vyberte tóninu": a row recorded without a key says so.
+    const QString& cmdStupnice = tonina.stupnice().text();
+    return cmdStupnice == QStringLiteral("Vyberte stupnici") ? QString() : cmdStupnice;
+}
+
 void ZapisHmatu::cmdTah() {
     mechTlak_ = false;
     ZapisHmat();
@@ -16,27 +22,29 @@ void ZapisHmatu::cmdTlak() {
 }
 
 void ZapisHmatu::ZapisHmat() {
-    RadekZapisu radek(okoli_.pisen);
-    const bool tony = zapisTony(radek);
-    const bool basy = okoli_.basy.ZapisBasy(radek);
-    if (!tony && !basy) return; // an empty grip only empties its row
+    SongSheet list(okoli_.pisen);
+    const int radek = list.zacniZapis();
+    Grip hmat;
+    zapisTony(list, radek, hmat);
+    okoli_.basy.ZapisBasy(list, radek, hmat);
+    if (hmat.prazdny()) return; // an empty grip only empties its row
 
-    radek.zapisSmer(mechTlak_ ? SmerMechu::Tlak : SmerMechu::Tah);
-    radek.zapisPrstoklad(okoli_.prstoklad.prstoklad());
+    hmat.smer = textSmeru(mechTlak_ ? SmerMechu::Tlak : SmerMechu::Tah);
+    hmat.prstoklad = okoli_.prstoklad.prstoklad();
+    list.zapis(radek, hmat, {CastHmatu::Smer, CastHmatu::Prstoklad});
     okoli_.prstoklad.odeber();
-    radek.vyberBunkuB();
+    list.vyberRadek(radek);
     okoli_.poZapisu.naDalsiRadek();
     okoli_.poZapisu.zapocitejHmat();
     okoli_.poZapisu.obnovOkno();
 }
 
-bool ZapisHmatu::zapisTony(RadekZapisu& radek) {
+void ZapisHmatu::zapisTony(SongSheet& list, int radek, Grip& hmat) {
     bool prebyva = false;
-    const QStringList tony = oznaceneTony(prebyva);
-    radek.zapisTony(tony);
-    radek.zapisToninu(okoli_.tonina.stupnice().text());
+    hmat.tony = oznaceneTony(prebyva);
+    hmat.tonina = okoli_.toninaRadku();
+    list.zapis(radek, hmat, {CastHmatu::Tony, CastHmatu::Tonina});
     if (prebyva) ohlasPrebytek();
-    return !tony.isEmpty();
 }
 
 QStringList ZapisHmatu::oznaceneTony(bool& prebyva) {

@@ -13,12 +13,15 @@ namespace zvonika {
 
 /// What both ways of recording share. Held by reference; all of it outlives them.
 struct OkoliZapisu {
-    const Pisen& pisen;
+    Pisen& pisen;
     Dialogs& dialogs;
     Prstoklad& prstoklad;
     ZapisBasu& basy;
     PoZapisu& poZapisu;
     const Tonina& tonina; ///< the key, caption of `cmdStupnice`
+
+    /// What the row is told of the key: the caption, nothing for "Vyberte stupnici".
+    QString toninaRadku() const;
 };
 
 /// Records the grip that is marked on the board into the current row. May throw AutomationError: what was
@@ -34,7 +37,7 @@ public:
 private:
     void ZapisHmat();
     QStringList oznaceneTony(bool& prebyva);
-    bool zapisTony(RadekZapisu& radek);
+    void zapisTony(SongSheet& list, int radek, Grip& hmat);
     void ohlasPrebytek();
 
     OkoliZapisu okoli_;

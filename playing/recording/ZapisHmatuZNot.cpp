@@ -26,26 +26,29 @@ Message prilisMnohoNot() {
 } // namespace
 
 void ZapisHmatuZNot::ZapisHmatZNot(SmerMechu smer) {
-    RadekZapisu radek(okoli_.pisen);
-    if (!zapisTony(radek)) return;
+    SongSheet list(okoli_.pisen);
+    const int radek = list.zacniZapis();
+    Grip hmat;
+    if (!zapisTony(list, radek, hmat)) return;
 
-    radek.zapisPrstoklad(okoli_.prstoklad.prstoklad());
+    hmat.prstoklad = okoli_.prstoklad.prstoklad();
+    list.zapis(radek, hmat, {CastHmatu::Prstoklad});
     okoli_.prstoklad.odeber();
-    radek.zapisSmer(smer);
-    SeradTonyHmatu(radek);
-    okoli_.basy.ZapisBasy(radek);
-    radek.vyberBunkuB();
+    hmat.smer = textSmeru(smer);
+    list.zapis(radek, hmat, {CastHmatu::Smer});
+    SeradTonyHmatu(list, radek);
+    okoli_.basy.ZapisBasy(list, radek, hmat);
+    list.vyberRadek(radek);
     okoli_.poZapisu.naDalsiRadek();
     okoli_.poZapisu.obnovOkno();
 }
 
-bool ZapisHmatuZNot::zapisTony(RadekZapisu& radek) {
-    QStringList tony;
+bool ZapisHmatuZNot::zapisTony(SongSheet& list, int radek, Grip& hmat) {
     bool platne = true;
     for (int slot = 0; slot < NotovaOsnova::pocetNot && platne; ++slot)
-        if (osnova_.nota(slot)) platne = pridejTon(tony, slot);
-    radek.zapisTony(tony);
-    radek.zapisToninu(okoli_.tonina.stupnice().text());
+        if (osnova_.nota(slot)) platne = pridejTon(hmat.tony, slot);
+    hmat.tonina = okoli_.toninaRadku();
+    list.zapis(radek, hmat, {CastHmatu::Tony, CastHmatu::Tonina});
     if (!platne) okoli_.dialogs.message(neplatnaNota());
     return platne;
 }
@@ -60,14 +63,14 @@ bool ZapisHmatuZNot::pridejTon(QStringList& tony, int slot) {
     return true;
 }
 
-void ZapisHmatuZNot::SeradTonyHmatu(RadekZapisu& radek) {
-    QStringList tony = radek.tony();
+void ZapisHmatuZNot::SeradTonyHmatu(SongSheet& list, int radek) {
+    QStringList tony = list.grip(radek).tony;
     const auto niz = [](const QString& a, const QString& b) {
         return cisloTonu(ToneName(a)) < cisloTonu(ToneName(b));
     };
     std::stable_sort(tony.begin(), tony.end(), niz);
     tony.removeIf([](const QString& ton) { return cisloTonu(ToneName(ton)) == CisloTonu::neznamy(); });
-    radek.prepisTony(tony);
+    list.prepisTony(radek, tony);
 }
 
 } // namespace zvonika

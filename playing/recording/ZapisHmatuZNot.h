@@ -18,12 +18,12 @@ public:
     void cmdTlakNoty() { ZapisHmatZNot(SmerMechu::Tlak); }
 
     /// Sorts the tones of the row by their number; names that are no tones are not written back.
-    static void SeradTonyHmatu(RadekZapisu& radek);
+    static void SeradTonyHmatu(SongSheet& list, int radek);
 
 private:
     void ZapisHmatZNot(SmerMechu smer);
     /// False after a note that is no tone.
-    bool zapisTony(RadekZapisu& radek);
+    bool zapisTony(SongSheet& list, int radek, Grip& hmat);
     bool pridejTon(QStringList& tony, int slot);
 
     OkoliZapisu okoli_;

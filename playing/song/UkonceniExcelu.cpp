@@ -38,7 +38,7 @@ bool UkonceniExcelu::pokus(Krok krok, const std::function<void()>& provedeni) {
     }
 }
 
-void UkonceniExcelu::ulozPisen() const {
+void UkonceniExcelu::ulozPisen() {
     if (pisen_.AktivujPisen()) pisen_.excel().saveActiveWorkbook();
 }
 

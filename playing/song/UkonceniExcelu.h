@@ -24,7 +24,7 @@ private:
     enum class Krok { Ulozeni, Ukonceni, VraceniCesty };
 
     bool pokus(Krok krok, const std::function<void()>& provedeni);
-    void ulozPisen() const;
+    void ulozPisen();
     bool ukonciAVratCestu();
     void ohlas(int cislo) const;
 

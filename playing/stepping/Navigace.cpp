@@ -49,32 +49,48 @@ void Navigace::cmdPrvni() {
     uvolniAVyberBunkuB();
     list_.vyberRadek(1);
     ZakazZpet(okoli_.prikazy);
-    zobrazeni_.ZobrazHmat();
-    pas_.ZobrazPas();
+    ukazOdKurzoru();
 }
 
 void Navigace::cmdPredchozi() {
-    uvolniAVyberBunkuB();
-    if (okoli_.pisen.excel().activeAddress() == prvniBunka) {
-        ZakazZpet(okoli_.prikazy);
-        return;
-    }
-    okoli_.pisen.excel().moveCursor(-1, 0);
-    zobrazeni_.ZobrazHmat();
-    pas_.posun(-1);
+    predchozi();
 }
 
 void Navigace::cmdDalsi() {
+    dalsi();
+}
+
+VyrezPisne Navigace::predchozi() {
     uvolniAVyberBunkuB();
-    okoli_.pisen.excel().moveCursor(1, 0);
-    zobrazeni_.ZobrazHmat();
+    if (okoli_.pisen.excel().activeAddress() != prvniBunka) return krok(-1);
+    ZakazZpet(okoli_.prikazy);
+    return list_.kolemKurzoru();
+}
+
+VyrezPisne Navigace::dalsi() {
+    uvolniAVyberBunkuB();
+    const VyrezPisne vyrez = krok(1);
     PovolZpet(okoli_.prikazy);
-    pas_.posun(1);
+    return vyrez;
+}
+
+/// The rows that it has read and shown are given to who has more to do with them.
+VyrezPisne Navigace::krok(int oKolik) {
+    okoli_.pisen.excel().moveCursor(oKolik, 0);
+    const VyrezPisne vyrez = pas_.ctiPoPosunu(oKolik);
+    zobrazeni_.ZobrazHmat(vyrez);
+    pas_.posun(oKolik, vyrez);
+    return vyrez;
+}
+
+void Navigace::ukazOdKurzoru() {
+    const VyrezPisne vyrez = pas_.ctiOdKurzoru();
+    zobrazeni_.ZobrazHmat(vyrez);
+    pas_.ZobrazPas(vyrez);
 }
 
 void Navigace::cmdPosledni() {
-    uvolniAVyberBunkuB();
-    const int puvodniRadek = list_.aktualniRadek();
+    const int puvodniRadek = uvolniAVyberBunkuB();
     SpreadsheetApplication& excel = okoli_.pisen.excel();
     excel.selectRange(adresaSloupce(sloupce::tony.prvni, radkuHledani));
     if (isEmpty(excel.activeCellValue())) {
@@ -86,8 +102,7 @@ void Navigace::cmdPosledni() {
         return;
     }
     excel.moveCursor(-1, 0);
-    zobrazeni_.ZobrazHmat();
-    pas_.ZobrazPas();
+    ukazOdKurzoru();
     if (excel.activeAddress() == prvniBunka)
         ZakazZpet(okoli_.prikazy);
     else
@@ -97,14 +112,14 @@ void Navigace::cmdPosledni() {
 void Navigace::zustanNaPrvnim() {
     list_.vyberRadek(1);
     ZakazZpet(okoli_.prikazy);
-    zobrazeni_.ZobrazTexty();
-    pas_.ZobrazPas();
+    const VyrezPisne vyrez = pas_.ctiOdKurzoru();
+    zobrazeni_.ZobrazTexty(vyrez);
+    pas_.ZobrazPas(vyrez);
 }
 
 void Navigace::zustanNaRadku(int radek) {
     list_.vyberRadek(radek);
-    zobrazeni_.ZobrazHmat();
-    pas_.ZobrazPas();
+    ukazOdKurzoru();
     okoli_.panel.upozorneni =
         QStringLiteral("Poslední hmat se hledá jen v prvních 500 řádcích a ty jsou všechny plné.");
     okoli_.panel.oznamZmenu();
@@ -112,47 +127,41 @@ void Navigace::zustanNaRadku(int radek) {
 
 void Navigace::cmdPredTah() {
     const ZobrazeniHmatu::JedenPrikaz prikaz(zobrazeni_);
-    cmdPredchozi();
-    cmdReadTah();
+    zobrazeni_.cmdReadTah(predchozi());
 }
 
 void Navigace::cmdPredTlak() {
     const ZobrazeniHmatu::JedenPrikaz prikaz(zobrazeni_);
-    cmdPredchozi();
-    cmdReadTlak();
+    zobrazeni_.cmdReadTlak(predchozi());
 }
 
 void Navigace::cmdDalsiTah() {
     const ZobrazeniHmatu::JedenPrikaz prikaz(zobrazeni_);
-    cmdDalsi();
-    cmdReadTah();
+    zobrazeni_.cmdReadTah(dalsi());
 }
 
 void Navigace::cmdDalsiTlak() {
     const ZobrazeniHmatu::JedenPrikaz prikaz(zobrazeni_);
-    cmdDalsi();
-    cmdReadTlak();
+    zobrazeni_.cmdReadTlak(dalsi());
 }
 
 void Navigace::cmdJakDal() {
     const ZobrazeniHmatu::JedenPrikaz prikaz(zobrazeni_);
-    cmdDalsi();
-    UrciSmerMechu();
+    UrciSmerMechu(dalsi());
 }
 
 void Navigace::cmdJakDalZpet() {
     const ZobrazeniHmatu::JedenPrikaz prikaz(zobrazeni_);
-    cmdPredchozi();
-    UrciSmerMechu();
+    UrciSmerMechu(predchozi());
 }
 
-void Navigace::UrciSmerMechu() {
-    const SmerMechu smer = list_.smer(list_.aktualniRadek());
+void Navigace::UrciSmerMechu(const VyrezPisne& vyrez) {
+    const SmerMechu smer = smerMechu(vyrez.hmat().smer);
     if (smer == SmerMechu::Neuveden) {
         ohlasChybejiciSmer();
         return;
     }
-    smer == SmerMechu::Tlak ? cmdReadTlak() : cmdReadTah();
+    smer == SmerMechu::Tlak ? zobrazeni_.cmdReadTlak(vyrez) : zobrazeni_.cmdReadTah(vyrez);
     obarvi(barvaSmeru(smer));
 }
 
@@ -187,16 +196,17 @@ void Navigace::sledujList() {
 }
 
 void Navigace::sledujRadek() {
-    const SmerMechu smer = zobrazeni_.ZobrazHmatPotichu();
-    pas_.obnov();
-    if (list_.aktualniRadek() > 1) PovolZpet(okoli_.prikazy);
+    const VyrezPisne vyrez = pas_.ctiPoZmene();
+    const SmerMechu smer = zobrazeni_.ZobrazHmatPotichu(vyrez);
+    pas_.obnov(vyrez);
+    if (vyrez.radek > 1) PovolZpet(okoli_.prikazy);
     obarvi(barvaSmeru(smer));
 }
 
-void Navigace::uvolniAVyberBunkuB() {
+int Navigace::uvolniAVyberBunkuB() {
     uvolniVse_();
     zobrazeni_.odeberHmat();
-    list_.VyberBunkuB();
+    return list_.VyberBunkuB();
 }
 
 void Navigace::obarvi(BarvaKroku barva) {

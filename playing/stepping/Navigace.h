@@ -41,9 +41,11 @@ public:
     void cmdJakDal();
     void cmdJakDalZpet();
 
-    /// Shows the current row on the side of its column I and colours the stepping buttons. A missing
+    /// Shows the cursor's row on the side of its column I and colours the stepping buttons. A missing
     /// direction stops automatic stepping with the message "Neprovedeno.".
-    void UrciSmerMechu();
+    void UrciSmerMechu(const VyrezPisne& vyrez);
+    /// Shows the cursor's row on the side that is shown already, and the strip from it on.
+    void ukazOdKurzoru();
 
     /// The user has moved the cursor or edited cells in the spreadsheet's window: everything that is shown of
     /// the song follows, without boxes and without touching cursor or marks. Lets no AutomationError out;
@@ -51,7 +53,10 @@ public:
     void sledujKurzor();
 
 private:
-    void uvolniAVyberBunkuB();
+    int uvolniAVyberBunkuB();
+    VyrezPisne predchozi();
+    VyrezPisne dalsi();
+    VyrezPisne krok(int oKolik);
     void zustanNaPrvnim();
     void zustanNaRadku(int radek);
     void ohlasChybejiciSmer();

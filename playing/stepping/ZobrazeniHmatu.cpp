@@ -7,15 +7,11 @@
 #include "song/ZobrazovaciOsnova.h"
 #include "theory/NazvyTonu.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace zvonika {
 
 namespace {
-
-// Syllables shown on each side of the current row.
-constexpr int sousedu = 2;
 
 template <typename Stav>
 bool zHmatu(Stav stav) {
@@ -30,15 +26,14 @@ Stav stavPodleZnacky(bool oznacen) {
 
 } // namespace
 
-ZobrazeniHmatu::ZobrazeniHmatu(const Pisen& pisen, const PlochyHmatu& plochy, UkazPrstoklad ukazPrstoklad)
+ZobrazeniHmatu::ZobrazeniHmatu(Pisen& pisen, const PlochyHmatu& plochy, UkazPrstoklad ukazPrstoklad)
     : list_(pisen), plochy_(plochy), ukazPrstoklad_(std::move(ukazPrstoklad)) {}
 
-void ZobrazeniHmatu::ZobrazHmat() {
-    const OkoliRadku okoli = prectiOkoli();
-    const UkazanyPrstoklad prstoklad{okoli.radek, okoli.hmat().prstoklad};
+void ZobrazeniHmatu::ZobrazHmat(const VyrezPisne& vyrez) {
+    const UkazanyPrstoklad prstoklad{vyrez.radek, vyrez.hmat().prstoklad};
     const bool ukazanUz = ukazanyPrstoklad_ == prstoklad;
     if (!ukazanUz) odeberPrstoklad();
-    ukazHmat(okoli);
+    ukazHmat(vyrez);
     plochy_.panel.oznamZmenu();
     if (ukazanUz) return;
     if (vPrikazu_) ukazanyPrstoklad_ = prstoklad;
@@ -46,26 +41,19 @@ void ZobrazeniHmatu::ZobrazHmat() {
     ukazPrstoklad_(prstoklad.zaznam);
 }
 
-void ZobrazeniHmatu::cmdReadTah() {
-    zobrazenTlak_ = false;
-    ZobrazHmat();
+void ZobrazeniHmatu::ukazNaStrane(bool tlak, const VyrezPisne& vyrez) {
+    zobrazenTlak_ = tlak;
+    ZobrazHmat(vyrez);
     list_.VyberBunkuB();
 }
 
-void ZobrazeniHmatu::cmdReadTlak() {
-    zobrazenTlak_ = true;
-    ZobrazHmat();
-    list_.VyberBunkuB();
-}
-
-SmerMechu ZobrazeniHmatu::ZobrazHmatPotichu() {
-    const OkoliRadku okoli = prectiOkoli();
-    const SmerMechu smer = smerMechu(okoli.hmat().smer);
+SmerMechu ZobrazeniHmatu::ZobrazHmatPotichu(const VyrezPisne& vyrez) {
+    const SmerMechu smer = smerMechu(vyrez.hmat().smer);
     if (smer != SmerMechu::Neuveden) zobrazenTlak_ = smer == SmerMechu::Tlak;
     odeberPrstoklad();
-    ukazHmat(okoli);
-    if (ZobrazeniPrstokladu::jePlatny(okoli.hmat().prstoklad))
-        ukazPrstoklad_(okoli.hmat().prstoklad);
+    ukazHmat(vyrez);
+    if (ZobrazeniPrstokladu::jePlatny(vyrez.hmat().prstoklad))
+        ukazPrstoklad_(vyrez.hmat().prstoklad);
     else
         plochy_.panel.upozorneni += QStringLiteral(" Prstoklad ve sloupci V není platný.");
     plochy_.panel.upozorneni = plochy_.panel.upozorneni.trimmed();
@@ -73,8 +61,8 @@ SmerMechu ZobrazeniHmatu::ZobrazHmatPotichu() {
     return smer;
 }
 
-void ZobrazeniHmatu::ZobrazTexty() {
-    ukazTexty(prectiOkoli());
+void ZobrazeniHmatu::ZobrazTexty(const VyrezPisne& vyrez) {
+    ukazTexty(vyrez);
     plochy_.panel.oznamZmenu();
 }
 
@@ -89,37 +77,27 @@ void ZobrazeniHmatu::odeberPrstoklad() {
     ukazanyPrstoklad_.reset();
 }
 
-ZobrazeniHmatu::OkoliRadku ZobrazeniHmatu::prectiOkoli() const {
-    OkoliRadku okoli;
-    okoli.radek = list_.aktualniRadek();
-    const int prvni = std::max(1, okoli.radek - sousedu);
-    okoli.index = okoli.radek - prvni;
-    okoli.hmaty = list_.gripy(prvni, okoli.index + 1 + sousedu);
-    return okoli;
-}
-
-void ZobrazeniHmatu::ukazHmat(const OkoliRadku& okoli) {
-    const Grip& hmat = okoli.hmat();
+void ZobrazeniHmatu::ukazHmat(const VyrezPisne& vyrez) {
+    const Grip& hmat = vyrez.hmat();
     uvolniObrazky();
     const QStringList ciziTony = ukazTony(hmat.tony);
     const QStringList ciziBasy = ukazBasy(hmat.basy);
     plochy_.osnova.ukaz(hmat.tony);
-    ukazTexty(okoli);
+    ukazTexty(vyrez);
     plochy_.panel.upozorneni = upozorneni(hmat, ciziTony, ciziBasy);
 }
 
-void ZobrazeniHmatu::ukazTexty(const OkoliRadku& okoli) {
+void ZobrazeniHmatu::ukazTexty(const VyrezPisne& vyrez) {
     SongPanel& panel = plochy_.panel;
-    panel.lblTon = QString::number(okoli.radek);
+    panel.lblTon = QString::number(vyrez.radek);
     for (int i = 0; i < static_cast<int>(panel.lblSlabika.size()); ++i) {
-        const int index = okoli.index - sousedu + i;
-        panel.lblSlabika.at(static_cast<std::size_t>(i)) =
-            index < 0 ? QString() : okoli.hmaty.at(index).slabika;
+        const int radek = vyrez.radek - sousedu + i;
+        panel.lblSlabika.at(static_cast<std::size_t>(i)) = vyrez.hmat(radek).slabika;
     }
     panel.popisyViditelne = true;
-    panel.lblTony = okoli.hmat().tony.join(u' ');
-    panel.lblBasy = okoli.hmat().basy.join(u' ');
-    panel.lblStupnice = okoli.hmat().tonina;
+    panel.lblTony = vyrez.hmat().tony.join(u' ');
+    panel.lblBasy = vyrez.hmat().basy.join(u' ');
+    panel.lblStupnice = vyrez.hmat().tonina;
 }
 
 void ZobrazeniHmatu::uvolniObrazky() {

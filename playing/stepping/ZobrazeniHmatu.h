@@ -25,7 +25,8 @@ struct PlochyHmatu {
 /// Shows the grip of the current row: pull or push pictures of its treble and bass buttons, fingering,
 /// display staff and the text panel. Marks of the grip being recorded and the red piano keys stay as they
 /// are; a marked button that the shown grip lets go shows its red picture again. An interval that is shown
-/// goes. Calls that read the sheet make one block read and may throw AutomationError.
+/// goes. Calls that are not given the rows around the cursor read them, in one block, and may throw
+/// AutomationError.
 class ZobrazeniHmatu {
 public:
     /// Puts the fingering of column V on the buttons, with its own messages.
@@ -49,35 +50,33 @@ public:
         ZobrazeniHmatu& zobrazeni_;
     };
 
-    ZobrazeniHmatu(const Pisen& pisen, const PlochyHmatu& plochy, UkazPrstoklad ukazPrstoklad);
+    ZobrazeniHmatu(Pisen& pisen, const PlochyHmatu& plochy, UkazPrstoklad ukazPrstoklad);
 
     /// True when the board shows the push side.
     bool zobrazenTlak() const { return zobrazenTlak_; }
 
     /// The grip of the current row on the side of `zobrazenTlak`. What it cannot show (foreign tones, unknown
     /// basses, what follows an empty cell) stands in `panel.upozorneni`, which it always sets.
-    void ZobrazHmat();
-    void cmdReadTah();  ///< pull side, then the cursor to column B
-    void cmdReadTlak(); ///< push side, then the cursor to column B
+    void ZobrazHmat(const VyrezPisne& vyrez);
+    /// Pull side, then the cursor to column B.
+    void cmdReadTah(const VyrezPisne& vyrez) { ukazNaStrane(false, vyrez); }
+    void cmdReadTah() { cmdReadTah(list_.kolemKurzoru()); }
+    /// Push side, then the cursor to column B.
+    void cmdReadTlak(const VyrezPisne& vyrez) { ukazNaStrane(true, vyrez); }
+    void cmdReadTlak() { cmdReadTlak(list_.kolemKurzoru()); }
 
     /// The grip of the current row on the side that its column I names (a missing direction keeps the side),
     /// without a box and without moving the cursor; a faulty fingering is told in `panel.upozorneni`. Returns
     /// the direction.
-    SmerMechu ZobrazHmatPotichu();
+    SmerMechu ZobrazHmatPotichu(const VyrezPisne& vyrez);
 
     /// Only the text panel and the counter of the current row.
-    void ZobrazTexty();
+    void ZobrazTexty(const VyrezPisne& vyrez);
+    void ZobrazTexty() { ZobrazTexty(list_.kolemKurzoru()); }
     /// Lets go what is shown of a grip: pictures, finger digits and staff. Does not read the sheet.
     void odeberHmat();
 
 private:
-    struct OkoliRadku {
-        int radek = 1;
-        QVector<Grip> hmaty; ///< the row with its neighbours
-        int index = 0;       ///< of the row in `hmaty`
-        const Grip& hmat() const { return hmaty.at(index); }
-    };
-
     /// A fingering that the running command has put on.
     struct UkazanyPrstoklad {
         int radek = 0;
@@ -85,9 +84,9 @@ private:
         friend bool operator==(const UkazanyPrstoklad&, const UkazanyPrstoklad&) = default;
     };
 
-    OkoliRadku prectiOkoli() const;
-    void ukazHmat(const OkoliRadku& okoli);
-    void ukazTexty(const OkoliRadku& okoli);
+    void ukazNaStrane(bool tlak, const VyrezPisne& vyrez);
+    void ukazHmat(const VyrezPisne& vyrez);
+    void ukazTexty(const VyrezPisne& vyrez);
     void uvolniObrazky();
     void odeberPrstoklad();
     QStringList ukazTony(const QStringList& tony);

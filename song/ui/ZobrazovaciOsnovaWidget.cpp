@@ -16,17 +16,6 @@ constexpr double kraj = 0.5;              ///< staff spaces
 constexpr double beznaSirkaAkordu = 3.4;  ///< staff spaces that a chord has at least
 constexpr double nejvetsiSirkaAkordu = 5; ///< wider chords are drawn smaller
 
-/// The sign that must stand in front of the note when the signature is shown.
-PolohaNoty vedlePredznamenani(PolohaNoty poloha, const Predznamenani& predznamenani) {
-    const Znamenko dane = predznamenani.proPolohu(poloha.jednotky);
-    if (dane == Znamenko::Zadne) return poloha;
-    if (poloha.znamenko == dane)
-        poloha.znamenko = Znamenko::Zadne;
-    else if (poloha.znamenko == Znamenko::Zadne)
-        poloha.znamenko = Znamenko::Odrazka;
-    return poloha;
-}
-
 } // namespace
 
 ZobrazovaciOsnovaWidget::ZobrazovaciOsnovaWidget(ZobrazovaciOsnova& osnova, QWidget* parent)
@@ -37,20 +26,10 @@ ZobrazovaciOsnovaWidget::ZobrazovaciOsnovaWidget(ZobrazovaciOsnova& osnova, QWid
     rozvrhni();
 }
 
-void ZobrazovaciOsnovaWidget::nastavStupnici(const Key& stupnice) {
-    const Predznamenani nove(stupnice);
-    if (nove == predznamenani_) return;
-    predznamenani_ = nove;
-    rozvrhni();
-}
-
 void ZobrazovaciOsnovaWidget::rozvrhni() {
-    QVector<PolohaNoty> polohy = polohyNazvu(osnova_.tony());
-    for (PolohaNoty& poloha : polohy)
-        poloha = vedlePredznamenani(poloha, predznamenani_);
     std::optional<PolohaNoty> interval;
-    if (osnova_.interval()) interval = vedlePredznamenani(osnova_.interval()->poloha, predznamenani_);
-    akord_ = rozvrhniAkord(polohy, interval);
+    if (osnova_.interval()) interval = osnova_.interval()->poloha;
+    akord_ = rozvrhniAkord(polohyNazvu(osnova_.tony()), interval);
     setAccessibleDescription(popisNot());
     update();
 }
@@ -64,8 +43,7 @@ QString ZobrazovaciOsnovaWidget::popisNot() const {
 void ZobrazovaciOsnovaWidget::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     OsnovaPainter::papir(painter, rect());
-    const double hlava =
-        kraj + OsnovaPainter::sirkaKlice + kraj + OsnovaPainter::sirkaPredznamenani(predznamenani_);
+    const double hlava = kraj + OsnovaPainter::sirkaKlice + kraj;
     const double sirkaAkordu = std::clamp(akord_.sirka(), beznaSirkaAkordu, nejvetsiSirkaAkordu);
     const double nejvice = (width() - 4) / (hlava + kraj + sirkaAkordu + kraj);
     const auto mirka =
@@ -73,7 +51,6 @@ void ZobrazovaciOsnovaWidget::paintEvent(QPaintEvent*) {
     OsnovaPainter kresba(painter, mirka);
     kresba.linky(4, width() - 4);
     kresba.klic(2 + kraj * mirka.mezera);
-    kresba.predznamenani(2 + (2 * kraj + OsnovaPainter::sirkaKlice) * mirka.mezera, predznamenani_);
     kresba.akordDoMista(2 + (hlava + kraj / 2) * mirka.mezera, width() - 2 - kraj * mirka.mezera, akord_,
                         barvyOsnovy::inkoust);
 }

@@ -310,8 +310,18 @@ TEST_F(KonverzeTest, AFailureInTheRunLeavesTheDialogUsable) {
     EXPECT_THROW(preved("G dur"), AutomationError);
     EXPECT_FALSE(stav.bezi || stav.zavreno);
     EXPECT_TRUE(stav.selhala);
+    const auto titulek = QStringLiteral("Vyberte písničku, kterou chcete konvertovat !");
+    dialogs.expectFile(titulek, std::nullopt);
+    konverze.cmdVyberPisen();
+    EXPECT_TRUE(stav.selhala);
     konverze.cmdGo(); // the half-converted copy is not converted once more
     EXPECT_EQ(drive.files(pracovniAdresar).filter("Polka").size(), 2);
+    dialogs.expectFile(titulek, soubor("Bez tóniny.xls", {"B=c1,"})).expect("Nevhodný soubor.", "");
+    konverze.cmdVyberPisen();
+    EXPECT_TRUE(stav.selhala);
+    dialogs.expectFile(titulek, soubor("Valčík.xls", {tah}));
+    konverze.cmdVyberPisen();
+    EXPECT_FALSE(stav.selhala);
     konverze.cmdKonec();
     EXPECT_TRUE(stav.zavreno);
     excel->app().closeActiveWorkbook();

@@ -57,6 +57,31 @@ TEST_F(SongSheetTest, ReadsEveryColumnOfARow) {
     EXPECT_EQ(log.calls, QStringList("readBlock")) << "one call for all rows";
 }
 
+TEST_F(SongSheetTest, WritesTheNamedPartsOfAGripAndNothingElse) {
+    const struct {
+        CastHmatu cast;
+        char prvni, posledni; ///< columns that it writes
+        const char* obsah;
+    } radky[] = {{CastHmatu::Tony, 'B', 'I', "t1,t2,,,,,,"},
+                 {CastHmatu::Smer, 'I', 'I', "Tlak"},
+                 {CastHmatu::Basy, 'M', 'T', "b1,,,,,,,"},
+                 {CastHmatu::Prstoklad, 'V', 'V', "l1;1\\"},
+                 {CastHmatu::Tonina, 'W', 'W', "G dur"}};
+    const Grip hmat{"ne", {"t1", "t2"}, "Tlak", {"b1"}, "l1;1\\", "G dur"};
+    for (const auto& [cast, prvni, posledni, obsah] : radky) {
+        excel->setValue("A2:X2", QStringLiteral("starý"));
+        excel->journal.clear();
+        list.zapis(2, hmat, {cast});
+        EXPECT_EQ(excel->journal.size(), 1) << obsah;
+        QStringList psane, ostatni;
+        for (char sloupec = 'A'; sloupec <= 'X'; ++sloupec)
+            (sloupec >= prvni && sloupec <= posledni ? psane : ostatni)
+                << excel->text(sloupec + QString("2"));
+        EXPECT_EQ(psane.join(u','), obsah);
+        EXPECT_EQ(ostatni.count("starý"), ostatni.size()) << obsah;
+    }
+}
+
 TEST_F(SongSheetTest, TonesEndAtTheFirstEmptyCellAndForeignContentsStayText) {
     excel->put("B1", CellValue(5.0));
     excel->put("C1", CellValue(CellError{"#N/A"}));
@@ -79,6 +104,31 @@ TEST_F(SongSheetTest, RowsBeyondTheEdgeOfTheSheetAreEmpty) {
     EXPECT_TRUE(hmaty[0].prazdny());
     EXPECT_EQ(hmaty[1].tony, QStringList{"e,"});
     EXPECT_TRUE(hmaty[2].prazdny());
+}
+
+// The song as one list is what export and practice start from; the player's commands go by the cursor.
+TEST_F(SongSheetTest, TheWholeSongEndsBeforeTheFirstRowWithoutATone) {
+    const struct {
+        const char* popis;
+        int hmatu;         ///< rows with a tone from row 1 on
+        const char* bunka; ///< what stands below besides
+        int bloku;
+    } radky[] = {{"an empty sheet", 0, "A1", 1},           {"one grip", 1, "A2", 1},
+                 {"basses alone end it", 3, "M4", 1},      {"nor do grips behind a gap count", 4, "B6", 1},
+                 {"a tone behind an empty B", 4, "C5", 1}, {"longer than one read", 700, "A701", 2}};
+    for (const auto& [popis, hmatu, bunka, bloku] : radky) {
+        SCOPED_TRACE(popis);
+        excel->addWorkbook();
+        for (int radek = 1; radek <= hmatu; ++radek)
+            excel->put(QStringLiteral("B%1").arg(radek), QStringLiteral("t%1").arg(radek));
+        excel->put(bunka, "něco");
+        const int predtim = excel->calls("readBlock");
+        const QVector<Grip> pisen = list.vsechnyHmaty();
+        ASSERT_EQ(pisen.size(), hmatu);
+        EXPECT_EQ(pisen.isEmpty() ? QString() : pisen.last().tony.join(u' '),
+                  excel->text(QStringLiteral("B%1").arg(qMax(1, hmatu))));
+        EXPECT_EQ(excel->calls("readBlock") - predtim, bloku);
+    }
 }
 
 TEST_F(SongSheetTest, CursorGoesToColumnBOfItsRow) {

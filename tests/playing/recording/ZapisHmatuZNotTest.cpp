@@ -13,8 +13,8 @@ protected:
             ASSERT_TRUE(noty.zakresliNotu(testing::kreslenaNota(ton, tonina.stupnice(), dialogs)));
     }
     void serad() {
-        RadekZapisu radek(pisen);
-        ZapisHmatuZNot::SeradTonyHmatu(radek);
+        SongSheet list(pisen);
+        ZapisHmatuZNot::SeradTonyHmatu(list, list.zacniZapis());
     }
 };
 

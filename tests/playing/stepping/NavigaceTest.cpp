@@ -56,6 +56,33 @@ TEST_F(NavigaceTest, EveryMovementReleasesTheBoardAndShowsTheNewRow) {
     }
 }
 
+TEST_F(NavigaceTest, AMoveReadsOneBlockForBoardAndStrip) {
+    otevriPolku(40);
+    const struct {
+        const char* co;
+        std::function<void()> pohyb;
+        int z, volani;
+    } radky[] = {
+        {"inside the strip", [this] { navigace.cmdDalsi(); }, 5, 5},
+        {"out of the strip", [this] { navigace.cmdDalsi(); }, 16, 5},
+        {"with the direction", [this] { navigace.cmdJakDal(); }, 5, 7},
+        {"with the direction, out", [this] { navigace.cmdJakDal(); }, 16, 7},
+        {"back", [this] { navigace.cmdJakDalZpet(); }, 5, 8},
+        {"to the first", [this] { navigace.cmdPrvni(); }, 5, 5},
+        {"by the user", [this] { navigace.sledujKurzor(); }, 5, 5},
+    };
+    for (const auto& [co, pohyb, z, volani] : radky) {
+        SCOPED_TRACE(co);
+        navigace.cmdPrvni();
+        naRadek(z);
+        pasPisne.obnov();
+        excel->journal.clear();
+        pohyb();
+        EXPECT_EQ(excel->calls("readBlock"), 1);
+        EXPECT_EQ(excel->journal.size(), volani) << excel->journal.join(u' ').toStdString();
+    }
+}
+
 TEST_F(NavigaceTest, EachCommandReportsAFaultyFingeringOnce) {
     otevriPolku(30);
     for (int radek = 1; radek <= 30; ++radek)
@@ -79,7 +106,10 @@ TEST_F(NavigaceTest, AFailedCommandForgetsWhatItReported) {
     otevriPolku(3);
     excel->put("V2", "x9;2\\");
     dialogs.expect("Chyba !", "").expect("Chyba !", "");
-    log.fail("value", 1004); // of column I, behind the grip that is shown already
+    QObject::connect(
+        &panel, &SongPanel::zmeneno, &panel,
+        [this] { log.fail("selectRange", 1004); }, // behind the grip that is shown already
+        Qt::SingleShotConnection);
     EXPECT_EQ(raised([this] { navigace.cmdJakDal(); }), 1004);
     navigace.cmdReadTah();
 }
@@ -97,7 +127,7 @@ TEST_F(NavigaceTest, ReadCommandsShowWithoutReleasing) {
 TEST_F(NavigaceTest, TheTopTakesTwoPresses) {
     otevriPolku(3);
     naRadek(2);
-    pasPisne.ZobrazPas();
+    pasPisne.ZobrazPas(pasPisne.ctiOdKurzoru());
     navigace.cmdPredchozi();
     EXPECT_EQ(bunka(), "$B$1");
     EXPECT_TRUE(zpetPovoleno()) << "arriving on row 1 leaves the commands on";
@@ -131,7 +161,7 @@ TEST_F(NavigaceTest, ThereIsNoStopBehindTheLastGrip) {
 TEST_F(NavigaceTest, SteppingBackOutOfTheStripRedrawsItFromTheCursor) {
     otevriPolku(40);
     naRadek(20);
-    pasPisne.ZobrazPas();
+    pasPisne.ZobrazPas(pasPisne.ctiOdKurzoru());
     navigace.cmdPredchozi();
     EXPECT_EQ(pas.prvniRadekPasu, 19);
     EXPECT_EQ(pas.poziceVPasu, 1);

@@ -15,7 +15,7 @@ TEST_F(PasPisneTest, RedrawsSixteenRowsFromTheCursorInOneRead) {
     otevriPolku(40);
     naRadek(21);
     const int predtim = log.count("readBlock");
-    pasPisne.ZobrazPas();
+    pasPisne.ZobrazPas(pasPisne.ctiOdKurzoru());
     EXPECT_EQ(log.count("readBlock"), predtim + 1);
     EXPECT_EQ(pas.prvniRadekPasu, 21);
     EXPECT_EQ(pas.poziceVPasu, 1);
@@ -30,7 +30,7 @@ TEST_F(PasPisneTest, NotesStopAtTheFirstEmptyGripButSyllablesGoOn) {
     excel->put("B4", QString());
     excel->put("M4", "C"); // basses only: not empty
     excel->put("B6", QString());
-    pasPisne.ZobrazPas();
+    pasPisne.ZobrazPas(pasPisne.ctiOdKurzoru());
     EXPECT_EQ(pas.pozice[3].tony, QStringList());
     EXPECT_EQ(pas.pozice[3].smer, SmerMechu::Tlak);
     EXPECT_EQ(pas.pozice[4].tony, QStringList{"c1,"});
@@ -52,13 +52,13 @@ TEST_F(PasPisneTest, HighlightMovesInsideAndTheStripIsRedrawnOutside) {
                                                             {2, -1, 1, false},
                                                             {1, -1, 1, true}}) {
         naRadek(10);
-        pasPisne.ZobrazPas();
+        pasPisne.ZobrazPas(pasPisne.ctiOdKurzoru());
         pas.poziceVPasu = pozice;
         naRadek(10 + pozice - 1 + oKolik);
         int posunu = 0, kresleni = 0;
         const auto a = QObject::connect(&pas, &Pas::posunuto, [&] { ++posunu; });
         const auto b = QObject::connect(&pas, &Pas::zmeneno, [&] { ++kresleni; });
-        pasPisne.posun(oKolik);
+        pasPisne.posun(oKolik, pasPisne.ctiPoPosunu(oKolik));
         EXPECT_EQ(pas.poziceVPasu, ocekavana);
         EXPECT_EQ(kresleni, kresli ? 1 : 0) << pozice << oKolik;
         EXPECT_EQ(posunu, kresli ? 0 : 1) << pozice << oKolik;

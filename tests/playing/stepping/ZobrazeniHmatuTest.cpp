@@ -23,6 +23,7 @@ protected:
             sloupec[0] = QChar(sloupec[0].unicode() + 1);
         }
     }
+    void ukazRadek() { zobrazeni.ZobrazHmat(SongReader(pisen).kolemKurzoru()); }
     void naRadek(int radek) { excel->selectRange(QStringLiteral("B%1").arg(radek)); }
     QVector<int> knofliky(StavKnofliku stav) const {
         QVector<int> nalezene;
@@ -68,7 +69,7 @@ TEST_F(ZobrazeniHmatuTest, MarksSurviveBehindTheShownGrip) {
     EXPECT_EQ(diskant.stav(20), StavKnofliku::Cerveny) << "not in the grip";
 
     naRadek(2);
-    zobrazeni.ZobrazHmat();
+    ukazRadek();
     EXPECT_EQ(knofliky(StavKnofliku::Cerveny), (QVector<int>{9, 20}));
     EXPECT_EQ(diskant.stav(13), StavKnofliku::Volny);
     EXPECT_EQ(diskant.stavPomocneho(13), StavKnofliku::Volny);
@@ -82,7 +83,7 @@ TEST_F(ZobrazeniHmatuTest, AnotherGripTakesTheIntervalAway) {
     diskant.ukazInterval(13); // covers a picture of the grip
     osnova.ukazInterval({"e1,", {}});
     naRadek(2);
-    zobrazeni.ZobrazHmat();
+    ukazRadek();
     EXPECT_EQ(knofliky(StavKnofliku::Hnedy), QVector<int>());
     EXPECT_EQ(knofliky(StavKnofliku::Tah), QVector<int>());
     EXPECT_EQ(diskant.barvaKlavesy(13), BarvaKlavesy::CaptionText);
@@ -99,7 +100,7 @@ TEST_F(ZobrazeniHmatuTest, ForeignTonesAndBassesAreLeftOutAndTold) {
     EXPECT_TRUE(panel.upozorneni.contains("Xyz"));
     EXPECT_EQ(panel.lblTony, "c1, h9, x");
     naRadek(1);
-    zobrazeni.ZobrazHmat();
+    ukazRadek();
     EXPECT_EQ(panel.upozorneni, "");
 }
 
@@ -115,7 +116,7 @@ TEST_F(ZobrazeniHmatuTest, WhatFollowsAGapIsTold) {
                                            {"T1", QString()}}) {
         const bool bas = bunka[0] > 'I';
         excel->put(bunka, QString(bas ? "C" : "g1,"));
-        zobrazeni.ZobrazHmat();
+        ukazRadek();
         EXPECT_EQ(panel.upozorneni, ocekavano) << bunka;
         EXPECT_EQ(panel.lblTony, bunka == QLatin1String("D1") ? "c1, e1, g1," : "c1, e1,") << bunka;
         excel->put(bunka, "");
@@ -137,7 +138,7 @@ TEST_F(ZobrazeniHmatuTest, TextPanelShowsTheRowAndItsNeighbours) {
                                          {65536, {"", "", "", "", ""}}}) {
         naRadek(radek);
         const int predtim = log.count("readBlock");
-        zobrazeni.ZobrazHmat();
+        ukazRadek();
         EXPECT_EQ(log.count("readBlock"), predtim + 1);
         EXPECT_EQ(panel.lblSlabika, slabiky) << radek;
         EXPECT_EQ(panel.lblTon, QString::number(radek));
@@ -154,7 +155,7 @@ TEST_F(ZobrazeniHmatuTest, TextPanelShowsTheRowAndItsNeighbours) {
 TEST_F(ZobrazeniHmatuTest, FingersReplaceThoseOfTheGripBefore) {
     diskant.nastavPopis(9, "3\r\n");
     excel->put("V1", "l9;1\\");
-    zobrazeni.ZobrazHmat();
+    ukazRadek();
     EXPECT_EQ(diskant.popis(9), "1\r\n");
     EXPECT_EQ(prstoklady, QStringList{"l9;1\\"});
 }
@@ -170,7 +171,7 @@ TEST_F(ZobrazeniHmatuTest, QuietShowingTakesTheSideFromTheRowAndLeavesTheCursor)
         predtim ? zobrazeni.cmdReadTlak() : zobrazeni.cmdReadTah();
         excel->put("I1", QString(smer));
         excel->selectRange("A1");
-        EXPECT_EQ(zobrazeni.ZobrazHmatPotichu(), smerMechu(smer));
+        EXPECT_EQ(zobrazeni.ZobrazHmatPotichu(SongReader(pisen).kolemKurzoru()), smerMechu(smer));
         EXPECT_EQ(zobrazeni.zobrazenTlak(), potom) << smer;
         EXPECT_EQ(diskant.stav(9), potom ? StavKnofliku::Tlak : StavKnofliku::Tah);
         EXPECT_EQ(excel->activeAddress(), "$A$1");
@@ -182,7 +183,7 @@ TEST_F(ZobrazeniHmatuTest, QuietShowingTellsAFaultyFingeringInsteadOfABox) {
     for (auto it = zaznamy.cbegin(); it != zaznamy.cend(); ++it) {
         prstoklady.clear();
         excel->put("V1", it.key());
-        zobrazeni.ZobrazHmatPotichu();
+        zobrazeni.ZobrazHmatPotichu(SongReader(pisen).kolemKurzoru());
         EXPECT_EQ(!prstoklady.isEmpty(), it.value()) << it.key().toStdString();
         EXPECT_EQ(panel.upozorneni.contains("Prstoklad"), !it.value()) << it.key().toStdString();
     }

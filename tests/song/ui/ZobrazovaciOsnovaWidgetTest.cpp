@@ -1,7 +1,6 @@
 #include "song/ui/ZobrazovaciOsnovaWidget.h"
 
 #include "song/ZobrazovaciOsnova.h"
-#include "tests/theory/Vypis.h"
 
 #include <QImage>
 
@@ -9,13 +8,6 @@
 
 namespace zvonika {
 namespace {
-
-QVector<Znamenko> znamenka(const ZobrazovaciOsnovaWidget& widget) {
-    QVector<Znamenko> vysledek;
-    for (const MistoNoty& nota : widget.akord().noty)
-        vysledek.append(nota.poloha.znamenko);
-    return vysledek;
-}
 
 TEST(ZobrazovaciOsnovaWidget, ShowsEveryToneOfAGripAndIgnoresForeignText) {
     ZobrazovaciOsnova osnova;
@@ -28,18 +20,6 @@ TEST(ZobrazovaciOsnovaWidget, ShowsEveryToneOfAGripAndIgnoresForeignText) {
     EXPECT_NE(widget.grab().toImage(), prazdna);
     osnova.vyprazdni();
     EXPECT_EQ(widget.grab().toImage(), prazdna);
-}
-
-TEST(ZobrazovaciOsnovaWidget, WithASignatureNotesCarryOnlyWhatItDoesNotSay) {
-    ZobrazovaciOsnova osnova;
-    ZobrazovaciOsnovaWidget widget(osnova);
-    osnova.ukaz({"c1,", "fis1,", "ais1,", "f2,"});
-    using enum Znamenko;
-    EXPECT_EQ(znamenka(widget), (QVector<Znamenko>{Zadne, Krizek, Krizek, Zadne}));
-    widget.nastavStupnici(Key(QStringLiteral("G dur")));
-    EXPECT_EQ(znamenka(widget), (QVector<Znamenko>{Zadne, Zadne, Krizek, Odrazka}));
-    widget.nastavStupnici(Key::vyberteToninu());
-    EXPECT_EQ(znamenka(widget), (QVector<Znamenko>{Zadne, Krizek, Krizek, Zadne}));
 }
 
 TEST(ZobrazovaciOsnovaWidget, TheNoteOfAnIntervalStandsAmongTheOthersWithAHeadOfItsOwn) {

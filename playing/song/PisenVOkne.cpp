@@ -1,0 +1,97 @@
+#include "playing/song/PisenVOkne.h"
+
+#include "playing/stepping/Listy.h"
+#include "playing/stepping/PrikazyPisne.h"
+
+namespace zvonika {
+
+namespace {
+
+void zavriTise(Pisen& pisen) {
+    try {
+        if (pisen.AktivujPisen()) pisen.excel().closeActiveWorkbook();
+    } catch (const std::exception&) {
+    }
+}
+
+} // namespace
+
+void zavriTise(SpreadsheetApplication& excel) {
+    try {
+        excel.closeActiveWorkbook();
+    } catch (const std::exception&) {
+    }
+}
+
+void PisenVOkne::ukazOtevrenou() {
+    okoli_.panel.titulek = okoli_.pisen.aktualniPisen;
+    PovolPrikazyPisne(okoli_.prikazy);
+    s_.zvuk.NajdiZvuk();
+    list_.VyberBunkuB();
+    NaplnListy();
+    s_.navigace.ukazOdKurzoru();
+}
+
+void PisenVOkne::ukazNovou() {
+    PovolPrikazyPisne(okoli_.prikazy);
+    s_.zvuk.NajdiZvuk();
+    okoli_.panel.titulek = okoli_.pisen.excel().activeWorkbookName();
+    okoli_.panel.listy = QStringList{okoli_.panel.lblLadeni};
+    list_.VyberBunkuB();
+    s_.navigace.ukazOdKurzoru();
+}
+
+void PisenVOkne::ukazRadekListu() {
+    const ZobrazeniHmatu::JedenPrikaz prikaz(s_.zobrazeni);
+    const VyrezPisne vyrez = s_.pas.ctiOdKurzoru();
+    s_.navigace.UrciSmerMechu(vyrez);
+    s_.zobrazeni.ZobrazHmat(vyrez);
+    s_.pas.ZobrazPas(vyrez);
+}
+
+void PisenVOkne::NaplnListy() {
+    SpreadsheetApplication& excel = okoli_.pisen.excel();
+    okoli_.panel.listy = nazvyListu(excel);
+    okoli_.panel.Combo1 = excel.activeSheetName();
+    okoli_.panel.oznamZmenu();
+}
+
+void PisenVOkne::stavBezPisne() {
+    okoli_.pisen.aktualniPisen.clear();
+    ZakazPrikazyPisne(okoli_.prikazy);
+    okoli_.prikazy.povol(QStringLiteral("Combo1"), false);
+    vyprazdniTexty();
+    s_.pas.vyprazdni();
+    povolZahajeniPisne(okoli_.prikazy, true);
+    okoli_.panel.oznamZmenu();
+}
+
+void PisenVOkne::uvolniDesku() {
+    s_.uvolniVse();
+    s_.zobrazeni.odeberHmat();
+}
+
+void PisenVOkne::vyprazdniTexty() {
+    SongPanel& panel = okoli_.panel;
+    panel.barvaKroku = BarvaKroku::Neznamy;
+    panel.titulek = QStringLiteral("Zvonika");
+    panel.lblTon = QStringLiteral("1");
+    panel.lblStupnice.clear();
+    panel.lblSlabika = {};
+    panel.popisyViditelne = false;
+    panel.lblTony.clear();
+    panel.lblBasy.clear();
+    panel.listy.clear();
+    panel.Combo1.clear();
+    panel.lblLadeni = QStringLiteral("Tonavox12");
+    panel.upozorneni.clear();
+}
+
+void PisenVOkne::zahodRozdelanou() {
+    if (!okoli_.pisen.otevrena()) return;
+    zavriTise(okoli_.pisen);
+    stavBezPisne();
+    s_.zobrazeni.odeberHmat();
+}
+
+} // namespace zvonika
