@@ -84,26 +84,38 @@ void ignoreBrokenPipes() {
     if (sigaction(SIGPIPE, nullptr, &present) == 0 && present.sa_handler == SIG_DFL) signal(SIGPIPE, SIG_IGN);
 }
 
-/// The guardian reads from `line` and keeps the profile's lock.
+/// How the guardian begins: it reads from `line` and keeps the profile's lock.
+class GuardianStart {
+public:
+    GuardianStart(int line, int profileLock) {
+        posix_spawn_file_actions_init(&files);
+        posix_spawn_file_actions_adddup2(&files, line, STDIN_FILENO);
+        posix_spawn_file_actions_adddup2(&files, profileLock, lockInGuardian);
+        posix_spawnattr_init(&attributes);
+        sigset_t pipes;
+        sigemptyset(&pipes);
+        sigaddset(&pipes, SIGPIPE);
+        posix_spawnattr_setsigdefault(&attributes, &pipes);
+        // A group of its own: Ctrl+C in a terminal is for the program alone.
+        posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGDEF);
+    }
+    ~GuardianStart() {
+        posix_spawn_file_actions_destroy(&files);
+        posix_spawnattr_destroy(&attributes);
+    }
+    GuardianStart(const GuardianStart&) = delete;
+    GuardianStart& operator=(const GuardianStart&) = delete;
+
+    posix_spawn_file_actions_t files;
+    posix_spawnattr_t attributes;
+};
+
 pid_t spawn(std::vector<std::string> command, int line, int profileLock) {
     auto surroundings = environment();
-    posix_spawn_file_actions_t files;
-    posix_spawn_file_actions_init(&files);
-    posix_spawn_file_actions_adddup2(&files, line, STDIN_FILENO);
-    posix_spawn_file_actions_adddup2(&files, profileLock, lockInGuardian);
-    posix_spawnattr_t attributes;
-    posix_spawnattr_init(&attributes);
-    sigset_t pipes;
-    sigemptyset(&pipes);
-    sigaddset(&pipes, SIGPIPE);
-    posix_spawnattr_setsigdefault(&attributes, &pipes);
-    // A group of its own: Ctrl+C in a terminal is for the program alone.
-    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGDEF);
+    const GuardianStart start(line, profileLock);
     pid_t started = -1;
-    const int failure = posix_spawn(&started, command.front().c_str(), &files, &attributes,
+    const int failure = posix_spawn(&started, command.front().c_str(), &start.files, &start.attributes,
                                     pointers(command).data(), pointers(surroundings).data());
-    posix_spawn_file_actions_destroy(&files);
-    posix_spawnattr_destroy(&attributes);
     if (failure != 0) cannotStart(failure);
     return started;
 }

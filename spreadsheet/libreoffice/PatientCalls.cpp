@@ -34,6 +34,23 @@ public:
     }
 };
 
+void wakeEventLoop() {
+    if (auto* application = QCoreApplication::instance())
+        QMetaObject::invokeMethod(
+            application, [] {}, Qt::QueuedConnection);
+}
+
+std::function<void()> keepingFailure(std::function<void()> call,
+                                     std::shared_ptr<std::exception_ptr> failure) {
+    return [call = std::move(call), failure = std::move(failure)] {
+        try {
+            call();
+        } catch (...) {
+            *failure = std::current_exception();
+        }
+    };
+}
+
 [[noreturn]] void fail(int number, const QString& sentence) {
     throw RuntimeError(number, sentence);
 }
@@ -44,20 +61,8 @@ void PatientCalls::run(milliseconds patience, std::function<void()> call) {
     if (busy_) fail(error::applicationDefined, QStringLiteral("Tabulka ještě dokončuje předchozí příkaz."));
     if (lost_) fail(error::objectNotSet, QStringLiteral("Tabulka neodpovídá."));
     const QScopedValueRollback waiting(busy_, true);
-    auto failure = std::make_shared<std::exception_ptr>();
-    thread_.begin(
-        [call = std::move(call), failure] {
-            try {
-                call();
-            } catch (...) {
-                *failure = std::current_exception();
-            }
-        },
-        [] {
-            if (auto* application = QCoreApplication::instance())
-                QMetaObject::invokeMethod(
-                    application, [] {}, Qt::QueuedConnection);
-        });
+    const auto failure = std::make_shared<std::exception_ptr>();
+    thread_.begin(keepingFailure(std::move(call), failure), wakeEventLoop);
     if (!thread_.waitFor(unfelt)) await(patience);
     if (*failure) std::rethrow_exception(*failure);
 }

@@ -46,6 +46,11 @@ QVector<Setting> fixedSettings() {
     };
 }
 
+QByteArray windowAttributes(const QRect& at) {
+    const QString text = QStringLiteral("%1,%2,%3,%4;1;0,0,0,0;");
+    return text.arg(at.x()).arg(at.y()).arg(at.width()).arg(at.height()).toLatin1();
+}
+
 QVector<Setting> settings(const ProfileSeed& seed) {
     QVector<Setting> all = fixedSettings();
     if (!seed.workFolder.isEmpty())
@@ -54,13 +59,7 @@ QVector<Setting> settings(const ProfileSeed& seed) {
     if (!seed.version.isEmpty())
         all.push_back({"/org.openoffice.Setup/Product", "ooSetupLastVersion", seed.version.toLatin1()});
     if (const QRect& at = seed.window; !at.isEmpty())
-        all.push_back({spreadsheets, "ooSetupFactoryWindowAttributes",
-                       QStringLiteral("%1,%2,%3,%4;1;0,0,0,0;")
-                           .arg(at.x())
-                           .arg(at.y())
-                           .arg(at.width())
-                           .arg(at.height())
-                           .toLatin1()});
+        all.push_back({spreadsheets, "ooSetupFactoryWindowAttributes", windowAttributes(at)});
     return all;
 }
 

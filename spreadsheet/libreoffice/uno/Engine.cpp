@@ -18,6 +18,13 @@ namespace {
     refuse(cannotOpen(nativePath, reason));
 }
 
+Properties loading(bool hidden, const rtl::Reference<Interaction>& interaction) {
+    return properties(property("Hidden", hidden),
+                      property("MacroExecutionMode", css::document::MacroExecMode::NEVER_EXECUTE),
+                      property("UpdateDocMode", css::document::UpdateDocMode::NO_UPDATE),
+                      property("InteractionHandler", Ref<css::task::XInteractionHandler>(interaction.get())));
+}
+
 } // namespace
 
 Engine::Engine(std::unique_ptr<Connection> connection, CalcObserver& observer)
@@ -30,13 +37,8 @@ Ref<css::lang::XComponent> Engine::load(const QString& url, const QString& nativ
     const rtl::Reference<Interaction> interaction(new Interaction);
     Ref<css::lang::XComponent> document;
     try {
-        document = connection_->desktop()->loadComponentFromURL(
-            toUno(url), rtl::OUString("_blank"), 0,
-            properties(
-                property("Hidden", !visible_),
-                property("MacroExecutionMode", css::document::MacroExecMode::NEVER_EXECUTE),
-                property("UpdateDocMode", css::document::UpdateDocMode::NO_UPDATE),
-                property("InteractionHandler", Ref<css::task::XInteractionHandler>(interaction.get()))));
+        document = connection_->desktop()->loadComponentFromURL(toUno(url), rtl::OUString("_blank"), 0,
+                                                                loading(!visible_, interaction));
     } catch (const css::lang::DisposedException&) {
         throw;
     } catch (const css::uno::Exception&) { // the reason is known from what was asked

@@ -14,7 +14,6 @@ namespace zvonika {
 
 namespace {
 
-using Row = css::uno::Sequence<css::uno::Any>;
 const rtl::OUString numberFormat("NumberFormat");
 
 /// As a block write takes it; what needs more than this is left empty and finished cell by cell.
@@ -25,6 +24,8 @@ struct Data {
     css::uno::Any operator()(const CellError&) const { return css::uno::Any(rtl::OUString()); }
     css::uno::Any operator()(const QString& text) const { return css::uno::Any(toUno(text)); }
 };
+
+using Row = css::uno::Sequence<css::uno::Any>;
 
 css::uno::Sequence<Row> dataOf(const CellBlock& block) {
     css::uno::Sequence<Row> data(static_cast<sal_Int32>(block.size()));
@@ -63,19 +64,23 @@ CellBlock Values::read(const Ref<css::sheet::XSpreadsheet>& sheet, const CellRan
     const auto data = as<css::sheet::XCellRangeData>(cellsOf(sheet, range, keeper_))->getDataArray();
     CellBlock block;
     block.reserve(data.getLength());
-    CellPosition cell = range.first;
+    CellPosition first = range.first;
     for (const Row& row : data) {
-        QVector<CellValue> values;
-        values.reserve(row.getLength());
-        cell.column = range.first.column;
-        for (const css::uno::Any& found : row) {
-            values.push_back(read(sheet, cell, found));
-            ++cell.column;
-        }
-        block.push_back(std::move(values));
-        ++cell.row;
+        block.push_back(readRow(sheet, first, row));
+        ++first.row;
     }
     return block;
+}
+
+QVector<CellValue> Values::readRow(const Ref<css::sheet::XSpreadsheet>& sheet, CellPosition first,
+                                   const Row& row) {
+    QVector<CellValue> values;
+    values.reserve(row.getLength());
+    for (const css::uno::Any& found : row) {
+        values.push_back(read(sheet, first, found));
+        ++first.column;
+    }
+    return values;
 }
 
 CellValue Values::read(const Ref<css::sheet::XSpreadsheet>& sheet, CellPosition cell,

