@@ -266,6 +266,9 @@ TEST(NewCell, StandsInOrderWhereARowRecordDoesNot) {
 }
 
 TEST(Cells, OutOfOrderAndTwiceAreFound) {
+    const Rec five = numberCell(5, 1, 4.5), one = numberCell(1, 1, 5.5);
+    expectTable(edited({row(1, 1, 2), row(5, 1, 2), five, one}, {{{3, 1}, true}}),
+                {row(1, 1, 2), row(3, 1, 2), row(5, 1, 2), five, one, boolean(3, 1, 15, true)});
     const std::vector<Rec> table{numberCell(5, 1, 1.5), numberCell(1, 1, 2.5), numberCell(5, 1, 3.5)};
     Workbook book = Workbook::open(fileWithTable(table));
     EXPECT_EQ(book.value(0, {5, 1}), Value(3.5)) << "the later record counts";
