@@ -25,34 +25,32 @@ TEST(HomeDrive, TurnsPathsIntoNativeOnes) {
     EXPECT_EQ(drive.programFolder(), QStringLiteral("/usr/share/zvonika"));
 }
 
-class HomeDriveOnDisk : public ::testing::Test {
-protected:
-    QTemporaryDir folder;
-    HomeDrive drive{folder.path(), QString()};
-};
-
-TEST_F(HomeDriveOnDisk, CreatesOneFolderAtATime) {
-    EXPECT_FALSE(drive.createFolder(QStringLiteral("C:\\Dokumenty\\Heligonka")));
-    EXPECT_TRUE(drive.createFolder(QStringLiteral("C:\\Dokumenty")));
-    EXPECT_TRUE(drive.createFolder(QStringLiteral("C:\\Dokumenty\\Heligonka")));
-    EXPECT_FALSE(drive.createFolder(QStringLiteral("C:\\Dokumenty"))) << "it is there";
-    EXPECT_FALSE(drive.createFolder(QStringLiteral("D:\\Dokumenty"))) << "no such drive";
-    EXPECT_TRUE(QDir(folder.filePath(QStringLiteral("Dokumenty/Heligonka"))).exists());
-}
-
-TEST_F(HomeDriveOnDisk, TellsFilesFromFoldersAndDeletesFiles) {
-    QFile file(folder.filePath(QStringLiteral("a.xls")));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.close();
-    EXPECT_TRUE(drive.fileExists(QStringLiteral("C:\\a.xls")));
-    EXPECT_FALSE(drive.folderExists(QStringLiteral("C:\\a.xls")));
-    EXPECT_TRUE(drive.folderExists(QStringLiteral("C:\\")));
-    EXPECT_FALSE(drive.fileExists(QStringLiteral("C:\\")));
-    EXPECT_FALSE(drive.fileExists(QStringLiteral("D:\\a.xls")));
-    EXPECT_FALSE(drive.folderExists(QStringLiteral("D:\\")));
-    EXPECT_TRUE(drive.deleteFile(QStringLiteral("C:\\a.xls")));
-    EXPECT_FALSE(file.exists());
-    EXPECT_FALSE(drive.deleteFile(QStringLiteral("C:\\a.xls")));
+TEST(HomeDrive, CreatesOneFolderAtATimeAndTellsFilesFromFolders) {
+    const QTemporaryDir folder;
+    HomeDrive drive(folder.path(), {});
+    const std::pair<const char*, bool> created[] = {{"C:\\Dokumenty\\Heligonka", false},
+                                                    {"C:\\Dokumenty", true},
+                                                    {"C:\\Dokumenty\\Heligonka", true},
+                                                    {"C:\\Dokumenty", false}, // it is there
+                                                    {"D:\\Dokumenty", false}};
+    for (const auto& [path, made] : created)
+        EXPECT_EQ(drive.createFolder(path), made) << path;
+    ASSERT_TRUE(QFile(folder.filePath("a.xls")).open(QIODevice::WriteOnly));
+    const struct {
+        const char* path;
+        bool file, folder;
+    } there[] = {{"C:\\a.xls", true, false},
+                 {"C:\\", false, true},
+                 {"C:\\Dokumenty\\Heligonka", false, true},
+                 {"D:\\a.xls", false, false},
+                 {"D:\\", false, false}};
+    for (const auto& t : there) {
+        EXPECT_EQ(drive.fileExists(t.path), t.file) << t.path;
+        EXPECT_EQ(drive.folderExists(t.path), t.folder) << t.path;
+    }
+    EXPECT_TRUE(drive.deleteFile("C:\\a.xls"));
+    EXPECT_FALSE(QFile::exists(folder.filePath("a.xls")));
+    EXPECT_FALSE(drive.deleteFile("C:\\a.xls"));
 }
 
 } // namespace

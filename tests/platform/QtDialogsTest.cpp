@@ -81,26 +81,7 @@ TEST_F(Boxes, GiveTheAnswerOfAButtonEscapeOrEnter) {
     }
 }
 
-TEST_F(Boxes, ShowTheMessage) {
-    whenOpen<QMessageBox>([](QMessageBox& box) {
-        EXPECT_EQ(box.objectName(), QStringLiteral("zprava"));
-        EXPECT_EQ(box.windowTitle(), QStringLiteral("Zvonika"));
-        EXPECT_EQ(box.text(), QStringLiteral("<b>1\n2"));
-        EXPECT_EQ(box.textFormat(), Qt::PlainText);
-        EXPECT_EQ(box.icon(), QMessageBox::Warning);
-        EXPECT_LT(box.width(), 420);
-    });
-    dialogs.message({QString(), QStringLiteral("<b>1\n2"), Icon::Exclamation});
-
-    whenOpen<QMessageBox>([](QMessageBox& box) {
-        EXPECT_GE(box.width(), 420);
-        EXPECT_LE(box.width(), 800);
-    });
-    dialogs.message(
-        {QStringLiteral("Titul"), QStringLiteral("Dlouhý text nápovědy. ").repeated(30), Icon::None});
-}
-
-TEST_F(Boxes, StayAboveAWindowKeptOnTop) {
+TEST_F(Boxes, ShowTheMessageAboveAWindowKeptOnTop) {
     QWidget main;
     main.setWindowFlag(Qt::WindowStaysOnTopHint);
     main.show();
@@ -108,13 +89,22 @@ TEST_F(Boxes, StayAboveAWindowKeptOnTop) {
     whenOpen<QMessageBox>([&main](QMessageBox& box) {
         EXPECT_TRUE(box.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
         EXPECT_EQ(box.parentWidget(), &main);
+        EXPECT_EQ(box.objectName(), "zprava");
+        EXPECT_EQ(box.windowTitle(), "Zvonika");
+        EXPECT_EQ(box.text(), "<b>1\n2");
+        EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        EXPECT_EQ(box.icon(), QMessageBox::Warning);
+        EXPECT_LT(box.width(), 420);
     });
-    above.message(question(Buttons::Ok));
+    above.message({QString(), "<b>1\n2", Icon::Exclamation});
 
     main.hide();
-    whenOpen<QMessageBox>(
-        [](QMessageBox& box) { EXPECT_FALSE(box.windowFlags().testFlag(Qt::WindowStaysOnTopHint)); });
-    above.message(question(Buttons::Ok));
+    whenOpen<QMessageBox>([](QMessageBox& box) {
+        EXPECT_FALSE(box.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+        EXPECT_GE(box.width(), 420);
+        EXPECT_LE(box.width(), 800);
+    });
+    above.message({"Titul", QString("Dlouhý text nápovědy. ").repeated(30), Icon::None});
 }
 
 TEST_F(Boxes, ThatNobodyAnswersFailTheirCase) {
@@ -184,25 +174,22 @@ protected:
     QTemporaryDir folder;
 };
 
-TEST_F(FileChoice, StartsInTheFolderAndOffersSongsOnly) {
-    whenOpen<QFileDialog>([this](QFileDialog& box) {
-        EXPECT_EQ(box.objectName(), QStringLiteral("vyberSouboru"));
-        EXPECT_EQ(box.windowTitle(), title);
-        EXPECT_EQ(box.directory().canonicalPath(), QDir(folder.path()).canonicalPath());
-        auto* model = box.findChild<QFileSystemModel*>();
-        ASSERT_NE(model, nullptr);
-        const QModelIndex root = model->index(folder.path());
-        ASSERT_TRUE(QTest::qWaitFor([&] { return model->rowCount(root) == 2; }));
-        typeName(box, QStringLiteral("kočka.xls"));
-    });
-    EXPECT_EQ(dialogs.openFile(title, filter, folder.path()), folder.filePath(QStringLiteral("kočka.xls")));
-}
-
-TEST_F(FileChoice, StartsInTheNearestFolderThereIs) {
-    whenOpen<QFileDialog>([this](QFileDialog& box) {
-        EXPECT_EQ(box.directory().canonicalPath(), QDir(folder.path()).canonicalPath());
-    });
-    EXPECT_EQ(dialogs.openFile(title, filter, folder.filePath(QStringLiteral("chybí/také"))), std::nullopt);
+TEST_F(FileChoice, StartsInTheNearestFolderThereIsAndOffersSongsOnly) {
+    for (const char* start : {"", "chybí/také"}) {
+        whenOpen<QFileDialog>([this](QFileDialog& box) {
+            EXPECT_EQ(box.objectName(), "vyberSouboru");
+            EXPECT_EQ(box.windowTitle(), title);
+            EXPECT_EQ(box.directory().canonicalPath(), QDir(folder.path()).canonicalPath());
+            auto* model = box.findChild<QFileSystemModel*>();
+            ASSERT_NE(model, nullptr);
+            const QModelIndex root = model->index(folder.path());
+            ASSERT_TRUE(QTest::qWaitFor([&] { return model->rowCount(root) == 2; }));
+            typeName(box, "kočka.xls");
+        });
+        EXPECT_EQ(dialogs.openFile(title, filter, folder.filePath(start)), folder.filePath("kočka.xls"));
+    }
+    whenOpen<QFileDialog>([](QFileDialog& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+    EXPECT_EQ(dialogs.openFile(title, filter, folder.path()), std::nullopt);
 }
 
 TEST_F(FileChoice, SavingAddsTheEndingAndAsksBeforeOverwriting) {

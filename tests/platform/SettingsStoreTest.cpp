@@ -28,19 +28,15 @@ protected:
 };
 
 TEST_F(SettingsFile, KeepsTextsBySectionAndKey) {
-    const QString texts[] = {QStringLiteral("1"), QStringLiteral("Příčná, řada; \"x\" = @ \\ %"),
-                             QStringLiteral("@zvuk"), QStringLiteral(" mezery "), QString(QLatin1String(""))};
-    int number = 0;
-    for (const auto& text : texts)
-        IniSettingsStore(file).save(section, QString::number(++number), text);
-
+    const QStringList texts{"1", "Příčná, řada; \"x\" = @ \\ %", "@zvuk", " mezery ", ""};
+    for (int i = 0; i < texts.size(); ++i)
+        IniSettingsStore(file).save(section, QString::number(i), texts[i]);
     const IniSettingsStore store(file);
-    number = 0;
-    for (const auto& text : texts)
-        EXPECT_EQ(store.get(section, QString::number(++number)), text) << text.toStdString();
-    EXPECT_FALSE(store.get(section, QStringLiteral("9")));
-    EXPECT_FALSE(store.get(QStringLiteral("Znaceni"), QStringLiteral("1")));
-    EXPECT_EQ(store.getOr(section, QStringLiteral("9"), QStringLiteral("0")), QStringLiteral("0"));
+    for (int i = 0; i < texts.size(); ++i)
+        EXPECT_EQ(store.get(section, QString::number(i)), texts[i]) << i;
+    EXPECT_FALSE(store.get(section, "9"));
+    EXPECT_FALSE(store.get("Znaceni", "1"));
+    EXPECT_EQ(store.getOr(section, "9", "0"), "0");
 }
 
 TEST_F(SettingsFile, IsAnIniFileThatAUserCanWrite) {

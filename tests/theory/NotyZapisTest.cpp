@@ -3,47 +3,59 @@
 #include "tests/theory/Vypis.h"
 #include "theory/clsNotyZapis.h"
 
+#include <QMap>
 #include <QObject>
 
 #include <gtest/gtest.h>
-#include <utility>
-#include <vector>
 
 namespace zvonika {
 namespace {
 
 using testing::kreslenaNota;
-using testing::nazev;
 using testing::ScriptedDialogs;
 using testing::stupnice;
 
-// Staff units of some notes.
-constexpr int e = 120, f = 180, c1 = 420, f1 = 600, g1 = 660, a1 = 720, h1 = 780, e4 = 1800, f4 = 1860;
-
 class NotyZapis : public ::testing::Test {
 protected:
-    explicit NotyZapis(const char* tonina = "C dur") {
-        zapis.NastavStupnici(stupnice(tonina));
+    NotyZapis() {
         QObject::connect(&osnova, &NotovaOsnova::changed, [this] { ++zmen; });
     }
 
-    std::optional<int> pridej(int jednotky, Znamenko znamenko = Znamenko::Zadne) {
-        const auto slot = zapis.pridejNotu(jednotky);
-        if (slot && znamenko != Znamenko::Zadne) {
-            EXPECT_TRUE(zapis.nastavZnamenko(*slot, znamenko));
+    /// One step in words; false where it is refused or changes nothing.
+    bool krok(const QString& text) {
+        static const QMap<QChar, Znamenko> znamenka{{'#', Znamenko::Krizek},
+                                                    {'b', Znamenko::Becko},
+                                                    {'n', Znamenko::Odrazka},
+                                                    {'z', Znamenko::Zadne}};
+        const QChar co = text[0];
+        const int cislo = text.mid(1).section(':', 0, 0).toInt(), predtim = zmen;
+        if (znamenka.contains(co)) return zapis.nastavZnamenko(cislo, znamenka[co]);
+        if (co == 'p') return zapis.pridejNotu(cislo).has_value();
+        if (co == 'm') return zapis.posunNotu(cislo, text.section(':', 1).toInt());
+        if (co == 't') return zapis.zakresliNotu(kreslenaNota(cislo, osnova.stupnice(), dialogs)).has_value();
+        if (co == 'o') zapis.odeberTon(CisloTonu(cislo));
+        if (co == 'x') zapis.odeberNotu(cislo);
+        if (co == 'k') zapis.NastavStupnici(Key(text.mid(1) + " dur"));
+        if (co == 'N') osnova.odeberNoty();
+        if (co == 'S') osnova.odeberPultony();
+        if (co == 'O') osnova.odeberOdrazky();
+        return zmen != predtim;
+    }
+    /// Each slot: a natural's n, the name as it reads, "=" and the recorded one where it differs, "!" in red.
+    QString obsah() const {
+        QStringList sloty;
+        for (int slot = 0; slot < NotovaOsnova::pocetNot; ++slot) {
+            const auto& nota = osnova.nota(slot);
+            const QString cteno = zapis.ctenyNazev(slot).text().chopped(nota ? 1 : 0);
+            const QString zapsano = zapis.ZjistiNotu(slot).text().chopped(nota ? 1 : 0);
+            const bool odrazka = nota && nota->poloha.znamenko == Znamenko::Odrazka;
+            EXPECT_TRUE(!nota || nota->ton == cisloTonu(ToneName(zapsano + ',')));
+            sloty << QString(odrazka ? "n" : "") + (nota ? cteno : cteno + "-") +
+                         (zapsano == cteno ? QString() : '=' + zapsano) +
+                         (zapis.CervenaNota(slot) ? "!" : "");
         }
-        return slot;
+        return sloty.join(' ');
     }
-    std::optional<int> pridejTon(int ton, const Key& tonina) {
-        return zapis.zakresliNotu(kreslenaNota(ton, tonina, dialogs));
-    }
-    std::vector<int> tony() const {
-        std::vector<int> vysledek;
-        for (const auto& nota : osnova.noty())
-            vysledek.push_back(nota ? nota->ton.hodnota() : 0);
-        return vysledek;
-    }
-    Znamenko znamenko(int slot) const { return osnova.nota(slot)->poloha.znamenko; }
 
     ScriptedDialogs dialogs; ///< nothing is ever asked here
     NotovaOsnova osnova;
@@ -51,177 +63,95 @@ protected:
     int zmen = 0;
 };
 
-TEST_F(NotyZapis, AClickFillsTheNextFreeSlot) {
-    EXPECT_EQ(zapis.pridejNotu(c1), 0);
-    EXPECT_EQ(zapis.pridejNotu(e + 25), 1);
+TEST_F(NotyZapis, EveryStepObeysTheKeyAndTheBoard) {
+    // p places at staff units, m moves a slot, #bnz its sign, x removes; t and o are a tone of the board; k
+    // is another key, N S O release notes, signs, naturals. With ! the step is refused or changes nothing.
+    const struct {
+        const char *popis, *kroky, *obsah;
+    } pripady[] = {
+        {"the next free slot, the nearest place", "kC p420 p145 x0 p1800", "e4 e - - -"},
+        {"outside the board, twice, when full",
+         "kC p60! p0! p-60! p1860! p600 p660 p720 p780 p840 p420! x2 p600! p420", "f1 g1 c1 h1 c2"},
+        {"a note moves with its sign; his is the c1 of slot 1",
+         "kC p600 #0 p420 m0:670 m0:1800! m1:0! m2:420! m0:360!", "gis1! c1 - - -"},
+        {"b1 and ais1 are one button; an empty slot; es lies below the board",
+         "kC p720 p780 #0 b1! #4! p120 b2!", "ais1! h1 e - -"},
+        {"a flat", "kC p720 b0", "as1=gis1! - - - -"},
+        {"a natural", "kC p720 n0", "na1 - - - -"},
+        {"no sign again", "kC p720 #0 z0", "a1 - - - -"},
+        {"the signature governs plain notes", "kG p600", "fis1 - - - -"},
+        {"a natural overrules it", "kG p600 n0", "nf1! - - - -"},
+        {"and goes where there is nothing to cancel", "kG p600 n0 m0:660", "g1 - - - -"},
+        {"read as written, recorded as the key spells", "kCis p540", "eis1=f1 - - - -"},
+        {"the same in a flat key", "kF p420 #0", "cis1=des1! - - - -"},
+        {"tones of the board", "kC t13 t14 t15 t16 t17", "e1 f1 fis1! g1 gis1!"},
+        {"one is released", "kC t13 t14 t15 t16 t17 o15 o40!", "e1 f1 - g1 gis1!"},
+        {"a plain d would read des; there already", "kDes t10 t11 t10", "des1 nd1! - - -"},
+        {"full", "kDes t10 t11 o10 t20 t21 t22 t23 t24!", "nh1! nd1! c2 des2 nd2!"},
+        {"another key keeps the tones", "kC p600 p780 b1 p660 kD kD!", "nf1! ais1! g1 - -"},
+        {"the plain f is the ges1 of slot 1", "kG p600 n0 p660 b1 p720 #2 O", "- ges1=fis1 ais1! - -"},
+        {"signs go too", "kG p600 n0 p660 b1 p720 #2 O S S! O!", "- g1 a1 - -"},
+        {"neighbours swap without loss", "kC p180 #0 p120 #1 S", "f e - - -"},
+        {"all notes", "kB p600 p660 b1 N N! S! O!", "- - - - -"},
+    };
+    for (const auto& p : pripady) {
+        SCOPED_TRACE(p.popis);
+        osnova.odeberNoty();
+        zapis.NastavStupnici({});
+        for (const QString& text : QString(p.kroky).split(' ')) {
+            const int predtim = zmen;
+            const bool odmitnuto = text.endsWith('!');
+            EXPECT_EQ(krok(odmitnuto ? text.chopped(1) : text), !odmitnuto) << qPrintable(text);
+            EXPECT_TRUE(!odmitnuto || zmen == predtim) << qPrintable(text);
+        }
+        EXPECT_EQ(obsah(), p.obsah);
+        const bool cervene[] = {zapis.CervenaNota0(), zapis.CervenaNota1(), zapis.CervenaNota2(),
+                                zapis.CervenaNota3(), zapis.CervenaNota4()};
+        for (int slot = 0; slot < 5; ++slot)
+            EXPECT_EQ(cervene[slot], zapis.CervenaNota(slot)) << slot;
+    }
+    EXPECT_EQ(osnova.stupnice(), stupnice("B dur")) << "releasing keeps the key";
+    EXPECT_EQ(osnova.vybranySlot(), std::nullopt);
+}
+
+TEST_F(NotyZapis, ANewNoteIsSelectedAndOnlyANoteThatIsThereCanBe) {
+    krok("p420");
+    EXPECT_EQ(zapis.pridejNotu(120), 1);
     EXPECT_EQ(osnova.vybranySlot(), 1);
-    EXPECT_EQ(osnova.nota(1)->poloha, (PolohaNoty{Znamenko::Zadne, e}));
-    zapis.odeberNotu(0);
-    EXPECT_EQ(zapis.pridejNotu(e4), 0);
-    EXPECT_EQ(tony(), (std::vector{49, 1, 0, 0, 0}));
-    EXPECT_EQ(zapis.ZjistiNotu(0), nazev("e4,"));
-    EXPECT_EQ(zapis.ZjistiNotu(4), ToneName());
     osnova.vyberSlot(0);
     zapis.odeberNotu(1);
     EXPECT_EQ(osnova.vybranySlot(), 0);
     osnova.vyberSlot(3);
-    EXPECT_EQ(osnova.vybranySlot(), std::nullopt) << "only a note that is there can be selected";
+    EXPECT_EQ(osnova.vybranySlot(), std::nullopt);
 }
 
-TEST_F(NotyZapis, AClickIsRefusedOutsideTheBoardTwiceAndWhenFull) {
-    for (int jednotky : {60, 0, -60, f4})
-        EXPECT_FALSE(zapis.pridejNotu(jednotky)) << jednotky;
-    EXPECT_EQ(zmen, 0);
-    for (int slot = 0; slot < 5; ++slot)
-        EXPECT_EQ(zapis.pridejNotu(f1 + 60 * slot), slot);
-    EXPECT_FALSE(zapis.pridejNotu(c1));
-    zapis.odeberNotu(2);
-    EXPECT_FALSE(zapis.pridejNotu(f1));
-    EXPECT_EQ(zapis.pridejNotu(c1), 2);
+TEST_F(NotyZapis, ANaturalCancelsItsSignOfTheSignature) {
+    for (const char* text : {"kD", "p840", "n0"}) // the c of f and c
+        krok(text);
+    EXPECT_TRUE(osnova.odrazka(1));
+    EXPECT_FALSE(osnova.odrazka(0) || osnova.odrazka(2));
+    krok("m0:660");
+    EXPECT_FALSE(osnova.odrazka(1)) << "nothing to cancel on g";
 }
 
-TEST_F(NotyZapis, ANoteMovesWithItsSign) {
-    pridej(f1, Znamenko::Krizek);
-    pridej(c1);
-    EXPECT_TRUE(zapis.posunNotu(0, g1 + 10));
-    EXPECT_EQ(zapis.ZjistiNotu(0), nazev("gis1,"));
-    EXPECT_FALSE(zapis.posunNotu(0, e4));
-    EXPECT_FALSE(zapis.posunNotu(1, 0));
-    EXPECT_FALSE(zapis.posunNotu(2, c1)) << "an empty slot";
-    EXPECT_FALSE(zapis.posunNotu(0, 360)) << "his is the c1 of slot 1";
-    EXPECT_EQ(tony(), (std::vector{17, 9, 0, 0, 0}));
-}
-
-TEST_F(NotyZapis, ASignMakesAnotherTone) {
-    pridej(a1);
-    pridej(h1);
-    for (const auto& [znamenko, ton, cteny] : {std::tuple{Znamenko::Krizek, 19, "ais1,"},
-                                               {Znamenko::Becko, 17, "as1,"},
-                                               {Znamenko::Odrazka, 18, "a1,"},
-                                               {Znamenko::Zadne, 18, "a1,"}}) {
-        EXPECT_TRUE(zapis.nastavZnamenko(0, znamenko));
-        EXPECT_EQ(osnova.nota(0)->ton.hodnota(), ton);
-        EXPECT_EQ(zapis.ctenyNazev(0), nazev(cteny));
-    }
-    zapis.nastavZnamenko(0, Znamenko::Krizek);
-    EXPECT_FALSE(zapis.nastavZnamenko(1, Znamenko::Becko)) << "b1 and ais1 are one button";
-    EXPECT_FALSE(zapis.nastavZnamenko(4, Znamenko::Krizek)) << "an empty slot";
-    pridej(e);
-    EXPECT_FALSE(zapis.nastavZnamenko(2, Znamenko::Becko)) << "es lies below the board";
-    EXPECT_EQ(znamenko(2), Znamenko::Zadne);
-}
-
-TEST_F(NotyZapis, TheSignatureGovernsPlainNotes) {
-    zapis.NastavStupnici(stupnice("G dur"));
-    pridej(f1);
-    EXPECT_EQ(zapis.ZjistiNotu(0), nazev("fis1,"));
-    EXPECT_EQ(osnova.nota(0)->ton.hodnota(), 15);
-    EXPECT_FALSE(zapis.CervenaNota0());
-    zapis.nastavZnamenko(0, Znamenko::Odrazka);
-    EXPECT_EQ(zapis.ZjistiNotu(0), nazev("f1,"));
-    EXPECT_TRUE(zapis.CervenaNota0());
-    EXPECT_TRUE(osnova.odrazka(0));
-    EXPECT_FALSE(osnova.odrazka(1));
-    EXPECT_TRUE(zapis.posunNotu(0, g1));
-    EXPECT_EQ(znamenko(0), Znamenko::Zadne) << "nothing to cancel on g";
-    EXPECT_FALSE(osnova.odrazka(0));
-}
-
-TEST_F(NotyZapis, RecordsTheSpellingOfTheKey) {
-    zapis.NastavStupnici(stupnice("Cis dur"));
-    pridej(540);
-    EXPECT_EQ(zapis.ctenyNazev(0), nazev("eis1,"));
-    EXPECT_EQ(zapis.ZjistiNotu(0), nazev("f1,"));
-    osnova.odeberNoty();
-    zapis.NastavStupnici(stupnice("F dur"));
-    pridej(c1, Znamenko::Krizek);
-    EXPECT_EQ(zapis.ctenyNazev(0), nazev("cis1,"));
-    EXPECT_EQ(zapis.ZjistiNotu(0), nazev("des1,"));
-    osnova.polozNotu(1, {{Znamenko::Zadne, c1}, CisloTonu(99)});
+TEST_F(NotyZapis, WhatTheBoardDoesNotHaveHasNoName) {
+    osnova.polozNotu(1, {{Znamenko::Zadne, 420}, CisloTonu(99)});
     EXPECT_EQ(zapis.ZjistiNotu(1), ToneName());
-}
-
-TEST_F(NotyZapis, MarksEverySlotOutOfScaleRed) {
-    for (int ton : {13, 14, 15, 16, 17})
-        pridejTon(ton, stupnice("C dur"));
-    EXPECT_FALSE(zapis.CervenaNota0() || zapis.CervenaNota1() || zapis.CervenaNota3());
-    EXPECT_TRUE(zapis.CervenaNota2() && zapis.CervenaNota4());
-    zapis.odeberTon(CisloTonu(15));
-    EXPECT_FALSE(zapis.CervenaNota2());
-}
-
-TEST_F(NotyZapis, BoardTonesComeAndGo) {
-    const Key des = stupnice("Des dur");
-    zapis.NastavStupnici(des);
-    EXPECT_EQ(pridejTon(10, des), 0);
-    EXPECT_EQ(osnova.nota(0)->poloha, (PolohaNoty{Znamenko::Becko, 480}));
-    EXPECT_EQ(pridejTon(11, des), 1);
-    EXPECT_EQ(znamenko(1), Znamenko::Odrazka) << "a plain d would read des";
-    EXPECT_EQ(pridejTon(10, des), 0) << "there already";
-    zapis.odeberTon(CisloTonu(10));
-    zapis.odeberTon(CisloTonu(40));
-    EXPECT_EQ(tony(), (std::vector{0, 11, 0, 0, 0}));
-    for (int ton : {20, 21, 22, 23})
-        pridejTon(ton, des);
-    EXPECT_FALSE(pridejTon(24, des));
+    osnova.polozNotu(1, {{Znamenko::Becko, 1860}, CisloTonu(49)});
+    osnova.odeberPultony();
+    EXPECT_EQ(osnova.nota(1), std::nullopt) << "f4 is not on the board";
 }
 
 TEST_F(NotyZapis, EveryToneOfEveryKeyReadsAsItSounds) {
     for (const char* tonina : {"", "G dur", "A dur", "Fis dur", "Cis dur", "F dur", "As dur", "Ces dur"}) {
         zapis.NastavStupnici(stupnice(tonina));
         for (int n = 1; n <= 49; ++n) {
-            ASSERT_EQ(pridejTon(n, stupnice(tonina)), 0);
+            ASSERT_TRUE(krok('t' + QString::number(n)));
             const bool vyjimka = stupnice(tonina) == stupnice("F dur") && n == 49;
             EXPECT_EQ(cisloTonu(zapis.ctenyNazev(0)).hodnota(), vyjimka ? 1 : n) << tonina;
             zapis.odeberTon(CisloTonu(n));
         }
     }
-}
-
-TEST_F(NotyZapis, AnotherKeyKeepsTheTones) {
-    pridej(f1);
-    pridej(h1, Znamenko::Becko);
-    pridej(g1);
-    const auto predtim = tony();
-    zmen = 0;
-    zapis.NastavStupnici(stupnice("D dur"));
-    EXPECT_EQ(zmen, 1);
-    EXPECT_EQ(tony(), predtim);
-    EXPECT_EQ(osnova.nota(0)->poloha, (PolohaNoty{Znamenko::Odrazka, f1}));
-    EXPECT_EQ(osnova.nota(1)->poloha, (PolohaNoty{Znamenko::Krizek, a1}));
-    EXPECT_EQ(osnova.nota(2)->poloha, (PolohaNoty{Znamenko::Zadne, g1}));
-    EXPECT_EQ(osnova.predznamenani().pocet(), 2);
-    zapis.NastavStupnici(stupnice("D dur"));
-    EXPECT_EQ(zmen, 1) << "nothing new";
-}
-
-TEST_F(NotyZapis, ReleasingTakesNotesOrSignsAndKeepsTheKey) {
-    zapis.NastavStupnici(stupnice("G dur"));
-    pridej(f1, Znamenko::Odrazka);
-    pridej(g1, Znamenko::Becko);
-    pridej(a1, Znamenko::Krizek);
-    const auto predtim = tony();
-    osnova.odeberOdrazky();
-    EXPECT_EQ(tony(), (std::vector{0, predtim[1], predtim[2], 0, 0})) << "the plain f is the ges1 of slot 1";
-    osnova.odeberPultony();
-    EXPECT_EQ(tony(), (std::vector{0, 16, 18, 0, 0}));
-    EXPECT_EQ(zapis.ZjistiNotu(1), nazev("g1,"));
-    osnova.odeberNoty();
-    EXPECT_EQ(tony(), (std::vector{0, 0, 0, 0, 0}));
-    EXPECT_EQ(osnova.vybranySlot(), std::nullopt);
-    EXPECT_EQ(osnova.stupnice(), stupnice("G dur"));
-    zmen = 0;
-    osnova.odeberNoty();
-    osnova.odeberPultony();
-    osnova.odeberOdrazky();
-    EXPECT_EQ(zmen, 0);
-    // Neighbours that swap their tones lose neither.
-    zapis.NastavStupnici(stupnice("C dur"));
-    pridej(f, Znamenko::Krizek);
-    pridej(e, Znamenko::Krizek);
-    osnova.polozNotu(2, {{Znamenko::Becko, f4}, CisloTonu(49)});
-    osnova.odeberPultony();
-    EXPECT_EQ(tony(), (std::vector{2, 1, 0, 0, 0})) << "f4 is not on the board";
 }
 
 } // namespace
