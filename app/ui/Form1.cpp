@@ -8,6 +8,7 @@
 #include "song/CommandStates.h"
 #include "song/SongPanel.h"
 #include "song/ui/ElidovanyPopisek.h"
+#include "theory/ui/BarvyVyznamu.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -38,19 +39,14 @@ PrikazoveTlacitko::Vyznam vyznam(DruhTlacitka druh) {
     return PrikazoveTlacitko::Vyznam::Bezny;
 }
 
-/// A colour written blue-green-red.
-QColor zBgr(unsigned bgr) {
-    return QColor(int(bgr & 0xFF), int(bgr >> 8 & 0xFF), int(bgr >> 16 & 0xFF));
-}
-
 std::optional<QColor> barva(BarvaKroku krok) {
     switch (krok) {
     case BarvaKroku::Tah:
-        return zBgr(0xFF8080);
+        return barvyTahu::krok;
     case BarvaKroku::Tlak:
-        return zBgr(0xC000C0);
+        return barvyTlaku::krok;
     case BarvaKroku::TlakPoZapisu:
-        return zBgr(8421631);
+        return barvyTlaku::krokPoZapisu;
     case BarvaKroku::Neznamy:
         break;
     }

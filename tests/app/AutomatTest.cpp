@@ -74,7 +74,7 @@ TEST_F(AutomatOkna, AModalWindowIsARest) {
 
 TEST_F(AutomatOkna, AFailingStepIsOneBoxAndTheEnd) {
     klikni("cmdTimer");
-    excel->fail("moveCursor", 91);
+    log.fail("moveCursor", 91);
     dialogs.expect("Neočekávaná chyba !", "a sdělte číslo chyby 91");
     hodiny.uplyn(Ms(20000));
     EXPECT_EQ(dialogs.count, 1);

@@ -2,11 +2,8 @@
 
 #include "app/Program.h"
 #include "tests/app/ZaznamovyShell.h"
-#include "tests/support/FakeDrive.h"
-#include "tests/support/FakeSpreadsheet.h"
-#include "tests/support/MemorySettings.h"
 #include "tests/support/RucniHodiny.h"
-#include "tests/support/ScriptedDialogs.h"
+#include "tests/support/SpreadsheetWorld.h"
 #include "tests/support/ZaznamovaMedia.h"
 
 #include <QAction>
@@ -17,9 +14,8 @@
 
 namespace zvonika::testing {
 
-/// The whole program with its real window over a spreadsheet in memory and
-/// scripted boxes.
-class OknoSPisni : public ::testing::Test {
+/// The whole program with its real window over a spreadsheet without a window and scripted boxes.
+class OknoSPisni : public ::testing::Test, protected SpreadsheetWorld {
 protected:
     void SetUp() override {
         drive.programFolderPath = QStringLiteral(ZVONIKA_RESOURCES);
@@ -32,7 +28,7 @@ protected:
     }
 
     std::unique_ptr<SpreadsheetApplication> novaTabulka() {
-        auto nova = std::make_unique<FakeSpreadsheet>(disk);
+        auto nova = launch();
         excel = nova.get();
         return nova;
     }
@@ -63,9 +59,6 @@ protected:
         return prvek(jmeno)->isEnabled();
     }
 
-    FakeDisk disk;
-    FakeDrive drive;
-    ScriptedDialogs dialogs;
     MemorySettings nastaveni;
     ZaznamovyShell shell;
     RucniHodiny hodiny;
@@ -73,7 +66,7 @@ protected:
     TvurceProhlizece tvurceProhlizece = jednoduchyProhlizec();
     TabulkovyProgram vestavena{Tabulka::Vestavena, nabidkaVestavene, [this] { return novaTabulka(); }};
     TabulkoveProgramy tabulky{{vestavena}, Tabulka::Vestavena};
-    FakeSpreadsheet* excel = nullptr;
+    WatchedSpreadsheet* excel = nullptr;
     std::unique_ptr<Program> program;
 };
 
