@@ -10,8 +10,8 @@ namespace zvonika {
 namespace {
 
 QString place(const Document& document) {
-    const int row = document.selection().active.row;
-    const int last = document.usedRows(document.activeSheet());
+    const int row = document.cursor().selection().active.row;
+    const int last = document.cells().usedRows(document.cursor().activeSheet());
     if (row > last) return QStringLiteral("Volný řádek %1, hmatů %2").arg(row).arg(last);
     return QStringLiteral("Hmat %1 z %2").arg(row).arg(last);
 }
@@ -32,9 +32,9 @@ QString what(const Selection& selection) {
 } // namespace
 
 QString statusText(const Document& document) {
-    QStringList parts{place(document), what(document.selection())};
-    if (document.isOldFormat()) parts.append(QStringLiteral("starší formát, uloží se v novém"));
-    parts.append(document.journalTrouble());
+    QStringList parts{place(document), what(document.cursor().selection())};
+    if (document.file().isOldFormat()) parts.append(QStringLiteral("starší formát, uloží se v novém"));
+    parts.append(document.journal().trouble());
     parts.removeAll(QString());
     return parts.join(QStringLiteral("  ·  "));
 }

@@ -54,34 +54,35 @@ protected:
 } // namespace
 
 TEST_F(ArrayFormulaTest, IsRefusedBeforeAnythingIsWritten) {
-    document().edit(1, {1, 4}, {{2.5}}, QStringLiteral("Psaní"));
+    document().editing().edit(1, {1, 4}, {{2.5}}, QStringLiteral("Psaní"));
     document().save();
     QSignalSpy cells(&document(), &Document::cellsChanged);
     const std::pair<const char*, std::function<void()>> calls[] = {
         {"write",
          [&] {
-             document().write(1, {1, 2}, {{1.0, 2.0, 3.0}, {4.0}});
+             document().editing().write(1, {1, 2}, {{1.0, 2.0, 3.0}, {4.0}});
          }},
         {"fill",
          [&] {
-             document().fill(1, {{1, 2}, {3, 4}}, 7.0);
+             document().editing().fill(1, {{1, 2}, {3, 4}}, 7.0);
          }},
         {"edit",
          [&] {
-             document().edit(1, {1, 2}, {{1.0, 2.0, 3.0}, {4.0}}, {});
+             document().editing().edit(1, {1, 2}, {{1.0, 2.0, 3.0}, {4.0}}, {});
          }},
         {"editFill",
          [&] {
-             document().editFill(1, {{1, 2}, {3, 4}}, {}, {});
+             document().editing().editFill(1, {{1, 2}, {3, 4}}, {}, {});
          }},
     };
     for (const auto& [name, call] : calls)
         EXPECT_EQ(refusalOf(call), refused) << name;
-    EXPECT_EQ(document().value(1, {1, 4}), CellValue(2.5));
-    EXPECT_EQ(document().usedRows(1), 1);
+    EXPECT_EQ(document().cells().value(1, {1, 4}), CellValue(2.5));
+    EXPECT_EQ(document().cells().usedRows(1), 1);
     EXPECT_EQ(cells.count(), 0);
-    EXPECT_FALSE(document().isModified());
-    EXPECT_EQ(document().undoLabel(), QStringLiteral("Psaní")) << "what was not written takes nothing away";
+    EXPECT_FALSE(document().file().isModified());
+    EXPECT_EQ(document().editing().undoLabel(), QStringLiteral("Psaní"))
+        << "what was not written takes nothing away";
 }
 
 TEST_F(ArrayFormulaTest, WhatTheProgramWroteBeforeTheRefusalIsTold) {
@@ -90,8 +91,8 @@ TEST_F(ArrayFormulaTest, WhatTheProgramWroteBeforeTheRefusalIsTold) {
     ASSERT_EQ(cells.count(), 1);
     EXPECT_EQ(cells.first().at(1).value<CellRange>(), single({1, 1}));
     EXPECT_EQ(app.value(QStringLiteral("A1")), CellValue(1.0));
-    EXPECT_EQ(document().usedRows(1), 1);
-    EXPECT_TRUE(document().isModified());
+    EXPECT_EQ(document().cells().usedRows(1), 1);
+    EXPECT_TRUE(document().file().isModified());
     document().save();
 }
 

@@ -12,23 +12,24 @@ const QString psani = QStringLiteral("Psaní");
 class DocumentTest : public ::testing::Test {
 protected:
     static CellPosition at(const char* address) { return parseAddress(QString::fromLatin1(address))->first; }
-    QString text(const char* address) const { return cellText(document.value(1, at(address))); }
+    QString text(const char* address) const { return cellText(document.cells().value(1, at(address))); }
     void userTypes(const char* address, const char* typed) {
-        document.edit(1, at(address), {{QString::fromUtf8(typed)}}, psani);
+        document.editing().edit(1, at(address), {{QString::fromUtf8(typed)}}, psani);
     }
     void programWrites(const char* address, const char* written) {
-        document.write(1, at(address), {{QString::fromUtf8(written)}});
+        document.editing().write(1, at(address), {{QString::fromUtf8(written)}});
     }
     /// Column B from row 1 on, joined.
     QString column() const {
         QStringList texts;
-        for (const auto& row : document.block(1, {{1, 2}, {std::max(1, document.usedRows(1)), 2}}))
+        for (const auto& row :
+             document.cells().block(1, {{1, 2}, {std::max(1, document.cells().usedRows(1)), 2}}))
             texts << cellText(row.first());
         return texts.join(QLatin1Char(' '));
     }
     void fillColumn(const char* letters) {
         for (int row = 1; letters[row - 1]; ++row)
-            document.write(1, {row, 2}, {{QString(QLatin1Char(letters[row - 1]))}});
+            document.editing().write(1, {row, 2}, {{QString(QLatin1Char(letters[row - 1]))}});
     }
 
     QTemporaryDir folder;
@@ -40,68 +41,69 @@ protected:
 TEST_F(DocumentTest, UndoAndRedoExchangeValuesAndShowTheCells) {
     userTypes("B2", "c");
     userTypes("B2", "d");
-    document.edit(1, at("C5"), {{1.0, 2.0}, {3.0, 4.0}}, QStringLiteral("Vložení"));
-    EXPECT_EQ(document.undoLabel(), QStringLiteral("Vložení"));
-    document.select({1, 1});
-    ASSERT_TRUE(document.undo());
-    EXPECT_EQ(document.block(1, {at("C5"), at("D6")}), CellBlock({{{}, {}}, {{}, {}}}));
-    EXPECT_EQ(document.selection(), (Selection{{at("C5"), at("D6")}, at("C5")}));
-    EXPECT_TRUE(document.undo());
+    document.editing().edit(1, at("C5"), {{1.0, 2.0}, {3.0, 4.0}}, QStringLiteral("Vložení"));
+    EXPECT_EQ(document.editing().undoLabel(), QStringLiteral("Vložení"));
+    document.cursor().select({1, 1});
+    ASSERT_TRUE(document.editing().undo());
+    EXPECT_EQ(document.cells().block(1, {at("C5"), at("D6")}), CellBlock({{{}, {}}, {{}, {}}}));
+    EXPECT_EQ(document.cursor().selection(), (Selection{{at("C5"), at("D6")}, at("C5")}));
+    EXPECT_TRUE(document.editing().undo());
     EXPECT_EQ(text("B2"), QStringLiteral("c"));
-    EXPECT_TRUE(document.undo());
+    EXPECT_TRUE(document.editing().undo());
     EXPECT_EQ(text("B2"), QString());
-    EXPECT_FALSE(document.undo());
-    EXPECT_TRUE(document.redo());
-    EXPECT_TRUE(document.redo());
+    EXPECT_FALSE(document.editing().undo());
+    EXPECT_TRUE(document.editing().redo());
+    EXPECT_TRUE(document.editing().redo());
     EXPECT_EQ(text("B2"), QStringLiteral("d"));
-    EXPECT_EQ(document.redoLabel(), QStringLiteral("Vložení"));
+    EXPECT_EQ(document.editing().redoLabel(), QStringLiteral("Vložení"));
     userTypes("B3", "e");
-    EXPECT_FALSE(document.redo());
+    EXPECT_FALSE(document.editing().redo());
 }
 
 TEST_F(DocumentTest, AnEditThatChangesNothingIsNoStep) {
-    EXPECT_FALSE(document.edit(1, at("B2"), {{QString()}}, psani));
+    EXPECT_FALSE(document.editing().edit(1, at("B2"), {{QString()}}, psani));
     userTypes("B2", "c");
-    EXPECT_FALSE(document.edit(1, at("B2"), {{QStringLiteral("c")}}, psani));
-    EXPECT_FALSE(document.editFill(1, *parseAddress(u"D:F"), {}, psani));
-    document.undo();
-    EXPECT_EQ(document.undoLabel(), QString());
+    EXPECT_FALSE(document.editing().edit(1, at("B2"), {{QStringLiteral("c")}}, psani));
+    EXPECT_FALSE(document.editing().editFill(1, *parseAddress(u"D:F"), {}, psani));
+    document.editing().undo();
+    EXPECT_EQ(document.editing().undoLabel(), QString());
 }
 
 TEST_F(DocumentTest, UndoNeverReachesWhatTheProgramHasWritten) {
-    document.edit(1, at("B5"), {{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}}, psani);
+    document.editing().edit(1, at("B5"), {{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}},
+                            psani);
     userTypes("A1", "Koč");
     userTypes("B5", "x");
-    document.undo();
+    document.editing().undo();
     programWrites("B5", "x"); // the same text, but recorded: no longer the user's
-    document.fill(1, single(at("C5")), {});
-    document.undo();
+    document.editing().fill(1, single(at("C5")), {});
+    document.editing().undo();
     EXPECT_EQ(text("A1"), QString());
-    document.undo();
-    EXPECT_EQ(document.block(1, {at("B5"), at("D5")}), CellBlock({{QStringLiteral("x"), {}, {}}}));
-    EXPECT_EQ(document.undoLabel(), QString());
-    document.redo();
-    document.redo();
-    EXPECT_EQ(document.block(1, {at("B5"), at("D5")}),
+    document.editing().undo();
+    EXPECT_EQ(document.cells().block(1, {at("B5"), at("D5")}), CellBlock({{QStringLiteral("x"), {}, {}}}));
+    EXPECT_EQ(document.editing().undoLabel(), QString());
+    document.editing().redo();
+    document.editing().redo();
+    EXPECT_EQ(document.cells().block(1, {at("B5"), at("D5")}),
               CellBlock({{QStringLiteral("x"), {}, QStringLiteral("c")}}));
-    EXPECT_EQ(document.redoLabel(), QString());
+    EXPECT_EQ(document.editing().redoLabel(), QString());
 }
 
 TEST_F(DocumentTest, RowsAreInsertedAndDeletedAndBack) {
     fillColumn("abcd");
-    ASSERT_TRUE(document.insertRow(1, 2));
+    ASSERT_TRUE(document.editing().insertRow(1, 2));
     EXPECT_EQ(column(), QStringLiteral("a  b c d"));
-    ASSERT_TRUE(document.deleteRow(1, 4));
+    ASSERT_TRUE(document.editing().deleteRow(1, 4));
     EXPECT_EQ(column(), QStringLiteral("a  b d"));
-    document.undo();
+    document.editing().undo();
     EXPECT_EQ(column(), QStringLiteral("a  b c d"));
-    document.undo();
+    document.editing().undo();
     EXPECT_EQ(column(), QStringLiteral("a b c d"));
-    document.redo();
-    document.redo();
+    document.editing().redo();
+    document.editing().redo();
     EXPECT_EQ(column(), QStringLiteral("a  b d"));
-    EXPECT_FALSE(document.insertRow(1, 5));
-    EXPECT_FALSE(document.deleteRow(1, 5));
+    EXPECT_FALSE(document.editing().insertRow(1, 5));
+    EXPECT_FALSE(document.editing().deleteRow(1, 5));
 }
 
 struct RowCase {
@@ -117,16 +119,16 @@ TEST_F(DocumentTest, ARecordedGripMovesWithTheRowsThatAreTakenBack) {
                              {"in the inserted row", 2, "x R b c d", "x R b c d"}};
     for (const auto& [name, row, undone, redone] : cases) {
         SCOPED_TRACE(name);
-        document.fill(1, {{1, 1}, {9, 9}}, {});
+        document.editing().fill(1, {{1, 1}, {9, 9}}, {});
         fillColumn("abcd");
         userTypes("B1", "x");
-        document.insertRow(1, 2);
-        document.write(1, {row, 2}, {{QStringLiteral("R")}});
-        while (document.undo()) {
+        document.editing().insertRow(1, 2);
+        document.editing().write(1, {row, 2}, {{QStringLiteral("R")}});
+        while (document.editing().undo()) {
         }
         EXPECT_EQ(column(),
                   QString::fromLatin1(undone).replace(QLatin1Char('x'), QLatin1Char(row == 2 ? 'x' : 'a')));
-        while (document.redo()) {
+        while (document.editing().redo()) {
         }
         EXPECT_EQ(column(), QString::fromLatin1(redone));
     }
@@ -134,50 +136,51 @@ TEST_F(DocumentTest, ARecordedGripMovesWithTheRowsThatAreTakenBack) {
 
 TEST_F(DocumentTest, ARecordedGripIsNotDeletedByRedo) {
     fillColumn("abc");
-    document.deleteRow(1, 2);
-    document.undo();
+    document.editing().deleteRow(1, 2);
+    document.editing().undo();
     programWrites("B2", "R");
-    EXPECT_FALSE(document.redo());
+    EXPECT_FALSE(document.editing().redo());
     EXPECT_EQ(column(), QStringLiteral("a R c"));
-    document.deleteRow(1, 2);
-    document.undo();
+    document.editing().deleteRow(1, 2);
+    document.editing().undo();
     programWrites("B3", "R");
-    EXPECT_TRUE(document.redo());
+    EXPECT_TRUE(document.editing().redo());
     EXPECT_EQ(column(), QStringLiteral("a R"));
 }
 
 TEST_F(DocumentTest, RowsStayWhereALastRowWouldFallOff) {
-    document.write(1, {lastRow, 2}, {{QStringLiteral("z")}});
-    EXPECT_TRUE(
-        refusalOf([&] { document.insertRow(1, 5); }).startsWith(QStringLiteral("1004 Řádek nelze vložit")));
-    EXPECT_EQ(cellText(document.value(1, {lastRow, 2})), QStringLiteral("z"));
+    document.editing().write(1, {lastRow, 2}, {{QStringLiteral("z")}});
+    EXPECT_TRUE(refusalOf([&] {
+                    document.editing().insertRow(1, 5);
+                }).startsWith(QStringLiteral("1004 Řádek nelze vložit")));
+    EXPECT_EQ(cellText(document.cells().value(1, {lastRow, 2})), QStringLiteral("z"));
 }
 
 TEST_F(DocumentTest, BlocksThatDoNotFitAreRefusedWhole) {
     EXPECT_EQ(refusalOf([&] {
-                  document.write(1, {lastRow, 2}, {{1.0}, {2.0}});
+                  document.editing().write(1, {lastRow, 2}, {{1.0}, {2.0}});
               }),
               QStringLiteral("1004 Údaje se na list od buňky $B$65536 nevejdou."));
     EXPECT_TRUE(refusalOf([&] {
-                    document.edit(1, {1, 1}, {{1.0}, {QString(32768, u'a')}}, psani);
+                    document.editing().edit(1, {1, 1}, {{1.0}, {QString(32768, u'a')}}, psani);
                 }).startsWith(QStringLiteral("1004 Text je příliš dlouhý")));
-    EXPECT_EQ(refusalOf([&] { document.editFill(1, *parseAddress(u"A:IV"), 1.0, psani); }),
+    EXPECT_EQ(refusalOf([&] { document.editing().editFill(1, *parseAddress(u"A:IV"), 1.0, psani); }),
               QStringLiteral("1004 Oblast je příliš velká."));
-    EXPECT_EQ(document.usedRows(1), 0);
-    EXPECT_FALSE(document.isModified());
+    EXPECT_EQ(document.cells().usedRows(1), 0);
+    EXPECT_FALSE(document.file().isModified());
 }
 
 TEST_F(DocumentTest, SignalsTellOfChangesAndOnlyOfChanges) {
     QSignalSpy cells(&document, &Document::cellsChanged), selection(&document, &Document::selectionChanged);
     QSignalSpy modified(&document, &Document::modifiedChanged), sheets(&document, &Document::sheetsChanged);
-    document.select({1, 1});
-    document.fill(1, single({1, 1}), {});
-    document.renameSheet(1, document.sheetName(1));
+    document.cursor().select({1, 1});
+    document.editing().fill(1, single({1, 1}), {});
+    document.editing().renameSheet(1, document.cells().sheetName(1));
     EXPECT_EQ(cells.count() + selection.count() + modified.count() + sheets.count(), 0);
-    document.select({2, 2});
+    document.cursor().select({2, 2});
     programWrites("B2", "c");
     programWrites("B2", "d");
-    document.renameSheet(1, QStringLiteral("G dur"));
+    document.editing().renameSheet(1, QStringLiteral("G dur"));
     EXPECT_EQ(selection.count(), 1);
     EXPECT_EQ(cells.count(), 2);
     EXPECT_EQ(cells.first().at(1).value<CellRange>(), single({2, 2}));
@@ -189,28 +192,28 @@ TEST_F(DocumentTest, SheetNamesThatSpreadsheetsTakeForEqualOrRefuseAreRefused) {
     const QString file = folder.filePath(QStringLiteral("dva.xls"));
     QFile::copy(QStringLiteral(XLS_DATA "/xlwt.xls"), file);
     const auto two = Document::open(file, {});
-    two->renameSheet(2, QStringLiteral("Žlutý"));
+    two->editing().renameSheet(2, QStringLiteral("Žlutý"));
     for (const char* name : {"ŽLUTÝ", "žlutý", "'a", "a'", "", "a:b"})
         EXPECT_TRUE(
-            refusalOf([&] { two->renameSheet(1, QString::fromUtf8(name)); })
+            refusalOf([&] { two->editing().renameSheet(1, QString::fromUtf8(name)); })
                 .startsWith(
                     QStringLiteral("1004 Jméno listu „%1“ nelze použít: ").arg(QString::fromUtf8(name))))
             << name;
-    two->renameSheet(2, QStringLiteral("ŽLUTÝ")); // its own name in another case
-    EXPECT_EQ(two->sheetName(2), QStringLiteral("ŽLUTÝ"));
+    two->editing().renameSheet(2, QStringLiteral("ŽLUTÝ")); // its own name in another case
+    EXPECT_EQ(two->cells().sheetName(2), QStringLiteral("ŽLUTÝ"));
 }
 
 TEST_F(DocumentTest, ColumnWidthsAreKeptInTheFile) {
-    document.setColumnWidth(1, 1, 24.5);
-    document.setColumnWidth(1, 2, 999);
+    document.editing().setColumnWidth(1, 1, 24.5);
+    document.editing().setColumnWidth(1, 2, 999);
     document.saveAs(folder.filePath(QStringLiteral("pisen.xls")));
     const Document copy{QStringLiteral("x")};
-    QFile::copy(document.path(), folder.filePath(QStringLiteral("kopie.xls")));
+    QFile::copy(document.file().path(), folder.filePath(QStringLiteral("kopie.xls")));
     const auto opened = Document::open(folder.filePath(QStringLiteral("kopie.xls")));
-    EXPECT_DOUBLE_EQ(opened->columnWidth(1, 1), 24.5);
-    EXPECT_DOUBLE_EQ(opened->columnWidth(1, 2), 255.0);
-    EXPECT_DOUBLE_EQ(opened->columnWidth(1, 3), copy.columnWidth(1, 3));
-    EXPECT_FALSE(opened->isModified());
+    EXPECT_DOUBLE_EQ(opened->cells().columnWidth(1, 1), 24.5);
+    EXPECT_DOUBLE_EQ(opened->cells().columnWidth(1, 2), 255.0);
+    EXPECT_DOUBLE_EQ(opened->cells().columnWidth(1, 3), copy.cells().columnWidth(1, 3));
+    EXPECT_FALSE(opened->file().isModified());
 }
 
 TEST_F(DocumentTest, FormulasAreReplacedOnPurposeAndNeverMoved) {
@@ -218,20 +221,20 @@ TEST_F(DocumentTest, FormulasAreReplacedOnPurposeAndNeverMoved) {
     ASSERT_TRUE(QFile::copy(QStringLiteral(XLS_DATA "/libreoffice.xls"), copy));
     const auto formulas = Document::open(copy);
     const CellPosition cell = at("F1");
-    ASSERT_TRUE(formulas->isFormula(1, cell));
-    for (const auto& refusal :
-         {refusalOf([&] { formulas->insertRow(1, 1); }), refusalOf([&] { formulas->deleteRow(1, 1); })})
+    ASSERT_TRUE(formulas->cells().isFormula(1, cell));
+    for (const auto& refusal : {refusalOf([&] { formulas->editing().insertRow(1, 1); }),
+                                refusalOf([&] { formulas->editing().deleteRow(1, 1); })})
         EXPECT_EQ(refusal, QStringLiteral("1004 Řádky nelze posunout: v buňce $F$1 je vzorec."));
-    EXPECT_FALSE(formulas->isModified());
-    EXPECT_TRUE(formulas->edit(1, cell, {{formulas->value(1, cell)}}, psani));
-    EXPECT_FALSE(formulas->isFormula(1, cell));
+    EXPECT_FALSE(formulas->file().isModified());
+    EXPECT_TRUE(formulas->editing().edit(1, cell, {{formulas->cells().value(1, cell)}}, psani));
+    EXPECT_FALSE(formulas->cells().isFormula(1, cell));
     formulas->save();
-    EXPECT_TRUE(formulas->undo());
-    EXPECT_TRUE(formulas->isFormula(1, cell)) << "the formula comes back, not only what it showed";
-    EXPECT_TRUE(formulas->redo());
-    EXPECT_FALSE(formulas->isFormula(1, cell));
-    formulas->write(1, at("F2"), {{formulas->value(1, at("F2"))}});
-    EXPECT_FALSE(formulas->isFormula(1, at("F2")));
+    EXPECT_TRUE(formulas->editing().undo());
+    EXPECT_TRUE(formulas->cells().isFormula(1, cell)) << "the formula comes back, not only what it showed";
+    EXPECT_TRUE(formulas->editing().redo());
+    EXPECT_FALSE(formulas->cells().isFormula(1, cell));
+    formulas->editing().write(1, at("F2"), {{formulas->cells().value(1, at("F2"))}});
+    EXPECT_FALSE(formulas->cells().isFormula(1, at("F2")));
 }
 
 } // namespace zvonika::testing
