@@ -1,6 +1,11 @@
 #include "spreadsheet/embedded/Document.h"
 
+#include "spreadsheet/embedded/WorkbookFile.h"
 #include "tests/spreadsheet/embedded/Rig.h"
+#include "tests/spreadsheet/xls/XlsFiles.h"
+
+#include <algorithm>
+#include <functional>
 
 namespace zvonika::testing {
 
@@ -214,6 +219,45 @@ TEST_F(DocumentTest, ColumnWidthsAreKeptInTheFile) {
     EXPECT_DOUBLE_EQ(opened->cells().columnWidth(1, 2), 255.0);
     EXPECT_DOUBLE_EQ(opened->cells().columnWidth(1, 3), copy.cells().columnWidth(1, 3));
     EXPECT_FALSE(opened->file().isModified());
+}
+
+TEST_F(DocumentTest, AColumnWithinARecordOfThreeKeepsItsNeighboursWidths) {
+    std::vector<xlstest::Rec> records = xlstest::recordsOf(xls::Workbook::create(u"List1").save());
+    const auto behind = std::ranges::find(records, 0x0055, &xlstest::Rec::id) + 1;
+    records.insert(behind, {0x007D, xlstest::le(2, {1, 3, 20 * 256, 15, 2, 0})}); // columns B to D
+    const auto bytes = xlstest::fileAround(xlstest::bytesOf(records));
+    for (const int changed : {2, 3, 4}) {
+        const QString file = folder.filePath(QStringLiteral("tři%1.xls").arg(changed));
+        store(file, QByteArray(reinterpret_cast<const char*>(bytes.data()), qsizetype(bytes.size())));
+        const auto written = Document::open(file);
+        written->editing().setColumnWidth(1, changed, 30);
+        written->saveAs(folder.filePath(QStringLiteral("jinam%1.xls").arg(changed)));
+        const auto book = readWorkbook(written->file().path()).book;
+        for (const int column : {2, 3, 4})
+            EXPECT_EQ(book.columnWidth(0, column - 1), (column == changed ? 30 : 20) * 256)
+                << column << " of " << changed;
+    }
+}
+
+TEST_F(DocumentTest, EveryChangeCountsAsOne) {
+    document.saveAs(folder.filePath(QStringLiteral("pisen.xls")));
+    const std::pair<const char*, std::function<void()>> changes[] = {
+        {"write", [&] { fillColumn("abc"); }},
+        {"fill", [&] { document.editing().fill(1, single(at("B1")), 1.0); }},
+        {"edit", [&] { userTypes("B1", "x"); }},
+        {"insert a row", [&] { document.editing().insertRow(1, 2); }},
+        {"delete a row", [&] { document.editing().deleteRow(1, 3); }},
+        {"take back", [&] { document.editing().undo(); }},
+        {"do again", [&] { document.editing().redo(); }},
+        {"rename", [&] { document.editing().renameSheet(1, QStringLiteral("G dur")); }},
+        {"widen", [&] { document.editing().setColumnWidth(1, 1, 30); }},
+    };
+    for (const auto& [name, change] : changes) {
+        document.save();
+        ASSERT_FALSE(document.file().isModified());
+        change();
+        EXPECT_TRUE(document.file().isModified()) << name;
+    }
 }
 
 TEST_F(DocumentTest, FormulasAreReplacedOnPurposeAndNeverMoved) {

@@ -92,6 +92,18 @@ TEST_F(EmbeddedApplicationTest, ASongThatCouldNotBeSavedMakesRoomForAnotherOfIts
               QStringLiteral("c"));
 }
 
+TEST_F(EmbeddedApplicationTest, BehindAClosedWorkbookStandsTheOneOpenedLast) {
+    for (const char* name : {"a.xls", "b.xls", "c.xls"}) {
+        app.addWorkbook();
+        app.saveActiveWorkbookAs({path(QString::fromLatin1(name))});
+    }
+    app.activateWindow(QStringLiteral("b.xls"));
+    for (const char* next : {"c.xls", "a.xls", ""}) {
+        app.closeActiveWorkbook();
+        EXPECT_EQ(app.activeWorkbookName(), QString::fromLatin1(next));
+    }
+}
+
 TEST_F(EmbeddedApplicationTest, AFileThatIsOpenHereComesToTheFrontAsItIs) {
     app.addWorkbook();
     app.saveActiveWorkbookAs({path(QStringLiteral("pisen.xls"))});

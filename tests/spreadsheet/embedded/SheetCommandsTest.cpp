@@ -1,5 +1,6 @@
 #include "spreadsheet/embedded/Failures.h"
 #include "tests/spreadsheet/embedded/Rig.h"
+#include "tests/spreadsheet/embedded/SmallMemory.h"
 
 #include <new>
 
@@ -129,6 +130,21 @@ TEST_F(SheetCommandsTest, AWholeColumnIsCopiedAsFarAsItIsUsed) {
     EXPECT_EQ(app.session().active()->cells().usedRows(1), 0);
 }
 
+#ifndef __SANITIZE_ADDRESS__ // needs more room than any limit leaves
+TEST_F(SheetCommandsTest, WhatCouldNotBeCopiedIsNotCutOut) {
+    app.setValue(QStringLiteral("O65536"), QStringLiteral("daleko"));
+    select("A:O");
+    dialogs.expect(jmenoTabulky, QStringLiteral("Nestačí paměť"));
+    {
+        const SmallMemory memory(4 << 20); // nearly a million cells are copied, one is to be emptied
+        EXPECT_EQ(user.cut(), QString());
+    }
+    EXPECT_TRUE(dialogs.done());
+    EXPECT_EQ(cellText(app.value(QStringLiteral("O65536"))), QStringLiteral("daleko"));
+    EXPECT_EQ(listener.take(), QString());
+}
+#endif
+
 TEST_F(SheetCommandsTest, RefusalsAreShownNotThrown) {
     select("A65536");
     dialogs.expect(jmenoTabulky, QStringLiteral("nevejdou"));
@@ -159,6 +175,9 @@ TEST_F(SheetCommandsTest, SavingAsksForANameOnce) {
     user.type({1, 1}, QStringLiteral("Koč"));
     EXPECT_TRUE(user.files().save());
     EXPECT_FALSE(app.session().active()->file().isModified());
+    dialogs.expectFile(QStringLiteral("Uložit jako"), path(QStringLiteral("Polka.XLS")));
+    EXPECT_TRUE(user.files().saveAs());
+    EXPECT_EQ(app.activeWorkbookName(), QStringLiteral("Polka.XLS"));
     dialogs.expectFile(QStringLiteral("Uložit jako"), {});
     EXPECT_FALSE(user.files().saveAs());
     dialogs.expectFile(QStringLiteral("Uložit jako"), path(QStringLiteral("není/x.xls")));
