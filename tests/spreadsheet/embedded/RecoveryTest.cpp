@@ -143,12 +143,11 @@ TEST_F(RecoveryTest, AfterASecondCrashBothWorksComeBack) {
 
 TEST_F(RecoveryTest, SaysWhenTheSongHasChangedSince) {
     crashWith("B2", "d");
-    const auto other = Document::open(song);
+    auto other = Document::open(song);
     other->editing().write(1, {4, 2}, {{QStringLiteral("cizí")}});
     other->save();
     dialogs.expect(title, QStringLiteral("Pozor: soubor se od té doby změnil."), Answer::Yes);
-    // The other one closes the song before it is opened here.
-    const_cast<std::unique_ptr<Document>&>(other).reset();
+    other.reset(); // closes the song before it is opened here
     open();
     EXPECT_EQ(text("B2") + text("B4"), QStringLiteral("dcizí"));
 }
