@@ -22,7 +22,7 @@ namespace zvonika {
 
 /// All conversations of the main window, built over the models and ports in the order in which they need each
 /// other.
-class Konverzace : private ZobrazeniPisne {
+class Konverzace {
 public:
     /// `otevriVyberStupnice`: shows the key dialog and returns when it is closed.
     Konverzace(Modely& modely, const Prostredi& prostredi, std::function<void()> otevriVyberStupnice);
@@ -54,11 +54,6 @@ public:
 
 private:
     OkoliZapisu okoliZapisu();
-
-    void cmdReadTah() override { zobrazeniHmatu.cmdReadTah(); }
-    void cmdReadTlak() override { zobrazeniHmatu.cmdReadTlak(); }
-    void obnovRadek() override { zobrazeniHmatu.ZobrazTexty(); }
-    void obnovPas() override { pasPisne.obnov(); }
 };
 
 } // namespace zvonika

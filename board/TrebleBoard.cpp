@@ -1,6 +1,6 @@
 #include "board/TrebleBoard.h"
 
-#include "theory/Tonavox12.h"
+#include "theory/NazvyTonu.h"
 
 #include <utility>
 
@@ -106,11 +106,8 @@ void TrebleBoard::nastavPopisPomocneho(int n, const QString& popis) {
 
 void TrebleBoard::nastavNazvy(bool zapnuto, const QString& stupnice) {
     const bool prepnuto = zmen(nazvy_, zapnuto);
-    Tonavox12 ladeni;
     for (int n = 1; n <= pocetKnofliku; ++n) {
-        QString klic = stupnice; // naming a tone spoils the caller's key
-        ladeni.DejTonVeStupnici(CisloTonu(n), klic);
-        const QString novy = zapnuto ? ladeni.nazevTonu().text() : QString();
+        const QString novy = zapnuto ? nazevTonu(CisloTonu(n), Key(stupnice)).nazev.text() : QString();
         const QString stary = std::exchange(knoflik(n).nazev, novy);
         nastavPopis(n, prejmenuj(popis(n), stary, novy));
         nastavPopisPomocneho(n, prejmenuj(popisPomocneho(n), stary, novy));

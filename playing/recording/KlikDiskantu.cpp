@@ -1,5 +1,6 @@
 #include "playing/recording/KlikDiskantu.h"
 
+#include "theory/NazvyTonu.h"
 #include "theory/Tonina.h"
 #include "theory/clsNotyZapis.h"
 
@@ -12,7 +13,7 @@ namespace zvonika {
 KlikDiskantu::KlikDiskantu(TrebleBoard& diskant, clsNotyZapis& noty, const Tonina& tonina, Dialogs& dialogs,
                            Okno okno)
     : diskant_(diskant), noty_(noty), tonina_(tonina), okno_(std::move(okno)), polohy_(dialogs),
-      overeni_(dialogs, tonavox_, polohy_, tonina, *this) {}
+      overeni_(dialogs, polohy_, tonina, *this) {}
 
 void KlikDiskantu::klik(int n) {
     if (overujeSe_) return;
@@ -49,10 +50,8 @@ void KlikDiskantu::uvolni(int n) {
 void KlikDiskantu::nasledujToninu() {
     diskant_.nastavNazvy(diskant_.nazvyZapnuty(), tonina_.stupnice().text());
     for (int n = 1; n <= pocetKnofliku; ++n) {
-        if (diskant_.tonKlavesy(n).isEmpty()) continue;
-        QString stupnice = tonina_.stupnice().text();
-        tonavox_.DejTonVeStupnici(CisloTonu(n), stupnice);
-        diskant_.nastavTonKlavesy(n, tonavox_.nazevTonu().text());
+        if (!diskant_.tonKlavesy(n).isEmpty())
+            diskant_.nastavTonKlavesy(n, nazevTonu(CisloTonu(n), tonina_.stupnice()).nazev.text());
     }
 }
 

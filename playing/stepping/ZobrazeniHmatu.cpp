@@ -5,7 +5,7 @@
 #include "board/TrebleBoard.h"
 #include "playing/stepping/ZobrazeniPrstokladu.h"
 #include "song/ZobrazovaciOsnova.h"
-#include "theory/Tonavox12.h"
+#include "theory/NazvyTonu.h"
 
 #include <algorithm>
 #include <utility>
@@ -26,12 +26,6 @@ bool zHmatu(Stav stav) {
 template <typename Stav>
 Stav stavPodleZnacky(bool oznacen) {
     return oznacen ? Stav::Cerveny : Stav::Volny;
-}
-
-CisloTonu cisloTonu(const QString& nazev) {
-    Tonavox12 ladeni;
-    ladeni.DejCisloTonu(ToneName(nazev));
-    return ladeni.cisloTonu();
 }
 
 } // namespace
@@ -144,7 +138,7 @@ void ZobrazeniHmatu::uvolniObrazky() {
 QStringList ZobrazeniHmatu::ukazTony(const QStringList& tony) {
     QStringList cizi;
     for (const QString& ton : tony) {
-        const CisloTonu cislo = cisloTonu(ton);
+        const CisloTonu cislo = cisloTonu(ToneName(ton));
         if (cislo.jeVRozsahu())
             plochy_.diskant.ukaz(cislo.hodnota(), zobrazenTlak_ ? StavKnofliku::Tlak : StavKnofliku::Tah);
         else

@@ -1,6 +1,6 @@
 #include "platform/files/AtomicFile.h"
 
-#include "tests/spreadsheet/embedded/OtherUser.h"
+#include "tests/platform/files/OtherUser.h"
 #include "tests/spreadsheet/embedded/Rig.h"
 #include "tests/spreadsheet/embedded/SmallDisk.h"
 

@@ -4,6 +4,8 @@
 #include "playing/recording/Uvolneni.h"
 #include "playing/recording/ZapisHmatu.h"
 #include "playing/recording/ZapisHmatuZNot.h"
+#include "playing/stepping/PasPisne.h"
+#include "playing/stepping/ZobrazeniHmatu.h"
 #include "song/ZobrazovaciOsnova.h"
 #include "tests/support/FakeSpreadsheet.h"
 #include "tests/support/ScriptedDialogs.h"
@@ -13,17 +15,6 @@
 #include <gtest/gtest.h>
 
 namespace zvonika::testing {
-
-/// Notes what recording asks of the display.
-class FakeZobrazeniPisne : public ZobrazeniPisne {
-public:
-    void cmdReadTah() override { volani << QStringLiteral("cmdReadTah"); }
-    void cmdReadTlak() override { volani << QStringLiteral("cmdReadTlak"); }
-    void obnovRadek() override { volani << QStringLiteral("obnovRadek"); }
-    void obnovPas() override { volani << QStringLiteral("obnovPas"); }
-
-    QStringList volani;
-};
 
 /// The input board with an open song, its cursor on B1.
 class Zapisovani : public ::testing::Test {
@@ -73,12 +64,14 @@ protected:
     Tonina tonina;
     NotovaOsnova osnova;
     ZobrazovaciOsnova zobrazovaci;
-    FakeZobrazeniPisne zobrazeni;
+    Pas pas;
     clsNotyZapis noty{osnova, dialogs};
     Prstoklad prstoklad{dialogs};
     BassTable tabulka{QStringLiteral(ZVONIKA_RESOURCES)};
     ZapisBasu zapisBasu{basy, tabulka, dialogs};
-    PoZapisu poZapisu{pisen, panel, prikazy, zobrazeni};
+    ZobrazeniHmatu zobrazeni{pisen, {diskant, basy, tabulka, zobrazovaci, panel}, [](const QString&) {}};
+    PasPisne pasPisne{pisen, pas};
+    PoZapisu poZapisu{{pisen, dialogs, panel, prikazy}, zobrazeni, pasPisne};
     OkoliZapisu okoli{pisen, dialogs, prstoklad, zapisBasu, poZapisu, tonina};
     ZapisHmatu zapis{okoli, diskant};
     ZapisHmatuZNot zapisZNot{okoli, osnova, noty};

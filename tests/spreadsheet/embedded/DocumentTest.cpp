@@ -19,10 +19,10 @@ protected:
     static CellPosition at(const char* address) { return parseAddress(QString::fromLatin1(address))->first; }
     QString text(const char* address) const { return cellText(document.cells().value(1, at(address))); }
     void userTypes(const char* address, const char* typed) {
-        document.editing().edit(1, at(address), {{QString::fromUtf8(typed)}}, psani);
+        editing.edit(1, at(address), {{QString::fromUtf8(typed)}}, psani);
     }
     void programWrites(const char* address, const char* written) {
-        document.editing().write(1, at(address), {{QString::fromUtf8(written)}});
+        editing.write(1, at(address), {{QString::fromUtf8(written)}});
     }
     /// Column B from row 1 on, joined.
     QString column() const {
@@ -34,11 +34,12 @@ protected:
     }
     void fillColumn(const char* letters) {
         for (int row = 1; letters[row - 1]; ++row)
-            document.editing().write(1, {row, 2}, {{QString(QLatin1Char(letters[row - 1]))}});
+            editing.write(1, {row, 2}, {{QString(QLatin1Char(letters[row - 1]))}});
     }
 
     QTemporaryDir folder;
     Document document{QStringLiteral("Sešit1")};
+    Editing& editing = document.editing();
 };
 
 } // namespace
@@ -46,69 +47,68 @@ protected:
 TEST_F(DocumentTest, UndoAndRedoExchangeValuesAndShowTheCells) {
     userTypes("B2", "c");
     userTypes("B2", "d");
-    document.editing().edit(1, at("C5"), {{1.0, 2.0}, {3.0, 4.0}}, QStringLiteral("Vložení"));
-    EXPECT_EQ(document.editing().undoLabel(), QStringLiteral("Vložení"));
+    editing.edit(1, at("C5"), {{1.0, 2.0}, {3.0, 4.0}}, QStringLiteral("Vložení"));
+    EXPECT_EQ(editing.undoLabel(), QStringLiteral("Vložení"));
     document.cursor().select({1, 1});
-    ASSERT_TRUE(document.editing().undo());
+    ASSERT_TRUE(editing.undo());
     EXPECT_EQ(document.cells().block(1, {at("C5"), at("D6")}), CellBlock({{{}, {}}, {{}, {}}}));
     EXPECT_EQ(document.cursor().selection(), (Selection{{at("C5"), at("D6")}, at("C5")}));
-    EXPECT_TRUE(document.editing().undo());
+    EXPECT_TRUE(editing.undo());
     EXPECT_EQ(text("B2"), QStringLiteral("c"));
-    EXPECT_TRUE(document.editing().undo());
+    EXPECT_TRUE(editing.undo());
     EXPECT_EQ(text("B2"), QString());
-    EXPECT_FALSE(document.editing().undo());
-    EXPECT_TRUE(document.editing().redo());
-    EXPECT_TRUE(document.editing().redo());
+    EXPECT_FALSE(editing.undo());
+    EXPECT_TRUE(editing.redo());
+    EXPECT_TRUE(editing.redo());
     EXPECT_EQ(text("B2"), QStringLiteral("d"));
-    EXPECT_EQ(document.editing().redoLabel(), QStringLiteral("Vložení"));
+    EXPECT_EQ(editing.redoLabel(), QStringLiteral("Vložení"));
     userTypes("B3", "e");
-    EXPECT_FALSE(document.editing().redo());
+    EXPECT_FALSE(editing.redo());
 }
 
 TEST_F(DocumentTest, AnEditThatChangesNothingIsNoStep) {
-    EXPECT_FALSE(document.editing().edit(1, at("B2"), {{QString()}}, psani));
+    EXPECT_FALSE(editing.edit(1, at("B2"), {{QString()}}, psani));
     userTypes("B2", "c");
-    EXPECT_FALSE(document.editing().edit(1, at("B2"), {{QStringLiteral("c")}}, psani));
-    EXPECT_FALSE(document.editing().editFill(1, *parseAddress(u"D:F"), {}, psani));
-    document.editing().undo();
-    EXPECT_EQ(document.editing().undoLabel(), QString());
+    EXPECT_FALSE(editing.edit(1, at("B2"), {{QStringLiteral("c")}}, psani));
+    EXPECT_FALSE(editing.editFill(1, *parseAddress(u"D:F"), {}, psani));
+    editing.undo();
+    EXPECT_EQ(editing.undoLabel(), QString());
 }
 
 TEST_F(DocumentTest, UndoNeverReachesWhatTheProgramHasWritten) {
-    document.editing().edit(1, at("B5"), {{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}},
-                            psani);
+    editing.edit(1, at("B5"), {{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}}, psani);
     userTypes("A1", "Koč");
     userTypes("B5", "x");
-    document.editing().undo();
+    editing.undo();
     programWrites("B5", "x"); // the same text, but recorded: no longer the user's
-    document.editing().fill(1, single(at("C5")), {});
-    document.editing().undo();
+    editing.fill(1, single(at("C5")), {});
+    editing.undo();
     EXPECT_EQ(text("A1"), QString());
-    document.editing().undo();
+    editing.undo();
     EXPECT_EQ(document.cells().block(1, {at("B5"), at("D5")}), CellBlock({{QStringLiteral("x"), {}, {}}}));
-    EXPECT_EQ(document.editing().undoLabel(), QString());
-    document.editing().redo();
-    document.editing().redo();
+    EXPECT_EQ(editing.undoLabel(), QString());
+    editing.redo();
+    editing.redo();
     EXPECT_EQ(document.cells().block(1, {at("B5"), at("D5")}),
               CellBlock({{QStringLiteral("x"), {}, QStringLiteral("c")}}));
-    EXPECT_EQ(document.editing().redoLabel(), QString());
+    EXPECT_EQ(editing.redoLabel(), QString());
 }
 
 TEST_F(DocumentTest, RowsAreInsertedAndDeletedAndBack) {
     fillColumn("abcd");
-    ASSERT_TRUE(document.editing().insertRow(1, 2));
+    ASSERT_TRUE(editing.insertRow(1, 2));
     EXPECT_EQ(column(), QStringLiteral("a  b c d"));
-    ASSERT_TRUE(document.editing().deleteRow(1, 4));
+    ASSERT_TRUE(editing.deleteRow(1, 4));
     EXPECT_EQ(column(), QStringLiteral("a  b d"));
-    document.editing().undo();
+    editing.undo();
     EXPECT_EQ(column(), QStringLiteral("a  b c d"));
-    document.editing().undo();
+    editing.undo();
     EXPECT_EQ(column(), QStringLiteral("a b c d"));
-    document.editing().redo();
-    document.editing().redo();
+    editing.redo();
+    editing.redo();
     EXPECT_EQ(column(), QStringLiteral("a  b d"));
-    EXPECT_FALSE(document.editing().insertRow(1, 5));
-    EXPECT_FALSE(document.editing().deleteRow(1, 5));
+    EXPECT_FALSE(editing.insertRow(1, 5));
+    EXPECT_FALSE(editing.deleteRow(1, 5));
 }
 
 struct RowCase {
@@ -124,16 +124,16 @@ TEST_F(DocumentTest, ARecordedGripMovesWithTheRowsThatAreTakenBack) {
                              {"in the inserted row", 2, "x R b c d", "x R b c d"}};
     for (const auto& [name, row, undone, redone] : cases) {
         SCOPED_TRACE(name);
-        document.editing().fill(1, {{1, 1}, {9, 9}}, {});
+        editing.fill(1, {{1, 1}, {9, 9}}, {});
         fillColumn("abcd");
         userTypes("B1", "x");
-        document.editing().insertRow(1, 2);
-        document.editing().write(1, {row, 2}, {{QStringLiteral("R")}});
-        while (document.editing().undo()) {
+        editing.insertRow(1, 2);
+        editing.write(1, {row, 2}, {{QStringLiteral("R")}});
+        while (editing.undo()) {
         }
         EXPECT_EQ(column(),
                   QString::fromLatin1(undone).replace(QLatin1Char('x'), QLatin1Char(row == 2 ? 'x' : 'a')));
-        while (document.editing().redo()) {
+        while (editing.redo()) {
         }
         EXPECT_EQ(column(), QString::fromLatin1(redone));
     }
@@ -141,35 +141,34 @@ TEST_F(DocumentTest, ARecordedGripMovesWithTheRowsThatAreTakenBack) {
 
 TEST_F(DocumentTest, ARecordedGripIsNotDeletedByRedo) {
     fillColumn("abc");
-    document.editing().deleteRow(1, 2);
-    document.editing().undo();
+    editing.deleteRow(1, 2);
+    editing.undo();
     programWrites("B2", "R");
-    EXPECT_FALSE(document.editing().redo());
+    EXPECT_FALSE(editing.redo());
     EXPECT_EQ(column(), QStringLiteral("a R c"));
-    document.editing().deleteRow(1, 2);
-    document.editing().undo();
+    editing.deleteRow(1, 2);
+    editing.undo();
     programWrites("B3", "R");
-    EXPECT_TRUE(document.editing().redo());
+    EXPECT_TRUE(editing.redo());
     EXPECT_EQ(column(), QStringLiteral("a R"));
 }
 
 TEST_F(DocumentTest, RowsStayWhereALastRowWouldFallOff) {
-    document.editing().write(1, {lastRow, 2}, {{QStringLiteral("z")}});
-    EXPECT_TRUE(refusalOf([&] {
-                    document.editing().insertRow(1, 5);
-                }).startsWith(QStringLiteral("1004 Řádek nelze vložit")));
+    editing.write(1, {lastRow, 2}, {{QStringLiteral("z")}});
+    EXPECT_TRUE(
+        refusalOf([&] { editing.insertRow(1, 5); }).startsWith(QStringLiteral("1004 Řádek nelze vložit")));
     EXPECT_EQ(cellText(document.cells().value(1, {lastRow, 2})), QStringLiteral("z"));
 }
 
 TEST_F(DocumentTest, BlocksThatDoNotFitAreRefusedWhole) {
     EXPECT_EQ(refusalOf([&] {
-                  document.editing().write(1, {lastRow, 2}, {{1.0}, {2.0}});
+                  editing.write(1, {lastRow, 2}, {{1.0}, {2.0}});
               }),
               QStringLiteral("1004 Údaje se na list od buňky $B$65536 nevejdou."));
     EXPECT_TRUE(refusalOf([&] {
-                    document.editing().edit(1, {1, 1}, {{1.0}, {QString(32768, u'a')}}, psani);
+                    editing.edit(1, {1, 1}, {{1.0}, {QString(32768, u'a')}}, psani);
                 }).startsWith(QStringLiteral("1004 Text je příliš dlouhý")));
-    EXPECT_EQ(refusalOf([&] { document.editing().editFill(1, *parseAddress(u"A:IV"), 1.0, psani); }),
+    EXPECT_EQ(refusalOf([&] { editing.editFill(1, *parseAddress(u"A:IV"), 1.0, psani); }),
               QStringLiteral("1004 Oblast je příliš velká."));
     EXPECT_EQ(document.cells().usedRows(1), 0);
     EXPECT_FALSE(document.file().isModified());
@@ -179,13 +178,13 @@ TEST_F(DocumentTest, SignalsTellOfChangesAndOnlyOfChanges) {
     QSignalSpy cells(&document, &Document::cellsChanged), selection(&document, &Document::selectionChanged);
     QSignalSpy modified(&document, &Document::modifiedChanged), sheets(&document, &Document::sheetsChanged);
     document.cursor().select({1, 1});
-    document.editing().fill(1, single({1, 1}), {});
-    document.editing().renameSheet(1, document.cells().sheetName(1));
+    editing.fill(1, single({1, 1}), {});
+    editing.renameSheet(1, document.cells().sheetName(1));
     EXPECT_EQ(cells.count() + selection.count() + modified.count() + sheets.count(), 0);
     document.cursor().select({2, 2});
     programWrites("B2", "c");
     programWrites("B2", "d");
-    document.editing().renameSheet(1, QStringLiteral("G dur"));
+    editing.renameSheet(1, QStringLiteral("G dur"));
     EXPECT_EQ(selection.count(), 1);
     EXPECT_EQ(cells.count(), 2);
     EXPECT_EQ(cells.first().at(1).value<CellRange>(), single({2, 2}));
@@ -209,8 +208,8 @@ TEST_F(DocumentTest, SheetNamesThatSpreadsheetsTakeForEqualOrRefuseAreRefused) {
 }
 
 TEST_F(DocumentTest, ColumnWidthsAreKeptInTheFile) {
-    document.editing().setColumnWidth(1, 1, 24.5);
-    document.editing().setColumnWidth(1, 2, 999);
+    editing.setColumnWidth(1, 1, 24.5);
+    editing.setColumnWidth(1, 2, 999);
     document.saveAs(folder.filePath(QStringLiteral("pisen.xls")));
     const Document copy{QStringLiteral("x")};
     QFile::copy(document.file().path(), folder.filePath(QStringLiteral("kopie.xls")));
@@ -243,14 +242,14 @@ TEST_F(DocumentTest, EveryChangeCountsAsOne) {
     document.saveAs(folder.filePath(QStringLiteral("pisen.xls")));
     const std::pair<const char*, std::function<void()>> changes[] = {
         {"write", [&] { fillColumn("abc"); }},
-        {"fill", [&] { document.editing().fill(1, single(at("B1")), 1.0); }},
+        {"fill", [&] { editing.fill(1, single(at("B1")), 1.0); }},
         {"edit", [&] { userTypes("B1", "x"); }},
-        {"insert a row", [&] { document.editing().insertRow(1, 2); }},
-        {"delete a row", [&] { document.editing().deleteRow(1, 3); }},
-        {"take back", [&] { document.editing().undo(); }},
-        {"do again", [&] { document.editing().redo(); }},
-        {"rename", [&] { document.editing().renameSheet(1, QStringLiteral("G dur")); }},
-        {"widen", [&] { document.editing().setColumnWidth(1, 1, 30); }},
+        {"insert a row", [&] { editing.insertRow(1, 2); }},
+        {"delete a row", [&] { editing.deleteRow(1, 3); }},
+        {"take back", [&] { editing.undo(); }},
+        {"do again", [&] { editing.redo(); }},
+        {"rename", [&] { editing.renameSheet(1, QStringLiteral("G dur")); }},
+        {"widen", [&] { editing.setColumnWidth(1, 1, 30); }},
     };
     for (const auto& [name, change] : changes) {
         document.save();

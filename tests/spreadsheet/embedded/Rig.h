@@ -4,6 +4,7 @@
 #include "spreadsheet/SpreadsheetApplication.h"
 #include "spreadsheet/embedded/EmbeddedApplication.h"
 #include "tests/support/MemorySettings.h"
+#include "tests/support/PrintQt.h"
 #include "tests/support/ScriptedDialogs.h"
 
 #include <QDir>
@@ -12,13 +13,18 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
-#include <ostream>
-
-inline void PrintTo(const QString& text, std::ostream* out) {
-    *out << '"' << text.toStdString() << '"';
-}
 
 namespace zvonika::testing {
+
+/// Keeps what the program is told of the user's doings.
+class Listener : public SpreadsheetListener {
+public:
+    void cursorMoved() override { heard += QLatin1Char('k'); }
+    void cellsEdited() override { heard += QLatin1Char('b'); }
+    /// What came since the last call: "k" for the cursor, "b" for cells.
+    QString take() { return std::exchange(heard, {}); }
+    QString heard;
+};
 
 /// What the application has told its window.
 struct ViewLog {

@@ -8,15 +8,6 @@ namespace zvonika::testing {
 
 namespace {
 
-class Listener : public SpreadsheetListener {
-public:
-    void cursorMoved() override { heard += QLatin1Char('k'); }
-    void cellsEdited() override { heard += QLatin1Char('b'); }
-    /// What came since the last call: "k" for the cursor, "b" for cells.
-    QString take() { return std::exchange(heard, {}); }
-    QString heard;
-};
-
 class SheetCommandsTest : public ::testing::Test, protected World {
 protected:
     SheetCommandsTest() {
