@@ -1,141 +1,102 @@
 #include "spreadsheet/embedded/Document.h"
 
+#include "platform/Log.h"
+#include "platform/files/AtomicFile.h"
 #include "spreadsheet/Refusals.h"
-#include "spreadsheet/embedded/CellEntry.h"
-#include "spreadsheet/embedded/XlsValue.h"
-
-#include <algorithm>
-#include <cmath>
-#include <stdexcept>
+#include "spreadsheet/embedded/FileSentences.h"
+#include "spreadsheet/embedded/Replay.h"
+#include "spreadsheet/embedded/WorkbookFile.h"
 
 namespace zvonika {
 
 namespace {
 
-constexpr double widthUnits = 256.0; ///< of the file format in one character
-constexpr double widestColumn = 255.0;
-
-xls::CellRef ref(CellPosition cell) {
-    return {cell.row - 1, cell.column - 1};
-}
-
-/// The engine knows only the case of ASCII letters.
-bool isOtherSheetsName(const Document& document, int sheet, const QString& name) {
-    for (int other = 1; other <= document.sheetCount(); ++other)
-        if (other != sheet && document.sheetName(other).compare(name, Qt::CaseInsensitive) == 0) return true;
-    return false;
-}
+constexpr int gripColumn = 2; ///< B, where the cursor of a song stands
 
 } // namespace
 
-int Document::sheetCount() const {
-    return book_.sheetCount();
+Document::Document(const QString& name, JournalFolder journals)
+    : cells_(xls::Workbook::create(u"List1")), cursor_(cells_.book()), file_(name),
+      journal_(std::move(journals), journalBase()),
+      editing_(cells_, cursor_, [this](auto changes) { noteChanges(std::move(changes)); }) {
+    passSignalsOn();
 }
 
-void Document::requireSheet(int sheet) const {
-    if (sheet < 1 || sheet > sheetCount()) throw std::out_of_range("no such sheet");
+Document::Document(WorkbookFile file, const QString& path, JournalFolder journals, FileLock lock)
+    : cells_(std::move(file.book)), cursor_(cells_.book()),
+      file_(path, std::move(file.hash), cells_.book().isOldFormat(), std::move(lock)),
+      journal_(std::move(journals), journalBase()),
+      editing_(cells_, cursor_, [this](auto changes) { noteChanges(std::move(changes)); }) {
+    passSignalsOn();
 }
 
-QString Document::sheetName(int sheet) const {
-    return QString::fromStdU16String(book_.sheetName(sheet - 1));
+void Document::passSignalsOn() {
+    connect(&editing_, &Editing::cellsChanged, this, &Document::cellsChanged);
+    connect(&editing_, &Editing::columnWidthChanged, this, &Document::columnWidthChanged);
+    connect(&editing_, &Editing::sheetRenamed, this, &Document::sheetsChanged);
+    connect(&editing_, &Editing::historyChanged, this, &Document::historyChanged);
+    connect(&cursor_, &SheetCursor::sheetActivated, this, &Document::sheetsChanged);
+    connect(&cursor_, &SheetCursor::selectionChanged, this, &Document::selectionChanged);
+    connect(&file_, &DocumentFile::nameChanged, this, &Document::nameChanged);
+    connect(&file_, &DocumentFile::modifiedChanged, this, &Document::modifiedChanged);
+    connect(&journal_, &DocumentJournal::troubleChanged, this, &Document::journalTroubleChanged);
 }
 
-void Document::activateSheet(int sheet) {
-    requireSheet(sheet);
-    if (sheet == activeSheet_) return;
-    activeSheet_ = sheet;
-    Q_EMIT sheetsChanged();
-    Q_EMIT selectionChanged();
+std::unique_ptr<Document> Document::open(const QString& nativePath, JournalFolder journals) {
+    return open(nativePath, std::move(journals), FileLock::acquire(nativePath));
 }
 
-void Document::renameSheet(int sheet, const QString& name) {
-    if (name == sheetName(sheet)) return;
-    try {
-        if (isOtherSheetsName(*this, sheet, name)) throw std::invalid_argument("another sheet has this name");
-        book_.renameSheet(sheet - 1, name.toStdU16String());
-    } catch (const std::invalid_argument&) {
-        refuse(QStringLiteral(
-                   "Jméno listu „%1“ nelze použít: má mít 1 až 31 znaků, žádný z nich : \\ / ? * [ ], "
-                   "nemá začínat ani končit apostrofem a v sešitu smí být jen jednou.")
-                   .arg(name));
-    }
-    setModified(true);
-    note({SheetRenamed{sheet, name}});
-    Q_EMIT sheetsChanged();
+std::unique_ptr<Document> Document::open(const QString& nativePath, JournalFolder journals, FileLock lock) {
+    if (lock.foundStale()) removeLeftovers(nativePath);
+    WorkbookFile file = readWorkbook(nativePath);
+    if (file.book.sheetCount() == 0) refuse(openRefused(nativePath, xls::Refusal::Damaged));
+    qCInfo(openingLog).noquote() << nativePath << "otevřen, listů" << file.book.sheetCount();
+    return std::unique_ptr<Document>(
+        new Document(std::move(file), nativePath, std::move(journals), std::move(lock)));
 }
 
-Selection Document::selection(int sheet) const {
-    requireSheet(sheet);
-    return selections_[static_cast<std::size_t>(sheet - 1)];
+void Document::noteChanges(std::vector<JournalChange> changes) {
+    file_.markModified();
+    journal_.note(std::move(changes));
 }
 
-void Document::select(const CellRange& range, CellPosition active) {
-    if (!isOnSheet(range.first) || !isOnSheet(range.last) || !range.contains(active))
-        throw std::out_of_range("selection outside the sheet");
-    auto& selection = selections_[static_cast<std::size_t>(activeSheet_ - 1)];
-    if (selection == Selection{range, active}) return;
-    selection = {range, active};
-    Q_EMIT selectionChanged();
+DocumentFile::Source Document::source() {
+    return {[this] {
+                // The cursor alone is no reason to turn an older file into a newer one.
+                if (!file_.isOldFormat() || file_.isModified()) cursor_.storeIn(cells_.book());
+                return cells_.book().save();
+            },
+            [this](const QString& nativePath, const QByteArray& hash) { journal_.saving(nativePath, hash); }};
 }
 
-CellValue Document::value(int sheet, CellPosition cell) const {
-    return fromXls(book_.value(sheet - 1, ref(cell)));
+void Document::save() {
+    file_.save(source());
+    journal_.saved(journalBase());
 }
 
-bool Document::isFormula(int sheet, CellPosition cell) const {
-    return book_.isFormula(sheet - 1, ref(cell));
+void Document::saveAs(const QString& nativePath) {
+    const bool elsewhere = !file_.isAt(nativePath);
+    file_.saveAs(nativePath, source());
+    if (elsewhere) journal_.setAsideOf(nativePath);
+    journal_.saved(journalBase());
 }
 
-CellBlock Document::block(int sheet, const CellRange& range) const {
-    CellBlock block(range.rows());
-    for (int row = 0; row < range.rows(); ++row) {
-        auto& cells = block[row];
-        cells.reserve(range.columns());
-        for (int column = range.first.column; column <= range.last.column; ++column)
-            cells.append(value(sheet, {range.first.row + row, column}));
-    }
-    return block;
+int Document::recover(PendingJournal pending) {
+    const std::vector<JournalGroup> groups = pending.contents.groups;
+    const int refused = replay(cells_, groups);
+    journal_.takeOver(std::move(pending));
+    file_.markModified();
+    showLast(groups);
+    qCInfo(recoveryLog).noquote() << file_.name() << "obnoven, příkazů" << groups.size() << "odmítnuto změn"
+                                  << refused;
+    return refused;
 }
 
-QString Document::displayText(int sheet, CellPosition cell) const {
-    return zvonika::displayText(value(sheet, cell));
-}
-
-QString Document::editText(int sheet, CellPosition cell) const {
-    return zvonika::editText(value(sheet, cell));
-}
-
-int Document::usedRows(int sheet) const {
-    return book_.usedRows(sheet - 1);
-}
-
-int Document::usedColumns(int sheet) const {
-    return book_.usedColumns(sheet - 1);
-}
-
-double Document::columnWidth(int sheet, int column) const {
-    return book_.columnWidth(sheet - 1, column - 1) / widthUnits;
-}
-
-void Document::putColumnWidth(int sheet, int column, double characters) {
-    const double width = std::clamp(characters, 0.0, widestColumn) * widthUnits;
-    book_.setColumnWidth(sheet - 1, column - 1, static_cast<int>(std::lround(width)));
-}
-
-void Document::setColumnWidth(int sheet, int column, double characters) {
-    putColumnWidth(sheet, column, characters);
-    setModified(true);
-    note({ColumnResized{sheet, column, characters}});
-    Q_EMIT columnWidthChanged(sheet, column);
-}
-
-void Document::changed(int sheet, const CellRange& range) {
-    setModified(true);
-    Q_EMIT cellsChanged(sheet, range);
-}
-
-void Document::setModified(bool modified) {
-    if (std::exchange(modified_, modified) != modified) Q_EMIT modifiedChanged();
+void Document::showLast(const std::vector<JournalGroup>& groups) {
+    const auto cell = lastWritten(groups);
+    if (!cell || cell->sheet > cells_.sheetCount()) return;
+    cursor_.activateSheet(cell->sheet);
+    cursor_.select({cell->cell.row, gripColumn});
 }
 
 } // namespace zvonika

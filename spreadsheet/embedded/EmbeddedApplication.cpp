@@ -109,7 +109,7 @@ void EmbeddedApplication::saveUnder(const QString& nativePath) {
 void EmbeddedApplication::saveActiveWorkbook() {
     const Session::ProgramCall call(session_);
     Document& saved = document();
-    saveUnder(saved.path().isEmpty() ? places_.saveName(saved.name()) : saved.path());
+    saveUnder(saved.file().path().isEmpty() ? places_.saveName(saved.file().name()) : saved.file().path());
 }
 
 void EmbeddedApplication::saveInPlace(Document& saved, const QString& nativePath) {
@@ -122,13 +122,13 @@ void EmbeddedApplication::saveInPlace(Document& saved, const QString& nativePath
 void EmbeddedApplication::closeActiveWorkbook() {
     const Session::ProgramCall call(session_);
     Document& closed = document();
-    if (!closed.hasRecovered()) closed.giveUpChanges();
+    if (!closed.journal().hasRecovered()) closed.journal().giveUp();
     session_.remove(closed);
 }
 
 QString EmbeddedApplication::activeWorkbookName() const {
     requireRunning();
-    return session_.active() ? session_.active()->name() : QString();
+    return session_.active() ? session_.active()->file().name() : QString();
 }
 
 void EmbeddedApplication::activateWindow(const QString& name) {

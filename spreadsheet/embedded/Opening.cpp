@@ -1,5 +1,6 @@
 #include "spreadsheet/embedded/Opening.h"
 
+#include "platform/Log.h"
 #include "platform/files/LockSentences.h"
 #include "spreadsheet/Refusals.h"
 #include "spreadsheet/embedded/FileSentences.h"
@@ -27,7 +28,7 @@ void Opening::recoverUnsaved() {
         auto document =
             std::make_unique<Document>(session_.find(name) ? session_.nextName() : name, journals_);
         offer(*document, std::move(pending));
-        if (document->hasRecovered()) session_.add(std::move(document));
+        if (document->journal().hasRecovered()) session_.add(std::move(document));
     }
 }
 
@@ -50,24 +51,29 @@ FileLock Opening::lock(const QString& nativePath) {
 std::vector<PendingJournal> Opening::pending(const QString& nativePath) {
     QStringList unreadable;
     auto found = journals_.pending(nativePath, &unreadable);
-    for (const QString& place : unreadable)
+    for (const QString& place : unreadable) {
+        qCInfo(recoveryLog).noquote() << place << "je nečitelný záznam k" << nativePath;
         session_.dialogs().message(
             {jmenoTabulky,
              unreadableJournal(QFileInfo(nativePath).fileName(), QDir::toNativeSeparators(place)),
              Icon::Exclamation});
+    }
     return found;
 }
 
 void Opening::offer(Document& document, PendingJournal pending) {
-    if (wanted(document, pending))
+    const bool taken = wanted(document, pending);
+    qCInfo(recoveryLog).noquote() << document.file().name() << "změn" << pending.contents.changeCount()
+                                  << (taken ? "přijato" : "odloženo");
+    if (taken)
         recover(document, std::move(pending));
     else
         journals_.setAside(std::move(pending.file));
 }
 
 bool Opening::wanted(const Document& document, const PendingJournal& pending) {
-    const bool changedSince = pending.contents.base.hash != document.fileHash();
-    const QString question = recoveryQuestion(document.name(), pending.contents, changedSince);
+    const bool changedSince = pending.contents.base.hash != document.file().hash();
+    const QString question = recoveryQuestion(document.file().name(), pending.contents, changedSince);
     return session_.dialogs().message({jmenoTabulky, question, Icon::Question, Buttons::YesNo}) ==
            Answer::Yes;
 }
@@ -75,7 +81,8 @@ bool Opening::wanted(const Document& document, const PendingJournal& pending) {
 void Opening::recover(Document& document, PendingJournal pending) {
     const int refused = document.recover(std::move(pending));
     if (refused == 0) return;
-    session_.dialogs().message({jmenoTabulky, partlyRecovered(document.name(), refused), Icon::Exclamation});
+    session_.dialogs().message(
+        {jmenoTabulky, partlyRecovered(document.file().name(), refused), Icon::Exclamation});
 }
 
 } // namespace zvonika

@@ -13,8 +13,9 @@ namespace zvonika {
 namespace {
 
 QString suggestedName(const Session& session, const Document& document) {
-    return document.path().isEmpty() ? QDir(session.folder()).filePath(withXlsEnding(document.name()))
-                                     : document.path();
+    return document.file().path().isEmpty()
+               ? QDir(session.folder()).filePath(withXlsEnding(document.file().name()))
+               : document.file().path();
 }
 
 } // namespace
@@ -33,13 +34,13 @@ bool Saving::agreed(const QString& question, Answer proposed) {
 }
 
 bool Saving::mayConvert(Document& document) {
-    if (!document.isOldFormat() || !document.isModified()) return true;
-    return agreed(conversionQuestion(document.name()), Answer::Yes) && session_.isOpen(document);
+    if (!document.file().isOldFormat() || !document.file().isModified()) return true;
+    return agreed(conversionQuestion(document.file().name()), Answer::Yes) && session_.isOpen(document);
 }
 
 bool Saving::mayOverwrite(Document& document) {
-    if (!document.isChangedOnDisk()) return true;
-    return agreed(overwriteQuestion(document.path()), Answer::No) && session_.isOpen(document);
+    if (!document.file().isChangedOnDisk()) return true;
+    return agreed(overwriteQuestion(document.file().path()), Answer::No) && session_.isOpen(document);
 }
 
 void Saving::makeRoom(const QString& name, const Document* self) {
@@ -47,18 +48,18 @@ void Saving::makeRoom(const QString& name, const Document* self) {
     if (!twin || twin == self) return;
     Document* before = session_.active();
     session_.activate(*twin); // the user sees which one it is about
-    if (agreed(twinQuestion(twin->name(), twin->isModified()), Answer::Yes)) putAway(*twin);
+    if (agreed(twinQuestion(twin->file().name(), twin->file().isModified()), Answer::Yes)) putAway(*twin);
     if (before && session_.isOpen(*before)) session_.activate(*before);
     session_.refuseTwin(name, self);
 }
 
 void Saving::putAway(Document& document) {
-    if (session_.isOpen(document) && document.isModified()) storeElsewhere(document);
-    if (session_.isOpen(document) && !document.isModified()) session_.remove(document);
+    if (session_.isOpen(document) && document.file().isModified()) storeElsewhere(document);
+    if (session_.isOpen(document) && !document.file().isModified()) session_.remove(document);
 }
 
 Saving::Outcome Saving::store(Document& document) {
-    if (document.path().isEmpty()) return storeElsewhere(document);
+    if (document.file().path().isEmpty()) return storeElsewhere(document);
     if (!mayConvert(document) || !mayOverwrite(document)) return Outcome::Refused;
     return attempt([&] { document.save(); });
 }
@@ -82,7 +83,7 @@ void Saving::offerUnsaved() {
     for (const auto& document : session_.documents())
         open.push_back(document.get());
     for (Document* document : open) {
-        if (!session_.isOpen(*document) || !document->isModified() || !wanted(*document)) continue;
+        if (!session_.isOpen(*document) || !document->file().isModified() || !wanted(*document)) continue;
         Outcome outcome = store(*document);
         while (outcome == Outcome::Refused && session_.isOpen(*document))
             outcome = storeElsewhere(*document);
@@ -91,9 +92,9 @@ void Saving::offerUnsaved() {
 
 bool Saving::wanted(Document& document) {
     session_.activate(document);
-    const bool save = wantsToSave(session_.dialogs(), jmenoTabulky, document.name());
+    const bool save = wantsToSave(session_.dialogs(), jmenoTabulky, document.file().name());
     if (!session_.isOpen(document)) return false;
-    if (!save) document.giveUpChanges();
+    if (!save) document.journal().giveUp();
     return save;
 }
 

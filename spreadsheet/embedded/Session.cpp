@@ -10,7 +10,7 @@ namespace zvonika {
 
 Document* Session::find(const QString& name) const {
     const auto same = [&](const auto& document) {
-        return document->name().compare(name, Qt::CaseInsensitive) == 0;
+        return document->file().name().compare(name, Qt::CaseInsensitive) == 0;
     };
     const auto found = std::ranges::find_if(documents_, same);
     return found == documents_.end() ? nullptr : found->get();
@@ -21,10 +21,7 @@ bool Session::isOpen(const Document& document) const {
 }
 
 Document* Session::findFile(const QString& nativePath) const {
-    const auto same = [&](const auto& document) {
-        return !document->path().isEmpty() &&
-               FileLock::lockName(document->path()) == FileLock::lockName(nativePath);
-    };
+    const auto same = [&](const auto& document) { return document->file().isAt(nativePath); };
     const auto found = std::ranges::find_if(documents_, same);
     return found == documents_.end() ? nullptr : found->get();
 }
@@ -64,7 +61,7 @@ void Session::refuseTwin(const QString& name, const Document* self) const {
         refuse(
             QStringLiteral("Sešit „%1“ je už otevřen v okně tabulky; dva sešity téhož jména najednou otevřít "
                            "nelze. Uložte ho tam pod jiným jménem, nebo ho zavřete.")
-                .arg(open->name()));
+                .arg(open->file().name()));
 }
 
 void Session::end(State state) {

@@ -24,11 +24,11 @@ CellBlock typedBlock(const QString& tabbedText) {
 
 /// Only what holds anything: a whole column selected is 65,536 cells.
 CellRange copiedPart(const Document& document) {
-    const CellRange range = document.selection().range;
-    const int sheet = document.activeSheet();
+    const CellRange range = document.cursor().selection().range;
+    const int sheet = document.cursor().activeSheet();
     return spanning(range.first,
-                    {std::clamp(document.usedRows(sheet), range.first.row, range.last.row),
-                     std::clamp(document.usedColumns(sheet), range.first.column, range.last.column)});
+                    {std::clamp(document.cells().usedRows(sheet), range.first.row, range.last.row),
+                     std::clamp(document.cells().usedColumns(sheet), range.first.column, range.last.column)});
 }
 
 QString tabbed(const CellBlock& block) {
@@ -57,7 +57,7 @@ Document* SheetCommands::document() const {
 QStringList SheetCommands::documentNames() const {
     QStringList names;
     for (const auto& document : session_.documents())
-        names.append(document->name());
+        names.append(document->file().name());
     return names;
 }
 
@@ -78,7 +78,7 @@ bool SheetCommands::attempt(Action action) {
 SheetCommands::Place SheetCommands::place() const {
     const Document* document = session_.active();
     if (!document) return {};
-    return {document, document->activeSheet(), document->selection().active};
+    return {document, document->cursor().activeSheet(), document->cursor().selection().active};
 }
 
 void SheetCommands::showDocument(const QString& name) {
@@ -90,30 +90,31 @@ void SheetCommands::showDocument(const QString& name) {
 
 void SheetCommands::select(const CellRange& range, CellPosition active) {
     attempt([&](Document& document) {
-        document.select(range, active);
+        document.cursor().select(range, active);
         return false;
     });
 }
 
 void SheetCommands::selectSheet(int sheet) {
     attempt([&](Document& document) {
-        document.activateSheet(sheet);
+        document.cursor().activateSheet(sheet);
         return false;
     });
 }
 
 void SheetCommands::type(CellPosition cell, const QString& text) {
     attempt([&](Document& document) {
-        const int sheet = document.activeSheet();
-        if (text == document.editText(sheet, cell)) return false;
-        return document.edit(sheet, cell, {{typedValue(text)}}, QStringLiteral("Psaní"));
+        const int sheet = document.cursor().activeSheet();
+        if (text == document.cells().editText(sheet, cell)) return false;
+        return document.editing().edit(sheet, cell, {{typedValue(text)}}, QStringLiteral("Psaní"));
     });
 }
 
 void SheetCommands::clear() {
     attempt([](Document& document) {
-        return document.editFill(document.activeSheet(), document.selection().range, {},
-                                 QStringLiteral("Vymazání"));
+        return document.editing().editFill(document.cursor().activeSheet(),
+                                           document.cursor().selection().range, {},
+                                           QStringLiteral("Vymazání"));
     });
 }
 
@@ -122,7 +123,7 @@ QString SheetCommands::copy() {
     if (!document) return {};
     QString text;
     runForUser(session_.dialogs(), [&] {
-        CellBlock block = document->block(document->activeSheet(), copiedPart(*document));
+        CellBlock block = document->cells().block(document->cursor().activeSheet(), copiedPart(*document));
         text = tabbed(block);
         copied_ = std::move(block);
         copiedText_ = text;
@@ -134,8 +135,9 @@ QString SheetCommands::cut() {
     const QString text = copy();
     if (text.isEmpty()) return text; // nothing is taken out that was not copied
     attempt([](Document& document) {
-        return document.editFill(document.activeSheet(), document.selection().range, {},
-                                 QStringLiteral("Vyjmutí"));
+        return document.editing().editFill(document.cursor().activeSheet(),
+                                           document.cursor().selection().range, {},
+                                           QStringLiteral("Vyjmutí"));
     });
     return text;
 }
@@ -144,48 +146,51 @@ void SheetCommands::paste(const QString& tabbedText) {
     attempt([&](Document& document) {
         const CellBlock block = tabbedText == copiedText_ ? copied_ : typedBlock(tabbedText);
         if (block.isEmpty()) return false;
-        const int sheet = document.activeSheet();
-        const CellRange range = document.selection().range;
+        const int sheet = document.cursor().activeSheet();
+        const CellRange range = document.cursor().selection().range;
         const QString label = QStringLiteral("Vložení");
         const int rows = static_cast<int>(block.size()), columns = columnsOf(block);
-        if (rows == 1 && columns == 1) return document.editFill(sheet, range, block.first().value(0), label);
-        const bool edited = document.edit(sheet, range.first, block, label);
-        document.select(sized(range.first, rows, columns), range.first);
+        if (rows == 1 && columns == 1)
+            return document.editing().editFill(sheet, range, block.first().value(0), label);
+        const bool edited = document.editing().edit(sheet, range.first, block, label);
+        document.cursor().select(sized(range.first, rows, columns), range.first);
         return edited;
     });
 }
 
 void SheetCommands::insertRow() {
     attempt([](Document& document) {
-        return document.insertRow(document.activeSheet(), document.selection().active.row);
+        return document.editing().insertRow(document.cursor().activeSheet(),
+                                            document.cursor().selection().active.row);
     });
 }
 
 void SheetCommands::deleteRow() {
     attempt([](Document& document) {
-        return document.deleteRow(document.activeSheet(), document.selection().active.row);
+        return document.editing().deleteRow(document.cursor().activeSheet(),
+                                            document.cursor().selection().active.row);
     });
 }
 
 void SheetCommands::undo() {
-    attempt([](Document& document) { return document.undo(); });
+    attempt([](Document& document) { return document.editing().undo(); });
 }
 
 void SheetCommands::redo() {
-    attempt([](Document& document) { return document.redo(); });
+    attempt([](Document& document) { return document.editing().redo(); });
 }
 
 void SheetCommands::renameSheet(int sheet, const QString& name) {
     attempt([&](Document& document) {
-        if (document.sheetName(sheet) == name) return false;
-        document.renameSheet(sheet, name);
+        if (document.cells().sheetName(sheet) == name) return false;
+        document.editing().renameSheet(sheet, name);
         return true;
     });
 }
 
 void SheetCommands::setColumnWidth(int column, double characters) {
     attempt([&](Document& document) {
-        document.setColumnWidth(document.activeSheet(), column, characters);
+        document.editing().setColumnWidth(document.cursor().activeSheet(), column, characters);
         return false;
     });
 }

@@ -2,6 +2,7 @@
 
 #include "spreadsheet/CellValue.h"
 #include "spreadsheet/embedded/Document.h"
+#include "spreadsheet/embedded/FileCommands.h"
 
 #include <QString>
 #include <QStringList>
@@ -16,8 +17,9 @@ class Session;
 /// of the document.
 class SheetCommands {
 public:
-    explicit SheetCommands(Session& session) : session_(session) {}
+    explicit SheetCommands(Session& session) : session_(session), files_(session) {}
 
+    FileCommands& files() { return files_; }
     Document* document() const;
     QStringList documentNames() const; ///< all open workbooks, in the order of opening
     void showDocument(const QString& name);
@@ -28,7 +30,7 @@ public:
 
     // --- cells ---
     /// Enters what was typed: "3,5", "3.5" and "15" are numbers, "'15" is the text "15", everything else is
-    /// text. Text that is what `Document::editText` gave changes nothing.
+    /// text. Text that is what `SheetCells::editText` gave changes nothing.
     void type(CellPosition cell, const QString& text);
     void clear(); ///< empties the selection
     /// The selection as lines of tabbed text, for the clipboard.
@@ -46,15 +48,6 @@ public:
     /// Not reported to the program.
     void setColumnWidth(int column, double characters);
 
-    // --- files ---
-    bool save();   ///< asks for a name before the first save; false when it was not saved
-    bool saveAs(); ///< asks for a name
-    /// Asks about unsaved changes; false when the user changed his mind. With the last document the window
-    /// hides.
-    bool close();
-    /// Ends the application, as `close` for every document first.
-    bool quit();
-
 private:
     /// Where the cursor stands.
     struct Place {
@@ -67,11 +60,9 @@ private:
     template <typename Action>
     bool attempt(Action action);
     Place place() const;
-    /// Adds a document whose changes the user does not want to `unwanted`.
-    bool mayClose(Document& document, std::vector<Document*>& unwanted);
-    void giveUp(const std::vector<Document*>& unwanted);
 
     Session& session_;
+    FileCommands files_;
     QString copiedText_; ///< as it went to the clipboard
     CellBlock copied_;
 };

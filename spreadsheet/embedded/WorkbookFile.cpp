@@ -1,5 +1,6 @@
 #include "spreadsheet/embedded/WorkbookFile.h"
 
+#include "platform/Log.h"
 #include "platform/RuntimeError.h"
 #include "spreadsheet/Refusals.h"
 #include "spreadsheet/embedded/FileSentences.h"
@@ -38,7 +39,12 @@ xls::Bytes readBytes(const QString& path) {
 
 /// For the user one sentence is enough; whoever looks into the file needs to know where.
 void logRefusal(const QString& path, const std::exception& refusal) {
-    qWarning("%s: %s", qUtf8Printable(path), refusal.what());
+    qCWarning(openingLog).noquote() << path + QStringLiteral(":") << refusal.what();
+}
+
+[[noreturn]] void refuseSave(const QString& path, const QString& sentence) {
+    qCInfo(savingLog).noquote() << path << "neuložen:" << sentence;
+    refuse(sentence);
 }
 
 } // namespace
@@ -51,7 +57,8 @@ WorkbookFile readWorkbook(const QString& nativePath) {
     } catch (const xls::FormatError& refusal) {
         logRefusal(nativePath, refusal);
         refuse(openRefused(nativePath, refusal.refusal()));
-    } catch (const RuntimeError&) {
+    } catch (const RuntimeError& refusal) {
+        qCInfo(openingLog).noquote() << nativePath << "neotevřen:" << refusal.cause();
         throw;
     } catch (const std::bad_alloc&) {
         refuse(openRefused(nativePath, std::errc::not_enough_memory));
@@ -67,11 +74,11 @@ void refusingToSave(const QString& nativePath, const std::function<void()>& step
     } catch (const RuntimeError&) {
         throw;
     } catch (const std::system_error& failure) {
-        refuse(saveRefused(nativePath, failure.code()));
+        refuseSave(nativePath, saveRefused(nativePath, failure.code()));
     } catch (const std::bad_alloc&) {
-        refuse(saveRefused(nativePath, std::make_error_code(std::errc::not_enough_memory)));
+        refuseSave(nativePath, saveRefused(nativePath, std::make_error_code(std::errc::not_enough_memory)));
     } catch (const std::exception&) {
-        refuse(saveRefused(nativePath));
+        refuseSave(nativePath, saveRefused(nativePath));
     }
 }
 

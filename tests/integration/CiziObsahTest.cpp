@@ -98,7 +98,7 @@ TEST_F(CiziObsahTest, ReadingWritesNothing) {
     klavesaTabulky(Qt::Key_Return); // an editor opened and left is no change
     prejdiNaHlavniOkno();
     EXPECT_EQ(obsahSouboru(soubor_), puvodni_);
-    EXPECT_FALSE(excel->session().active()->isModified());
+    EXPECT_FALSE(excel->session().active()->file().isModified());
     klikni("cmdEndEdit");
     const auto pred = kniha(), po = sesit(soubor_);
     for (int radek = 0; radek < 8; ++radek)

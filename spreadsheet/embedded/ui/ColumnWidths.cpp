@@ -29,7 +29,7 @@ void ColumnWidths::setDocument(Document* document) {
     document_ = document;
     if (!document_) return;
     connect(document_, &Document::columnWidthChanged, this, [this](int sheet, int column) {
-        if (sheet == document_->activeSheet()) apply(column);
+        if (sheet == document_->cursor().activeSheet()) apply(column);
     });
     refresh();
 }
@@ -42,9 +42,9 @@ void ColumnWidths::refresh() {
 // Nothing reaches the sheet's last column: its width is the file's default, and whatever equals it was not
 // set.
 int ColumnWidths::pixels(int column) const {
-    const int sheet = document_->activeSheet();
-    const double characters = document_->columnWidth(sheet, column);
-    if (qFuzzyCompare(characters, document_->columnWidth(sheet, lastColumn)))
+    const int sheet = document_->cursor().activeSheet();
+    const double characters = document_->cells().columnWidth(sheet, column);
+    if (qFuzzyCompare(characters, document_->cells().columnWidth(sheet, lastColumn)))
         return header_->model()->headerData(column - 1, Qt::Horizontal, SheetModel::WidthRole).toInt();
     return qRound(characters * digitWidth(*header_)) + padding;
 }

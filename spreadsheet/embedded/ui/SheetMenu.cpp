@@ -34,18 +34,19 @@ SheetMenu::SheetMenu(SheetCommands& commands, QWidget* sheet, QWidget* parent)
 
 void SheetMenu::fillFile(QMenu* menu) {
     add(menu, QStringLiteral("akceUlozit"), QStringLiteral("&Uložit"), {QKeySequence(Qt::CTRL | Qt::Key_S)},
-        [this] { commands_.save(); });
+        [this] { commands_.files().save(); });
     add(menu, QStringLiteral("akceUlozitJako"), QStringLiteral("Uložit &jako…"), {},
-        [this] { commands_.saveAs(); });
+        [this] { commands_.files().saveAs(); });
     menu->addSeparator();
     workbooks_ = menu->addMenu(QStringLiteral("Otevřené &sešity"));
     connect(menu, &QMenu::aboutToShow, this, &SheetMenu::showWorkbooks);
     add(menu, QStringLiteral("akceZavrit"), QStringLiteral("&Zavřít sešit"),
-        {QKeySequence(Qt::CTRL | Qt::Key_W)}, [this] { commands_.close(); });
+        {QKeySequence(Qt::CTRL | Qt::Key_W)}, [this] { commands_.files().close(); });
     menu->addSeparator();
-    add(menu, QStringLiteral("akceUkoncit"), QStringLiteral("U&končit tabulku"), {},
-        [this] { commands_.quit(); }); // no key: in the program's window the usual one ends the program
-    needDocument_.pop_back();          // quitting needs no workbook
+    add(menu, QStringLiteral("akceUkoncit"), QStringLiteral("U&končit tabulku"), {}, [this] {
+        commands_.files().quit();
+    });                       // no key: in the program's window the usual one ends the program
+    needDocument_.pop_back(); // quitting needs no workbook
 }
 
 void SheetMenu::fillEdit(QMenu* menu) {
@@ -93,10 +94,10 @@ void SheetMenu::setDocument(Document* document) {
 }
 
 void SheetMenu::showHistory(const Document& document) {
-    undo_->setText(withLabel(undoText, document.undoLabel()));
-    undo_->setEnabled(!document.undoLabel().isEmpty());
-    redo_->setText(withLabel(redoText, document.redoLabel()));
-    redo_->setEnabled(!document.redoLabel().isEmpty());
+    undo_->setText(withLabel(undoText, document.editing().undoLabel()));
+    undo_->setEnabled(!document.editing().undoLabel().isEmpty());
+    redo_->setText(withLabel(redoText, document.editing().redoLabel()));
+    redo_->setEnabled(!document.editing().redoLabel().isEmpty());
 }
 
 void SheetMenu::showWorkbooks() {
@@ -105,7 +106,7 @@ void SheetMenu::showWorkbooks() {
     for (const auto& name : names) {
         QAction* entry = workbooks_->addAction(QString(name).replace(QLatin1Char('&'), QStringLiteral("&&")));
         entry->setCheckable(true);
-        entry->setChecked(document_ && document_->name() == name);
+        entry->setChecked(document_ && document_->file().name() == name);
         connect(entry, &QAction::triggered, this, &SheetMenu::aboutToAct);
         connect(entry, &QAction::triggered, this, [this, name] { commands_.showDocument(name); });
     }

@@ -47,21 +47,21 @@ int SheetModel::columnCount(const QModelIndex& parent) const {
 
 QVariant SheetModel::data(const QModelIndex& index, int role) const {
     if (!document_ || !index.isValid()) return {};
-    const int sheet = document_->activeSheet();
+    const int sheet = document_->cursor().activeSheet();
     const CellPosition cell = cellOf(index);
     switch (role) {
     case Qt::DisplayRole:
-        return document_->displayText(sheet, cell);
+        return document_->cells().displayText(sheet, cell);
     case Qt::EditRole:
-        return document_->editText(sheet, cell);
+        return document_->cells().editText(sheet, cell);
     case Qt::TextAlignmentRole: {
-        const bool number = std::holds_alternative<double>(document_->value(sheet, cell));
+        const bool number = std::holds_alternative<double>(document_->cells().value(sheet, cell));
         return int((number ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     }
     case Qt::AccessibleTextRole:
         return spokenText(cell);
     case Qt::ToolTipRole:
-        return document_->isFormula(sheet, cell) ? QStringLiteral("Výsledek vzorce") : QString();
+        return document_->cells().isFormula(sheet, cell) ? QStringLiteral("Výsledek vzorce") : QString();
     default:
         return {};
     }
@@ -101,13 +101,14 @@ Qt::ItemFlags SheetModel::flags(const QModelIndex& index) const {
 }
 
 void SheetModel::showChange(int sheet, const CellRange& range) {
-    if (sheet == document_->activeSheet()) Q_EMIT dataChanged(indexOf(range.first), indexOf(range.last));
+    if (sheet == document_->cursor().activeSheet())
+        Q_EMIT dataChanged(indexOf(range.first), indexOf(range.last));
 }
 
 QString SheetModel::spokenText(CellPosition cell) const {
     const QString place = columnLetters(cell.column) + QString::number(cell.row);
     const QString meaning = columns_.value(cell.column - 1).label;
-    const QString text = document_->displayText(document_->activeSheet(), cell);
+    const QString text = document_->cells().displayText(document_->cursor().activeSheet(), cell);
     return QStringLiteral("%1 %2: %3").arg(place, meaning, text.isEmpty() ? QStringLiteral("prázdná") : text);
 }
 

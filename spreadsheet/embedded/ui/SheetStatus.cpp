@@ -9,8 +9,8 @@ namespace zvonika {
 namespace {
 
 QString place(const Document& document) {
-    const int row = document.selection().active.row;
-    const int last = document.usedRows(document.activeSheet());
+    const int row = document.cursor().selection().active.row;
+    const int last = document.cells().usedRows(document.cursor().activeSheet());
     if (row > last) return QStringLiteral("Volný řádek %1, hmatů %2").arg(row).arg(last);
     return QStringLiteral("Hmat %1 z %2").arg(row).arg(last);
 }
@@ -30,9 +30,9 @@ QString what(const Selection& selection, const QString& label) {
 } // namespace
 
 QString statusText(const Document& document, const QString& label) {
-    QStringList parts{place(document), what(document.selection(), label)};
-    if (document.isOldFormat()) parts.append(QStringLiteral("starší formát, uloží se v novém"));
-    parts.append(document.journalTrouble());
+    QStringList parts{place(document), what(document.cursor().selection(), label)};
+    if (document.file().isOldFormat()) parts.append(QStringLiteral("starší formát, uloží se v novém"));
+    parts.append(document.journal().trouble());
     parts.removeAll(QString());
     return parts.join(QStringLiteral("  ·  "));
 }

@@ -140,7 +140,7 @@ void SheetWindow::takeFocus() {
 void SheetWindow::setDocument(Document* document) {
     if (document_) document_->disconnect(this);
     document_ = document;
-    shownSheet_ = document ? document->activeSheet() : 0;
+    shownSheet_ = document ? document->cursor().activeSheet() : 0;
     line_->clear();
     model_->setDocument(document);
     menu_->setDocument(document);
@@ -175,18 +175,18 @@ void SheetWindow::wireDocument() {
 }
 
 void SheetWindow::showTitle() {
-    const QString name = document_ ? document_->name() + QStringLiteral("[*] – ") : QString();
+    const QString name = document_ ? document_->file().name() + QStringLiteral("[*] – ") : QString();
     setWindowTitle(name + windowName);
-    setWindowModified(document_ && document_->isModified());
+    setWindowModified(document_ && document_->file().isModified());
 }
 
 void SheetWindow::showSheets() {
     QStringList names;
-    for (int sheet = 1; sheet <= document_->sheetCount(); ++sheet)
-        names.append(document_->sheetName(sheet));
-    footer_->tabs()->show(names, document_->activeSheet() - 1);
-    if (shownSheet_ == document_->activeSheet()) return;
-    shownSheet_ = document_->activeSheet();
+    for (int sheet = 1; sheet <= document_->cells().sheetCount(); ++sheet)
+        names.append(document_->cells().sheetName(sheet));
+    footer_->tabs()->show(names, document_->cursor().activeSheet() - 1);
+    if (shownSheet_ == document_->cursor().activeSheet()) return;
+    shownSheet_ = document_->cursor().activeSheet();
     model_->refresh();
     widths_->refresh();
     showSelection();
@@ -216,16 +216,16 @@ bool SheetWindow::eventFilter(QObject* watched, QEvent* event) {
 void SheetWindow::showDue() {
     if (std::exchange(showDue_, false)) qApp->removeEventFilter(this);
     if (!document_) return;
-    if (std::exchange(followDue_, false)) table_->follow(document_->selection());
-    const CellPosition cell = document_->selection().active;
-    line_->showCell(cell, document_->editText(document_->activeSheet(), cell));
+    if (std::exchange(followDue_, false)) table_->follow(document_->cursor().selection());
+    const CellPosition cell = document_->cursor().selection().active;
+    line_->showCell(cell, document_->cells().editText(document_->cursor().activeSheet(), cell));
     const QVariant label = model_->headerData(cell.column - 1, Qt::Horizontal, SheetModel::LabelRole);
     footer_->setStatus(statusText(*document_, label.toString()));
 }
 
 bool SheetWindow::renameSheet(int sheet, const QString& name) {
     commands_.renameSheet(sheet, name);
-    return document_ && document_->sheetName(sheet) == name;
+    return document_ && document_->cells().sheetName(sheet) == name;
 }
 
 // What is closed is the document; the window goes or stays as the application decides.
@@ -236,7 +236,7 @@ void SheetWindow::closeEvent(QCloseEvent* event) {
     }
     event->ignore();
     commitPending();
-    commands_.close();
+    commands_.files().close();
 }
 
 } // namespace zvonika

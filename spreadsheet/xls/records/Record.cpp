@@ -24,13 +24,6 @@ bool isRecordAt(ByteView stream, std::size_t offset, RecordType type) {
            load16(header + 2) <= stream.size() - offset - recordHeaderSize;
 }
 
-std::uint32_t endWithContinues(ByteView stream, std::uint32_t offset) {
-    std::uint32_t end = recordAt(stream, offset).end();
-    while (isRecordAt(stream, end, RecordType::Continue))
-        end = recordAt(stream, end).end();
-    return end;
-}
-
 std::uint32_t endOfCell(ByteView stream, std::uint32_t offset) {
     std::uint32_t end = recordAt(stream, offset).end();
     while (end + recordHeaderSize <= stream.size()) {

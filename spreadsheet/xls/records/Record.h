@@ -47,9 +47,6 @@ inline Record recordAt(ByteView stream, std::uint32_t offset) {
 /// Whether a whole record of this type stands at `offset`; false at the end of the stream, too.
 bool isRecordAt(ByteView stream, std::size_t offset, RecordType type);
 
-/// End of the record at `offset` and of the Continue records behind it.
-std::uint32_t endWithContinues(ByteView stream, std::uint32_t offset);
-
 /// End of a cell record with everything that belongs to it: shared formula, array, cached string,
 /// continuations.
 std::uint32_t endOfCell(ByteView stream, std::uint32_t offset);

@@ -1,5 +1,6 @@
 #include "platform/files/AtomicFile.h"
 
+#include "tests/platform/files/OtherUser.h"
 #include "tests/spreadsheet/embedded/Rig.h"
 #include "tests/spreadsheet/embedded/SmallDisk.h"
 
@@ -32,6 +33,14 @@ protected:
         struct stat result {};
         EXPECT_EQ(::lstat(QFile::encodeName(path(name)), &result), 0);
         return result;
+    }
+    /// A file of anybody's, in a folder where anybody may write.
+    void openToEverybody(const QString& name, mode_t mode) const {
+        ASSERT_EQ(::chmod(QFile::encodeName(folder.path()), 0777), 0);
+        ASSERT_EQ(::chmod(QFile::encodeName(path(name)), mode), 0);
+        if (::geteuid() == 0) {
+            ASSERT_EQ(::chown(QFile::encodeName(path(name)), nobody, nobody), 0);
+        }
     }
     void link(const QString& target, const QString& name) const {
         ASSERT_EQ(::symlink(QFile::encodeName(target), QFile::encodeName(path(name))), 0);
@@ -155,11 +164,29 @@ TEST_F(AtomicFileTest, LeftoversOfKilledWritersOfThisFileAreClearedAway) {
 }
 
 TEST_F(AtomicFileTest, AWriteProtectedFileIsNotReplaced) {
-    if (::geteuid() == 0) GTEST_SKIP() << "nothing is write-protected for root";
     write(song, "stará");
-    ASSERT_EQ(::chmod(QFile::encodeName(path(song)), 0444), 0);
-    EXPECT_EQ(failure(path(song)), EACCES);
+    openToEverybody(song, 0444);
+    EXPECT_EQ(asOrdinaryUser([&] { return failure(path(song)); }), EACCES);
     EXPECT_EQ(contents(path(song)), "stará");
+}
+
+struct GroupRights {
+    mode_t before;
+    mode_t after; ///< when the new file is of another group
+};
+
+TEST_F(AtomicFileTest, WhatAGroupWasAllowedDoesNotGoToAnother) {
+    if (::geteuid() != 0) GTEST_SKIP() << "only root can give a file to a group that its owner is not in";
+    const GroupRights cases[] = {{0660, 0600}, {0664, 0644}, {0640, 0600}, {0606, 0666}};
+    for (const auto& [before, after] : cases) {
+        QFile::remove(path(song));
+        write(song, "stará");
+        openToEverybody(song, before);
+        ASSERT_EQ(::chown(QFile::encodeName(path(song)), nobody, 34), 0);
+        EXPECT_EQ(asOrdinaryUser([&] { return failure(path(song)); }), 0);
+        EXPECT_EQ(info(song).st_gid, nobody);
+        EXPECT_EQ(info(song).st_mode & 07777, after) << std::oct << before;
+    }
 }
 
 } // namespace zvonika::testing

@@ -206,7 +206,8 @@ TEST_P(SpreadsheetContract, BareNamesGoIntoTheDefaultFolderAndGetTheEnding) {
     const std::vector<std::pair<QString, QString>> names{
         {QStringLiteral("Kočka D dur"), QStringLiteral("Kočka D dur.xls")},
         {QStringLiteral("verze 1.2"), QStringLiteral("verze 1.2.xls")},
-        {QStringLiteral("celá.xls"), QStringLiteral("celá.xls")}};
+        {QStringLiteral("celá.xls"), QStringLiteral("celá.xls")},
+        {QStringLiteral("Polka.XLS"), QStringLiteral("Polka.XLS")}};
     app.addWorkbook();
     for (const auto& [given, saved] : names) {
         app.saveActiveWorkbookAs({given});

@@ -28,13 +28,6 @@ QByteArray sheetWithArray() {
     return {reinterpret_cast<const char*>(file.data()), static_cast<qsizetype>(file.size())};
 }
 
-class EditCounter : public SpreadsheetListener {
-public:
-    void cursorMoved() override {}
-    void cellsEdited() override { ++edits; }
-    int edits = 0;
-};
-
 class ArrayFormulaTest : public ::testing::Test, protected World {
 protected:
     ArrayFormulaTest() {
@@ -46,7 +39,7 @@ protected:
 
     const QString refused = QStringLiteral(
         "1004 Buňku $B$1 nelze změnit samotnou: patří k maticovému vzorci v oblasti $B$1:$C$1.");
-    EditCounter listener;
+    Listener listener;
     std::unique_ptr<EmbeddedApplication> owned = launch();
     EmbeddedApplication& app = *owned;
 };
@@ -54,34 +47,26 @@ protected:
 } // namespace
 
 TEST_F(ArrayFormulaTest, IsRefusedBeforeAnythingIsWritten) {
-    document().edit(1, {1, 4}, {{2.5}}, QStringLiteral("Psaní"));
+    document().editing().edit(1, {1, 4}, {{2.5}}, QStringLiteral("Psaní"));
     document().save();
     QSignalSpy cells(&document(), &Document::cellsChanged);
+    Editing& editing = document().editing();
+    const CellBlock block{{1.0, 2.0, 3.0}, {4.0}};
+    const CellRange range{{1, 2}, {3, 4}};
     const std::pair<const char*, std::function<void()>> calls[] = {
-        {"write",
-         [&] {
-             document().write(1, {1, 2}, {{1.0, 2.0, 3.0}, {4.0}});
-         }},
-        {"fill",
-         [&] {
-             document().fill(1, {{1, 2}, {3, 4}}, 7.0);
-         }},
-        {"edit",
-         [&] {
-             document().edit(1, {1, 2}, {{1.0, 2.0, 3.0}, {4.0}}, {});
-         }},
-        {"editFill",
-         [&] {
-             document().editFill(1, {{1, 2}, {3, 4}}, {}, {});
-         }},
+        {"write", [&] { editing.write(1, range.first, block); }},
+        {"fill", [&] { editing.fill(1, range, 7.0); }},
+        {"edit", [&] { editing.edit(1, range.first, block, {}); }},
+        {"editFill", [&] { editing.editFill(1, range, {}, {}); }},
     };
     for (const auto& [name, call] : calls)
         EXPECT_EQ(refusalOf(call), refused) << name;
-    EXPECT_EQ(document().value(1, {1, 4}), CellValue(2.5));
-    EXPECT_EQ(document().usedRows(1), 1);
+    EXPECT_EQ(document().cells().value(1, {1, 4}), CellValue(2.5));
+    EXPECT_EQ(document().cells().usedRows(1), 1);
     EXPECT_EQ(cells.count(), 0);
-    EXPECT_FALSE(document().isModified());
-    EXPECT_EQ(document().undoLabel(), QStringLiteral("Psaní")) << "what was not written takes nothing away";
+    EXPECT_FALSE(document().file().isModified());
+    EXPECT_EQ(document().editing().undoLabel(), QStringLiteral("Psaní"))
+        << "what was not written takes nothing away";
 }
 
 TEST_F(ArrayFormulaTest, WhatTheProgramWroteBeforeTheRefusalIsTold) {
@@ -90,8 +75,8 @@ TEST_F(ArrayFormulaTest, WhatTheProgramWroteBeforeTheRefusalIsTold) {
     ASSERT_EQ(cells.count(), 1);
     EXPECT_EQ(cells.first().at(1).value<CellRange>(), single({1, 1}));
     EXPECT_EQ(app.value(QStringLiteral("A1")), CellValue(1.0));
-    EXPECT_EQ(document().usedRows(1), 1);
-    EXPECT_TRUE(document().isModified());
+    EXPECT_EQ(document().cells().usedRows(1), 1);
+    EXPECT_TRUE(document().file().isModified());
     document().save();
 }
 
@@ -100,7 +85,7 @@ TEST_F(ArrayFormulaTest, WhatTheUserDidBeforeTheRefusalIsToldAndCanBeTakenBack) 
     dialogs.expect(jmenoTabulky, QStringLiteral("maticovému vzorci"));
     app.commands().paste(QStringLiteral("1\t2\n3\t4"));
     EXPECT_EQ(app.value(QStringLiteral("A1")), CellValue(1.0));
-    EXPECT_EQ(listener.edits, 1);
+    EXPECT_EQ(listener.take(), QStringLiteral("b"));
     app.commands().undo();
     EXPECT_EQ(app.value(QStringLiteral("A1")), before);
 }

@@ -1,6 +1,11 @@
 #include "spreadsheet/embedded/Document.h"
 
+#include "spreadsheet/embedded/WorkbookFile.h"
 #include "tests/spreadsheet/embedded/Rig.h"
+#include "tests/spreadsheet/xls/XlsFiles.h"
+
+#include <algorithm>
+#include <functional>
 
 namespace zvonika::testing {
 
@@ -12,27 +17,29 @@ const QString psani = QStringLiteral("Psaní");
 class DocumentTest : public ::testing::Test {
 protected:
     static CellPosition at(const char* address) { return parseAddress(QString::fromLatin1(address))->first; }
-    QString text(const char* address) const { return cellText(document.value(1, at(address))); }
+    QString text(const char* address) const { return cellText(document.cells().value(1, at(address))); }
     void userTypes(const char* address, const char* typed) {
-        document.edit(1, at(address), {{QString::fromUtf8(typed)}}, psani);
+        editing.edit(1, at(address), {{QString::fromUtf8(typed)}}, psani);
     }
     void programWrites(const char* address, const char* written) {
-        document.write(1, at(address), {{QString::fromUtf8(written)}});
+        editing.write(1, at(address), {{QString::fromUtf8(written)}});
     }
     /// Column B from row 1 on, joined.
     QString column() const {
         QStringList texts;
-        for (const auto& row : document.block(1, {{1, 2}, {std::max(1, document.usedRows(1)), 2}}))
+        for (const auto& row :
+             document.cells().block(1, {{1, 2}, {std::max(1, document.cells().usedRows(1)), 2}}))
             texts << cellText(row.first());
         return texts.join(QLatin1Char(' '));
     }
     void fillColumn(const char* letters) {
         for (int row = 1; letters[row - 1]; ++row)
-            document.write(1, {row, 2}, {{QString(QLatin1Char(letters[row - 1]))}});
+            editing.write(1, {row, 2}, {{QString(QLatin1Char(letters[row - 1]))}});
     }
 
     QTemporaryDir folder;
     Document document{QStringLiteral("Sešit1")};
+    Editing& editing = document.editing();
 };
 
 } // namespace
@@ -40,68 +47,68 @@ protected:
 TEST_F(DocumentTest, UndoAndRedoExchangeValuesAndShowTheCells) {
     userTypes("B2", "c");
     userTypes("B2", "d");
-    document.edit(1, at("C5"), {{1.0, 2.0}, {3.0, 4.0}}, QStringLiteral("Vložení"));
-    EXPECT_EQ(document.undoLabel(), QStringLiteral("Vložení"));
-    document.select({1, 1});
-    ASSERT_TRUE(document.undo());
-    EXPECT_EQ(document.block(1, {at("C5"), at("D6")}), CellBlock({{{}, {}}, {{}, {}}}));
-    EXPECT_EQ(document.selection(), (Selection{{at("C5"), at("D6")}, at("C5")}));
-    EXPECT_TRUE(document.undo());
+    editing.edit(1, at("C5"), {{1.0, 2.0}, {3.0, 4.0}}, QStringLiteral("Vložení"));
+    EXPECT_EQ(editing.undoLabel(), QStringLiteral("Vložení"));
+    document.cursor().select({1, 1});
+    ASSERT_TRUE(editing.undo());
+    EXPECT_EQ(document.cells().block(1, {at("C5"), at("D6")}), CellBlock({{{}, {}}, {{}, {}}}));
+    EXPECT_EQ(document.cursor().selection(), (Selection{{at("C5"), at("D6")}, at("C5")}));
+    EXPECT_TRUE(editing.undo());
     EXPECT_EQ(text("B2"), QStringLiteral("c"));
-    EXPECT_TRUE(document.undo());
+    EXPECT_TRUE(editing.undo());
     EXPECT_EQ(text("B2"), QString());
-    EXPECT_FALSE(document.undo());
-    EXPECT_TRUE(document.redo());
-    EXPECT_TRUE(document.redo());
+    EXPECT_FALSE(editing.undo());
+    EXPECT_TRUE(editing.redo());
+    EXPECT_TRUE(editing.redo());
     EXPECT_EQ(text("B2"), QStringLiteral("d"));
-    EXPECT_EQ(document.redoLabel(), QStringLiteral("Vložení"));
+    EXPECT_EQ(editing.redoLabel(), QStringLiteral("Vložení"));
     userTypes("B3", "e");
-    EXPECT_FALSE(document.redo());
+    EXPECT_FALSE(editing.redo());
 }
 
 TEST_F(DocumentTest, AnEditThatChangesNothingIsNoStep) {
-    EXPECT_FALSE(document.edit(1, at("B2"), {{QString()}}, psani));
+    EXPECT_FALSE(editing.edit(1, at("B2"), {{QString()}}, psani));
     userTypes("B2", "c");
-    EXPECT_FALSE(document.edit(1, at("B2"), {{QStringLiteral("c")}}, psani));
-    EXPECT_FALSE(document.editFill(1, *parseAddress(u"D:F"), {}, psani));
-    document.undo();
-    EXPECT_EQ(document.undoLabel(), QString());
+    EXPECT_FALSE(editing.edit(1, at("B2"), {{QStringLiteral("c")}}, psani));
+    EXPECT_FALSE(editing.editFill(1, *parseAddress(u"D:F"), {}, psani));
+    editing.undo();
+    EXPECT_EQ(editing.undoLabel(), QString());
 }
 
 TEST_F(DocumentTest, UndoNeverReachesWhatTheProgramHasWritten) {
-    document.edit(1, at("B5"), {{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}}, psani);
+    editing.edit(1, at("B5"), {{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}}, psani);
     userTypes("A1", "Koč");
     userTypes("B5", "x");
-    document.undo();
+    editing.undo();
     programWrites("B5", "x"); // the same text, but recorded: no longer the user's
-    document.fill(1, single(at("C5")), {});
-    document.undo();
+    editing.fill(1, single(at("C5")), {});
+    editing.undo();
     EXPECT_EQ(text("A1"), QString());
-    document.undo();
-    EXPECT_EQ(document.block(1, {at("B5"), at("D5")}), CellBlock({{QStringLiteral("x"), {}, {}}}));
-    EXPECT_EQ(document.undoLabel(), QString());
-    document.redo();
-    document.redo();
-    EXPECT_EQ(document.block(1, {at("B5"), at("D5")}),
+    editing.undo();
+    EXPECT_EQ(document.cells().block(1, {at("B5"), at("D5")}), CellBlock({{QStringLiteral("x"), {}, {}}}));
+    EXPECT_EQ(editing.undoLabel(), QString());
+    editing.redo();
+    editing.redo();
+    EXPECT_EQ(document.cells().block(1, {at("B5"), at("D5")}),
               CellBlock({{QStringLiteral("x"), {}, QStringLiteral("c")}}));
-    EXPECT_EQ(document.redoLabel(), QString());
+    EXPECT_EQ(editing.redoLabel(), QString());
 }
 
 TEST_F(DocumentTest, RowsAreInsertedAndDeletedAndBack) {
     fillColumn("abcd");
-    ASSERT_TRUE(document.insertRow(1, 2));
+    ASSERT_TRUE(editing.insertRow(1, 2));
     EXPECT_EQ(column(), QStringLiteral("a  b c d"));
-    ASSERT_TRUE(document.deleteRow(1, 4));
+    ASSERT_TRUE(editing.deleteRow(1, 4));
     EXPECT_EQ(column(), QStringLiteral("a  b d"));
-    document.undo();
+    editing.undo();
     EXPECT_EQ(column(), QStringLiteral("a  b c d"));
-    document.undo();
+    editing.undo();
     EXPECT_EQ(column(), QStringLiteral("a b c d"));
-    document.redo();
-    document.redo();
+    editing.redo();
+    editing.redo();
     EXPECT_EQ(column(), QStringLiteral("a  b d"));
-    EXPECT_FALSE(document.insertRow(1, 5));
-    EXPECT_FALSE(document.deleteRow(1, 5));
+    EXPECT_FALSE(editing.insertRow(1, 5));
+    EXPECT_FALSE(editing.deleteRow(1, 5));
 }
 
 struct RowCase {
@@ -117,16 +124,16 @@ TEST_F(DocumentTest, ARecordedGripMovesWithTheRowsThatAreTakenBack) {
                              {"in the inserted row", 2, "x R b c d", "x R b c d"}};
     for (const auto& [name, row, undone, redone] : cases) {
         SCOPED_TRACE(name);
-        document.fill(1, {{1, 1}, {9, 9}}, {});
+        editing.fill(1, {{1, 1}, {9, 9}}, {});
         fillColumn("abcd");
         userTypes("B1", "x");
-        document.insertRow(1, 2);
-        document.write(1, {row, 2}, {{QStringLiteral("R")}});
-        while (document.undo()) {
+        editing.insertRow(1, 2);
+        editing.write(1, {row, 2}, {{QStringLiteral("R")}});
+        while (editing.undo()) {
         }
         EXPECT_EQ(column(),
                   QString::fromLatin1(undone).replace(QLatin1Char('x'), QLatin1Char(row == 2 ? 'x' : 'a')));
-        while (document.redo()) {
+        while (editing.redo()) {
         }
         EXPECT_EQ(column(), QString::fromLatin1(redone));
     }
@@ -134,50 +141,50 @@ TEST_F(DocumentTest, ARecordedGripMovesWithTheRowsThatAreTakenBack) {
 
 TEST_F(DocumentTest, ARecordedGripIsNotDeletedByRedo) {
     fillColumn("abc");
-    document.deleteRow(1, 2);
-    document.undo();
+    editing.deleteRow(1, 2);
+    editing.undo();
     programWrites("B2", "R");
-    EXPECT_FALSE(document.redo());
+    EXPECT_FALSE(editing.redo());
     EXPECT_EQ(column(), QStringLiteral("a R c"));
-    document.deleteRow(1, 2);
-    document.undo();
+    editing.deleteRow(1, 2);
+    editing.undo();
     programWrites("B3", "R");
-    EXPECT_TRUE(document.redo());
+    EXPECT_TRUE(editing.redo());
     EXPECT_EQ(column(), QStringLiteral("a R"));
 }
 
 TEST_F(DocumentTest, RowsStayWhereALastRowWouldFallOff) {
-    document.write(1, {lastRow, 2}, {{QStringLiteral("z")}});
+    editing.write(1, {lastRow, 2}, {{QStringLiteral("z")}});
     EXPECT_TRUE(
-        refusalOf([&] { document.insertRow(1, 5); }).startsWith(QStringLiteral("1004 Řádek nelze vložit")));
-    EXPECT_EQ(cellText(document.value(1, {lastRow, 2})), QStringLiteral("z"));
+        refusalOf([&] { editing.insertRow(1, 5); }).startsWith(QStringLiteral("1004 Řádek nelze vložit")));
+    EXPECT_EQ(cellText(document.cells().value(1, {lastRow, 2})), QStringLiteral("z"));
 }
 
 TEST_F(DocumentTest, BlocksThatDoNotFitAreRefusedWhole) {
     EXPECT_EQ(refusalOf([&] {
-                  document.write(1, {lastRow, 2}, {{1.0}, {2.0}});
+                  editing.write(1, {lastRow, 2}, {{1.0}, {2.0}});
               }),
               QStringLiteral("1004 Údaje se na list od buňky $B$65536 nevejdou."));
     EXPECT_TRUE(refusalOf([&] {
-                    document.edit(1, {1, 1}, {{1.0}, {QString(32768, u'a')}}, psani);
+                    editing.edit(1, {1, 1}, {{1.0}, {QString(32768, u'a')}}, psani);
                 }).startsWith(QStringLiteral("1004 Text je příliš dlouhý")));
-    EXPECT_EQ(refusalOf([&] { document.editFill(1, *parseAddress(u"A:IV"), 1.0, psani); }),
+    EXPECT_EQ(refusalOf([&] { editing.editFill(1, *parseAddress(u"A:IV"), 1.0, psani); }),
               QStringLiteral("1004 Oblast je příliš velká."));
-    EXPECT_EQ(document.usedRows(1), 0);
-    EXPECT_FALSE(document.isModified());
+    EXPECT_EQ(document.cells().usedRows(1), 0);
+    EXPECT_FALSE(document.file().isModified());
 }
 
 TEST_F(DocumentTest, SignalsTellOfChangesAndOnlyOfChanges) {
     QSignalSpy cells(&document, &Document::cellsChanged), selection(&document, &Document::selectionChanged);
     QSignalSpy modified(&document, &Document::modifiedChanged), sheets(&document, &Document::sheetsChanged);
-    document.select({1, 1});
-    document.fill(1, single({1, 1}), {});
-    document.renameSheet(1, document.sheetName(1));
+    document.cursor().select({1, 1});
+    editing.fill(1, single({1, 1}), {});
+    editing.renameSheet(1, document.cells().sheetName(1));
     EXPECT_EQ(cells.count() + selection.count() + modified.count() + sheets.count(), 0);
-    document.select({2, 2});
+    document.cursor().select({2, 2});
     programWrites("B2", "c");
     programWrites("B2", "d");
-    document.renameSheet(1, QStringLiteral("G dur"));
+    editing.renameSheet(1, QStringLiteral("G dur"));
     EXPECT_EQ(selection.count(), 1);
     EXPECT_EQ(cells.count(), 2);
     EXPECT_EQ(cells.first().at(1).value<CellRange>(), single({2, 2}));
@@ -189,28 +196,67 @@ TEST_F(DocumentTest, SheetNamesThatSpreadsheetsTakeForEqualOrRefuseAreRefused) {
     const QString file = folder.filePath(QStringLiteral("dva.xls"));
     QFile::copy(QStringLiteral(XLS_DATA "/xlwt.xls"), file);
     const auto two = Document::open(file, {});
-    two->renameSheet(2, QStringLiteral("Žlutý"));
+    two->editing().renameSheet(2, QStringLiteral("Žlutý"));
     for (const char* name : {"ŽLUTÝ", "žlutý", "'a", "a'", "", "a:b"})
         EXPECT_TRUE(
-            refusalOf([&] { two->renameSheet(1, QString::fromUtf8(name)); })
+            refusalOf([&] { two->editing().renameSheet(1, QString::fromUtf8(name)); })
                 .startsWith(
                     QStringLiteral("1004 Jméno listu „%1“ nelze použít: ").arg(QString::fromUtf8(name))))
             << name;
-    two->renameSheet(2, QStringLiteral("ŽLUTÝ")); // its own name in another case
-    EXPECT_EQ(two->sheetName(2), QStringLiteral("ŽLUTÝ"));
+    two->editing().renameSheet(2, QStringLiteral("ŽLUTÝ")); // its own name in another case
+    EXPECT_EQ(two->cells().sheetName(2), QStringLiteral("ŽLUTÝ"));
 }
 
 TEST_F(DocumentTest, ColumnWidthsAreKeptInTheFile) {
-    document.setColumnWidth(1, 1, 24.5);
-    document.setColumnWidth(1, 2, 999);
+    editing.setColumnWidth(1, 1, 24.5);
+    editing.setColumnWidth(1, 2, 999);
     document.saveAs(folder.filePath(QStringLiteral("pisen.xls")));
     const Document copy{QStringLiteral("x")};
-    QFile::copy(document.path(), folder.filePath(QStringLiteral("kopie.xls")));
+    QFile::copy(document.file().path(), folder.filePath(QStringLiteral("kopie.xls")));
     const auto opened = Document::open(folder.filePath(QStringLiteral("kopie.xls")));
-    EXPECT_DOUBLE_EQ(opened->columnWidth(1, 1), 24.5);
-    EXPECT_DOUBLE_EQ(opened->columnWidth(1, 2), 255.0);
-    EXPECT_DOUBLE_EQ(opened->columnWidth(1, 3), copy.columnWidth(1, 3));
-    EXPECT_FALSE(opened->isModified());
+    EXPECT_DOUBLE_EQ(opened->cells().columnWidth(1, 1), 24.5);
+    EXPECT_DOUBLE_EQ(opened->cells().columnWidth(1, 2), 255.0);
+    EXPECT_DOUBLE_EQ(opened->cells().columnWidth(1, 3), copy.cells().columnWidth(1, 3));
+    EXPECT_FALSE(opened->file().isModified());
+}
+
+TEST_F(DocumentTest, AColumnWithinARecordOfThreeKeepsItsNeighboursWidths) {
+    std::vector<xlstest::Rec> records = xlstest::recordsOf(xls::Workbook::create(u"List1").save());
+    const auto behind = std::ranges::find(records, 0x0055, &xlstest::Rec::id) + 1;
+    records.insert(behind, {0x007D, xlstest::le(2, {1, 3, 20 * 256, 15, 2, 0})}); // columns B to D
+    const auto bytes = xlstest::fileAround(xlstest::bytesOf(records));
+    for (const int changed : {2, 3, 4}) {
+        const QString file = folder.filePath(QStringLiteral("tři%1.xls").arg(changed));
+        store(file, QByteArray(reinterpret_cast<const char*>(bytes.data()), qsizetype(bytes.size())));
+        const auto written = Document::open(file);
+        written->editing().setColumnWidth(1, changed, 30);
+        written->saveAs(folder.filePath(QStringLiteral("jinam%1.xls").arg(changed)));
+        const auto book = readWorkbook(written->file().path()).book;
+        for (const int column : {2, 3, 4})
+            EXPECT_EQ(book.columnWidth(0, column - 1), (column == changed ? 30 : 20) * 256)
+                << column << " of " << changed;
+    }
+}
+
+TEST_F(DocumentTest, EveryChangeCountsAsOne) {
+    document.saveAs(folder.filePath(QStringLiteral("pisen.xls")));
+    const std::pair<const char*, std::function<void()>> changes[] = {
+        {"write", [&] { fillColumn("abc"); }},
+        {"fill", [&] { editing.fill(1, single(at("B1")), 1.0); }},
+        {"edit", [&] { userTypes("B1", "x"); }},
+        {"insert a row", [&] { editing.insertRow(1, 2); }},
+        {"delete a row", [&] { editing.deleteRow(1, 3); }},
+        {"take back", [&] { editing.undo(); }},
+        {"do again", [&] { editing.redo(); }},
+        {"rename", [&] { editing.renameSheet(1, QStringLiteral("G dur")); }},
+        {"widen", [&] { editing.setColumnWidth(1, 1, 30); }},
+    };
+    for (const auto& [name, change] : changes) {
+        document.save();
+        ASSERT_FALSE(document.file().isModified());
+        change();
+        EXPECT_TRUE(document.file().isModified()) << name;
+    }
 }
 
 TEST_F(DocumentTest, FormulasAreReplacedOnPurposeAndNeverMoved) {
@@ -218,20 +264,20 @@ TEST_F(DocumentTest, FormulasAreReplacedOnPurposeAndNeverMoved) {
     ASSERT_TRUE(QFile::copy(QStringLiteral(XLS_DATA "/libreoffice.xls"), copy));
     const auto formulas = Document::open(copy);
     const CellPosition cell = at("F1");
-    ASSERT_TRUE(formulas->isFormula(1, cell));
-    for (const auto& refusal :
-         {refusalOf([&] { formulas->insertRow(1, 1); }), refusalOf([&] { formulas->deleteRow(1, 1); })})
+    ASSERT_TRUE(formulas->cells().isFormula(1, cell));
+    for (const auto& refusal : {refusalOf([&] { formulas->editing().insertRow(1, 1); }),
+                                refusalOf([&] { formulas->editing().deleteRow(1, 1); })})
         EXPECT_EQ(refusal, QStringLiteral("1004 Řádky nelze posunout: v buňce $F$1 je vzorec."));
-    EXPECT_FALSE(formulas->isModified());
-    EXPECT_TRUE(formulas->edit(1, cell, {{formulas->value(1, cell)}}, psani));
-    EXPECT_FALSE(formulas->isFormula(1, cell));
+    EXPECT_FALSE(formulas->file().isModified());
+    EXPECT_TRUE(formulas->editing().edit(1, cell, {{formulas->cells().value(1, cell)}}, psani));
+    EXPECT_FALSE(formulas->cells().isFormula(1, cell));
     formulas->save();
-    EXPECT_TRUE(formulas->undo());
-    EXPECT_TRUE(formulas->isFormula(1, cell)) << "the formula comes back, not only what it showed";
-    EXPECT_TRUE(formulas->redo());
-    EXPECT_FALSE(formulas->isFormula(1, cell));
-    formulas->write(1, at("F2"), {{formulas->value(1, at("F2"))}});
-    EXPECT_FALSE(formulas->isFormula(1, at("F2")));
+    EXPECT_TRUE(formulas->editing().undo());
+    EXPECT_TRUE(formulas->cells().isFormula(1, cell)) << "the formula comes back, not only what it showed";
+    EXPECT_TRUE(formulas->editing().redo());
+    EXPECT_FALSE(formulas->cells().isFormula(1, cell));
+    formulas->editing().write(1, at("F2"), {{formulas->cells().value(1, at("F2"))}});
+    EXPECT_FALSE(formulas->cells().isFormula(1, at("F2")));
 }
 
 } // namespace zvonika::testing

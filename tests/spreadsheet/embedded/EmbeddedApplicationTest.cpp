@@ -69,7 +69,7 @@ TEST_F(EmbeddedApplicationTest, TwoWorkbooksOfOneFileNameAreRefused) {
     app.saveActiveWorkbookAs({path(QStringLiteral("pisen.xls"))});
     dialogs.expect(jmenoTabulky, question, Answer::Yes);
     app.openWorkbook(path(QStringLiteral("b/pisen.xls")));
-    EXPECT_EQ(app.session().active()->path(), path(QStringLiteral("b/pisen.xls")));
+    EXPECT_EQ(app.session().active()->file().path(), path(QStringLiteral("b/pisen.xls")));
     EXPECT_EQ(app.session().documents().size(), 2U);
 }
 
@@ -88,8 +88,20 @@ TEST_F(EmbeddedApplicationTest, ASongThatCouldNotBeSavedMakesRoomForAnotherOfIts
     app.saveActiveWorkbookAs({song});
     EXPECT_EQ(app.session().documents().size(), 1U);
     EXPECT_TRUE(QFile::exists(song));
-    EXPECT_EQ(cellText(Document::open(path(QStringLiteral("zachráněná.xls")))->value(1, {1, 2})),
+    EXPECT_EQ(cellText(Document::open(path(QStringLiteral("zachráněná.xls")))->cells().value(1, {1, 2})),
               QStringLiteral("c"));
+}
+
+TEST_F(EmbeddedApplicationTest, BehindAClosedWorkbookStandsTheOneOpenedLast) {
+    for (const char* name : {"a.xls", "b.xls", "c.xls"}) {
+        app.addWorkbook();
+        app.saveActiveWorkbookAs({path(QString::fromLatin1(name))});
+    }
+    app.activateWindow(QStringLiteral("b.xls"));
+    for (const char* next : {"c.xls", "a.xls", ""}) {
+        app.closeActiveWorkbook();
+        EXPECT_EQ(app.activeWorkbookName(), QString::fromLatin1(next));
+    }
 }
 
 TEST_F(EmbeddedApplicationTest, AFileThatIsOpenHereComesToTheFrontAsItIs) {
@@ -161,7 +173,7 @@ TEST_F(EmbeddedApplicationTest, WhatCannotBeSavedOnQuittingMayBeSavedElsewhere) 
     EXPECT_TRUE(dialogs.done());
     EXPECT_EQ(files(), QStringList{QStringLiteral("zachráněná.xls")});
     const auto rescued = Document::open(path(QStringLiteral("zachráněná.xls")));
-    EXPECT_EQ(cellText(rescued->value(1, {1, 2})), QStringLiteral("c"));
+    EXPECT_EQ(cellText(rescued->cells().value(1, {1, 2})), QStringLiteral("c"));
 }
 
 TEST_F(EmbeddedApplicationTest, TheWindowIsMadeWhenItIsFirstShownAndFollowsTheActiveWorkbook) {

@@ -20,8 +20,8 @@ public:
     void userQuits(SpreadsheetApplication& application) override { commands(application).quit(); }
 
 private:
-    static SheetCommands& commands(SpreadsheetApplication& application) {
-        return dynamic_cast<EmbeddedApplication&>(application).commands();
+    static FileCommands& commands(SpreadsheetApplication& application) {
+        return dynamic_cast<EmbeddedApplication&>(application).commands().files();
     }
 
     World world_;

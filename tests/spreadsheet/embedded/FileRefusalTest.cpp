@@ -15,7 +15,7 @@ class FileRefusalTest : public ::testing::Test, protected World {
 protected:
     FileRefusalTest() {
         Document document(QStringLiteral("Sešit1"));
-        document.write(1, {1, 2}, {{QStringLiteral("c")}});
+        document.editing().write(1, {1, 2}, {{QStringLiteral("c")}});
         document.saveAs(good);
         saved = contents(good);
     }
@@ -83,7 +83,7 @@ TEST_F(FileRefusalTest, AFileThatIsOpenInTheSameProcessIsNotOpenedTwice) {
 TEST_F(FileRefusalTest, SavingSaysWhatIsWrongAndChangesNothing) {
     ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("složka.xls")));
     const auto document = Document::open(good);
-    document->write(1, {1, 2}, {{QStringLiteral("d")}});
+    document->editing().write(1, {1, 2}, {{QStringLiteral("d")}});
     const QStringList before = files();
     const QString longName = QString(300, u'x') + QStringLiteral(".xls");
     const std::pair<QString, QString> cases[] = {
@@ -102,10 +102,10 @@ TEST_F(FileRefusalTest, SavingSaysWhatIsWrongAndChangesNothing) {
         EXPECT_EQ(saving(*document, target), expected);
     }
     EXPECT_EQ(files(), before);
-    EXPECT_EQ(document->path(), good);
-    EXPECT_TRUE(document->isModified());
+    EXPECT_EQ(document->file().path(), good);
+    EXPECT_TRUE(document->file().isModified());
     document->save();
-    EXPECT_FALSE(document->isModified());
+    EXPECT_FALSE(document->file().isModified());
     EXPECT_NE(contents(good), saved);
 }
 

@@ -81,10 +81,10 @@ TEST_F(RecoveryTest, EveryWayToChangeASongComesBack) {
     open();
     EXPECT_EQ(app->readBlock(QStringLiteral("A1:J8")), before);
     EXPECT_EQ(app->activeSheetName(), QStringLiteral("Tonavox XII"));
-    EXPECT_EQ(document().columnWidth(1, 1), 30);
+    EXPECT_EQ(document().cells().columnWidth(1, 1), 30);
     EXPECT_EQ(app->activeAddress(), QStringLiteral("$B$4")) << "where the work was";
-    EXPECT_TRUE(document().isModified());
-    EXPECT_EQ(document().undoLabel(), QString());
+    EXPECT_TRUE(document().file().isModified());
+    EXPECT_EQ(document().editing().undoLabel(), QString());
     EXPECT_EQ(contents(song), saved);
     app->saveActiveWorkbook();
     EXPECT_EQ(journalCount(), 0);
@@ -120,7 +120,7 @@ TEST_F(RecoveryTest, TurnedDownTheSongIsAsItWasSavedAndTheJournalIsKeptAside) {
     open();
     EXPECT_TRUE(dialogs.last.text.endsWith(QStringLiteral("se odloží; program ji už nenabídne.")));
     EXPECT_EQ(text("B2"), QString());
-    EXPECT_FALSE(document().isModified());
+    EXPECT_FALSE(document().file().isModified());
     EXPECT_EQ(contents(song), saved);
     EXPECT_EQ(journalCount(), 0);
     EXPECT_EQ(journalCount("zaznamy/odmitnute"), 1);
@@ -143,12 +143,11 @@ TEST_F(RecoveryTest, AfterASecondCrashBothWorksComeBack) {
 
 TEST_F(RecoveryTest, SaysWhenTheSongHasChangedSince) {
     crashWith("B2", "d");
-    const auto other = Document::open(song);
-    other->write(1, {4, 2}, {{QStringLiteral("cizí")}});
+    auto other = Document::open(song);
+    other->editing().write(1, {4, 2}, {{QStringLiteral("cizí")}});
     other->save();
     dialogs.expect(title, QStringLiteral("Pozor: soubor se od té doby změnil."), Answer::Yes);
-    // The other one closes the song before it is opened here.
-    const_cast<std::unique_ptr<Document>&>(other).reset();
+    other.reset(); // closes the song before it is opened here
     open();
     EXPECT_EQ(text("B2") + text("B4"), QStringLiteral("dcizí"));
 }
@@ -176,11 +175,11 @@ TEST_F(RecoveryTest, WhatTheUserOrTheProgramGaveUpIsNotOffered) {
         [&] { app->closeActiveWorkbook(); },
         [&] {
             dialogs.expect(title, QStringLiteral("Chcete uložit změny"), Answer::No);
-            app->commands().close();
+            app->commands().files().close();
         },
         [&] {
             dialogs.expect(title, QStringLiteral("Chcete uložit změny"), Answer::No);
-            app->commands().quit();
+            app->commands().files().quit();
         },
         [&] {
             dialogs.expect(title, QStringLiteral("má neuložené změny"), Answer::No);
@@ -204,7 +203,7 @@ TEST_F(RecoveryTest, WhoChangesHisMindWhileQuittingGivesNothingUp) {
     write("B1", "f");
     const QString question = QStringLiteral("Chcete uložit změny");
     dialogs.expect(title, question, Answer::No).expect(title, question, Answer::Cancel);
-    EXPECT_FALSE(app->commands().quit());
+    EXPECT_FALSE(app->commands().files().quit());
     crash();
     EXPECT_EQ(journalCount(), 2);
 }
@@ -272,16 +271,16 @@ TEST_F(RecoveryTest, ATypedOverFormulaComesBackWhenThatWasTakenBack) {
     ASSERT_TRUE(QFile::copy(QStringLiteral(XLS_DATA "/xlwt.xls"), sheet));
     const auto formulas = Document::open(sheet);
     CellPosition cell{1, 1};
-    for (int row = 1; row <= formulas->usedRows(1); ++row)
-        for (int column = 1; column <= formulas->usedColumns(1); ++column)
-            if (formulas->isFormula(1, {row, column})) cell = {row, column};
-    ASSERT_TRUE(formulas->isFormula(1, cell));
-    const CellValue shown = formulas->value(1, cell);
+    for (int row = 1; row <= formulas->cells().usedRows(1); ++row)
+        for (int column = 1; column <= formulas->cells().usedColumns(1); ++column)
+            if (formulas->cells().isFormula(1, {row, column})) cell = {row, column};
+    ASSERT_TRUE(formulas->cells().isFormula(1, cell));
+    const CellValue shown = formulas->cells().value(1, cell);
     PendingJournal pending{JournalFile::create(path(QStringLiteral("zápis")), {}), {}};
     pending.contents.groups = {{{}, {CellWritten{1, cell, 7.0}, CellWritten{1, cell, shown, true}}}};
     EXPECT_EQ(formulas->recover(std::move(pending)), 0);
-    EXPECT_TRUE(formulas->isFormula(1, cell));
-    EXPECT_EQ(formulas->value(1, cell), shown);
+    EXPECT_TRUE(formulas->cells().isFormula(1, cell));
+    EXPECT_EQ(formulas->cells().value(1, cell), shown);
 }
 
 } // namespace zvonika::testing

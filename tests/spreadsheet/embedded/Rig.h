@@ -16,6 +16,16 @@
 
 namespace zvonika::testing {
 
+/// Keeps what the program is told of the user's doings.
+class Listener : public SpreadsheetListener {
+public:
+    void cursorMoved() override { heard += QLatin1Char('k'); }
+    void cellsEdited() override { heard += QLatin1Char('b'); }
+    /// What came since the last call: "k" for the cursor, "b" for cells.
+    QString take() { return std::exchange(heard, {}); }
+    QString heard;
+};
+
 /// What the application has told its window.
 struct ViewLog {
     int made = 0;

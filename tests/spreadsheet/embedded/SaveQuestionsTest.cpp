@@ -31,9 +31,9 @@ TEST_F(SaveQuestionsTest, WhatAnotherProgramHasWrittenIsNotOverwrittenUnasked) {
     EXPECT_TRUE(saving().startsWith(QStringLiteral("1004 Soubor „píseň.xls“ uložen není: na disku ho")));
     EXPECT_EQ(dialogs.last.defaultAnswer, Answer::No);
     EXPECT_EQ(contents(song), foreign);
-    EXPECT_TRUE(app.session().active()->isModified());
+    EXPECT_TRUE(app.session().active()->file().isModified());
     dialogs.expect(jmenoTabulky, question, Answer::No);
-    EXPECT_FALSE(app.commands().save()) << "the user has said so himself, no second box";
+    EXPECT_FALSE(app.commands().files().save()) << "the user has said so himself, no second box";
     dialogs.expect(jmenoTabulky, question, Answer::Yes);
     EXPECT_EQ(saving(), QStringLiteral("0"));
     EXPECT_NE(contents(song), foreign);
@@ -59,7 +59,7 @@ TEST_F(SaveQuestionsTest, NothingIsAskedWhenNothingIsLost) {
 TEST_F(SaveQuestionsTest, ElsewhereTheSongCanAlwaysBeSaved) {
     someoneElseWrites();
     dialogs.expectFile(QStringLiteral("Uložit jako"), path(QStringLiteral("jinam.xls")));
-    EXPECT_TRUE(app.commands().saveAs());
+    EXPECT_TRUE(app.commands().files().saveAs());
     EXPECT_EQ(contents(song), foreign);
     EXPECT_EQ(app.activeWorkbookName(), QStringLiteral("jinam.xls"));
 }

@@ -102,12 +102,13 @@ private:
         const Document* document = app_.session().active();
         if (!document) return {};
         QStringList found;
-        for (int sheet = 1; sheet <= document->sheetCount(); ++sheet)
-            for (int row = 1; row <= document->usedRows(sheet); ++row)
-                for (int column = 1; column <= document->usedColumns(sheet); ++column)
-                    if (const CellValue value = document->value(sheet, {row, column}); !isEmpty(value))
+        for (int sheet = 1; sheet <= document->cells().sheetCount(); ++sheet)
+            for (int row = 1; row <= document->cells().usedRows(sheet); ++row)
+                for (int column = 1; column <= document->cells().usedColumns(sheet); ++column)
+                    if (const CellValue value = document->cells().value(sheet, {row, column});
+                        !isEmpty(value))
                         found << QStringLiteral("%1!%2%3=%4")
-                                     .arg(document->sheetName(sheet), columnLetters(column))
+                                     .arg(document->cells().sheetName(sheet), columnLetters(column))
                                      .arg(row)
                                      .arg(cellText(value));
         return found.join(QLatin1Char('|'));

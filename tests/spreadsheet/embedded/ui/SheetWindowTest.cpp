@@ -156,18 +156,19 @@ TEST_F(SheetFile, ATabIsRenamedInItsPlace) {
     auto* name = tabs().findChild<QLineEdit*>();
     ASSERT_NE(name, nullptr);
     EXPECT_EQ(name->text(), before);
-    QTest::keyClicks(name, QStringLiteral("a/b"));
+    type("a/b");
     dialogs.expect(jmenoTabulky, QString());
-    QTest::keyClick(name, Qt::Key_Return);
+    press(Qt::Key_Return);
     EXPECT_EQ(application.activeSheetName(), before) << "refused, and open for another try";
-    name->setText(QStringLiteral("C & G dur"));
-    QTest::keyClick(name, Qt::Key_Return);
+    press(Qt::Key_A, Qt::ControlModifier);
+    type("C & G dur");
+    press(Qt::Key_Return);
     EXPECT_EQ(application.activeSheetName(), QStringLiteral("C & G dur"));
     EXPECT_EQ(tabs().tabText(0), QStringLiteral("C && G dur"));
     EXPECT_EQ(listener.edits, 1);
 
     QTest::mouseDClick(&tabs(), Qt::LeftButton, {}, centre);
-    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("x"));
+    type("x");
     press(Qt::Key_Escape);
     EXPECT_EQ(application.activeSheetName(), QStringLiteral("C & G dur"));
 }

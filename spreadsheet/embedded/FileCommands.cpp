@@ -1,24 +1,25 @@
+#include "spreadsheet/embedded/FileCommands.h"
+
 #include "spreadsheet/embedded/Saving.h"
 #include "spreadsheet/embedded/Session.h"
-#include "spreadsheet/embedded/SheetCommands.h"
 
 namespace zvonika {
 
-bool SheetCommands::save() {
+bool FileCommands::save() {
     Document* document = session_.active();
     return document && Saving(session_).save(*document);
 }
 
-bool SheetCommands::saveAs() {
+bool FileCommands::saveAs() {
     Document* document = session_.active();
     return document && Saving(session_).saveAs(*document);
 }
 
-bool SheetCommands::mayClose(Document& document, std::vector<Document*>& unwanted) {
-    if (!document.isModified()) return true;
+bool FileCommands::mayClose(Document& document, std::vector<Document*>& unwanted) {
+    if (!document.file().isModified()) return true;
     session_.activate(document);
     const Answer answer = session_.dialogs().message(
-        {jmenoTabulky, QStringLiteral("Chcete uložit změny v souboru „%1“?").arg(document.name()),
+        {jmenoTabulky, QStringLiteral("Chcete uložit změny v souboru „%1“?").arg(document.file().name()),
          Icon::Exclamation, Buttons::YesNoCancel});
     if (answer == Answer::Yes) return save();
     if (answer == Answer::No) unwanted.push_back(&document);
@@ -26,12 +27,12 @@ bool SheetCommands::mayClose(Document& document, std::vector<Document*>& unwante
 }
 
 // Not before everything may close: who changes his mind keeps all changes.
-void SheetCommands::giveUp(const std::vector<Document*>& unwanted) {
+void FileCommands::giveUp(const std::vector<Document*>& unwanted) {
     for (Document* document : unwanted)
-        if (session_.isOpen(*document)) document->giveUpChanges();
+        if (session_.isOpen(*document)) document->journal().giveUp();
 }
 
-bool SheetCommands::close() {
+bool FileCommands::close() {
     Document* document = session_.active();
     if (!document) {
         session_.hideUntilNeeded();
@@ -45,7 +46,7 @@ bool SheetCommands::close() {
     return true;
 }
 
-bool SheetCommands::quit() {
+bool FileCommands::quit() {
     std::vector<Document*> unwanted;
     for (std::size_t i = 0; i < session_.documents().size(); ++i)
         if (!mayClose(*session_.documents()[i], unwanted)) return false;

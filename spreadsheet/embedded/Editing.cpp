@@ -1,0 +1,180 @@
+#include "spreadsheet/embedded/Editing.h"
+
+#include "platform/RuntimeError.h"
+#include "spreadsheet/Refusals.h"
+#include "spreadsheet/embedded/CellChanges.h"
+#include "spreadsheet/embedded/SheetCursor.h"
+
+#include <algorithm>
+
+namespace zvonika {
+
+Editing::Editing(SheetCells& cells, SheetCursor& cursor, Changed changed)
+    : cells_(cells), cursor_(cursor), changed_(std::move(changed)) {}
+
+/// Stops at a refusal, which is returned, and leaves in `changes` what was done. Formulas come first: whether
+/// a cell is a part of an array formula shows only when it is written, and no other cell can be refused.
+std::exception_ptr Editing::putAll(int sheet, std::vector<CellChange>& changes) {
+    std::ranges::stable_partition(changes,
+                                  [&](const auto& change) { return cells_.isFormula(sheet, change.cell); });
+    for (auto next = changes.begin(); next != changes.end(); ++next) {
+        try {
+            cells_.put(sheet, next->cell, next->after);
+        } catch (const RuntimeError&) {
+            changes.erase(next, changes.end());
+            return std::current_exception();
+        }
+    }
+    return nullptr;
+}
+
+void Editing::writeAll(int sheet, const CellRange& place, std::vector<CellChange> changes) {
+    const auto refusal = putAll(sheet, changes);
+    if (!refusal || !changes.empty()) {
+        history_.forget(sheet, place);
+        Q_EMIT historyChanged();
+    }
+    if (!changes.empty()) {
+        changed_(written(sheet, changes));
+        Q_EMIT cellsChanged(sheet, around(changes));
+    }
+    if (refusal) std::rethrow_exception(refusal);
+}
+
+void Editing::write(int sheet, CellPosition first, const CellBlock& block) {
+    const CellRange place = placeFor(first, block);
+    writeAll(sheet, place, changesBy(cells_, sheet, first, block));
+}
+
+void Editing::fill(int sheet, const CellRange& range, const CellValue& value) {
+    writeAll(sheet, range, changesBy(cells_, sheet, range, value));
+}
+
+bool Editing::edit(int sheet, CellPosition first, const CellBlock& block, const QString& label) {
+    placeFor(first, block);
+    return commitCells({UndoStep::Kind::Cells, label, sheet, 0, changesBy(cells_, sheet, first, block)});
+}
+
+bool Editing::editFill(int sheet, const CellRange& range, const CellValue& after, const QString& label) {
+    return commitCells({UndoStep::Kind::Cells, label, sheet, 0, changesBy(cells_, sheet, range, after)});
+}
+
+bool Editing::commitCells(UndoStep step) {
+    const auto refusal = putAll(step.sheet, step.changes);
+    const bool any = !step.changes.empty();
+    if (any) {
+        changed_(written(step.sheet, step.changes));
+        Q_EMIT cellsChanged(step.sheet, around(step.changes));
+        history_.add(std::move(step));
+        Q_EMIT historyChanged();
+    }
+    if (refusal) std::rethrow_exception(refusal);
+    return any;
+}
+
+bool Editing::commit(UndoStep step) {
+    exchange(step, false);
+    history_.add(std::move(step));
+    Q_EMIT historyChanged();
+    return true;
+}
+
+bool Editing::insertRow(int sheet, int row) {
+    if (row > cells_.usedRows(sheet)) return false;
+    refuseFormulas(sheet, row);
+    if (cells_.usedRows(sheet) == lastRow)
+        refuse(QStringLiteral("Řádek nelze vložit: poslední řádek listu není prázdný."));
+    return commit({UndoStep::Kind::InsertRow, QStringLiteral("Vložení řádku"), sheet, row, {}});
+}
+
+bool Editing::deleteRow(int sheet, int row) {
+    if (row > cells_.usedRows(sheet)) return false;
+    refuseFormulas(sheet, row);
+    UndoStep step{UndoStep::Kind::DeleteRow, QStringLiteral("Odstranění řádku"), sheet, row, {}};
+    forCells({{row, 1}, {row, cells_.usedColumns(sheet)}},
+             [&](CellPosition cell) { step.changes.push_back(changeTo(cells_, sheet, cell, {})); });
+    return commit(std::move(step));
+}
+
+/// A formula speaks of other cells by their place; moved as a value it would be lost.
+void Editing::refuseFormulas(int sheet, int fromRow) const {
+    forCells({{fromRow, 1}, {cells_.usedRows(sheet), cells_.usedColumns(sheet)}}, [&](CellPosition cell) {
+        if (cells_.isFormula(sheet, cell))
+            refuse(QStringLiteral("Řádky nelze posunout: v buňce %1 je vzorec.").arg(absoluteAddress(cell)));
+    });
+}
+
+void Editing::putBack(int sheet, const CellChange& change) {
+    if (change.wasFormula)
+        cells_.putBack(sheet, change.cell, change.before);
+    else
+        cells_.put(sheet, change.cell, change.before);
+}
+
+void Editing::exchange(const UndoStep& step, bool back) {
+    if (step.kind == UndoStep::Kind::Cells)
+        exchangeCells(step, back);
+    else
+        exchangeRow(step, back);
+}
+
+void Editing::exchangeCells(const UndoStep& step, bool back) {
+    for (const auto& change : step.changes)
+        back ? putBack(step.sheet, change) : cells_.put(step.sheet, change.cell, change.after);
+    changed_(back ? takenBack(step.sheet, step.changes) : written(step.sheet, step.changes));
+    Q_EMIT cellsChanged(step.sheet, around(step.changes));
+}
+
+void Editing::exchangeRow(const UndoStep& step, bool back) {
+    const bool down = (step.kind == UndoStep::Kind::InsertRow) != back;
+    down ? cells_.moveDown(step.sheet, step.row) : cells_.moveUp(step.sheet, step.row);
+    std::vector<JournalChange> noted{down ? JournalChange(RowInserted{step.sheet, step.row})
+                                          : JournalChange(RowDeleted{step.sheet, step.row})};
+    if (back) {
+        for (const auto& change : step.changes)
+            putBack(step.sheet, change);
+        std::ranges::move(takenBack(step.sheet, step.changes), std::back_inserter(noted));
+    }
+    changed_(std::move(noted));
+    Q_EMIT cellsChanged(step.sheet, {{step.row, 1}, {lastRow, lastColumn}});
+}
+
+void Editing::showStep(const UndoStep& step) {
+    cursor_.activateSheet(step.sheet);
+    const CellPosition rowStart{step.row, cursor_.selection().active.column};
+    const CellRange range = step.kind == UndoStep::Kind::Cells ? around(step.changes) : single(rowStart);
+    cursor_.select(range, range.first);
+}
+
+bool Editing::undo() {
+    const UndoStep* step = history_.back();
+    if (!step) return false;
+    exchange(*step, true);
+    showStep(*step);
+    Q_EMIT historyChanged();
+    return true;
+}
+
+bool Editing::redo() {
+    const UndoStep* step = history_.again();
+    if (!step) return false;
+    exchange(*step, false);
+    showStep(*step);
+    Q_EMIT historyChanged();
+    return true;
+}
+
+void Editing::renameSheet(int sheet, const QString& name) {
+    if (name == cells_.sheetName(sheet)) return;
+    cells_.renameSheet(sheet, name);
+    changed_({SheetRenamed{sheet, name}});
+    Q_EMIT sheetRenamed();
+}
+
+void Editing::setColumnWidth(int sheet, int column, double characters) {
+    cells_.setColumnWidth(sheet, column, characters);
+    changed_({ColumnResized{sheet, column, characters}});
+    Q_EMIT columnWidthChanged(sheet, column);
+}
+
+} // namespace zvonika

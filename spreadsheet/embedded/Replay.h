@@ -1,0 +1,17 @@
+#pragma once
+
+#include "spreadsheet/embedded/journal/JournalEntry.h"
+
+#include <optional>
+#include <vector>
+
+namespace zvonika {
+
+class SheetCells;
+
+/// Makes the changes that a journal tells of. How many the workbook did not allow.
+int replay(SheetCells& cells, const std::vector<JournalGroup>& groups);
+/// The cell that was written last; nothing when none was.
+std::optional<CellWritten> lastWritten(const std::vector<JournalGroup>& groups);
+
+} // namespace zvonika
