@@ -7,6 +7,7 @@
 #include "tests/support/ZaznamovaMedia.h"
 
 #include <QAction>
+#include <QLabel>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -35,12 +36,23 @@ protected:
         dialogs.expectInput("Nová skladba.", jmeno);
         klikni("cmdNovaSkladba");
     }
+    /// A song of so many grips g1, pulled; the cursor stands on the first.
+    void pisenSHmaty(int hmatu) {
+        novaPisen();
+        for (int radek = 1; radek <= hmatu; ++radek) {
+            excel->put(QStringLiteral("B%1").arg(radek), QStringLiteral("g1,"));
+            excel->put(QStringLiteral("I%1").arg(radek), QStringLiteral("Tah"));
+        }
+        klikni("cmdPrvni");
+    }
     QWidget* prvek(const QString& jmeno) {
         QWidget* nalezeny = program->okno().prvek(jmeno);
         if (!nalezeny) throw std::runtime_error("no such control: " + jmeno.toStdString());
         return nalezeny;
     }
     QAction* akce(const QString& jmeno) { return program->okno().findChild<QAction*>(jmeno); }
+    QString stav() { return qobject_cast<QLabel*>(prvek("lblStav"))->text(); }
+    void stiskni(Qt::Key klavesa) { QTest::keyClick(&program->okno(), klavesa); }
     void klikni(const QString& jmeno) { QTest::mouseClick(prvek(jmeno), Qt::LeftButton); }
     bool povolen(const QString& jmeno) {
         if (const QAction* polozka = akce(jmeno)) return polozka->isEnabled();

@@ -186,7 +186,7 @@ TEST_F(KonverzeTest, TheKeyMayChangeInsideTheSong) {
                    Answer::No);
     ocekavejHotovo();
     konverze.cmdPokracovat();
-    EXPECT_FALSE(stav.ceka);
+    EXPECT_FALSE(stav.ceka) << "nobody is waited for any more";
     EXPECT_EQ(excel->text("B1"), "d1,");
     EXPECT_EQ(radek(2), "B=f1,|C=g1,|I=Tah|W=F dur");
     EXPECT_EQ(excel->text("W4"), "F dur");

@@ -37,9 +37,9 @@ TEST_F(SluzbyKonverze, ATonIsLookedUpByTheNamesOfItsKeys) {
         {"C  dur", "G dur", "c1,", "Empty"},
         {"Vyberte tóninu", "G dur", "c1,", "Empty"},
         {"", "G dur", "c1,", "Empty"},
-        {"C dur", "G dur", "A,", "Empty"},    // only the heading has it
-        {"C dur", "G dur", "fis4,", "Empty"}, // only an entry behind the 56th has it
-        {"C dur", "F dur", "dis4,", "as4,"},  // the 56th
+        {"C dur", "G dur", "A,", "Empty"},   // only the heading has it
+        {"C dur", "G dur", "Ais,", "Empty"}, // the 57th is not reached
+        {"C dur", "F dur", "dis4,", "as4,"}, // the 56th
         {"C dur", "G dur", "c1", "Empty"},
         {"C dur", "G dur", "C1,", "Empty"},
         {"C dur", "F dur", "h3,", "e4,"},
