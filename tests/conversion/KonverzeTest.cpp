@@ -176,11 +176,11 @@ TEST_F(KonverzeTest, TheKeyMayChangeInsideTheSong) {
     EXPECT_EQ(stav.lblStupnice, "G dur");
     EXPECT_EQ(list(), "D dur Nedokončeno");
     EXPECT_EQ(excel->app().activeAddress(), "$B$2");
-    excel->app().addWorkbook(); // another workbook comes to the front meanwhile
     stav.optStupnice.reset();
     dialogs.expect("Neúplné údaje.", "Neurčili jste");
     konverze.cmdPokracovat();
     EXPECT_TRUE(stav.ceka);
+    excel->app().addWorkbook(); // another workbook comes to the front meanwhile
     vyber("F dur");
     dialogs.expect("Přechod do jiné stupnice", "Na řádku 4 se mění původní stupnice z G dur do C dur.",
                    Answer::No);

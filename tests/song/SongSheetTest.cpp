@@ -33,6 +33,19 @@ TEST(PopisSloupcu, TellsAPlayerWhatTheyAre) {
         EXPECT_EQ(popisSloupcu().value(sloupec - 'A').label, QString::fromUtf8(slovo)) << sloupec;
 }
 
+TEST(CommandStates, AChangeIsToldOnceAndALockIsForGood) {
+    CommandStates prikazy;
+    QStringList zmeny;
+    QObject::connect(&prikazy, &CommandStates::zmeneno,
+                     [&](const QString& prikaz, bool povolen) { zmeny << (povolen ? u'+' : u'-') + prikaz; });
+    for (const bool povolit : {true, false, false, true})
+        prikazy.povol("cmdTah", povolit);
+    prikazy.zamkni("cmdTah");
+    prikazy.povol("cmdTah");
+    EXPECT_EQ(zmeny.join(u' '), "-cmdTah +cmdTah -cmdTah");
+    EXPECT_FALSE(prikazy.povolen("cmdTah"));
+}
+
 TEST_F(SongSheetTest, ReadsEveryColumnOfARow) {
     excel->put("A3", "Koč");
     for (const char* bunka : {"B3", "C3", "D3", "E3", "F3", "G3", "H3"})

@@ -9,6 +9,7 @@
 #include <QWindow>
 
 #include <gtest/gtest.h>
+#include <ostream>
 
 using namespace zvonika;
 
@@ -42,6 +43,7 @@ struct Prvek {
     const char* jmeno;
     int cislo;
     bool bas;
+    friend std::ostream& operator<<(std::ostream& out, const Prvek& prvek) { return out << prvek.jmeno; }
 };
 
 class StiskPrvku : public Stisk, public ::testing::WithParamInterface<Prvek> {

@@ -84,6 +84,9 @@ TEST_F(PasPisneTest, FollowsTheCursorAndTheCells) {
     EXPECT_FALSE(pas.viditelny);
     EXPECT_EQ(pas.pozice[0].slabika, "");
     EXPECT_EQ(pas.prvniRadekPasu, 1);
+    naRadek(5);
+    pasPisne.obnov();
+    EXPECT_EQ(pas.prvniRadekPasu, 5) << "an empty strip has no rows to keep";
 }
 
 } // namespace zvonika::testing
