@@ -34,6 +34,9 @@ TEST(SharedStrings, CountReferencesAndTexts) {
     file = book.save();
     EXPECT_EQ(sharedTable(file).front().u32(0), 5U);
     EXPECT_EQ(sharedTable(file).front().u32(4), 3U) << "a text that is there already is used again";
+    book = Workbook::open(file);
+    book.setValue(0, {9, 0}, 1.0);
+    EXPECT_EQ(sharedTable(book.save()).front().u32(0), 4U) << "without a new text, too";
 }
 
 TEST(SharedStrings, RecordsStayWithinTheLimit) {
