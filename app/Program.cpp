@@ -174,17 +174,12 @@ KrokAutomatu Program::krokAutomatu() {
 }
 
 void Program::poPrikazu() {
-    const auto nejakyOznacen = [](const auto& deska, int pocet) {
-        for (int n = 1; n <= pocet; ++n)
-            if (deska.oznacen(n)) return true;
-        return false;
-    };
     StavProgramu stav;
     stav.pisenOtevrena = modely_.pisen.otevrena();
     stav.automatBezi = modely_.timer1.zapnuty();
     stav.stupnice = tonina();
-    stav.neniCoZapsat = !nejakyOznacen(modely_.diskant, pocetKnofliku) &&
-                        !nejakyOznacen(modely_.basy, pocetBasu) && modely_.zapisovaciOsnova.volnySlot() == 0;
+    stav.neniCoZapsat = modely_.diskant.oznacene().empty() && modely_.basy.oznacene().empty() &&
+                        modely_.zapisovaciOsnova.volnySlot() == 0;
     stav.radekPrazdny = modely_.panel.lblTony.isEmpty() && modely_.panel.lblBasy.isEmpty();
     stav.upozorneni = modely_.panel.upozorneni;
     modely_.panel.stav = stavovyRadek(stav);

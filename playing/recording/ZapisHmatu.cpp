@@ -42,8 +42,7 @@ bool ZapisHmatu::zapisTony(RadekZapisu& radek) {
 QStringList ZapisHmatu::oznaceneTony(bool& prebyva) {
     QStringList tony;
     Tonavox12 ladeni;
-    for (int n = 1; n <= pocetKnofliku && !prebyva; ++n) {
-        if (!diskant_.oznacen(n)) continue;
+    for (const int n : diskant_.oznacene()) {
         prebyva = tony.size() == maxTonu;
         if (prebyva) break;
         QString stupnice = okoli_.tonina.stupnice().text(); // a copy: naming a tone spoils it

@@ -17,17 +17,6 @@ namespace {
 // Syllables shown on each side of the current row.
 constexpr int sousedu = 2;
 
-template <typename Stav>
-bool zHmatu(Stav stav) {
-    return stav == Stav::Tah || stav == Stav::Tlak;
-}
-
-/// What a button shows when the grip lets it go: the mark outlives the picture.
-template <typename Stav>
-Stav stavPodleZnacky(bool oznacen) {
-    return oznacen ? Stav::Cerveny : Stav::Volny;
-}
-
 CisloTonu cisloTonu(const QString& nazev) {
     Tonavox12 ladeni;
     ladeni.DejCisloTonu(ToneName(nazev));
@@ -129,16 +118,8 @@ void ZobrazeniHmatu::ukazTexty(const OkoliRadku& okoli) {
 }
 
 void ZobrazeniHmatu::uvolniObrazky() {
-    TrebleBoard& diskant = plochy_.diskant;
-    diskant.odeberInterval(); // its brown may cover a picture of the grip
-    for (int n = 1; n <= pocetKnofliku; ++n) {
-        const auto volny = stavPodleZnacky<StavKnofliku>(diskant.oznacen(n));
-        if (zHmatu(diskant.stav(n))) diskant.ukazHlavni(n, volny);
-        if (zHmatu(diskant.stavPomocneho(n))) diskant.ukazPomocny(n, volny);
-    }
-    BassBoard& basy = plochy_.basy;
-    for (int bas = 1; bas <= pocetBasu; ++bas)
-        if (zHmatu(basy.stav(bas))) basy.ukaz(bas, stavPodleZnacky<StavBasu>(basy.oznacen(bas)));
+    plochy_.diskant.odeberHmat();
+    plochy_.basy.odeberHmat();
 }
 
 QStringList ZobrazeniHmatu::ukazTony(const QStringList& tony) {
@@ -146,7 +127,7 @@ QStringList ZobrazeniHmatu::ukazTony(const QStringList& tony) {
     for (const QString& ton : tony) {
         const CisloTonu cislo = cisloTonu(ton);
         if (cislo.jeVRozsahu())
-            plochy_.diskant.ukaz(cislo.hodnota(), zobrazenTlak_ ? StavKnofliku::Tlak : StavKnofliku::Tah);
+            plochy_.diskant.ukazHmat(cislo.hodnota(), zobrazenTlak_ ? StavKnofliku::Tlak : StavKnofliku::Tah);
         else
             cizi.append(ton);
     }
@@ -158,7 +139,7 @@ QStringList ZobrazeniHmatu::ukazBasy(const QStringList& basy) {
     for (const QString& nazev : basy) {
         const int bas = plochy_.tabulkaBasu.cislo(nazev);
         if (bas > 0)
-            plochy_.basy.ukaz(bas, zobrazenTlak_ ? StavBasu::Tlak : StavBasu::Tah);
+            plochy_.basy.ukazHmat(bas, zobrazenTlak_ ? StavBasu::Tlak : StavBasu::Tah);
         else
             cizi.append(nazev);
     }

@@ -14,6 +14,7 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <functional>
 #include <gtest/gtest.h>
 
 using namespace zvonika;
@@ -37,26 +38,26 @@ TEST(Vzhled, jmenaAStavyProPomocneTechnologie) {
     EXPECT_EQ(pristupne(s, "ImgBas(30)"), QStringLiteral("Bas 30, C: volný"));
     EXPECT_EQ(s.prvek("lbl(12)")->toolTip(), QStringLiteral("dis1"));
 
-    const std::pair<StavKnofliku, const char*> stavy[] = {{StavKnofliku::Cerveny, "označený"},
-                                                          {StavKnofliku::Tah, "tah"},
-                                                          {StavKnofliku::Tlak, "tlak"},
-                                                          {StavKnofliku::Hnedy, "interval"},
-                                                          {StavKnofliku::Volny, "volný"}};
-    for (const auto& [stav, slovo] : stavy) {
-        s.diskant.ukaz(13, stav);
-        EXPECT_TRUE(pristupne(s, "lbl(13)").endsWith(QString::fromUtf8(slovo)));
-        EXPECT_TRUE(pristupne(s, "lblSynchro(13)").endsWith(QString::fromUtf8(slovo)));
-        EXPECT_FALSE(zaskrtnuty(s, "lbl(13)")) << "a picture is no mark";
+    const std::pair<std::function<void()>, const char*> stavy[] = {
+        {[&] { s.diskant.ukazHmat(13, StavKnofliku::Tah); }, "tah"},
+        {[&] { s.diskant.ukazHmat(13, StavKnofliku::Tlak); }, "tlak"},
+        {[&] { s.diskant.ukazInterval(13); }, "interval"},
+        {[&] { s.diskant.odeberHmat(); }, "volný"},
+        {[&] { s.diskant.nastavZnacku(13, true); }, "označený"},
+        {[&] { s.diskant.ukazHmat(13, StavKnofliku::Tah); }, "tah, označený"}};
+    for (const auto& [zmen, slovo] : stavy) {
+        zmen();
+        for (const char* jmeno : {"lbl(13)", "lblSynchro(13)"}) {
+            EXPECT_TRUE(pristupne(s, jmeno).endsWith(QStringLiteral(": ") + QString::fromUtf8(slovo)))
+                << slovo;
+            EXPECT_EQ(zaskrtnuty(s, jmeno), s.diskant.oznacen(13)) << "a picture is no mark";
+        }
     }
-    s.diskant.ukaz(13, StavKnofliku::Tah);
-    s.diskant.nastavZnacku(13, true);
-    EXPECT_TRUE(zaskrtnuty(s, "lbl(13)") && zaskrtnuty(s, "lblSynchro(13)"));
-    EXPECT_TRUE(pristupne(s, "lbl(13)").endsWith(QStringLiteral("tah, označený")));
 
     s.basy.klik(26);
-    s.diskant.nastavBarvuKlavesy(28, BarvaKlavesy::Cervena);
+    s.diskant.nastavZnacku(28, true);
     EXPECT_TRUE(zaskrtnuty(s, "ImgBas(26)") && zaskrtnuty(s, "cmdKlavesa(28)"));
-    s.basy.ukaz(26, StavBasu::Tlak);
+    s.basy.ukazHmat(26, StavBasu::Tlak);
     EXPECT_EQ(s.prvek("ImgBas(26)")->accessibleDescription(), QStringLiteral("tlak, označený"));
 }
 
@@ -164,13 +165,13 @@ TEST(Vzhled, zmenaPrekresliJenSvujPrvek) {
     } pocitadlo;
     for (QWidget* prvek : s.scena.findChildren<QWidget*>())
         prvek->installEventFilter(&pocitadlo);
-    s.diskant.ukazHlavni(18, StavKnofliku::Tah);
+    s.diskant.ukazHmat(18, StavKnofliku::Tah);
     QApplication::processEvents();
     EXPECT_TRUE(pocitadlo.kresleni.contains(QStringLiteral("lbl(18)")));
     EXPECT_LE(pocitadlo.kresleni.size(), 10)
         << "itself, the wood and the neighbours whose corners it overlaps";
     pocitadlo.kresleni.clear();
-    s.diskant.ukazHlavni(18, StavKnofliku::Tah);
+    s.diskant.ukazHmat(18, StavKnofliku::Tah);
     s.basy.uvolniBasy();
     QApplication::processEvents();
     EXPECT_TRUE(pocitadlo.kresleni.isEmpty()) << pocitadlo.kresleni.join(u' ').toStdString();

@@ -13,14 +13,11 @@ protected:
         zvolToninu("G dur");
         for (const int n : {2, 3}) { // a natural and an accidental
             diskant.nastavZnacku(n, true);
-            diskant.ukaz(n, StavKnofliku::Cerveny);
-            diskant.nastavBarvuKlavesy(n, BarvaKlavesy::Cervena);
             diskant.nastavTonKlavesy(n, QStringLiteral("x"));
         }
         diskant.ukazInterval(20);
         diskant.nastavPopis(2, QStringLiteral("1\r\n"));
         basy.nastavZnacku(26, true);
-        basy.ukaz(26, StavBasu::Cerveny);
         osnova.polozNotu(0, {{Znamenko::Zadne, 420}, CisloTonu(9)});
         osnova.polozNotu(1, {{Znamenko::Krizek, 480}, CisloTonu(12)});
         osnova.polozNotu(2, {{Znamenko::Odrazka, 600}, CisloTonu(14)});

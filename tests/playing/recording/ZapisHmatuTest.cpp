@@ -146,7 +146,7 @@ TEST_F(ZapisHmatuTest, TheNextGripIsShownByItsDirection) {
         SCOPED_TRACE(smer);
         excel->put("I6", smer);
         excel->selectRange("B5");
-        diskant.ukaz(9, StavKnofliku::Volny);
+        diskant.odeberHmat();
         panel.barvaKroku = BarvaKroku::Neznamy;
         zapis.cmdTah();
         EXPECT_EQ(diskant.stav(9), stav);
