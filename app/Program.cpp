@@ -30,26 +30,25 @@ Program::Program(const Prostredi& prostredi)
 Program::~Program() = default;
 
 bool Program::Main() {
-    bool cele = Form_Load();
-    if (!modely_.pisen.aplikaceExcel && chceNahradniTabulku()) {
-        prostredi_.spoustecExcelu = prostredi_.tabulky.nahradni;
-        cele = Form_Load();
-    }
-    modely_.panel.upozorneni = modely_.tabulkaBasu.chyba();
+    bool cele = Form_Load(prostredi_.tabulky.spoustec());
+    if (!modely_.pisen.aplikaceExcel && chceNahradniTabulku())
+        cele = Form_Load(prostredi_.tabulky.nahradni());
+    modely_.panel.upozorneni =
+        QStringList{prostredi_.tabulky.veta(), modely_.tabulkaBasu.chyba()}.join(u' ').trimmed();
     poPrikazu();
     okno_->show();
     prejdiNaHlavniOkno(); // the sheet's window came up first
     return cele;
 }
 
-bool Program::Form_Load() {
-    const bool cele = Spusteni(prostredi_.nastaveni, prostredi_.dialogs, krokySpusteni()).Form_Load();
+bool Program::Form_Load(const SpreadsheetLauncher& spoustec) {
+    const bool cele = Spusteni(prostredi_.nastaveni, prostredi_.dialogs, krokySpusteni(spoustec)).Form_Load();
     prostredi_.tabulky.spusteno();
     return cele;
 }
 
 bool Program::chceNahradniTabulku() const {
-    if (!prostredi_.tabulky.nahradni) return false;
+    if (!prostredi_.tabulky.nahradni()) return false;
     const Answer odpoved = prostredi_.dialogs.message(
         {QStringLiteral("Tabulkový program"),
          QStringLiteral(
@@ -60,11 +59,11 @@ bool Program::chceNahradniTabulku() const {
     return odpoved == Answer::Yes;
 }
 
-KrokySpusteni Program::krokySpusteni() {
+KrokySpusteni Program::krokySpusteni(const SpreadsheetLauncher& spoustec) {
     return {
         [this] { okno_->nastavVzdyNahore(); },
-        [this] {
-            SpustExcel(prostredi_.spoustecExcelu, modely_.pisen);
+        [this, spoustec] {
+            SpustExcel(spoustec, modely_.pisen);
             modely_.pisen.excel().setListener(this);
         },
         [this](bool obracene) { modely_.diskant.nastavObraceneCislovani(obracene); },

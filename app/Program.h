@@ -55,9 +55,9 @@ private:
     void prejdiNaPozici(int pozice);
     void propojModely();
     void nastavPoradiFokusu();
-    bool Form_Load();
+    bool Form_Load(const SpreadsheetLauncher& spoustec);
     bool chceNahradniTabulku() const;
-    KrokySpusteni krokySpusteni();
+    KrokySpusteni krokySpusteni(const SpreadsheetLauncher& spoustec);
     void vyberStupnici();
     KrokAutomatu krokAutomatu();
     bool volnoProKrok() const;

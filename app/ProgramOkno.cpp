@@ -7,6 +7,7 @@
 #include "song/ui/PasWidget.h"
 #include "song/ui/ZobrazovaciOsnovaWidget.h"
 #include "theory/NazevIntervalu.h"
+#include "theory/NazvyTonu.h"
 #include "theory/ui/FrmStupnice.h"
 #include "theory/ui/ZapisovaciOsnova.h"
 
@@ -40,10 +41,8 @@ void Program::postavHmatnik() {
             pomocny ? konverzace_.prstoklad.dvojklikLblSynchro(n) : konverzace_.prstoklad.dvojklikLbl(n);
         });
     };
-    const auto nazev = [jmena = Tonavox12()](int n) mutable {
-        jmena.DejTon(CisloTonu(n));
-        return jmena.nazevTonu().text().chopped(1); // without the comma that ends every name
-    };
+    // Without the comma that ends every name.
+    const auto nazev = [](int n) { return nazevTonu(CisloTonu(n)).text().chopped(1); };
     const ObsluhaDiskantu diskant{
         [this](int n) { provedUdalost([this, n] { konverzace_.klikDiskantu.klik(n); }); }, prst, nazev};
     vytvorDiskant(scena, modely_.diskant, diskant, umisti);

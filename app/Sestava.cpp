@@ -13,6 +13,7 @@
 #include "platform/ui/CzechTranslator.h"
 #include "platform/ui/DesktopShell.h"
 #include "platform/ui/QtDialogs.h"
+#include "song/PopisSloupcu.h"
 #include "spreadsheet/embedded/EmbeddedApplication.h"
 #include "spreadsheet/embedded/ui/SheetWindow.h"
 
@@ -78,28 +79,24 @@ struct Sestava::Casti {
           media(systemMedia(drive, pluginFolders())),
           libreOffice(drive, dialogs, nastaveni(QStringLiteral("Calc Zvoniky"), umisteni),
                       profilyLibreOffice(umisteni)),
-          program({dialogs, *nastaveniProgramu, drive, shell, spoustecZvolene(),
-                   umisteni.hodiny ? *umisteni.hodiny : hodiny, *media, volbaProhlizece(pluginFolders()),
-                   dalsiTabulky()}) {
+          program({dialogs, *nastaveniProgramu, drive, shell, tabulky(),
+                   umisteni.hodiny ? *umisteni.hodiny : hodiny, *media, volbaProhlizece(pluginFolders())}) {
         dialogs.setMainWindow(&program.okno());
         const QScreen* obrazovka = QApplication::primaryScreen();
         okna = rozmistiOkna(obrazovka ? obrazovka->availableGeometry() : QRect(0, 0, 1366, 768));
         libreOffice.nastavMisto(okna.tabulka);
     }
 
-    bool vestavena() const { return VolbaTabulky(*nastaveniProgramu).zvolena() != Tabulka::LibreOffice; }
-
-    SpreadsheetLauncher spoustecZvolene() {
-        if (vestavena()) return [this] { return novaTabulka(); };
-        return [this] { return libreOffice.spust(); };
-    }
-
-    DalsiTabulky dalsiTabulky() {
-        DalsiTabulky dalsi;
-        dalsi.nabidka = [] { return QVector{nabidkaVestavene(), nabidkaLibreOffice()}; };
-        dalsi.spusteno = [this] { libreOffice.spusteno(); };
-        if (!vestavena()) dalsi.nahradni = [this] { return novaTabulka(); };
-        return dalsi;
+    TabulkoveProgramy tabulky() {
+        return {
+            {
+                {Tabulka::Vestavena, nabidkaVestavene, [this] { return novaTabulka(); }},
+                {Tabulka::LibreOffice, nabidkaLibreOffice, [this] { return libreOffice.spust(); },
+                 [this] { libreOffice.spusteno(); }},
+                {.volba = Tabulka::Excel,
+                 .veta = QStringLiteral("Excel zatím Zvonika řídit neumí, pracuje s vestavěnou tabulkou.")},
+            },
+            VolbaTabulky(*nastaveniProgramu).zvolena()};
     }
 
     std::unique_ptr<SpreadsheetApplication> novaTabulka() {
@@ -109,7 +106,7 @@ struct Sestava::Casti {
     }
 
     std::unique_ptr<SheetView> oknoTabulky(SheetCommands& prikazy) {
-        auto okno = std::make_unique<SheetWindow>(prikazy);
+        auto okno = std::make_unique<SheetWindow>(prikazy, popisSloupcu());
         QObject::connect(okno.get(), &SheetWindow::f6Pressed, &program, &Program::prejdiNaHlavniOkno);
         umisti(*okno, okna.tabulka);
         return okno;

@@ -1,6 +1,6 @@
 #include "board/TrebleBoard.h"
 
-#include "theory/Tonavox12.h"
+#include "theory/NazvyTonu.h"
 
 #include <algorithm>
 #include <utility>
@@ -24,12 +24,6 @@ bool zmen(T& misto, const T& hodnota) {
     if (misto == hodnota) return false;
     misto = hodnota;
     return true;
-}
-
-QString nazevTonu(int n, QString stupnice) { // a copy: naming a tone spoils the key
-    Tonavox12 ladeni;
-    ladeni.DejTonVeStupnici(CisloTonu(n), stupnice);
-    return ladeni.nazevTonu().text();
 }
 
 /// Puts the new name under the fingers that are stacked on the old one.
@@ -167,7 +161,7 @@ void TrebleBoard::nastavPopisPomocneho(int n, const QString& popis) {
 void TrebleBoard::nastavNazvy(bool zapnuto, const QString& stupnice) {
     const bool prepnuto = zmen(nazvy_, zapnuto);
     for (int n = 1; n <= pocetKnofliku; ++n) {
-        const QString novy = zapnuto ? nazevTonu(n, stupnice) : QString();
+        const QString novy = zapnuto ? nazevTonu(CisloTonu(n), Key(stupnice)).nazev.text() : QString();
         const QString stary = std::exchange(knoflik(n).nazev, novy);
         nastavPopis(n, prejmenuj(popis(n), stary, novy));
         nastavPopisPomocneho(n, prejmenuj(popisPomocneho(n), stary, novy));
@@ -201,7 +195,7 @@ void TrebleBoard::nastavTonKlavesy(int n, const QString& ton) {
 
 void TrebleBoard::prejmenujKlavesy(const QString& stupnice) {
     for (int n = 1; n <= pocetKnofliku; ++n)
-        if (!tonKlavesy(n).isEmpty()) nastavTonKlavesy(n, nazevTonu(n, stupnice));
+        if (!tonKlavesy(n).isEmpty()) nastavTonKlavesy(n, nazevTonu(CisloTonu(n), Key(stupnice)).nazev.text());
 }
 
 void TrebleBoard::vyprazdniTonyKlaves() {

@@ -1,7 +1,7 @@
 #include "conversion/BehKonverze.h"
 
 #include "spreadsheet/Address.h"
-#include "theory/Tonavox12.h"
+#include "theory/NazvyTonu.h"
 
 namespace zvonika {
 
@@ -13,13 +13,8 @@ bool jeSmer(const CellValue& hodnota) {
 }
 
 bool jeTonNastroje(const QString& ton) {
-    Tonavox12 model;
-    model.DejCisloTonu(ToneName(ton));
-    return model.cisloTonu().jeVRozsahu();
+    return cisloTonu(ToneName(ton)).jeVRozsahu();
 }
-
-constexpr int sloupecB = 2;
-constexpr int sloupecI = 9;
 
 } // namespace
 
@@ -47,15 +42,16 @@ KonecBehu BehKonverze::odAktivniBunky() {
 /// end.
 bool BehKonverze::lzePreskocit() const {
     const auto misto = parseAddress(adresa_);
-    if (!misto || misto->first.column <= sloupecB || misto->first.column >= sloupecI) return false;
-    return jeSmer(excel().value(QStringLiteral("I%1").arg(misto->first.row)));
+    if (!misto || misto->first.column <= sloupce::tony.prvni || misto->first.column >= sloupce::smer)
+        return false;
+    return jeSmer(excel().value(adresa(sloupce::smer, misto->first.row)));
 }
 
 std::optional<KonecBehu> BehKonverze::overStupnici() {
-    const QString radek = QString::number(excel().activeRow());
-    const QString nova = cellText(excel().value(u'W' + radek));
+    const int radek = excel().activeRow();
+    const QString nova = cellText(excel().value(adresa(sloupce::tonina, radek)));
     if (nova == o_.stav.lblStupnice) return std::nullopt;
-    const QString odpoved = o_.konverze.ZmenaLadeni(o_.stav.lblStupnice, nova, radek);
+    const QString odpoved = o_.konverze.ZmenaLadeni(o_.stav.lblStupnice, nova, QString::number(radek));
     if (odpoved == odpovediZmeny::storno) return KonecBehu::Storno;
     o_.stav.lblStupnice = nova;
     o_.stav.oznamZmenu();
@@ -96,8 +92,8 @@ std::optional<KonecBehu> BehKonverze::posunVpravo() {
     excel().selectRange(absoluteAddress(CellPosition{misto->first.row, misto->first.column + 1}));
     if (!jeSmer(excel().activeCellValue())) return std::nullopt;
     const int radek = excel().activeRow();
-    excel().setValue(QStringLiteral("W%1").arg(radek), cilova_);
-    excel().selectRange(QStringLiteral("B%1").arg(radek + 1));
+    excel().setValue(adresa(sloupce::tonina, radek), cilova_);
+    excel().selectRange(adresa(sloupce::tony.prvni, radek + 1));
     if (o_.poRadku(radek)) return std::nullopt;
     return KonecBehu::Zastaven;
 }

@@ -115,7 +115,7 @@ bool Konverze::pripravKopii(const QString& cilova) {
     puvodniList_ = excel.activeSheetName();
     rozdelanyList_ = cilova + QStringLiteral(" Nedokončeno");
     excel.renameActiveSheet(rozdelanyList_);
-    excel.selectRange(QStringLiteral("B1"));
+    excel.selectRange(adresa(sloupce::tony.prvni, 1));
     if (!isEmpty(excel.activeCellValue())) return true;
     odmitni(
         QStringLiteral("Přerušeno na začátku."),
@@ -174,9 +174,9 @@ void Konverze::poBehu(KonecBehu konec) {
 void Konverze::dokonci() {
     SpreadsheetApplication& excel = pisen_.excel();
     const int posledni = std::min(excel.activeRow() + radkuPodPisni, lastRow);
-    excel.clearContents(QStringLiteral("V1:V%1").arg(posledni));
-    excel.selectRange(QStringLiteral("A1")); // the run has scrolled the syllables out of sight
-    excel.selectRange(QStringLiteral("B1"));
+    excel.clearContents(adresaSloupce(sloupce::prstoklad, posledni));
+    excel.selectRange(adresa(sloupce::slabika, 1)); // the run has scrolled the syllables out of sight
+    excel.selectRange(adresa(sloupce::tony.prvni, 1));
     prejmenujList(stav_.Check1 ? nazevListuHeligonky(cilova_) : puvodniList_);
     dokoncena_ = true;
     dialogs_.message({QStringLiteral("Hotovo"),

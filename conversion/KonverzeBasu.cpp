@@ -44,7 +44,7 @@ bool KonverzeBasu::AktivujZdroj() {
 
 bool KonverzeBasu::KonvertujBasy(const QString& smer, const QString& list) {
     SpreadsheetApplication& excel = pisen_.excel();
-    excel.selectRange(QStringLiteral("M%1").arg(excel.activeRow()));
+    excel.selectRange(adresa(sloupce::basy.prvni, excel.activeRow()));
     const QString oblast = oblastTabulky(smer);
     if (oblast.isEmpty()) {
         AktivujZdroj();

@@ -56,7 +56,7 @@ void ZdrojKonverze::ukaz(const QString& stupnice) {
 }
 
 QString ZdrojKonverze::bunkaW1() const {
-    return cellText(pisen_.excel().value(QStringLiteral("W1")));
+    return cellText(pisen_.excel().value(adresa(sloupce::tonina, 1)));
 }
 
 } // namespace zvonika

@@ -9,6 +9,7 @@ namespace {
 constexpr int prvniPolozka = 1;
 constexpr int posledniPolozka = 56;
 constexpr int delkaPripony = 4; // ".xls"
+constexpr int radkuSlabik = 900;
 
 const VolbyNahrady jednou{Qt::CaseInsensitive, 1, 1};
 
@@ -49,7 +50,7 @@ std::optional<QString> clsKonverze::najdiTon(const QString& zdroj, const QString
 
 QString clsKonverze::ZjistiZapsaneLadeni(const QString& sesit) {
     pisen_.excel().activateWindow(sesit);
-    return cellText(pisen_.excel().value(QStringLiteral("W1")));
+    return cellText(pisen_.excel().value(adresa(sloupce::tonina, 1)));
 }
 
 QString clsKonverze::ZmenaLadeni(const QString& soucasna, const QString& nova, const QString& radek) {
@@ -91,14 +92,14 @@ void clsKonverze::zalozSesit(const QString& plneJmeno) {
 void clsKonverze::prenesSlabiky() {
     SpreadsheetApplication& excel = pisen_.excel();
     const QString novy = excel.activeWorkbookName();
-    const QString slabiky = QStringLiteral("A1:A900");
+    const QString slabiky = adresaSloupce(sloupce::slabika, radkuSlabik);
     excel.activateWindow(pisen_.aktualniPisen);
     excel.selectRange(slabiky);
     excel.copyRange(slabiky);
     excel.activateWindow(novy);
-    excel.selectRange(QStringLiteral("A1"));
+    excel.selectRange(adresa(sloupce::slabika, 1));
     excel.paste();
-    excel.selectRange(QStringLiteral("B1"));
+    excel.selectRange(adresa(sloupce::tony.prvni, 1));
     excel.saveActiveWorkbook();
 }
 

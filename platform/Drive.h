@@ -27,6 +27,11 @@ public:
     virtual QString programFolder() const = 0;
 };
 
+/// The path names a drive ("C:\\Dokumenty"), be there one of that letter or not.
+inline bool hasDrive(const QString& path) {
+    return path.size() >= 2 && path.at(1) == QLatin1Char(':') && path.at(0).isLetter();
+}
+
 /// Where songs, their copies and their sound files live.
 inline const QString pracovniAdresar = QStringLiteral("C:\\Dokumenty\\Heligonka\\Zvonika");
 

@@ -8,10 +8,6 @@ namespace zvonika {
 namespace {
 
 #ifndef Q_OS_WIN
-bool hasDrive(const QString& path) {
-    return path.size() >= 2 && path.at(1) == QLatin1Char(':') && path.at(0).isLetter();
-}
-
 QString withSlashes(QString path) {
     return path.replace(QLatin1Char('\\'), QLatin1Char('/'));
 }

@@ -11,17 +11,16 @@ enum class SmerMechu { Neuveden, Tah, Tlak };
 SmerMechu smerMechu(const QString& text);
 QString textSmeru(SmerMechu smer);
 
-/// One grip as it stands in its row of the sheet; nothing is corrected on the way through.
+/// One grip as it stands in its row of the sheet, column by column; nothing is corrected on the way through.
 struct Grip {
-    QString slabika; ///< A: syllable
-    QStringList
-        tony;     ///< B..H: treble tones from B up to the first empty cell, at most 7; may be foreign text
-    QString smer; ///< I: "Tah", "Tlak" or whatever stands there
-    QStringList basy;           ///< M..S: bass names up to the first empty cell, at most 7
-    QString prstoklad;          ///< V: fingering entries
-    QString tonina;             ///< W: key in which the row was written
-    bool tonyZaMezerou = false; ///< B..H hold more behind that empty cell
-    bool basyZaMezerou = false; ///< M..S hold more behind that empty cell
+    QString slabika;
+    QStringList tony;           ///< up to the first empty cell, at most 7; may be foreign text
+    QString smer;               ///< "Tah", "Tlak" or whatever stands there
+    QStringList basy;           ///< up to the first empty cell, at most 7
+    QString prstoklad;          ///< fingering entries
+    QString tonina;             ///< key in which the row was written
+    bool tonyZaMezerou = false; ///< the cells of the tones hold more behind that empty cell
+    bool basyZaMezerou = false; ///< those of the basses do
 
     bool prazdny() const { return tony.isEmpty() && basy.isEmpty(); }
     friend bool operator==(const Grip&, const Grip&) = default;

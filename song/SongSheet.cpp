@@ -8,32 +8,38 @@ namespace zvonika {
 
 namespace {
 
-// Places of the columns in a block that begins in column A.
-constexpr int sloupecA = 0;
-constexpr int sloupecB = 1;
-constexpr int sloupecI = 8;
-constexpr int sloupecM = 12;
-constexpr int sloupecV = 21;
-constexpr int sloupecW = 22;
+/// A row of the sheet as a block read of `sloupce::hmat` brings it.
+class Bunky {
+public:
+    explicit Bunky(const QVector<CellValue>& radek) : radek_(radek) {}
 
-QStringList textyDoPrvniPrazdne(const QVector<CellValue>& bunky, int prvni, int nejvys) {
-    QStringList texty;
-    for (int i = prvni; i < prvni + nejvys && !isEmpty(bunky.at(i)); ++i)
-        texty.append(cellText(bunky.at(i)));
-    return texty;
-}
+    QString text(int sloupec) const { return cellText(bunka(sloupec)); }
+    QStringList textyDoPrvniPrazdne(const Sloupce& sloupce) const {
+        QStringList texty;
+        for (int i = sloupce.prvni; i <= sloupce.posledni && !isEmpty(bunka(i)); ++i)
+            texty.append(text(i));
+        return texty;
+    }
+    bool maDalsi(const Sloupce& sloupce, const QStringList& precteno) const {
+        int i = sloupce.prvni + static_cast<int>(precteno.size());
+        while (i <= sloupce.posledni && isEmpty(bunka(i)))
+            ++i;
+        return i <= sloupce.posledni;
+    }
 
-bool dalsiZaMezerou(const QVector<CellValue>& bunky, int prvni, int nejvys, const QStringList& precteno) {
-    return std::any_of(bunky.cbegin() + prvni + precteno.size(), bunky.cbegin() + prvni + nejvys,
-                       [](const CellValue& bunka) { return !isEmpty(bunka); });
-}
+private:
+    const CellValue& bunka(int sloupec) const { return radek_.at(sloupec - sloupce::hmat.prvni); }
 
-Grip gripZBunek(const QVector<CellValue>& bunky) {
-    Grip grip{cellText(bunky.at(sloupecA)), textyDoPrvniPrazdne(bunky, sloupecB, maxTonu),
-              cellText(bunky.at(sloupecI)), textyDoPrvniPrazdne(bunky, sloupecM, maxBasu),
-              cellText(bunky.at(sloupecV)), cellText(bunky.at(sloupecW))};
-    grip.tonyZaMezerou = dalsiZaMezerou(bunky, sloupecB, maxTonu, grip.tony);
-    grip.basyZaMezerou = dalsiZaMezerou(bunky, sloupecM, maxBasu, grip.basy);
+    const QVector<CellValue>& radek_;
+};
+
+Grip gripZBunek(const QVector<CellValue>& radek) {
+    const Bunky bunky(radek);
+    Grip grip{bunky.text(sloupce::slabika),   bunky.textyDoPrvniPrazdne(sloupce::tony),
+              bunky.text(sloupce::smer),      bunky.textyDoPrvniPrazdne(sloupce::basy),
+              bunky.text(sloupce::prstoklad), bunky.text(sloupce::tonina)};
+    grip.tonyZaMezerou = bunky.maDalsi(sloupce::tony, grip.tony);
+    grip.basyZaMezerou = bunky.maDalsi(sloupce::basy, grip.basy);
     return grip;
 }
 
@@ -58,9 +64,13 @@ QVector<Grip> SongSheet::gripy(int prvni, int pocet) const {
     QVector<Grip> gripy(pocet);
     const int posledni = std::min(prvni + pocet - 1, lastRow);
     if (posledni < prvni) return gripy;
-    const CellBlock blok = pisen_.excel().readBlock(QStringLiteral("A%1:W%2").arg(prvni).arg(posledni));
+    const CellBlock blok = pisen_.excel().readBlock(adresa(sloupce::hmat, prvni, posledni));
     std::transform(blok.cbegin(), blok.cend(), gripy.begin(), gripZBunek);
     return gripy;
+}
+
+SmerMechu SongSheet::smer(int radek) const {
+    return smerMechu(cellText(pisen_.excel().value(adresa(sloupce::smer, radek))));
 }
 
 int SongSheet::aktualniRadek() const {
@@ -72,7 +82,7 @@ void SongSheet::VyberBunkuB() const {
 }
 
 void SongSheet::vyberRadek(int radek) const {
-    pisen_.excel().selectRange(QStringLiteral("B%1").arg(radek));
+    pisen_.excel().selectRange(adresa(sloupce::tony.prvni, radek));
 }
 
 } // namespace zvonika

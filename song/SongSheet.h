@@ -1,6 +1,7 @@
 #pragma once
 
 #include "song/Grip.h"
+#include "song/SloupceRadku.h"
 #include "spreadsheet/SpreadsheetApplication.h"
 
 #include <QVector>
@@ -21,9 +22,6 @@ struct Pisen {
     bool otevrena() const { return !aktualniPisen.isEmpty(); }
 };
 
-constexpr int maxTonu = 7;
-constexpr int maxBasu = 7;
-
 /// The song's rows in their fixed layout, read and written through the application's active sheet.
 /// Rows count from 1. Every call may throw AutomationError.
 class SongSheet {
@@ -34,6 +32,7 @@ public:
     /// sheet are empty grips.
     QVector<Grip> gripy(int prvni, int pocet) const;
 
+    SmerMechu smer(int radek) const; ///< the row's direction alone
     int aktualniRadek() const;
     /// Selects column B of the active cell's row.
     void VyberBunkuB() const;

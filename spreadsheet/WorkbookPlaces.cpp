@@ -1,5 +1,8 @@
 #include "spreadsheet/WorkbookPlaces.h"
 
+#include "spreadsheet/Refusals.h"
+#include "spreadsheet/SaveOffers.h"
+
 #include <algorithm>
 
 namespace zvonika {
@@ -9,15 +12,6 @@ namespace {
 const QString section = QStringLiteral("Tabulka");
 const QString folderKey = QStringLiteral("DefaultFilePath");
 const QString documentsFolder = QStringLiteral("C:\\Dokumenty");
-const QString xlsEnding = QStringLiteral(".xls");
-
-[[noreturn]] void refuse(const QString& sentence) {
-    throw AutomationError(error::applicationDefined, sentence);
-}
-
-bool hasDrive(const QString& path) {
-    return path.size() >= 2 && path.at(1) == QLatin1Char(':') && path.at(0).isLetter();
-}
 
 bool isSlash(QChar c) {
     return c == QLatin1Char('/') || c == QLatin1Char('\\');
@@ -60,9 +54,7 @@ QString WorkbookPlaces::nativeFile(const QString& name) const {
 }
 
 QString WorkbookPlaces::saveName(const QString& name) const {
-    const bool complete =
-        !isBareName(name) || name.isEmpty() || name.endsWith(xlsEnding, Qt::CaseInsensitive);
-    return nativeFile(complete ? name : name + xlsEnding);
+    return nativeFile(isBareName(name) && !name.isEmpty() ? withXlsEnding(name) : name);
 }
 
 void refuseOtherForms(const SaveAsArguments& arguments) {

@@ -1,6 +1,7 @@
 #include "theory/OvereniNoty.h"
 
 #include "platform/Contact.h"
+#include "theory/NazvyTonu.h"
 #include "theory/Tonina.h"
 #include "theory/clsNoty.h"
 
@@ -26,17 +27,11 @@ bool maPosuvku(const KreslenaNota& nota) {
 
 } // namespace
 
-OvereniNoty::OvereniNoty(Dialogs& dialogs, Tonavox12& tonavox, const clsNoty& noty, const Tonina& tonina,
-                         PrijemceNot& prijemce)
-    : dialogs_(dialogs), tonavox_(tonavox), noty_(noty), tonina_(tonina), prijemce_(prijemce) {}
+OvereniNoty::OvereniNoty(Dialogs& dialogs, const clsNoty& noty, const Tonina& tonina, PrijemceNot& prijemce)
+    : dialogs_(dialogs), noty_(noty), tonina_(tonina), prijemce_(prijemce) {}
 
 void OvereniNoty::OverNotuVeStupnici(CisloTonu ton) {
-    // Naming normalises its key; the texts below show the key as the player knows it.
-    QString stupnice = tonina_.stupnice().text();
-    tonavox_.DejTonVeStupnici(ton, stupnice);
-    const ToneName nazev = tonavox_.nazevTonu();
-    const bool mimoStupnici = tonavox_.MimoStupnici();
-
+    const auto [nazev, mimoStupnici] = nazevTonu(ton, tonina_.stupnice());
     const auto poloha = PolohaNoty::zTextu(noty_.UrciPolohuNoty(nazev));
     if (!poloha) {
         dialogs_.message({{}, nerozpoznana + kontakt, Icon::Critical});

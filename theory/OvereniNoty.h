@@ -2,9 +2,6 @@
 
 #include "platform/Dialogs.h"
 #include "theory/PrijemceNot.h"
-#include "theory/Tonavox12.h"
-
-#include <QString>
 
 namespace zvonika {
 
@@ -15,8 +12,7 @@ class clsNoty;
 /// does not.
 class OvereniNoty {
 public:
-    OvereniNoty(Dialogs& dialogs, Tonavox12& tonavox, const clsNoty& noty, const Tonina& tonina,
-                PrijemceNot& prijemce);
+    OvereniNoty(Dialogs& dialogs, const clsNoty& noty, const Tonina& tonina, PrijemceNot& prijemce);
 
     /// Names the tone of a pressed button in the current key and hands on the name and then the note. A tone
     /// outside the key is asked about first: Yes draws it (one without sharp or flat with a natural in
@@ -30,7 +26,6 @@ private:
     void zmenStupnici(CisloTonu ton);
 
     Dialogs& dialogs_;
-    Tonavox12& tonavox_;
     const clsNoty& noty_;
     const Tonina& tonina_;
     PrijemceNot& prijemce_;

@@ -9,10 +9,8 @@
 
 namespace zvonika {
 
-struct PojmenovaniStupnice;
-
 /// The tone model: names tones and numbers names. Every call leaves its result in `Ton`; nothing is ever
-/// raised.
+/// raised. Who wants the result at once calls the functions of NazvyTonu.h, on which it stands.
 class Tonavox12 {
 public:
     using Vysledek = std::variant<ToneName, CisloTonu>;
@@ -39,8 +37,6 @@ public:
     CisloTonu cisloTonu() const;
 
 private:
-    void DejTonVTonine(const PojmenovaniStupnice& pojmenovani, CisloTonu cislo);
-
     Vysledek ton_;
     bool mimoStupnici_ = false;
 };

@@ -1,7 +1,7 @@
 #include "theory/VychodiskoIntervalu.h"
 
+#include "theory/NazvyTonu.h"
 #include "theory/TonNaOsnove.h"
-#include "theory/Tonavox12.h"
 #include "theory/clsNoty.h"
 
 namespace zvonika {
@@ -10,21 +10,11 @@ namespace {
 
 constexpr int stupnuVOktave = 7;
 
-struct PojmenovanyTon {
-    ToneName nazev;
-    bool mimoStupnici;
-};
-
 PojmenovanyTon pojmenuj(CisloTonu ton, const Key& stupnice) {
-    Tonavox12 tonavox;
-    QString normalizovana = stupnice.text();
-    tonavox.DejTonVeStupnici(ton, normalizovana);
-    const PojmenovanyTon pojmenovany{tonavox.nazevTonu(), tonavox.MimoStupnici()};
-    tonavox.DejCisloTonu(pojmenovany.nazev);
-    if (tonavox.cisloTonu() == ton) return pojmenovany;
+    PojmenovanyTon pojmenovany = nazevTonu(ton, stupnice);
     // F dur writes e4 like the e three octaves below, and the interval would start there.
-    tonavox.DejTon(ton);
-    return {tonavox.nazevTonu(), pojmenovany.mimoStupnici};
+    if (cisloTonu(pojmenovany.nazev) != ton) pojmenovany.nazev = nazevTonu(ton);
+    return pojmenovany;
 }
 
 /// The tone of the scale on the line or space where `nazev` is written, in the nearest octave that has it.

@@ -1,5 +1,6 @@
 #include "theory/clsNotyZapis.h"
 
+#include "theory/NazvyTonu.h"
 #include "theory/TonNaOsnove.h"
 
 namespace zvonika {
@@ -28,7 +29,7 @@ void clsNotyZapis::NastavStupnici(const Key& stupnice) {
 
 ToneName clsNotyZapis::ZjistiNotu(int slot) const {
     const auto& nota = osnova_.nota(slot);
-    return nota && nota->ton.jeVRozsahu() ? pojmenuj(nota->ton, osnova_.stupnice()) : ToneName();
+    return nota && nota->ton.jeVRozsahu() ? nazevTonu(nota->ton, osnova_.stupnice()).nazev : ToneName();
 }
 
 ToneName clsNotyZapis::ctenyNazev(int slot) const {
@@ -38,9 +39,7 @@ ToneName clsNotyZapis::ctenyNazev(int slot) const {
 
 bool clsNotyZapis::CervenaNota(int slot) const {
     const auto& nota = osnova_.nota(slot);
-    if (!nota) return false;
-    pojmenuj(nota->ton, osnova_.stupnice());
-    return tonavox_.MimoStupnici();
+    return nota && nazevTonu(nota->ton, osnova_.stupnice()).mimoStupnici;
 }
 
 std::optional<int> clsNotyZapis::pridejNotu(int jednotky) {
@@ -96,15 +95,9 @@ bool clsNotyZapis::zmenNotu(int slot, const PolohaNoty& poloha) {
     return true;
 }
 
-ToneName clsNotyZapis::pojmenuj(CisloTonu ton, const Key& stupnice) const {
-    QString normalizovana = stupnice.text();
-    tonavox_.DejTonVeStupnici(ton, normalizovana);
-    return tonavox_.nazevTonu();
-}
-
 std::optional<PolohaNoty> clsNotyZapis::polohaTonu(CisloTonu ton, const Key& stupnice) const {
     if (!ton.jeVRozsahu()) return std::nullopt;
-    return PolohaNoty::zTextu(noty_.UrciPolohuNoty(pojmenuj(ton, stupnice)));
+    return PolohaNoty::zTextu(noty_.UrciPolohuNoty(nazevTonu(ton, stupnice).nazev));
 }
 
 } // namespace zvonika

@@ -2,7 +2,6 @@
 
 #include "theory/NotovaOsnova.h"
 #include "theory/PrijemceNot.h"
-#include "theory/Tonavox12.h"
 #include "theory/clsNoty.h"
 
 #include <optional>
@@ -56,12 +55,10 @@ public:
 private:
     std::optional<NotaOsnovy> prectiNotu(const PolohaNoty& poloha) const;
     bool zmenNotu(int slot, const PolohaNoty& poloha);
-    ToneName pojmenuj(CisloTonu ton, const Key& stupnice) const;
     std::optional<PolohaNoty> polohaTonu(CisloTonu ton, const Key& stupnice) const;
 
     NotovaOsnova& osnova_;
     clsNoty noty_;
-    mutable Tonavox12 tonavox_;
 };
 
 } // namespace zvonika

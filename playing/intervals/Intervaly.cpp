@@ -3,7 +3,7 @@
 #include "board/TrebleBoard.h"
 #include "song/ZobrazovaciOsnova.h"
 #include "theory/NazevIntervalu.h"
-#include "theory/Tonavox12.h"
+#include "theory/NazvyTonu.h"
 #include "theory/Tonina.h"
 #include "theory/Toniny.h"
 #include "theory/VychodiskoIntervalu.h"
@@ -18,11 +18,8 @@ namespace {
 /// The lowest of the tones that the instrument has; unknown where there is none.
 CisloTonu nejnizsi(const QStringList& tony) {
     CisloTonu nejnizsi;
-    Tonavox12 tonavox;
-    for (const QString& ton : tony) {
-        tonavox.DejCisloTonu(ToneName(ton));
-        nejnizsi = std::min(nejnizsi, tonavox.cisloTonu());
-    }
+    for (const QString& ton : tony)
+        nejnizsi = std::min(nejnizsi, cisloTonu(ToneName(ton)));
     return nejnizsi;
 }
 

@@ -3,7 +3,7 @@
 #include "board/TrebleBoard.h"
 #include "platform/Dialogs.h"
 #include "song/ZobrazovaciOsnova.h"
-#include "theory/Tonavox12.h"
+#include "theory/NazvyTonu.h"
 
 namespace zvonika {
 
@@ -14,10 +14,9 @@ bool ZobrazeniIntervalu::ukaz(const ToneName& nota, const QString& poloha) {
         dialogs_.message({{}, QStringLiteral("Neznámý půltón")});
         return false;
     }
-    Tonavox12 tonavox;
-    tonavox.DejCisloTonu(nota);
-    if (!tonavox.cisloTonu().jeVRozsahu()) return false;
-    diskant_.ukazInterval(tonavox.cisloTonu().hodnota());
+    const CisloTonu ton = cisloTonu(nota);
+    if (!ton.jeVRozsahu()) return false;
+    diskant_.ukazInterval(ton.hodnota());
     osnova_.ukazInterval({nota.text(), *misto});
     return true;
 }

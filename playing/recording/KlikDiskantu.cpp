@@ -12,7 +12,7 @@ namespace zvonika {
 KlikDiskantu::KlikDiskantu(TrebleBoard& diskant, clsNotyZapis& noty, const Tonina& tonina, Dialogs& dialogs,
                            Okno okno)
     : diskant_(diskant), noty_(noty), tonina_(tonina), okno_(std::move(okno)), polohy_(dialogs),
-      overeni_(dialogs, tonavox_, polohy_, tonina, *this) {}
+      overeni_(dialogs, polohy_, tonina, *this) {}
 
 void KlikDiskantu::klik(int n) {
     if (overujeSe_) return;

@@ -2,7 +2,6 @@
 
 #include "board/TrebleBoard.h"
 #include "theory/OvereniNoty.h"
-#include "theory/Tonavox12.h"
 #include "theory/clsNoty.h"
 
 #include <QString>
@@ -49,7 +48,6 @@ private:
     clsNotyZapis& noty_;
     const Tonina& tonina_;
     Okno okno_;
-    Tonavox12 tonavox_;
     clsNoty polohy_;
     OvereniNoty overeni_;
     bool overujeSe_ = false;

@@ -14,7 +14,7 @@ void PoZapisu::naDalsiRadek() {
 }
 
 void PoZapisu::ukazNovyRadek(int radek) {
-    const auto smer = smerMechu(cellText(okoli_.pisen.excel().value(QStringLiteral("I%1").arg(radek))));
+    const auto smer = list_.smer(radek);
     if (smer == SmerMechu::Neuveden) return;
     const bool tlak = smer == SmerMechu::Tlak;
     if (tlak)

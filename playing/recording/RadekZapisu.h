@@ -25,7 +25,6 @@ public:
 
 private:
     void zapis(const QString& oblast, const QStringList& texty, qsizetype bunek);
-    QString bunka(QChar sloupec) const { return sloupec + QString::number(radek_); }
 
     const Pisen& pisen_;
     int radek_ = 0;

@@ -1,7 +1,7 @@
 #include "playing/recording/ZapisHmatu.h"
 
 #include "platform/Contact.h"
-#include "theory/Tonavox12.h"
+#include "theory/NazvyTonu.h"
 
 namespace zvonika {
 
@@ -41,13 +41,10 @@ bool ZapisHmatu::zapisTony(RadekZapisu& radek) {
 
 QStringList ZapisHmatu::oznaceneTony(bool& prebyva) {
     QStringList tony;
-    Tonavox12 ladeni;
     for (const int n : diskant_.oznacene()) {
         prebyva = tony.size() == maxTonu;
         if (prebyva) break;
-        QString stupnice = okoli_.tonina.stupnice().text(); // a copy: naming a tone spoils it
-        ladeni.DejTonVeStupnici(CisloTonu(n), stupnice);
-        tony.append(ladeni.nazevTonu().text());
+        tony.append(nazevTonu(CisloTonu(n), okoli_.tonina.stupnice()).nazev.text());
     }
     return tony;
 }

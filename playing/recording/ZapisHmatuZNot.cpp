@@ -1,7 +1,7 @@
 #include "playing/recording/ZapisHmatuZNot.h"
 
 #include "platform/Contact.h"
-#include "theory/Tonavox12.h"
+#include "theory/NazvyTonu.h"
 #include "theory/clsNotyZapis.h"
 
 #include <algorithm>
@@ -9,12 +9,6 @@
 namespace zvonika {
 
 namespace {
-
-int cisloTonu(const QString& nazev) {
-    Tonavox12 ladeni;
-    ladeni.DejCisloTonu(ToneName(nazev));
-    return ladeni.cisloTonu().hodnota();
-}
 
 Message neplatnaNota() {
     return {
@@ -68,9 +62,11 @@ bool ZapisHmatuZNot::pridejTon(QStringList& tony, int slot) {
 
 void ZapisHmatuZNot::SeradTonyHmatu(RadekZapisu& radek) {
     QStringList tony = radek.tony();
-    const auto niz = [](const QString& a, const QString& b) { return cisloTonu(a) < cisloTonu(b); };
+    const auto niz = [](const QString& a, const QString& b) {
+        return cisloTonu(ToneName(a)) < cisloTonu(ToneName(b));
+    };
     std::stable_sort(tony.begin(), tony.end(), niz);
-    tony.removeIf([](const QString& ton) { return cisloTonu(ton) > 98; });
+    tony.removeIf([](const QString& ton) { return cisloTonu(ToneName(ton)) == CisloTonu::neznamy(); });
     radek.prepisTony(tony);
 }
 

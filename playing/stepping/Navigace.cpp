@@ -3,12 +3,16 @@
 #include "board/TrebleBoard.h"
 #include "playing/stepping/Listy.h"
 #include "playing/stepping/PrikazyPisne.h"
+#include "spreadsheet/Address.h"
 
 #include <utility>
 
 namespace zvonika {
 
 namespace {
+
+constexpr int radkuHledani = 500; ///< in which the last grip is looked for
+const QString prvniBunka = absoluteAddress(CellPosition{1, sloupce::tony.prvni});
 
 BarvaKroku barvaSmeru(SmerMechu smer) {
     switch (smer) {
@@ -51,7 +55,7 @@ void Navigace::cmdPrvni() {
 
 void Navigace::cmdPredchozi() {
     uvolniAVyberBunkuB();
-    if (okoli_.pisen.excel().activeAddress() == QLatin1String("$B$1")) {
+    if (okoli_.pisen.excel().activeAddress() == prvniBunka) {
         ZakazZpet(okoli_.prikazy);
         return;
     }
@@ -72,7 +76,7 @@ void Navigace::cmdPosledni() {
     uvolniAVyberBunkuB();
     const int puvodniRadek = list_.aktualniRadek();
     SpreadsheetApplication& excel = okoli_.pisen.excel();
-    excel.selectRange(QStringLiteral("B1:B500"));
+    excel.selectRange(adresaSloupce(sloupce::tony.prvni, radkuHledani));
     if (isEmpty(excel.activeCellValue())) {
         zustanNaPrvnim();
         return;
@@ -84,7 +88,7 @@ void Navigace::cmdPosledni() {
     excel.moveCursor(-1, 0);
     zobrazeni_.ZobrazHmat();
     pas_.ZobrazPas();
-    if (excel.activeAddress() == QLatin1String("$B$1"))
+    if (excel.activeAddress() == prvniBunka)
         ZakazZpet(okoli_.prikazy);
     else
         PovolZpet(okoli_.prikazy);
@@ -143,8 +147,7 @@ void Navigace::cmdJakDalZpet() {
 }
 
 void Navigace::UrciSmerMechu() {
-    SpreadsheetApplication& excel = okoli_.pisen.excel();
-    const SmerMechu smer = smerMechu(cellText(excel.value(QStringLiteral("I%1").arg(excel.activeRow()))));
+    const SmerMechu smer = list_.smer(list_.aktualniRadek());
     if (smer == SmerMechu::Neuveden) {
         ohlasChybejiciSmer();
         return;

@@ -5,7 +5,7 @@
 #include "board/TrebleBoard.h"
 #include "playing/stepping/ZobrazeniPrstokladu.h"
 #include "song/ZobrazovaciOsnova.h"
-#include "theory/Tonavox12.h"
+#include "theory/NazvyTonu.h"
 
 #include <algorithm>
 #include <utility>
@@ -17,10 +17,6 @@ namespace {
 // Syllables shown on each side of the current row.
 constexpr int sousedu = 2;
 
-CisloTonu cisloTonu(const QString& nazev) {
-    Tonavox12 ladeni;
-    ladeni.DejCisloTonu(ToneName(nazev));
-    return ladeni.cisloTonu();
 }
 
 } // namespace
@@ -125,7 +121,7 @@ void ZobrazeniHmatu::uvolniObrazky() {
 QStringList ZobrazeniHmatu::ukazTony(const QStringList& tony) {
     QStringList cizi;
     for (const QString& ton : tony) {
-        const CisloTonu cislo = cisloTonu(ton);
+        const CisloTonu cislo = cisloTonu(ToneName(ton));
         if (cislo.jeVRozsahu())
             plochy_.diskant.ukazHmat(cislo.hodnota(), zobrazenTlak_ ? StavKnofliku::Tlak : StavKnofliku::Tah);
         else

@@ -1,6 +1,6 @@
 #include "spreadsheet/embedded/Document.h"
 
-#include "platform/RuntimeError.h"
+#include "spreadsheet/Refusals.h"
 #include "spreadsheet/embedded/CellEntry.h"
 #include "spreadsheet/embedded/XlsValue.h"
 
@@ -17,10 +17,6 @@ constexpr double widestColumn = 255.0;
 
 xls::CellRef ref(CellPosition cell) {
     return {cell.row - 1, cell.column - 1};
-}
-
-[[noreturn]] void refuse(const QString& sentence) {
-    throw RuntimeError(error::applicationDefined, sentence);
 }
 
 /// The engine knows only the case of ASCII letters.

@@ -1,4 +1,5 @@
 #include "platform/RuntimeError.h"
+#include "spreadsheet/Refusals.h"
 #include "spreadsheet/embedded/Document.h"
 #include "spreadsheet/embedded/XlsValue.h"
 
@@ -11,14 +12,9 @@ namespace zvonika {
 namespace {
 
 constexpr qsizetype longestText = 32767; ///< UTF-16 units in one cell
-constexpr qint64 largestFill = qint64{1} << 20;
 
 CellPosition position(xls::CellRef cell) {
     return {cell.row + 1, cell.column + 1};
-}
-
-[[noreturn]] void refuse(const QString& sentence) {
-    throw RuntimeError(error::applicationDefined, sentence);
 }
 
 void refuseLongText(const CellValue& value) {
@@ -88,11 +84,6 @@ std::vector<JournalChange> takenBack(int sheet, const std::vector<CellChange>& c
     return result;
 }
 
-void refuseLargeFill(const CellRange& range) {
-    if (qint64{range.rows()} * range.columns() > largestFill)
-        refuse(QStringLiteral("Oblast je příliš velká."));
-}
-
 } // namespace
 
 void Document::refuseArray(int sheet, CellPosition cell) const {
@@ -149,7 +140,7 @@ std::vector<CellChange> Document::changesBy(int sheet, CellPosition first, const
 std::vector<CellChange> Document::changesBy(int sheet, const CellRange& range, const CellValue& after) const {
     refuseLongText(after);
     const CellRange part = zvonika::isEmpty(after) ? usedPart(sheet, range) : range;
-    refuseLargeFill(part);
+    handedOver(part);
     std::vector<CellChange> changes;
     forCells(part, [&](CellPosition cell) {
         if (differs(sheet, cell, after)) changes.push_back(changeTo(sheet, cell, after));

@@ -1,5 +1,5 @@
-#include "platform/RuntimeError.h"
 #include "platform/files/AtomicFile.h"
+#include "spreadsheet/Refusals.h"
 #include "spreadsheet/embedded/Document.h"
 #include "spreadsheet/embedded/FileSentences.h"
 #include "spreadsheet/embedded/WorkbookFile.h"
@@ -33,8 +33,7 @@ std::unique_ptr<Document> Document::open(const QString& nativePath, JournalFolde
 std::unique_ptr<Document> Document::open(const QString& nativePath, JournalFolder journals, FileLock lock) {
     if (lock.foundStale()) removeLeftovers(nativePath);
     WorkbookFile file = readWorkbook(nativePath);
-    if (file.book.sheetCount() == 0)
-        throw RuntimeError(error::applicationDefined, openRefused(nativePath, xls::Refusal::Damaged));
+    if (file.book.sheetCount() == 0) refuse(openRefused(nativePath, xls::Refusal::Damaged));
     return std::unique_ptr<Document>(
         new Document(std::move(file), nativePath, std::move(journals), std::move(lock)));
 }

@@ -1,5 +1,7 @@
 #include "spreadsheet/embedded/EmbeddedApplication.h"
 
+#include "spreadsheet/Refusals.h"
+#include "spreadsheet/SaveOffers.h"
 #include "spreadsheet/embedded/Opening.h"
 #include "spreadsheet/embedded/SaveSentences.h"
 #include "spreadsheet/embedded/Saving.h"
@@ -9,14 +11,6 @@
 #include <utility>
 
 namespace zvonika {
-
-namespace {
-
-[[noreturn]] void refuse(const QString& sentence) {
-    throw AutomationError(error::applicationDefined, sentence);
-}
-
-} // namespace
 
 EmbeddedApplication::EmbeddedApplication(Drive& drive, Dialogs& dialogs, SettingsStore& settings,
                                          JournalFolder journals, SheetViewFactory makeView)
@@ -29,13 +23,12 @@ EmbeddedApplication::~EmbeddedApplication() = default;
 
 void EmbeddedApplication::requireRunning() const {
     if (session_.state() != Session::State::Running)
-        throw AutomationError(error::objectNotSet, QStringLiteral("Tabulka už není spuštěna."));
+        refuse(error::objectNotSet, QStringLiteral("Tabulka už není spuštěna."));
 }
 
 Document& EmbeddedApplication::document() const {
     requireRunning();
-    if (!session_.active())
-        throw AutomationError(error::objectNotSet, QStringLiteral("V tabulce není otevřen žádný sešit."));
+    if (!session_.active()) refuseNoWorkbook();
     return *session_.active();
 }
 
@@ -62,7 +55,7 @@ void EmbeddedApplication::quit() {
     const Session::State before = session_.state();
     session_.end(Session::State::Ended);
     if (before == Session::State::QuitByUser)
-        throw AutomationError(error::objectNotSet, QStringLiteral("Tabulka už není spuštěna."));
+        refuse(error::objectNotSet, QStringLiteral("Tabulka už není spuštěna."));
 }
 
 void EmbeddedApplication::setListener(SpreadsheetListener* listener) {
@@ -107,17 +100,10 @@ void EmbeddedApplication::saveUnder(const QString& nativePath) {
     const QFileInfo target(nativePath);
     Saving saving(session_);
     saving.makeRoom(target.fileName(), &saved);
-    if (target.isFile() && !mayReplace(target.fileName()))
-        refuse(QStringLiteral("Soubor „%1“ zůstal, jaký byl; sešit uložen není.").arg(target.fileName()));
+    if (target.isFile() && !mayReplace(session_.dialogs(), jmenoTabulky, target.fileName()))
+        refuseNotReplaced(target.fileName());
     if (!saving.mayConvert(saved)) refuse(notConverted(nativePath));
     saved.saveAs(nativePath);
-}
-
-bool EmbeddedApplication::mayReplace(const QString& name) {
-    const Answer answer = session_.dialogs().message(
-        {jmenoTabulky, QStringLiteral("Soubor „%1“ už existuje. Chcete ho nahradit?").arg(name),
-         Icon::Exclamation, Buttons::YesNo, Answer::No});
-    return answer == Answer::Yes;
 }
 
 void EmbeddedApplication::saveActiveWorkbook() {
@@ -148,9 +134,7 @@ QString EmbeddedApplication::activeWorkbookName() const {
 void EmbeddedApplication::activateWindow(const QString& name) {
     requireRunning();
     Document* found = session_.find(name);
-    if (!found)
-        throw AutomationError(error::subscriptOutOfRange,
-                              QStringLiteral("Sešit „%1“ není otevřen.").arg(name));
+    if (!found) refuseUnknownWorkbook(name);
     if (found == session_.active()) return;
     const Session::ProgramCall call(session_);
     session_.activate(*found);

@@ -78,7 +78,6 @@ private:
     Document& document() const;
     void saveUnder(const QString& nativePath);
     void saveInPlace(Document& saved, const QString& nativePath);
-    bool mayReplace(const QString& name);
 
     WorkbookPlaces places_;
     JournalFolder journals_;

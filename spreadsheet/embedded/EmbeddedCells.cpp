@@ -1,25 +1,13 @@
 #include "spreadsheet/CellSearch.h"
+#include "spreadsheet/Refusals.h"
 #include "spreadsheet/embedded/EmbeddedApplication.h"
 
 namespace zvonika {
 
 namespace {
 
-constexpr qint64 largestBlock = qint64{1} << 20; ///< cells handed over in one call
-
-[[noreturn]] void refuse(const QString& sentence) {
-    throw AutomationError(error::applicationDefined, sentence);
-}
-
-CellRange range(const QString& address) {
-    if (const auto parsed = parseAddress(address)) return *parsed;
-    refuse(QStringLiteral("„%1“ není adresa buněk.").arg(address));
-}
-
 CellBlock blockOf(const Document& document, const CellRange& range) {
-    if (qint64{range.rows()} * range.columns() > largestBlock)
-        refuse(QStringLiteral("Oblast je příliš velká."));
-    return document.block(document.activeSheet(), range);
+    return document.block(document.activeSheet(), handedOver(range));
 }
 
 /// The active sheet of `document`, which outlives the result.
@@ -56,9 +44,7 @@ int EmbeddedApplication::sheetCount() const {
 
 void EmbeddedApplication::selectSheet(int index) {
     Document& active = document();
-    if (index < 1 || index > active.sheetCount())
-        throw AutomationError(error::subscriptOutOfRange,
-                              QStringLiteral("List číslo %1 v sešitu není.").arg(index));
+    if (index < 1 || index > active.sheetCount()) refuseUnknownSheet(index);
     if (index == active.activeSheet()) return;
     const Session::ProgramCall call(session_);
     active.activateSheet(index);
@@ -68,30 +54,29 @@ void EmbeddedApplication::selectSheet(const QString& name) {
     Document& active = document();
     for (int sheet = 1; sheet <= active.sheetCount(); ++sheet)
         if (active.sheetName(sheet).compare(name, Qt::CaseInsensitive) == 0) return selectSheet(sheet);
-    throw AutomationError(error::subscriptOutOfRange, QStringLiteral("List „%1“ v sešitu není.").arg(name));
+    refuseUnknownSheet(name);
 }
 
 void EmbeddedApplication::selectNextSheet() {
     Document& active = document();
-    if (active.activeSheet() == active.sheetCount())
-        throw AutomationError(error::objectNotSet, QStringLiteral("Za posledním listem už žádný není."));
+    if (active.activeSheet() == active.sheetCount()) refuseNextSheet();
     selectSheet(active.activeSheet() + 1);
 }
 
 void EmbeddedApplication::selectRange(const QString& address) {
     Document& active = document();
-    const CellRange selected = range(address);
+    const CellRange selected = cellsAt(address);
     active.select(selected, selected.first);
 }
 
 CellValue EmbeddedApplication::value(const QString& address) const {
     const Document& active = document();
-    return active.value(active.activeSheet(), range(address).first);
+    return active.value(active.activeSheet(), cellsAt(address).first);
 }
 
 void EmbeddedApplication::setValue(const QString& address, const CellValue& value) {
     Document& active = document();
-    active.fill(active.activeSheet(), range(address), value);
+    active.fill(active.activeSheet(), cellsAt(address), value);
 }
 
 CellValue EmbeddedApplication::activeCellValue() const {
@@ -114,12 +99,7 @@ QString EmbeddedApplication::activeAddress() const {
 
 void EmbeddedApplication::moveCursor(int rows, int columns) {
     Document& active = document();
-    const CellPosition from = active.selection().active;
-    const bool tooFar = std::abs(rows) > lastRow || std::abs(columns) > lastColumn;
-    const CellPosition to =
-        tooFar ? CellPosition{0, 0} : CellPosition{from.row + rows, from.column + columns};
-    if (!isOnSheet(to)) refuse(QStringLiteral("Kurzor nelze posunout za okraj listu."));
-    active.select(to);
+    active.select(movedBy(active.selection().active, rows, columns));
 }
 
 void EmbeddedApplication::clearContents(const QString& address) {
@@ -129,18 +109,18 @@ void EmbeddedApplication::clearContents(const QString& address) {
 void EmbeddedApplication::findAndActivate(const FindArguments& arguments) {
     Document& active = document();
     const auto found = findCell(searched(active), arguments);
-    if (!found) throw AutomationError(error::objectNotSet, QStringLiteral("Hledaná buňka nebyla nalezena."));
+    if (!found) refuseNothingFound();
     const CellRange selected = active.selection().range;
     active.select(selected.contains(*found) ? selected : single(*found), *found);
 }
 
 void EmbeddedApplication::copyRange(const QString& address) {
-    clipboard_ = blockOf(document(), range(address));
+    clipboard_ = blockOf(document(), cellsAt(address));
 }
 
 void EmbeddedApplication::paste() {
     Document& active = document();
-    if (clipboard_.isEmpty()) refuse(QStringLiteral("Není co vložit: schránka je prázdná."));
+    requireCopied(clipboard_);
     const CellRange selected = active.selection().range;
     if (clipboard_.size() == 1 && clipboard_.first().size() == 1)
         active.fill(active.activeSheet(), selected, clipboard_.first().first());
@@ -149,12 +129,12 @@ void EmbeddedApplication::paste() {
 }
 
 CellBlock EmbeddedApplication::readBlock(const QString& address) const {
-    return blockOf(document(), range(address));
+    return blockOf(document(), cellsAt(address));
 }
 
 void EmbeddedApplication::writeBlock(const QString& address, const CellBlock& block) {
     Document& active = document();
-    active.write(active.activeSheet(), range(address).first, block);
+    active.write(active.activeSheet(), cellsAt(address).first, block);
 }
 
 } // namespace zvonika

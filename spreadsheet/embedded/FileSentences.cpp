@@ -1,5 +1,7 @@
 #include "spreadsheet/embedded/FileSentences.h"
 
+#include "spreadsheet/FileRefusals.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -7,22 +9,18 @@ namespace zvonika {
 
 namespace {
 
-QString fileName(const QString& nativePath) {
-    return QFileInfo(nativePath).fileName();
-}
-
 QString folder(const QString& nativePath) {
     return QDir::toNativeSeparators(QFileInfo(nativePath).absolutePath());
 }
 
 const QString saveAsXls = QStringLiteral("; uložte ho v programu, který ho vytvořil, jako sešit .xls");
 
-QString reason(xls::Refusal refusal) {
+QString contentsReason(xls::Refusal refusal) {
     switch (refusal) {
     case xls::Refusal::Empty:
         return QStringLiteral("je prázdný");
     case xls::Refusal::NotXls:
-        return QStringLiteral("není to sešit ve formátu .xls");
+        return QString::fromUtf16(reason::notXls);
     case xls::Refusal::Xlsx:
         return QStringLiteral("podle obsahu je to sešit v novějším formátu .xlsx") + saveAsXls;
     case xls::Refusal::OpenDocument:
@@ -44,13 +42,13 @@ QString reason(xls::Refusal refusal) {
     case xls::Refusal::Damaged:
         break;
     }
-    return QStringLiteral("je poškozený");
+    return QString::fromUtf16(reason::damaged);
 }
 
 QString openReason(std::errc error) {
     switch (error) {
     case std::errc::no_such_file_or_directory:
-        return QStringLiteral("neexistuje");
+        return QString::fromUtf16(reason::missing);
     case std::errc::is_a_directory:
         return QStringLiteral("je to složka");
     case std::errc::no_such_device:
@@ -75,13 +73,13 @@ constexpr SaveReason saveReasons[] = {
     {std::errc::filename_too_long, u"jeho jméno je příliš dlouhé"},
     {std::errc::illegal_byte_sequence, u"v jeho jménu je znak, který tam být nesmí"},
     {std::errc::invalid_argument, u"v jeho jménu je znak, který tam být nesmí"},
-    {std::errc::permission_denied, u"nemáte oprávnění k zápisu"},
-    {std::errc::operation_not_permitted, u"nemáte oprávnění k zápisu"},
-    {std::errc::read_only_file_system, u"disk je jen pro čtení"},
-    {std::errc::no_space_on_device, u"na disku není dost místa"},
-    {std::errc::file_too_large, u"na disku není dost místa"},
+    {std::errc::permission_denied, reason::mayNotWrite},
+    {std::errc::operation_not_permitted, reason::mayNotWrite},
+    {std::errc::read_only_file_system, reason::readOnlyDisk},
+    {std::errc::no_space_on_device, reason::diskFull},
+    {std::errc::file_too_large, reason::diskFull},
     {std::errc::not_enough_memory, u"nestačí paměť počítače"},
-    {std::errc::is_a_directory, u"pod tímto jménem je na disku složka"},
+    {std::errc::is_a_directory, reason::isFolder},
     {std::errc::no_such_device, u"pod tímto jménem není obyčejný soubor"},
     {std::errc::too_many_symbolic_link_levels, u"odkaz, který na něj vede, nikam nevede"},
 };
@@ -91,14 +89,13 @@ QString diskReason(const std::error_code& error) {
         if (error == known.error) return QString::fromUtf16(known.text);
 #ifdef Q_OS_UNIX
     if (error == std::error_code(EDQUOT, std::generic_category()))
-        return QStringLiteral("na disku není dost místa");
+        return QString::fromUtf16(reason::diskFull);
 #endif
     return QStringLiteral("při zápisu na disk nastala chyba %1").arg(error.value());
 }
 
 QString saveReason(const QString& nativePath, const std::error_code& error) {
-    if (error == std::errc::no_such_file_or_directory)
-        return QStringLiteral("složka „%1“ neexistuje").arg(folder(nativePath));
+    if (error == std::errc::no_such_file_or_directory) return reason::folderMissing(nativePath);
     if (error == std::errc::not_a_directory)
         return QStringLiteral("„%1“ není složka").arg(folder(nativePath));
     return diskReason(error);
@@ -107,21 +104,19 @@ QString saveReason(const QString& nativePath, const std::error_code& error) {
 } // namespace
 
 QString openRefused(const QString& nativePath, xls::Refusal refusal) {
-    return QStringLiteral("Soubor „%1“ nelze otevřít: %2.").arg(fileName(nativePath), reason(refusal));
+    return cannotOpen(nativePath, contentsReason(refusal));
 }
 
 QString openRefused(const QString& nativePath, std::errc error) {
-    return QStringLiteral("Soubor „%1“ nelze otevřít: %2.").arg(fileName(nativePath), openReason(error));
+    return cannotOpen(nativePath, openReason(error));
 }
 
 QString saveRefused(const QString& nativePath, const std::error_code& error) {
-    return QStringLiteral("Soubor „%1“ nelze uložit: %2.")
-        .arg(fileName(nativePath), saveReason(nativePath, error));
+    return cannotSave(nativePath, saveReason(nativePath, error));
 }
 
 QString saveRefused(const QString& nativePath) {
-    return QStringLiteral("Soubor „%1“ nelze uložit: obsah sešitu se nepodařilo sestavit.")
-        .arg(fileName(nativePath));
+    return cannotSave(nativePath, u"obsah sešitu se nepodařilo sestavit");
 }
 
 QString journalRefused(const std::error_code& error) {

@@ -1,7 +1,7 @@
 #include "spreadsheet/embedded/Opening.h"
 
-#include "platform/RuntimeError.h"
 #include "platform/files/LockSentences.h"
+#include "spreadsheet/Refusals.h"
 #include "spreadsheet/embedded/FileSentences.h"
 #include "spreadsheet/embedded/RecoverySentences.h"
 #include "spreadsheet/embedded/Session.h"
@@ -43,8 +43,7 @@ FileLock Opening::lock(const QString& nativePath) {
             .arg(QFileInfo(nativePath).fileName(), whoHolds(*holder));
     const Answer answer =
         session_.dialogs().message({jmenoTabulky, question, Icon::Exclamation, Buttons::YesNo, Answer::No});
-    if (answer != Answer::Yes)
-        throw RuntimeError(error::applicationDefined, openElsewhere(nativePath, *holder));
+    if (answer != Answer::Yes) refuse(openElsewhere(nativePath, *holder));
     return FileLock::takeOver(nativePath);
 }
 

@@ -1,5 +1,6 @@
 #include "spreadsheet/embedded/Saving.h"
 
+#include "spreadsheet/SaveOffers.h"
 #include "spreadsheet/embedded/Failures.h"
 #include "spreadsheet/embedded/SaveSentences.h"
 #include "spreadsheet/embedded/Session.h"
@@ -11,14 +12,8 @@ namespace zvonika {
 
 namespace {
 
-const QString xlsEnding = QStringLiteral(".xls");
-
-QString withEnding(const QString& name) {
-    return name.endsWith(xlsEnding, Qt::CaseInsensitive) ? name : name + xlsEnding;
-}
-
 QString suggestedName(const Session& session, const Document& document) {
-    return document.path().isEmpty() ? QDir(session.folder()).filePath(withEnding(document.name()))
+    return document.path().isEmpty() ? QDir(session.folder()).filePath(withXlsEnding(document.name()))
                                      : document.path();
 }
 
@@ -69,14 +64,11 @@ Saving::Outcome Saving::store(Document& document) {
 }
 
 Saving::Outcome Saving::storeElsewhere(Document& document) {
-    const auto chosen =
-        session_.dialogs().saveFile(QStringLiteral("Uložit jako"), QStringLiteral("Excel Files,*.xls"),
-                                    suggestedName(session_, document));
+    const auto chosen = askSaveName(session_.dialogs(), suggestedName(session_, document));
     if (!chosen || !session_.isOpen(document) || !mayConvert(document)) return Outcome::GivenUp;
     return attempt([&] {
-        const QString path = withEnding(*chosen);
-        session_.refuseTwin(QFileInfo(path).fileName(), &document);
-        document.saveAs(path);
+        session_.refuseTwin(QFileInfo(*chosen).fileName(), &document);
+        document.saveAs(*chosen);
     });
 }
 
@@ -99,13 +91,10 @@ void Saving::offerUnsaved() {
 
 bool Saving::wanted(Document& document) {
     session_.activate(document);
-    const Answer answer = session_.dialogs().message(
-        {jmenoTabulky,
-         QStringLiteral("Sešit „%1“ má neuložené změny. Chcete ho uložit?").arg(document.name()),
-         Icon::Exclamation, Buttons::YesNo});
+    const bool save = wantsToSave(session_.dialogs(), jmenoTabulky, document.name());
     if (!session_.isOpen(document)) return false;
-    if (answer == Answer::No) document.giveUpChanges();
-    return answer == Answer::Yes;
+    if (!save) document.giveUpChanges();
+    return save;
 }
 
 } // namespace zvonika

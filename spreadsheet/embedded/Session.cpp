@@ -1,6 +1,6 @@
 #include "spreadsheet/embedded/Session.h"
 
-#include "platform/RuntimeError.h"
+#include "spreadsheet/Refusals.h"
 #include "spreadsheet/SpreadsheetApplication.h"
 
 #include <algorithm>
@@ -61,8 +61,7 @@ void Session::remove(Document& document) {
 void Session::refuseTwin(const QString& name, const Document* self) const {
     const Document* open = find(name);
     if (open && open != self)
-        throw RuntimeError(
-            error::applicationDefined,
+        refuse(
             QStringLiteral("Sešit „%1“ je už otevřen v okně tabulky; dva sešity téhož jména najednou otevřít "
                            "nelze. Uložte ho tam pod jiným jménem, nebo ho zavřete.")
                 .arg(open->name()));

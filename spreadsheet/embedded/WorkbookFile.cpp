@@ -1,6 +1,7 @@
 #include "spreadsheet/embedded/WorkbookFile.h"
 
 #include "platform/RuntimeError.h"
+#include "spreadsheet/Refusals.h"
 #include "spreadsheet/embedded/FileSentences.h"
 #include "spreadsheet/embedded/journal/ContentHash.h"
 
@@ -15,10 +16,6 @@ namespace {
 
 /// Beyond what the format can hold; keeps a wrongly chosen film from filling the memory.
 constexpr qint64 largestFile = qint64{512} << 20;
-
-[[noreturn]] void refuse(const QString& sentence) {
-    throw RuntimeError(error::applicationDefined, sentence);
-}
 
 void refuseUnlessFile(const QString& path) {
     const QFileInfo info(path);

@@ -1,7 +1,7 @@
 #include "aids/NastaveniRad.h"
 
 #include "board/TrebleBoard.h"
-#include "tests/app/PametoveNastaveni.h"
+#include "tests/support/MemorySettings.h"
 #include "tests/support/ScriptedDialogs.h"
 
 #include <QStringList>
@@ -39,7 +39,7 @@ protected:
         return texty.join(' ');
     }
 
-    testing::PametoveNastaveni nastaveni;
+    testing::MemorySettings nastaveni;
     testing::ScriptedDialogs dialogy;
     TrebleBoard diskant;
     NastaveniRad formular{nastaveni, diskant, dialogy};

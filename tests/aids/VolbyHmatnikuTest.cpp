@@ -2,7 +2,7 @@
 
 #include "board/TrebleBoard.h"
 #include "song/CommandStates.h"
-#include "tests/app/PametoveNastaveni.h"
+#include "tests/support/MemorySettings.h"
 #include "theory/Tonina.h"
 
 #include <gtest/gtest.h>
@@ -16,7 +16,7 @@ protected:
 
     TrebleBoard diskant;
     Tonina tonina;
-    testing::PametoveNastaveni nastaveni;
+    testing::MemorySettings nastaveni;
     CommandStates stavy;
     VolbyHmatniku volby{diskant, tonina, nastaveni, stavy};
 };

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "app/Program.h"
-#include "tests/app/PametoveNastaveni.h"
 #include "tests/app/ZaznamovyShell.h"
 #include "tests/support/FakeDrive.h"
 #include "tests/support/FakeSpreadsheet.h"
+#include "tests/support/MemorySettings.h"
 #include "tests/support/RucniHodiny.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/ZaznamovaMedia.h"
@@ -22,8 +22,8 @@ protected:
     void SetUp() override {
         drive.programFolderPath = QStringLiteral(ZVONIKA_RESOURCES);
         program = std::make_unique<Program>(
-            Prostredi{dialogs, nastaveni, drive, shell, [this] { return spoustecExcelu(); }, hodiny, media,
-                      [this](const MistoProhlizece& misto) { return tvurceProhlizece(misto); }, tabulky});
+            Prostredi{dialogs, nastaveni, drive, shell, tabulky, hodiny, media,
+                      [this](const MistoProhlizece& misto) { return tvurceProhlizece(misto); }});
         program->Main();
         program->okno().resize(1000, 720);
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&program->okno()));
@@ -53,13 +53,13 @@ protected:
     FakeDisk disk;
     FakeDrive drive;
     ScriptedDialogs dialogs;
-    PametoveNastaveni nastaveni;
+    MemorySettings nastaveni;
     ZaznamovyShell shell;
     RucniHodiny hodiny;
     ZaznamovaMedia media;
-    SpreadsheetLauncher spoustecExcelu = [this] { return novaTabulka(); };
     TvurceProhlizece tvurceProhlizece = jednoduchyProhlizec();
-    DalsiTabulky tabulky;
+    TabulkovyProgram vestavena{Tabulka::Vestavena, nabidkaVestavene, [this] { return novaTabulka(); }};
+    TabulkoveProgramy tabulky{{vestavena}, Tabulka::Vestavena};
     FakeSpreadsheet* excel = nullptr;
     std::unique_ptr<Program> program;
 };

@@ -2,7 +2,7 @@
 
 #include "platform/HodnotyNastaveni.h"
 #include "platform/RuntimeError.h"
-#include "tests/app/PametoveNastaveni.h"
+#include "tests/support/MemorySettings.h"
 #include "tests/support/ScriptedDialogs.h"
 
 #include <QStringList>
@@ -10,7 +10,7 @@
 #include <gtest/gtest.h>
 
 using namespace zvonika;
-using zvonika::testing::PametoveNastaveni;
+using zvonika::testing::MemorySettings;
 using zvonika::testing::ScriptedDialogs;
 
 namespace {
@@ -20,9 +20,13 @@ class Start {
 public:
     QStringList deje;
     ScriptedDialogs dialogs;
-    PametoveNastaveni nastaveni;
+    MemorySettings nastaveni;
     std::function<void()> spustExcel = [] {};
 
+    /// No entry where the value is nothing.
+    void nastav(const char* sekce, const QString& klic, const char* hodnota) {
+        if (hodnota) nastaveni.save(sekce, klic, QString::fromUtf8(hodnota));
+    }
     bool spust() {
         const auto zapis = [this](const QString& dej) { deje << dej; };
         KrokySpusteni kroky{
@@ -51,10 +55,6 @@ struct Pripad {
     QStringList cekano; ///< layout, names, numbers
 };
 
-std::optional<QString> text(const char* hodnota) {
-    return hodnota ? std::optional(QString::fromUtf8(hodnota)) : std::nullopt;
-}
-
 } // namespace
 
 TEST(Spusteni, OneByteServesTheThreeReadings) {
@@ -69,9 +69,9 @@ TEST(Spusteni, OneByteServesTheThreeReadings) {
     };
     for (const Pripad& pripad : pripady) {
         Start start;
-        start.nastaveni.nastav("Znaceni", "Index", text(pripad.znaceni));
-        start.nastaveni.nastav("PopisKnof", "Index", text(pripad.popis));
-        start.nastaveni.nastav("Cislovani", "Index", text(pripad.cislovani));
+        start.nastav("Znaceni", "Index", pripad.znaceni);
+        start.nastav("PopisKnof", "Index", pripad.popis);
+        start.nastav("Cislovani", "Index", pripad.cislovani);
         EXPECT_TRUE(start.spust());
         EXPECT_EQ(start.deje.mid(2, 3), pripad.cekano) << pripad.cekano.join('|').toStdString();
         EXPECT_EQ(start.deje.mid(0, 2), QStringList({"nahore", "excel"}));
@@ -82,7 +82,7 @@ TEST(Spusteni, OneByteServesTheThreeReadings) {
 TEST(Spusteni, AnOverflowIsReportedAndEndsTheSequence) {
     for (const char* hodnota : {"256", "-1", "1e9"}) {
         Start start;
-        start.nastaveni.nastav("PopisKnof", "Index", text(hodnota));
+        start.nastav("PopisKnof", "Index", hodnota);
         start.dialogs.expect("Neočekávaná chyba programu.",
                              "V programu došlo k chybě číslo 6. Možná budete moci dále pokračovat. "
                              "V případě problémů kontaktujte ");
@@ -105,7 +105,7 @@ TEST(Spusteni, RowCoversComeFromTheirSettings) {
     Start start;
     const char* hodnoty[] = {"1", "True", "0", "nesmysl", "-1"};
     for (int rada = 1; rada <= 5; ++rada)
-        start.nastaveni.nastav("Zabrany", QString::number(rada), text(hodnoty[rada - 1]));
+        start.nastav("Zabrany", QString::number(rada), hodnoty[rada - 1]);
     EXPECT_TRUE(start.spust());
     EXPECT_EQ(start.deje.mid(7), QStringList({"zabrana 1", "zabrana 2", "zabrana 5"}));
 }

@@ -16,20 +16,24 @@ const QVector<NabidkaTabulky> nabidka = {
     {Tabulka::Excel, "Excel", "Popis", "Excel není nainstalován."},
 };
 
-class CoNejdeSpustit : public OknoSPisni {
+class JinaTabulka : public OknoSPisni {
 protected:
-    void SetUp() override {
+    void SetUp() override {} // started by the cases
+    void spust(SpreadsheetLauncher spoustec) {
         nastaveni.save("Cislovani", "Index", "1");
-        spoustecExcelu = []() -> std::unique_ptr<SpreadsheetApplication> {
-            throw AutomationError(429, "LibreOffice není na tomto počítači nainstalován.");
-        };
-        tabulky.nahradni = [this] { return novaTabulka(); };
-        dialogs.expect("Neočekávaná chyba programu.", "chybě číslo 429");
-    }
-    void spust(Answer odpoved) {
-        dialogs.expect("Tabulkový program", "Chcete teď pracovat s vestavěnou tabulkou Zvoniky?", odpoved);
+        tabulky = {
+            {vestavena, {.volba = Tabulka::Excel, .spust = std::move(spoustec), .veta = "Excel neumím."}},
+            Tabulka::Excel};
         OknoSPisni::SetUp();
     }
+    void spustPorouchanou(Answer odpoved) {
+        dialogs.expect("Neočekávaná chyba programu.", "chybě číslo 429");
+        dialogs.expect("Tabulkový program", "Chcete teď pracovat s vestavěnou tabulkou Zvoniky?", odpoved);
+        spust([]() -> std::unique_ptr<SpreadsheetApplication> {
+            throw AutomationError(429, "Excel není na tomto počítači nainstalován.");
+        });
+    }
+    QString stav() { return qobject_cast<QLabel*>(prvek("lblStav"))->text(); }
 };
 
 } // namespace
@@ -42,7 +46,7 @@ TEST(FrmTabulka, OffersWhatCanBeUsedAndStoresTheChoice) {
         {nullptr, nullptr, "0", 0},     {"1", nullptr, "1", 1}, {"nesmysl", "optTabulka(1)", "1", 0},
         {"1", "optTabulka(0)", "0", 1}, {"2", nullptr, "2", 2}, {"0", "optTabulka(2)", "0", 0}};
     for (const auto& [ulozena, klik, pak, oznacena] : pripady) {
-        zvonika::testing::PametoveNastaveni nastaveni;
+        zvonika::testing::MemorySettings nastaveni;
         if (ulozena) nastaveni.save("Tabulka", "Index", ulozena);
         VolbaTabulky volba(nastaveni);
         FrmTabulka dialog(volba, nabidka);
@@ -56,15 +60,24 @@ TEST(FrmTabulka, OffersWhatCanBeUsedAndStoresTheChoice) {
     }
 }
 
-TEST_F(CoNejdeSpustit, IsReplacedByTheBuiltInSpreadsheetIfTheUserWants) {
-    spust(Answer::Yes);
+TEST_F(JinaTabulka, ThatFailsIsReplacedByTheBuiltInOneIfTheUserWants) {
+    spustPorouchanou(Answer::Yes);
     EXPECT_TRUE(akce("mnuCislovat")->isChecked()) << "the start was gone through to its end";
+    EXPECT_FALSE(stav().contains("Excel neumím."));
     novaPisen();
     EXPECT_EQ(program->okno().windowTitle(), "Polka.xls");
 }
 
-TEST_F(CoNejdeSpustit, LeavesTheWindowOpenOtherwise) {
-    spust(Answer::No);
+TEST_F(JinaTabulka, ThatFailsLeavesTheWindowOpenOtherwise) {
+    spustPorouchanou(Answer::No);
     EXPECT_TRUE(program->okno().isVisible());
     EXPECT_FALSE(program->modely().pisen.aplikaceExcel);
+}
+
+TEST_F(JinaTabulka, ThatCannotBeStartedIsReplacedWithASentence) {
+    spust({});
+    EXPECT_TRUE(stav().contains("Excel neumím.")) << stav().toStdString();
+    ASSERT_TRUE(excel);
+    novaPisen();
+    EXPECT_FALSE(stav().contains("Excel neumím."));
 }

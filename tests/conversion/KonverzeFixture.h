@@ -3,15 +3,11 @@
 #include "conversion/Konverze.h"
 #include "tests/support/FakeDrive.h"
 #include "tests/support/FakeSpreadsheet.h"
+#include "tests/support/PrintQt.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "theory/Toniny.h"
 
 #include <gtest/gtest.h>
-#include <ostream>
-
-inline void PrintTo(const QString& text, std::ostream* out) {
-    *out << '"' << text.toStdString() << '"';
-}
 
 namespace zvonika::testing {
 

@@ -1,5 +1,6 @@
 #include "tests/integration/CelyProgram.h"
 
+#include "song/PopisSloupcu.h"
 #include "spreadsheet/Address.h"
 
 #include <QAbstractButton>
@@ -64,8 +65,14 @@ CelyProgram::CelyProgram()
 CelyProgram::~CelyProgram() = default;
 
 void CelyProgram::spust() {
-    program = std::make_unique<Program>(
-        Prostredi{dialogs, nastaveni, drive, shell, [this] { return novaTabulka(); }, hodiny, media});
+    program = std::make_unique<Program>(Prostredi{
+        dialogs,
+        nastaveni,
+        drive,
+        shell,
+        {{{Tabulka::Vestavena, nabidkaVestavene, [this] { return novaTabulka(); }}}, Tabulka::Vestavena},
+        hodiny,
+        media});
     program->Main();
     program->okno().resize(1000, 720);
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&program->okno()));
@@ -76,7 +83,7 @@ std::unique_ptr<SpreadsheetApplication> CelyProgram::novaTabulka() {
     auto nova = std::make_unique<EmbeddedApplication>(
         drive, dialogs, vlastniNastaveniTabulky, JournalFolder(slozka.filePath(QStringLiteral("zaznamy"))),
         [this](SheetCommands& prikazy) {
-            auto okno = std::make_unique<SheetWindow>(prikazy);
+            auto okno = std::make_unique<SheetWindow>(prikazy, popisSloupcu());
             QObject::connect(okno.get(), &SheetWindow::f6Pressed, program.get(),
                              &Program::prejdiNaHlavniOkno);
             tabulka = okno.get();

@@ -8,6 +8,7 @@
 #include "spreadsheet/embedded/ui/SheetWindow.h"
 #include "spreadsheet/xls/Workbook.h"
 #include "tests/app/ZaznamovyShell.h"
+#include "tests/support/PrintQt.h"
 #include "tests/support/RucniHodiny.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/ZaznamovaMedia.h"
@@ -17,11 +18,6 @@
 #include <QTest>
 
 #include <gtest/gtest.h>
-#include <ostream>
-
-inline void PrintTo(const QString& text, std::ostream* out) {
-    *out << '"' << text.toStdString() << '"';
-}
 
 namespace zvonika::testing {
 

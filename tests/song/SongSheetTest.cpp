@@ -1,3 +1,4 @@
+#include "song/PopisSloupcu.h"
 #include "tests/playing/SongFixture.h"
 
 namespace zvonika::testing {
@@ -21,6 +22,15 @@ TEST(Grip, DirectionIsExactlyTahOrTlak) {
     EXPECT_EQ(textSmeru(SmerMechu::Tah), "Tah");
     EXPECT_EQ(textSmeru(SmerMechu::Tlak), "Tlak");
     EXPECT_EQ(textSmeru(SmerMechu::Neuveden), "");
+}
+
+TEST(PopisSloupcu, TellsAPlayerWhatTheyAre) {
+    const std::pair<char, const char*> slova[] = {
+        {'A', "slabika"},   {'B', "tón"},    {'H', "tón"}, {'I', "měch"}, {'J', ""},
+        {'L', ""},          {'M', "bas"},    {'S', "bas"}, {'T', ""},     {'U', ""},
+        {'V', "prstoklad"}, {'W', "tónina"}, {'X', ""}};
+    for (const auto& [sloupec, slovo] : slova)
+        EXPECT_EQ(popisSloupcu().value(sloupec - 'A').label, QString::fromUtf8(slovo)) << sloupec;
 }
 
 TEST_F(SongSheetTest, ReadsEveryColumnOfARow) {

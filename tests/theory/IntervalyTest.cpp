@@ -1,6 +1,5 @@
 #include "tests/support/ScriptedDialogs.h"
 #include "theory/NazevIntervalu.h"
-#include "theory/Tonavox12.h"
 #include "theory/Toniny.h"
 #include "theory/VychodiskoIntervalu.h"
 #include "theory/clsIntervaly.h"

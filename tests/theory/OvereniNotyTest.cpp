@@ -49,11 +49,10 @@ protected:
     }
 
     ScriptedDialogs dialogs;
-    Tonavox12 tonavox;
     clsNoty noty{dialogs};
     Tonina tonina;
     Zapisovac prijemce;
-    OvereniNoty overeni{dialogs, tonavox, noty, tonina, prijemce};
+    OvereniNoty overeni{dialogs, noty, tonina, prijemce};
 };
 
 TEST_F(OvereniNotyTest, DrawsTonesOfTheKeyWithoutAsking) {

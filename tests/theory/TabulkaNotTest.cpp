@@ -1,7 +1,7 @@
 #include "theory/TabulkaNot.h"
 
 #include "tests/theory/Vypis.h"
-#include "theory/Tonavox12.h"
+#include "theory/NazvyTonu.h"
 #include "theory/Toniny.h"
 
 #include <QFile>
@@ -51,10 +51,8 @@ QString oOktavu(QString jmeno, int oktavy) {
 
 QString jmeno(int cislo, const DurovaTonina& tonina) {
     const int oktavy = cislo < 1 ? -1 : cislo > 48 ? 1 : 0; // tone 49 has a name of its own in F dur
-    Tonavox12 model;
-    QString stupnice = tonina.nazev.toString();
-    model.DejTonVeStupnici(CisloTonu(cislo - 12 * oktavy), stupnice);
-    return oktavy == 0 ? model.nazevTonu().text() : oOktavu(model.nazevTonu().text(), oktavy);
+    const QString nazev = nazevTonu(CisloTonu(cislo - 12 * oktavy), tonina.key()).nazev.text();
+    return oktavy == 0 ? nazev : oOktavu(nazev, oktavy);
 }
 
 TEST(TabulkaNot, TheShippedTableIsTheToneModelInEveryKey) {

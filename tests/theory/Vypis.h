@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/support/PrintQt.h"
 #include "theory/CisloTonu.h"
 #include "theory/Key.h"
 #include "theory/PolohaNoty.h"
@@ -26,10 +27,6 @@ inline std::ostream& operator<<(std::ostream& out, const PolohaNoty& poloha) {
 }
 
 } // namespace zvonika
-
-inline void PrintTo(const QString& text, std::ostream* out) {
-    *out << '"' << text.toStdString() << '"';
-}
 
 namespace zvonika::testing {
 

@@ -3,16 +3,18 @@
 
 usage: check_song.py VIRTUAL_DISPLAY ZVONIKA_UKAZKA FOLDER SHEETJS_FOLDER [OPTION ...]
 Options go to the demonstration.
-Readers: xlrd, LibreOffice, Gnumeric, SheetJS. Those that are not installed are named and left out; ends with 77 when
-none is, or when there is no virtual display.
+Readers: xlrd, LibreOffice, Gnumeric, SheetJS. Those that are not installed are named and left out; ends with 77 without
+xlrd or a virtual display.
 """
-import csv
 import os
 import shutil
 import subprocess
 import sys
 
-SKIPPED = 77
+sys.dont_write_bytecode = True
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "readers"))
+import readers
+
 SONG = "Kočka leze dírou"
 PHRASES = [  # tones, syllables, bellows
     ("c d e f g g", "Koč- ka le- ze dí- rou,", "Tlak"),
@@ -59,100 +61,45 @@ def songs():
         yield "%s %s" % (SONG, key), sheet, converted(rows, key, tones)
 
 
-def padded(rows):
-    return [(row + [""] * COLUMNS)[:COLUMNS] for row in rows]
-
-
-def with_xlrd(path, _, name):
-    import xlrd
-    sheet = xlrd.open_workbook(path).sheet_by_index(0)
-    assert sheet.name == name, sheet.name
-    return [[str(value) for value in sheet.row_values(row)] for row in range(sheet.nrows)]
-
-
-def csv_rows(path):
-    with open(path, encoding="utf-8", newline="") as table:
-        return list(csv.reader(table))
-
-
-def with_libreoffice(path, folder, _):
-    profile = "-env:UserInstallation=file://" + os.path.join(folder, "office")
-    subprocess.run(["soffice", profile, "--headless", "--convert-to", "csv:Text - txt - csv (StarCalc):44,34,76,1",
-                    "--outdir", folder, path], check=True, capture_output=True, timeout=150)
-    return csv_rows(os.path.join(folder, os.path.basename(path)[:-3] + "csv"))
-
-
-def with_gnumeric(path, folder, _):
-    target = os.path.join(folder, "gnumeric.csv")
-    subprocess.run(["ssconvert", path, target], check=True, capture_output=True, timeout=60)
-    return csv_rows(target)
-
-
-def with_sheetjs(path, folder, _):
-    script = ("const X=require('xlsx');const b=X.readFile(process.argv[1]);"
-              "const s=b.Sheets[b.SheetNames[0]];"
-              "console.log(JSON.stringify(X.utils.sheet_to_json(s,{header:1,defval:''})))")
-    done = subprocess.run(["node", "-e", script, path], check=True, capture_output=True, timeout=60,
-                          env={**os.environ, "NODE_PATH": SHEETJS})
-    import json
-    return [[str(value) for value in row] for row in json.loads(done.stdout)]
-
-
-def installed():
-    try:
-        import xlrd  # noqa: F401
-        yield "xlrd", with_xlrd
-    except ImportError:
-        print("SKIPPED: xlrd")
-    for name, program, reader in (("LibreOffice", "soffice", with_libreoffice),
-                                  ("Gnumeric", "ssconvert", with_gnumeric)):
-        if shutil.which(program):
-            yield name, reader
-        else:
-            print("SKIPPED:", name)
-    if shutil.which("node") and os.path.isdir(os.path.join(SHEETJS, "xlsx")):
-        yield "SheetJS", with_sheetjs
-    else:
-        print("SKIPPED: SheetJS")
+def table(cells):
+    """As rows of texts, without what is empty at the end."""
+    rows = [[""] * COLUMNS for _ in range(1 + max((row for row, _ in cells), default=-1))]
+    for (row, column), value in cells.items():
+        rows[row][column:column + 1] = [str(value)]
+    return rows
 
 
 def faults_in(found, wanted, reader):
-    while found and not any(found[-1]):
-        found.pop()
-    faults = 0
-    for number, (expected, row) in enumerate(zip(wanted, found), 1):
-        if expected != row:
-            faults += 1
-            print("%s, row %d: expected %r, found %r" % (reader, number, expected, row))
+    odd = [(number, pair) for number, pair in enumerate(zip(wanted, found), 1) if pair[0] != pair[1]]
+    for number, (expected, row) in odd:
+        print("%s, row %d: expected %r, found %r" % (reader, number, expected, row))
     if len(found) != len(wanted):
-        faults += 1
         print("%s: %d rows" % (reader, len(found)))
-    return faults
+    return len(odd) + (len(found) != len(wanted))
 
 
 def main():
     display, program, folder = sys.argv[1:4]
     if not shutil.which("xvfb-run"):
         print("SKIPPED: no virtual display")
-        return SKIPPED
+        return readers.SKIPPED
     shutil.rmtree(folder, ignore_errors=True)
     os.makedirs(folder)
     subprocess.run([display, program] + sys.argv[5:] + [folder], check=True, timeout=300)
     pictures = [name for name in os.listdir(folder) if name.endswith(".png")]
     assert len(pictures) >= 22, pictures
-    kept = os.path.join(folder, "domov", "Dokumenty", "Heligonka", "Zvonika")
-    faults, readers = 0, 0
-    for name, reader in installed():
-        readers += 1
-        for song, sheet, rows in songs():
-            found = padded(reader(os.path.join(kept, song + ".xls"), folder, sheet))
-            faults += faults_in(found, rows, name + ", " + song)
-            print(name, "has read", len(found), "rows of", song)
-    if not readers:
-        return SKIPPED
+    kept = os.path.join(os.path.abspath(folder), "domov", "Dokumenty", "Heligonka", "Zvonika")
+    wanted = {os.path.join(kept, song + ".xls"): (sheet, rows) for song, sheet, rows in songs()}
+    faults = 0
+    for path, (sheet, _) in wanted.items():
+        if readers.worksheets(path)[0] != sheet:
+            faults += 1
+            print("%s: sheets %r, expected %s" % (path, readers.worksheets(path), sheet))
+    for reader, _, tables in readers.read_with_all(list(wanted), os.path.abspath(folder), sys.argv[4]):
+        for path, (_, rows) in wanted.items():
+            faults += faults_in(table(tables[path][0]), rows, reader + ", " + os.path.basename(path))
     return 1 if faults else 0
 
 
 if __name__ == "__main__":
-    SHEETJS = sys.argv[4]
     sys.exit(main())

@@ -2,7 +2,7 @@
 
 #include "spreadsheet/embedded/Document.h"
 #include "spreadsheet/embedded/SheetCommands.h"
-#include "spreadsheet/embedded/ui/SongColumns.h"
+#include "spreadsheet/embedded/ui/SheetModel.h"
 
 #include <QHeaderView>
 #include <QScopedValueRollback>
@@ -39,12 +39,13 @@ void ColumnWidths::refresh() {
         apply(column);
 }
 
-// No song reaches the sheet's last column: its width is the file's default, and whatever equals it was not
+// Nothing reaches the sheet's last column: its width is the file's default, and whatever equals it was not
 // set.
 int ColumnWidths::pixels(int column) const {
     const int sheet = document_->activeSheet();
     const double characters = document_->columnWidth(sheet, column);
-    if (qFuzzyCompare(characters, document_->columnWidth(sheet, lastColumn))) return songColumn(column).width;
+    if (qFuzzyCompare(characters, document_->columnWidth(sheet, lastColumn)))
+        return header_->model()->headerData(column - 1, Qt::Horizontal, SheetModel::WidthRole).toInt();
     return qRound(characters * digitWidth(*header_)) + padding;
 }
 

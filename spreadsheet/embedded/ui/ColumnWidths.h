@@ -10,7 +10,7 @@ class Document;
 class SheetCommands;
 
 /// Keeps the widths of the columns on the screen: those of the file where it sets them, otherwise those that
-/// suit a song. A width that the user drags goes into the document.
+/// the model of `header` proposes. A width that the user drags goes into the document.
 class ColumnWidths : public QObject {
     Q_OBJECT
 

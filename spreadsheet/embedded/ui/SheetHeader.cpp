@@ -2,7 +2,7 @@
 
 #include "spreadsheet/Address.h"
 #include "spreadsheet/embedded/ui/SheetColours.h"
-#include "spreadsheet/embedded/ui/SongColumns.h"
+#include "spreadsheet/embedded/ui/SheetModel.h"
 
 #include <QPainter>
 
@@ -58,7 +58,7 @@ void SheetHeader::paintSection(QPainter* painter, const QRect& rect, int section
 
 void SheetHeader::paintColumn(QPainter& painter, const QRect& rect, int column) const {
     const QString letters = columnLetters(column + 1);
-    const QString label = QString::fromUtf8(songColumn(column + 1).label);
+    const QString label = model()->headerData(column, Qt::Horizontal, SheetModel::LabelRole).toString();
     const QFont small = labelFont(font());
     const int lettersWidth = QFontMetrics(font()).horizontalAdvance(letters);
     const int width = lettersWidth + gap + QFontMetrics(small).horizontalAdvance(label);

@@ -4,7 +4,7 @@
 
 namespace zvonika {
 
-/// Column letters with a word for what the column is in a song, or row numbers; the current one stands out.
+/// Column letters with the word for what the column is, or row numbers; the current one stands out.
 class SheetHeader : public QHeaderView {
     Q_OBJECT
 

@@ -2,25 +2,12 @@
 
 #include "spreadsheet/embedded/Document.h"
 #include "spreadsheet/embedded/SheetCommands.h"
-#include "spreadsheet/embedded/ui/SongColumns.h"
+
+#include <utility>
 
 namespace zvonika {
 
 namespace {
-
-QVariant columnHeader(int column, int role) {
-    const SongColumn& meaning = songColumn(column);
-    switch (role) {
-    case Qt::DisplayRole:
-        return columnLetters(column);
-    case Qt::ToolTipRole:
-        return QString::fromUtf8(meaning.meaning);
-    case Qt::AccessibleTextRole:
-        return QStringLiteral("%1 %2").arg(columnLetters(column), QString::fromUtf8(meaning.label)).trimmed();
-    default:
-        return {};
-    }
-}
 
 QVariant rowHeader(int row, int role) {
     switch (role) {
@@ -35,8 +22,8 @@ QVariant rowHeader(int row, int role) {
 
 } // namespace
 
-SheetModel::SheetModel(SheetCommands& commands, QObject* parent)
-    : QAbstractTableModel(parent), commands_(commands) {}
+SheetModel::SheetModel(SheetCommands& commands, SheetColumns columns, QObject* parent)
+    : QAbstractTableModel(parent), commands_(commands), columns_(std::move(columns)) {}
 
 void SheetModel::setDocument(Document* document) {
     beginResetModel();
@@ -90,6 +77,24 @@ QVariant SheetModel::headerData(int section, Qt::Orientation orientation, int ro
     return orientation == Qt::Horizontal ? columnHeader(section + 1, role) : rowHeader(section + 1, role);
 }
 
+QVariant SheetModel::columnHeader(int column, int role) const {
+    const SheetColumn meaning = columns_.value(column - 1);
+    switch (role) {
+    case Qt::DisplayRole:
+        return columnLetters(column);
+    case Qt::ToolTipRole:
+        return meaning.meaning;
+    case Qt::AccessibleTextRole:
+        return QStringLiteral("%1 %2").arg(columnLetters(column), meaning.label).trimmed();
+    case LabelRole:
+        return meaning.label;
+    case WidthRole:
+        return meaning.width;
+    default:
+        return {};
+    }
+}
+
 Qt::ItemFlags SheetModel::flags(const QModelIndex& index) const {
     if (!index.isValid()) return Qt::NoItemFlags;
     return Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsEditable | Qt::ItemNeverHasChildren;
@@ -101,7 +106,7 @@ void SheetModel::showChange(int sheet, const CellRange& range) {
 
 QString SheetModel::spokenText(CellPosition cell) const {
     const QString place = columnLetters(cell.column) + QString::number(cell.row);
-    const QString meaning = QString::fromUtf8(songColumn(cell.column).label);
+    const QString meaning = columns_.value(cell.column - 1).label;
     const QString text = document_->displayText(document_->activeSheet(), cell);
     return QStringLiteral("%1 %2: %3").arg(place, meaning, text.isEmpty() ? QStringLiteral("prázdná") : text);
 }

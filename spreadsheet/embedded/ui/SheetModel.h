@@ -1,6 +1,7 @@
 #pragma once
 
 #include "spreadsheet/Address.h"
+#include "spreadsheet/SheetColumns.h"
 
 #include <QAbstractTableModel>
 
@@ -15,7 +16,10 @@ class SheetModel : public QAbstractTableModel {
     Q_OBJECT
 
 public:
-    explicit SheetModel(SheetCommands& commands, QObject* parent = nullptr);
+    /// Of a column's header, beside the usual roles: its word and the width that suits it (px).
+    enum Role { LabelRole = Qt::UserRole, WidthRole };
+
+    SheetModel(SheetCommands& commands, SheetColumns columns, QObject* parent = nullptr);
 
     /// The document to show; nullptr for none.
     void setDocument(Document* document);
@@ -34,9 +38,11 @@ public:
 
 private:
     void showChange(int sheet, const CellRange& range);
+    QVariant columnHeader(int column, int role) const;
     QString spokenText(CellPosition cell) const;
 
     SheetCommands& commands_;
+    SheetColumns columns_;
     Document* document_ = nullptr;
 };
 

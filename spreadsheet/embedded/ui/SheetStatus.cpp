@@ -1,7 +1,6 @@
 #include "spreadsheet/embedded/ui/SheetStatus.h"
 
 #include "spreadsheet/embedded/Document.h"
-#include "spreadsheet/embedded/ui/SongColumns.h"
 
 #include <QStringList>
 
@@ -16,7 +15,7 @@ QString place(const Document& document) {
     return QStringLiteral("Hmat %1 z %2").arg(row).arg(last);
 }
 
-QString what(const Selection& selection) {
+QString what(const Selection& selection, const QString& label) {
     const CellRange& range = selection.range;
     if (range != single(selection.active))
         return QStringLiteral("výběr %1%2:%3%4")
@@ -24,15 +23,14 @@ QString what(const Selection& selection) {
             .arg(range.first.row)
             .arg(columnLetters(range.last.column))
             .arg(range.last.row);
-    const QString label = QString::fromUtf8(songColumn(selection.active.column).label);
     return label.isEmpty() ? QString()
                            : QStringLiteral("%1: %2").arg(columnLetters(selection.active.column), label);
 }
 
 } // namespace
 
-QString statusText(const Document& document) {
-    QStringList parts{place(document), what(document.selection())};
+QString statusText(const Document& document, const QString& label) {
+    QStringList parts{place(document), what(document.selection(), label)};
     if (document.isOldFormat()) parts.append(QStringLiteral("starší formát, uloží se v novém"));
     parts.append(document.journalTrouble());
     parts.removeAll(QString());

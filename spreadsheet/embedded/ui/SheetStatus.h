@@ -6,8 +6,8 @@ namespace zvonika {
 
 class Document;
 
-/// What the window shows at the moment, in a few words: the grip, its column's meaning or the range selected,
-/// the file's older format, and why changes are not safe from a crash.
-QString statusText(const Document& document);
+/// What the window shows at the moment, in a few words: the grip, what its column is (`label`, "" for
+/// nothing) or the range selected, the file's older format, and why changes are not safe from a crash.
+QString statusText(const Document& document, const QString& label);
 
 } // namespace zvonika

@@ -51,8 +51,8 @@ QVBoxLayout* column(QWidget* owner) {
 
 } // namespace
 
-SheetWindow::SheetWindow(SheetCommands& commands)
-    : commands_(commands), model_(new SheetModel(commands, this)), table_(new SheetTable),
+SheetWindow::SheetWindow(SheetCommands& commands, const SheetColumns& columns)
+    : commands_(commands), model_(new SheetModel(commands, columns, this)), table_(new SheetTable),
       menu_(new SheetMenu(commands, table_)), line_(new EditLine), footer_(new SheetFooter(table_)),
       widths_(new ColumnWidths(commands, table_->horizontalHeader())) {
     setObjectName(QStringLiteral("oknoTabulky"));
@@ -219,7 +219,8 @@ void SheetWindow::showDue() {
     if (std::exchange(followDue_, false)) table_->follow(document_->selection());
     const CellPosition cell = document_->selection().active;
     line_->showCell(cell, document_->editText(document_->activeSheet(), cell));
-    footer_->setStatus(statusText(*document_));
+    const QVariant label = model_->headerData(cell.column - 1, Qt::Horizontal, SheetModel::LabelRole);
+    footer_->setStatus(statusText(*document_, label.toString()));
 }
 
 bool SheetWindow::renameSheet(int sheet, const QString& name) {

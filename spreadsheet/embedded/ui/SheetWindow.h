@@ -1,5 +1,6 @@
 #pragma once
 
+#include "spreadsheet/SheetColumns.h"
 #include "spreadsheet/embedded/SheetView.h"
 
 #include <QMainWindow>
@@ -21,8 +22,8 @@ class SheetWindow : public QMainWindow, public SheetView {
     Q_OBJECT
 
 public:
-    /// `commands` must outlive the window.
-    explicit SheetWindow(SheetCommands& commands);
+    /// `commands` must outlive the window. `columns`: what the header, tool tips and status tell of them.
+    SheetWindow(SheetCommands& commands, const SheetColumns& columns);
     ~SheetWindow() override;
 
     void setVisible(bool visible) override;

@@ -3,7 +3,7 @@
 #include "aids/NastaveniRad.h"
 #include "aids/ui/FraZabrany.h"
 #include "board/TrebleBoard.h"
-#include "tests/app/PametoveNastaveni.h"
+#include "tests/support/MemorySettings.h"
 #include "tests/support/ScriptedDialogs.h"
 
 #include <QCheckBox>
@@ -37,7 +37,7 @@ protected:
         return rady;
     }
 
-    testing::PametoveNastaveni nastaveni;
+    testing::MemorySettings nastaveni;
     testing::ScriptedDialogs dialogy;
     TrebleBoard diskant;
     NastaveniRad formular{nastaveni, diskant, dialogy};

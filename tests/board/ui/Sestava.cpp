@@ -1,6 +1,6 @@
 #include "tests/board/ui/Sestava.h"
 
-#include "theory/Tonavox12.h"
+#include "theory/NazvyTonu.h"
 
 #include <cmath>
 
@@ -8,10 +8,8 @@ namespace zvonika {
 
 namespace {
 
-QString nazevTonu(int n) {
-    Tonavox12 ladeni;
-    ladeni.DejTon(CisloTonu(n));
-    const QString nazev = ladeni.nazevTonu().text();
+QString nazevKnofliku(int n) {
+    const QString nazev = nazevTonu(CisloTonu(n)).text();
     return nazev.endsWith(u',') ? nazev.chopped(1) : nazev;
 }
 
@@ -40,7 +38,7 @@ Sestava::Sestava(double meritko) {
     ObsluhaDiskantu obsluha;
     obsluha.klik = [this](int n) { kliky.push_back(n); };
     obsluha.dvojklik = [this](int n, bool pomocny) { dvojkliky.push_back({n, pomocny}); };
-    obsluha.nazev = nazevTonu;
+    obsluha.nazev = nazevKnofliku;
     vytvorBasy(&scena, basy, {[this](int n) { klikyBasu.push_back(n), basy.klik(n); }, nazevBasu}, umisti);
     vytvorDiskant(&scena, diskant, obsluha, umisti);
     vytvorKlaviaturu(&scena, diskant, obsluha, umisti);

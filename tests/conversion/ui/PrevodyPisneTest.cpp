@@ -5,7 +5,7 @@
 #include "platform/IniSettingsStore.h"
 #include "spreadsheet/embedded/EmbeddedApplication.h"
 #include "tests/support/ScriptedDialogs.h"
-#include "theory/Tonavox12.h"
+#include "theory/NazvyTonu.h"
 #include "theory/Toniny.h"
 
 #include <QAbstractButton>
@@ -68,11 +68,8 @@ protected:
         return blok;
     }
     static QString ton(const QString& nazev, int posun, std::size_t kam) {
-        Tonavox12 model;
-        model.DejCisloTonu(ToneName(nazev));
-        QString stupnice = toniny[kam].nazev.toString();
-        model.DejTonVeStupnici(CisloTonu(model.cisloTonu().hodnota() + posun), stupnice);
-        return model.nazevTonu().text();
+        const CisloTonu cil(cisloTonu(ToneName(nazev)).hodnota() + posun);
+        return nazevTonu(cil, toniny[kam].key()).nazev.text();
     }
 
     QTemporaryDir slozka;

@@ -1,6 +1,7 @@
 // Opens a workbook and saves it twice: without a change, and with the changes of a listing.
-// Usage: corpus_roundtrip FILE LISTING SAME CHANGED
-// A line of the listing is "sheet row column what": n and a number, t and a text, or - to empty the cell.
+// Usage: corpus_roundtrip FILE LISTING SAME CHANGED; "new" as FILE is a new workbook.
+// A line of the listing is "sheet row column what": n and a number, t and a text, b0 or b1, e and a code, or - to empty
+// the cell; r and the sheet's name, w and the column's width, a to make the cell the active one.
 #include "spreadsheet/xls/Workbook.h"
 
 #include <codecvt>
@@ -37,8 +38,25 @@ Value valueOf(const std::string& what) {
         return std::strtod(what.c_str() + 1, nullptr);
     case 't':
         return utf16(what.substr(1));
+    case 'b':
+        return what == "b1";
+    case 'e':
+        return ErrorValue{static_cast<std::uint8_t>(std::stoi(what.substr(1)))};
     default:
         return {};
+    }
+}
+
+void set(Workbook& book, int sheet, CellRef cell, const std::string& what) {
+    switch (what.at(0)) {
+    case 'r':
+        return book.renameSheet(sheet, utf16(what.substr(1)));
+    case 'w':
+        return book.setColumnWidth(sheet, cell.column, std::stoi(what.substr(1)));
+    case 'a':
+        return book.setActiveCell(sheet, cell);
+    default:
+        return book.setValue(sheet, cell, valueOf(what));
     }
 }
 
@@ -51,7 +69,7 @@ void change(Workbook& book, const char* listing) {
         std::string what;
         fields >> sheet >> cell.row >> cell.column >> std::ws;
         std::getline(fields, what);
-        book.setValue(sheet, cell, valueOf(what));
+        set(book, sheet, cell, what);
     }
 }
 
@@ -60,7 +78,8 @@ void change(Workbook& book, const char* listing) {
 int main(int count, char** arguments) {
     if (count != 5) return 2;
     try {
-        Workbook book = Workbook::open(read(arguments[1]));
+        const std::string file = arguments[1];
+        Workbook book = file == "new" ? Workbook::create(u"List") : Workbook::open(read(arguments[1]));
         write(arguments[3], book.save());
         change(book, arguments[2]);
         write(arguments[4], book.save());

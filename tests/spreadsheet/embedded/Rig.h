@@ -4,6 +4,7 @@
 #include "spreadsheet/SpreadsheetApplication.h"
 #include "spreadsheet/embedded/EmbeddedApplication.h"
 #include "tests/support/MemorySettings.h"
+#include "tests/support/PrintQt.h"
 #include "tests/support/ScriptedDialogs.h"
 
 #include <QDir>
@@ -12,11 +13,6 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
-#include <ostream>
-
-inline void PrintTo(const QString& text, std::ostream* out) {
-    *out << '"' << text.toStdString() << '"';
-}
 
 namespace zvonika::testing {
 

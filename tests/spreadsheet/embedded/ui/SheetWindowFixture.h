@@ -2,6 +2,7 @@
 
 #include "platform/HomeDrive.h"
 #include "platform/IniSettingsStore.h"
+#include "song/PopisSloupcu.h"
 #include "spreadsheet/embedded/EmbeddedApplication.h"
 #include "spreadsheet/embedded/ui/SheetTable.h"
 #include "spreadsheet/embedded/ui/SheetTabs.h"
@@ -90,7 +91,7 @@ protected:
     EmbeddedApplication application{drive, dialogs, settings,
                                     JournalFolder(folder.filePath(QStringLiteral("zaznamy"))),
                                     [this](SheetCommands& commands) {
-                                        auto made = std::make_unique<SheetWindow>(commands);
+                                        auto made = std::make_unique<SheetWindow>(commands, popisSloupcu());
                                         window = made.get();
                                         return made;
                                     }};

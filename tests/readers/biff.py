@@ -1,4 +1,5 @@
-"""A workbook stream (BIFF8, [MS-XLS]) as records and cells: the checker's own reading, apart from the engine."""
+"""A workbook stream (BIFF8, [MS-XLS]) as records and cells, and whether its offsets hold: the checkers' own reading, apart
+from the engine."""
 import struct
 from collections import namedtuple
 
@@ -29,26 +30,27 @@ class Sheet:
 
 class Book:
     def __init__(self, stream):
-        self.sheets, self.tail, self.strings, self.formats = [], b"", [], []
+        self.sheets, self.tail, self.formats, self.records = [], b"", [], []
         at, depth, table = 0, 0, []
         while at + 4 <= len(stream):
             kind, size = struct.unpack_from("<HH", stream, at)
             if depth == 0 and kind != BOF:
                 break
             data = stream[at + 4:at + 4 + size]
+            self.records.append(Record(at, kind, data))
             if depth == 0:
                 self.sheets.append(Sheet())
                 self.sheets[-1].at = at
             depth += (kind == BOF) - (kind == EOF)
             if kind == SST or (table and table[-1].at + 4 + len(table[-1].data) == at and kind == CONTINUE):
-                table.append(Record(at, kind, data))
+                table.append(self.records[-1])
                 if kind == SST:
                     self.sheets[0].frame.append("shared strings")
             else:
-                self._take(self.sheets[-1], Record(at, kind, data), depth)
+                self._take(self.sheets[-1], self.records[-1], depth)
             at += 4 + size
         self.tail = stream[at:]
-        self.counts, self.strings = shared_strings([record.data for record in table])
+        self._take_strings(table)
         self._name_sheets()
 
     def _take(self, sheet, record, depth):
@@ -84,6 +86,21 @@ class Book:
                 if number is not None:
                     self.sheets[number].is_worksheet = record[1][5] == 0
         self.worksheets = [self.sheets[r[1]] for r in frame if r[0] == BOUNDSHEET and self.sheets[r[1]].is_worksheet]
+
+    def _take_strings(self, table):
+        """`counts`: references and texts as promised; `strings`: (text, formatting runs, phonetic data); `starts`: where."""
+        self.counts, self.strings, self.starts, self.split_pairs = (0, 0), [], [], 0
+        if not table:
+            return
+        source = Chunks(table)
+        self.counts = struct.unpack("<II", source.bytes(8))
+        for _ in range(self.counts[1]):
+            self.starts.append(source.place())
+            length, flags = struct.unpack("<HB", source.bytes(3))
+            runs = struct.unpack("<H", source.bytes(2))[0] if flags & 8 else 0
+            phonetic = struct.unpack("<I", source.bytes(4))[0] if flags & 4 else 0
+            self.strings.append((source.text(length, flags & 1), source.bytes(4 * runs), source.bytes(phonetic)))
+        self.split_pairs = source.split_pairs
 
     def default_format(self):
         """The first format that is of cells and not of a style."""
@@ -136,31 +153,41 @@ def take_cells(sheet, kind, data):
 class Chunks:
     """The bytes of a record and its Continue records."""
 
-    def __init__(self, chunks):
-        self.chunks, self.at = list(chunks), 0
+    def __init__(self, records):
+        self.records, self.at, self.split_pairs = list(records), 0, 0
+
+    def rest(self):
+        return len(self.records[0].data) - self.at
+
+    def place(self):
+        """Offset in the stream, and within the record and its head."""
+        if not self.rest():
+            self.next_record()
+        return self.records[0].at + 4 + self.at, 4 + self.at
 
     def bytes(self, count):
         out = b""
         while len(out) < count:
-            if self.at == len(self.chunks[0]):
-                self.next_chunk()
-            step = min(count - len(out), len(self.chunks[0]) - self.at)
-            out += self.chunks[0][self.at:self.at + step]
+            if not self.rest():
+                self.next_record()
+            step = min(count - len(out), self.rest())
+            out += self.records[0].data[self.at:self.at + step]
             self.at += step
         return out
 
-    def next_chunk(self):
-        self.chunks.pop(0)
+    def next_record(self):
+        self.records.pop(0)
         self.at = 0
 
     def text(self, length, wide):
         """The width of the characters is said anew at the head of each Continue record."""
         out = b""
         while length:
-            if self.at == len(self.chunks[0]):
-                self.next_chunk()
+            if not self.rest():
+                self.next_record()
                 wide = self.bytes(1)[0] & 1
-            step = min(length, (len(self.chunks[0]) - self.at) // (1 + wide))
+                self.split_pairs += bool(out) and out[-1] >> 2 == 0x36
+            step = min(length, self.rest() // (1 + wide))
             if step == 0:
                 raise ValueError("half a character at the end of a record")
             piece = self.bytes(step * (1 + wide))
@@ -169,15 +196,46 @@ class Chunks:
         return out.decode("utf-16-le", "surrogatepass")
 
 
-def shared_strings(chunks):
-    """((references, strings) as promised, [(text, formatting runs, phonetic data)])."""
-    if not chunks:
-        return (0, 0), []
-    source, out = Chunks(chunks), []
-    counts = struct.unpack("<II", source.bytes(8))
-    for _ in range(counts[1]):
-        length, flags = struct.unpack("<HB", source.bytes(3))
-        runs = struct.unpack("<H", source.bytes(2))[0] if flags & 8 else 0
-        phonetic = struct.unpack("<I", source.bytes(4))[0] if flags & 4 else 0
-        out.append((source.text(length, flags & 1), source.bytes(4 * runs), source.bytes(phonetic)))
-    return counts, out
+def offset_faults(new, old=None):
+    """Yields what is wrong with the offsets and counts of a book; row blocks that `old` has described in the same words and
+    pairs of surrogates that it splits itself are its own."""
+    kinds = {record.at: record.kind for record in new.records}
+    foreign = {record.data for record in old.records if record.kind == DBCELL} if old else ()
+    references = sum(record.kind == LABELSST for record in new.records)
+    if new.strings and new.counts[0] != references:
+        yield "references to shared strings", references, new.counts[0]
+    if new.split_pairs > (old.split_pairs if old else 0):
+        yield "surrogate pairs", "whole", "split"
+    block = []
+    for at, kind, data in new.records:
+        if len(data) > 8224:
+            yield "length of record at %d" % at, 8224, len(data)
+        if kind == BOUNDSHEET and kinds.get(struct.unpack_from("<I", data)[0]) != BOF:
+            yield "BoundSheet at %d" % at, "a Bof record", None
+        if kind == INDEX and any(kinds.get(place) != DBCELL for place, in struct.iter_unpack("<I", data[16:])):
+            yield "Index at %d" % at, "DbCell records", data[16:]
+        if kind == EXTSST and len(data) > 2:
+            entries = [entry[:2] for entry in struct.iter_unpack("<IHH", data[2:])]
+            if entries != new.starts[::struct.unpack_from("<H", data)[0]]:
+                yield "ExtSst", new.starts[:3], entries[:3]
+        if kind == ROW or kind in CELLS:
+            block.append((at, kind, struct.unpack_from("<H", data)[0]))
+        if kind == DBCELL:
+            wanted, found = block_places(at, data, block)
+            if data not in foreign and wanted != found:
+                yield "DbCell at %d" % at, wanted[:4], found[:4]
+            block = []
+
+
+def block_places(at, data, block):
+    """Where a block's first Row record and each row's first cell stand, and where its DbCell record says so."""
+    firsts = {}
+    for place, kind, row in block:
+        if kind in CELLS:
+            firsts.setdefault(row, place)
+    found = [at - struct.unpack_from("<I", data)[0]]
+    place = found[0] + 20
+    for delta, in struct.iter_unpack("<H", data[4:]):
+        place += delta
+        found.append(place & 0xFFFFFFFF)
+    return [block[0][0] if block else None] + [firsts[row] for row in sorted(firsts)], found

@@ -1,0 +1,17 @@
+// The entry of test programs that need an application object: for widgets where they have any.
+#include <gtest/gtest.h>
+
+#ifdef QT_WIDGETS_LIB
+#include <QApplication>
+using Application = QApplication;
+#else
+#include <QCoreApplication>
+using Application = QCoreApplication;
+#endif
+
+int main(int argc, char* argv[]) {
+    ::testing::InitGoogleTest(&argc, argv);
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    Application application(argc, argv);
+    return RUN_ALL_TESTS();
+}
