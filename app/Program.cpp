@@ -16,7 +16,7 @@
 namespace zvonika {
 
 Program::Program(const Prostredi& prostredi)
-    : prostredi_(prostredi), modely_(prostredi.drive.programFolder()),
+    : prostredi_(prostredi), modely_(prostredi.nastroj, prostredi.drive.programFolder()),
       udalosti_(prostredi.dialogs, prostredi.shell),
       konverzace_(modely_, prostredi_, [this] { vyberStupnici(); }),
       automat_(modely_.stavy, modely_.timer1, prostredi.hodiny, krokAutomatu()), napoveda_(prostredi_) {

@@ -2,12 +2,8 @@
 
 namespace zvonika {
 
-ObrazBasu obrazBasu(int bas) {
-    if (bas == 30) return ObrazBasu::C;
-    return bas == 26 || bas == 34 ? ObrazBasu::Mriz : ObrazBasu::Bezny;
-}
-
-BassBoard::BassBoard(QObject* parent) : QObject(parent) {
+BassBoard::BassBoard(const Nastroj& nastroj, QObject* parent)
+    : QObject(parent), nastroj_(nastroj), hmat_(nastroj.basy.size() + 1) {
     znacky_.basy.resize(hmat_.size());
 }
 
@@ -17,7 +13,7 @@ bool BassBoard::oznacen(int bas) const {
 
 std::vector<int> BassBoard::oznacene() const {
     std::vector<int> oznacene;
-    for (int bas = 1; bas <= pocetBasu; ++bas)
+    for (int bas = 1; bas <= nastroj_.pocetBasu(); ++bas)
         if (oznacen(bas)) oznacene.push_back(bas);
     return oznacene;
 }
@@ -35,7 +31,7 @@ StavBasu BassBoard::stav(int bas) const {
 }
 
 void BassBoard::ukazZnacky(const ZnackyBasu& znacky) {
-    for (int bas = 1; bas <= pocetBasu; ++bas) {
+    for (int bas = 1; bas <= nastroj_.pocetBasu(); ++bas) {
         const StavBasu hmat = hmat_.at(static_cast<std::size_t>(bas));
         Znacka znacka = znacky.basy.at(static_cast<std::size_t>(bas));
         znacka.nadHmatem &= hmat != StavBasu::Volny;
@@ -48,7 +44,7 @@ void BassBoard::ukazHmat(int bas, StavBasu smer) {
 }
 
 void BassBoard::odeberHmat() {
-    for (int bas = 1; bas <= pocetBasu; ++bas)
+    for (int bas = 1; bas <= nastroj_.pocetBasu(); ++bas)
         zmen(bas, {oznacen(bas), false}, StavBasu::Volny);
 }
 
@@ -57,7 +53,7 @@ void BassBoard::klik(int bas) {
 }
 
 void BassBoard::uvolniBasy() {
-    for (int bas = 1; bas <= pocetBasu; ++bas)
+    for (int bas = 1; bas <= nastroj_.pocetBasu(); ++bas)
         zmen(bas, {}, StavBasu::Volny);
 }
 

@@ -1,19 +1,14 @@
 #pragma once
 
-#include "board/TrebleLayout.h"
+#include "board/Nastroj.h"
 
 #include <QObject>
 
-#include <array>
 #include <vector>
 
 namespace zvonika {
 
 enum class StavBasu { Volny, Cerveny, Tah, Tlak };
-
-/// Free picture of a bass button: 26 and 34 are hatched, 30 is the C bass, as their tactile marks are felt.
-enum class ObrazBasu { Bezny, Mriz, C };
-ObrazBasu obrazBasu(int bas);
 
 /// What the player has marked on the bass board and not recorded yet.
 struct ZnackyBasu {
@@ -26,13 +21,14 @@ struct ZnackyBasu {
     friend bool operator==(const ZnackyBasu&, const ZnackyBasu&) = default;
 };
 
-/// The 120 bass buttons: marks (`ImgBas(n).Tag`) and pictures. A button shows what was last put on it, its
+/// The bass buttons: marks (`ImgBas(n).Tag`) and pictures. A button shows what was last put on it, its
 /// mark or the shown grip; the other is remembered.
 class BassBoard : public QObject {
     Q_OBJECT
 public:
-    explicit BassBoard(QObject* parent = nullptr);
+    explicit BassBoard(const Nastroj& nastroj, QObject* parent = nullptr);
 
+    const Nastroj& nastroj() const { return nastroj_; }
     bool oznacen(int bas) const;
     void nastavZnacku(int bas, bool oznacen);
     std::vector<int> oznacene() const; ///< the marked basses by rising number
@@ -59,7 +55,8 @@ private:
     using Znacka = ZnackyBasu::Znacka;
     void zmen(int bas, const Znacka& znacka, StavBasu hmat);
 
-    std::array<StavBasu, pocetBasu + 1> hmat_{}; ///< what the shown grip says: Tah, Tlak or nothing
+    Nastroj nastroj_;
+    std::vector<StavBasu> hmat_; ///< by number; what the shown grip says: Tah, Tlak or nothing
     ZnackyBasu znacky_;
 };
 

@@ -1,4 +1,4 @@
-#include "board/TrebleLayout.h"
+#include "board/Nastroj.h"
 
 #include <algorithm>
 #include <array>
@@ -19,7 +19,9 @@ constexpr int roztecKlaves = 240; // naturals share a border of 15 twips
 constexpr int levyOkrajKlaves = 9720;
 constexpr int topPrvniKlavesy = 9840;
 
+constexpr int pocetTonu = 49;
 constexpr int cislicVeSloupci = 16;
+constexpr int radBasu = 6;
 constexpr int basuVRade = 20;
 
 // Accidentals among the twelve tones counted from button 1, which is e.
@@ -47,87 +49,86 @@ int otocenyTop(int rada, int top) {
     return top + posunNejvyssiho.at(static_cast<std::size_t>(rada - 1)) + shora * posunKazdehoDalsiho;
 }
 
-Poloha vRade(int rada, int top, bool otoceno) {
-    return {levyOkrajRady(rada), otoceno ? otocenyTop(rada, top) : top};
+Nastroj::Misto misto(int rada, int top) {
+    const int left = levyOkrajRad + (pocetRad - rada) * roztec;
+    return {rada, {left, top}, {left, otocenyTop(rada, top)}};
 }
 
-int prirozenychPodKlavesou(int knoflik) {
-    return (knoflik - 1) / 12 * 7 + prirozenychPod.at(static_cast<std::size_t>((knoflik - 1) % 12));
+bool jePulton(int n) {
+    return pultony.at(static_cast<std::size_t>((n - 1) % 12));
+}
+
+Nastroj::Misto hlavni(int n) {
+    constexpr std::array<int, 3> rady{3, 2, 4}; // C, A, B
+    const int rada = rady.at(static_cast<std::size_t>(n % 3));
+    return misto(rada, (rada == 3 ? topRadyC : topRadAB) - (n - 1) / 3 * roztec);
+}
+
+std::optional<Nastroj::Misto> pomocny(int n) {
+    if (n == 1 || n % 3 == 0) return std::nullopt;
+    const bool vlevo = n % 3 == 1;
+    return misto(vlevo ? 5 : 1, topRadyC - (n - (vlevo ? 4 : 2)) / 3 * roztec);
+}
+
+int prirozenychPodKlavesou(int n) {
+    return (n - 1) / 12 * 7 + prirozenychPod.at(static_cast<std::size_t>((n - 1) % 12));
+}
+
+Nastroj::Klavesa klavesa(int n) {
+    const int top = topPrvniKlavesy - prirozenychPodKlavesou(n) * roztecKlaves;
+    if (!jePulton(n)) return {{levyOkrajKlaves, top}, 1575, vyskaPrirozene, {11400, top}};
+    // An accidental straddles the border of its two naturals; the upper one is the next not below it.
+    const int topPultonu = top + (roztecKlaves + vyskaPrirozene) / 2 - vyskaPultonu / 2;
+    return {{levyOkrajKlaves, topPultonu}, 975, vyskaPultonu, {9240, topPultonu}};
+}
+
+// The labels 0..12 and 13..24 take descending places.
+int obracenyTop(int index, int top) {
+    if (index <= 12) return 7440 - index * roztec;
+    return index <= 24 ? 6840 - (index - 13) * roztec : top;
+}
+
+// "1" to "8" upward and "8" down to "1"
+Nastroj::Cislo cislo(int index) {
+    const int left = index < cislicVeSloupci ? 7200 : 3840;
+    const int poradi = index % cislicVeSloupci;
+    const int top = 9480 - poradi * roztec;
+    return {{left, top}, {left, obracenyTop(index, top)}, std::min(poradi + 1, cislicVeSloupci - poradi)};
+}
+
+ObrazBasu obrazBasu(int n) {
+    if (n == 30) return ObrazBasu::C;
+    return n == 26 || n == 34 ? ObrazBasu::Mriz : ObrazBasu::Bezny;
+}
+
+// Vertical runs, the lowest number at the bottom.
+Nastroj::Bas bas(int n) {
+    const int rada = (n - 1) / basuVRade;
+    const int shora = basuVRade - 1 - (n - 1) % basuVRade;
+    return {rada, {120 + rada * roztec, 1260 + rada * 150 + shora * 300}, obrazBasu(n)};
 }
 
 } // namespace
 
-bool jePulton(int knoflik) {
-    return pultony.at(static_cast<std::size_t>((knoflik - 1) % 12));
-}
-
-bool maPomocny(int knoflik) {
-    return knoflik > 1 && knoflik % 3 != 0;
-}
-
-int rada(int knoflik) {
-    constexpr std::array<int, 3> rady{3, 2, 4}; // C, A, B
-    return rady.at(static_cast<std::size_t>(knoflik % 3));
-}
-
-int radaPomocneho(int knoflik) {
-    if (!maPomocny(knoflik)) return 0;
-    return knoflik % 3 == 1 ? 5 : 1;
-}
-
-Poloha polohaKnofliku(int knoflik, bool otoceno) {
-    const int nejnizsi = rada(knoflik) == 3 ? topRadyC : topRadAB;
-    return vRade(rada(knoflik), nejnizsi - (knoflik - 1) / 3 * roztec, otoceno);
-}
-
-Poloha polohaPomocneho(int knoflik, bool otoceno) {
-    const int prvni = knoflik % 3 == 1 ? 4 : 2;
-    return vRade(radaPomocneho(knoflik), topRadyC - (knoflik - prvni) / 3 * roztec, otoceno);
-}
-
-int levyOkrajRady(int rada) {
-    return levyOkrajRad + (pocetRad - rada) * roztec;
-}
-
-Poloha polohaCisla(int index, bool obracene) {
-    const int left = index < cislicVeSloupci ? 7200 : 3840;
-    if (obracene && index <= 12) return {left, 7440 - index * roztec};
-    if (obracene && index <= 24) return {left, 6840 - (index - 13) * roztec};
-    return {left, 9480 - index % cislicVeSloupci * roztec};
-}
-
-int textCisla(int index) {
-    const int poradi = index % cislicVeSloupci;
-    return std::min(poradi + 1, cislicVeSloupci - poradi);
-}
-
-Poloha polohaKlavesy(int knoflik) {
-    const int top = topPrvniKlavesy - prirozenychPodKlavesou(knoflik) * roztecKlaves;
-    if (!jePulton(knoflik)) return {levyOkrajKlaves, top};
-    // An accidental straddles the border of its two naturals; the upper one is the next not below it.
-    constexpr int hranice = (roztecKlaves + vyskaPrirozene) / 2;
-    return {levyOkrajKlaves, top + hranice - vyskaPultonu / 2};
-}
-
-int sirkaKlavesy(int knoflik) {
-    return jePulton(knoflik) ? 975 : 1575;
-}
-
-int vyskaKlavesy(int knoflik) {
-    return jePulton(knoflik) ? vyskaPultonu : vyskaPrirozene;
-}
-
-Poloha polohaTonuKlavesy(int knoflik) {
-    return {jePulton(knoflik) ? 9240 : 11400, polohaKlavesy(knoflik).top};
-}
-
-Poloha polohaBasu(int bas) {
-    const int poradi = (bas - 1) % basuVRade;
-    return {120 + radaBasu(bas) * roztec, 1260 + radaBasu(bas) * 150 + (basuVRade - 1 - poradi) * 300};
-}
-
-int radaBasu(int bas) {
-    return (bas - 1) / basuVRade;
+Nastroj nastrojZvonika() {
+    Nastroj nastroj;
+    nastroj.pocetRad = pocetRad;
+    nastroj.basuVRade = basuVRade;
+    nastroj.sirkaKnofliku = 600;
+    nastroj.vyskaKnofliku = 570;
+    nastroj.klikaciPlocha = 615;
+    nastroj.zastavkaDiskantu = 9; // c1
+    nastroj.zastavkaBasu = 30;    // C
+    nastroj.vyjimecnaKlavesa = 28;
+    for (int n = 1; n <= pocetTonu; ++n) {
+        nastroj.knofliky.push_back({jePulton(n), hlavni(n), pomocny(n)});
+        nastroj.klavesy.push_back(klavesa(n));
+    }
+    for (int index = 0; index < 2 * cislicVeSloupci; ++index)
+        nastroj.cisla.push_back(cislo(index));
+    for (int n = 1; n <= radBasu * basuVRade; ++n)
+        nastroj.basy.push_back(bas(n));
+    return nastroj;
 }
 
 } // namespace zvonika

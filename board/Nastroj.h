@@ -1,56 +1,79 @@
 #pragma once
 
+#include <optional>
+#include <vector>
+
 namespace zvonika {
 
-/// The treble keyboard's geometry. Positions are in twips (1/1440 inch, 15 to a pixel at 96 dpi), Y grows
-/// downward.
-constexpr int pocetKnofliku =
-    49; ///< treble buttons are numbered 1..49, a semitone apart, 1 = e of the small octave
-constexpr int pocetBasu = 120; ///< bass buttons are numbered 1..120
-
-constexpr int sirkaKnofliku = 600;
-constexpr int vyskaKnofliku = 570;
-
+/// Top left corner in twips (1/1440 inch, 15 to a pixel at 96 dpi), Y grows downward.
 struct Poloha {
     int left = 0;
     int top = 0;
     friend bool operator==(const Poloha&, const Poloha&) = default;
 };
 
-/// True for the dark buttons (accidentals): 3, 5, 7, 10, 12 and the same plus 12, 24 and 36.
-bool jePulton(int knoflik);
+/// Free picture of a bass button, as its tactile mark is felt.
+enum class ObrazBasu { Bezny, Mriz, C };
 
-/// True when the tone has a second button in an outer row: every number but 1 and the multiples of 3.
-bool maPomocny(int knoflik);
+/// What an instrument is like: which buttons, keys and basses it has and where they stand. It is made once
+/// and handed to the models; who shows or counts buttons asks theirs. Lengths are twips. Buttons, keys and
+/// basses are numbered from 1, number labels from 0; a number beyond the last one is a programming error.
+struct Nastroj {
+    struct Misto {
+        int rada = 0; ///< 1..`pocetRad`, as the row covers are counted: from the right
+        Poloha poloha;
+        Poloha otocena; ///< on the board that is turned over, where every row runs the other way
+        const Poloha& kde(bool otoceno) const { return otoceno ? otocena : poloha; }
+    };
+    struct Knoflik {
+        bool pulton = false; ///< an accidental: dark
+        Misto hlavni;
+        std::optional<Misto> pomocny; ///< the second button of the same tone, in an outer row
+    };
+    /// Piano key of a treble button.
+    struct Klavesa {
+        Poloha poloha;
+        int sirka = 0;
+        int vyska = 0;
+        Poloha ton; ///< its label lblTonKlav
+    };
+    /// Number label beside the treble board.
+    struct Cislo {
+        Poloha poloha;
+        Poloha obracena; ///< in the reversed layout, where some lie on top of others
+        int text = 0;    ///< the same on the board turned over
+    };
+    struct Bas {
+        int rada = 0; ///< 0..5: counter-bass, fundamental, major, minor, seventh, diminished
+        Poloha poloha;
+        ObrazBasu obraz = ObrazBasu::Bezny;
+    };
 
-/// Row of the main button counted as the row covers are: 4 (row B), 3 (row C) or 2 (row A).
-int rada(int knoflik);
-/// Row of the auxiliary button: 5 (outer left) or 1 (outer right); 0 when there is none.
-int radaPomocneho(int knoflik);
+    int pocetKnofliku() const { return static_cast<int>(knofliky.size()); }
+    int pocetCisel() const { return static_cast<int>(cisla.size()); }
+    int pocetBasu() const { return static_cast<int>(basy.size()); }
 
-/// Place of a button. `otoceno`: on the board that is turned over, where every row runs the other way. Rows
-/// are reversed in place but for row B, which moves up by one button: 2 stands level with 1 again.
-Poloha polohaKnofliku(int knoflik, bool otoceno = false);
-Poloha polohaPomocneho(int knoflik, bool otoceno = false); ///< only where maPomocny()
+    const Knoflik& knoflik(int n) const { return knofliky.at(static_cast<std::size_t>(n - 1)); }
+    const Klavesa& klavesa(int n) const { return klavesy.at(static_cast<std::size_t>(n - 1)); }
+    const Cislo& cislo(int index) const { return cisla.at(static_cast<std::size_t>(index)); }
+    const Bas& bas(int n) const { return basy.at(static_cast<std::size_t>(n - 1)); }
 
-/// Left edge of row 1..5.
-int levyOkrajRady(int rada);
+    int pocetRad = 0; ///< of the treble board
+    int basuVRade = 0;
+    int sirkaKnofliku = 0; ///< of the picture
+    int vyskaKnofliku = 0;
+    int klikaciPlocha = 0;    ///< side of the click area, from the same corner
+    int zastavkaDiskantu = 1; ///< where a hand finds the board: the button that Tab leads to first
+    int zastavkaBasu = 1;
+    int vyjimecnaKlavesa = 0;      ///< starts in window background; 0 where none does
+    std::vector<Knoflik> knofliky; ///< a semitone apart
+    std::vector<Klavesa> klavesy;
+    std::vector<Cislo> cisla; ///< the right column upward, then the left one
+    std::vector<Bas> basy;
+};
 
-/// Number labels 0..31 beside the board: 0..15 on the right, 16..31 on the left. With `obracene` the labels
-/// 0..12 and 13..24 take the descending positions of the reversed layout, on top of others.
-Poloha polohaCisla(int index, bool obracene);
-/// What label 0..31 reads: "1" to "8" upward and "8" down to "1", the same on the board turned over.
-int textCisla(int index);
-
-/// Piano key of a tone: left and top edge, and its size.
-Poloha polohaKlavesy(int knoflik);
-int sirkaKlavesy(int knoflik);         ///< 1575 for naturals, 975 for accidentals
-int vyskaKlavesy(int knoflik);         ///< 255 or 200
-Poloha polohaTonuKlavesy(int knoflik); ///< its label lblTonKlav
-
-/// Top-left of a bass button in its grid of six vertical runs (columns of 20, lowest number at the bottom).
-Poloha polohaBasu(int bas);
-/// 0..5: counter-bass, fundamental, major, minor, seventh, diminished.
-int radaBasu(int bas);
+/// The instrument that Zvonika teaches: 49 treble buttons in three rows with two auxiliary ones, the lowest e
+/// of the small octave, and 120 basses.
+Nastroj nastrojZvonika();
 
 } // namespace zvonika

@@ -41,11 +41,13 @@ struct TrebleBoard::Pohled {
     QString ton;
 };
 
-TrebleBoard::TrebleBoard(QObject* parent) : QObject(parent) {
+TrebleBoard::TrebleBoard(const Nastroj& nastroj, QObject* parent)
+    : QObject(parent), nastroj_(nastroj), knofliky_(nastroj.knofliky.size() + 1),
+      zabrany_(static_cast<std::size_t>(nastroj.pocetRad) + 1) {
     znacky_.knofliky.resize(knofliky_.size());
-    for (int n = 1; n <= pocetKnofliku; ++n)
+    for (int n = 1; n <= nastroj_.pocetKnofliku(); ++n)
         vratBarvuKlavesy(n);
-    znacka(28).klavesa = BarvaKlavesy::WindowBackground;
+    if (const int n = nastroj.vyjimecnaKlavesa) znacka(n).klavesa = BarvaKlavesy::WindowBackground;
 }
 
 bool TrebleBoard::oznacen(int n) const {
@@ -90,7 +92,7 @@ void TrebleBoard::nastavZnacku(int n, bool oznacen) {
 
 void TrebleBoard::ukazZnacky(const ZnackyDiskantu& znacky) {
     znacky_.poradi = znacky.poradi;
-    for (int n = 1; n <= pocetKnofliku; ++n) {
+    for (int n = 1; n <= nastroj_.pocetKnofliku(); ++n) {
         const Pohled predtim = pohled(n);
         znacka(n) = znacky.knofliky.at(static_cast<std::size_t>(n));
         znacka(n).dotek = std::min(znacka(n).dotek, nejvyse(n));
@@ -118,7 +120,7 @@ void TrebleBoard::ukazHmat(int n, StavKnofliku smer) {
 
 void TrebleBoard::odeberHmat() {
     odeberInterval();
-    for (int n = 1; n <= pocetKnofliku; ++n) {
+    for (int n = 1; n <= nastroj_.pocetKnofliku(); ++n) {
         const Pohled predtim = pohled(n);
         knoflik(n).hmat = StavKnofliku::Volny;
         znacka(n).dotek = Dotek::Dole;
@@ -160,7 +162,7 @@ void TrebleBoard::nastavPopisPomocneho(int n, const QString& popis) {
 
 void TrebleBoard::nastavNazvy(bool zapnuto, const QString& stupnice) {
     const bool prepnuto = zmen(nazvy_, zapnuto);
-    for (int n = 1; n <= pocetKnofliku; ++n) {
+    for (int n = 1; n <= nastroj_.pocetKnofliku(); ++n) {
         const QString novy = zapnuto ? nazevTonu(CisloTonu(n), Key(stupnice)).nazev.text() : QString();
         const QString stary = std::exchange(knoflik(n).nazev, novy);
         nastavPopis(n, prejmenuj(popis(n), stary, novy));
@@ -170,7 +172,7 @@ void TrebleBoard::nastavNazvy(bool zapnuto, const QString& stupnice) {
 }
 
 void TrebleBoard::vyprazdniPopisy() {
-    for (int n = 1; n <= pocetKnofliku; ++n) {
+    for (int n = 1; n <= nastroj_.pocetKnofliku(); ++n) {
         nastavPopis(n, knoflik(n).nazev);
         nastavPopisPomocneho(n, knoflik(n).nazev);
     }
@@ -194,17 +196,20 @@ void TrebleBoard::nastavTonKlavesy(int n, const QString& ton) {
 }
 
 void TrebleBoard::prejmenujKlavesy(const QString& stupnice) {
-    for (int n = 1; n <= pocetKnofliku; ++n)
-        if (!tonKlavesy(n).isEmpty()) nastavTonKlavesy(n, nazevTonu(CisloTonu(n), Key(stupnice)).nazev.text());
+    for (int n = 1; n <= nastroj_.pocetKnofliku(); ++n)
+        if (!tonKlavesy(n).isEmpty())
+            nastavTonKlavesy(n, nazevTonu(CisloTonu(n), Key(stupnice)).nazev.text());
 }
 
 void TrebleBoard::vyprazdniTonyKlaves() {
-    for (int n = 1; n <= pocetKnofliku; ++n)
+    for (int n = 1; n <= nastroj_.pocetKnofliku(); ++n)
         nastavTonKlavesy(n, {});
 }
 
 void TrebleBoard::nastavZabranu(int rada, bool zakryta) {
-    if (zmen(zabrany_.at(static_cast<std::size_t>(rada)), zakryta)) Q_EMIT zabranyZmeneny();
+    if (zabrany_.at(static_cast<std::size_t>(rada)) == zakryta) return;
+    zabrany_.at(static_cast<std::size_t>(rada)) = zakryta;
+    Q_EMIT zabranyZmeneny();
 }
 
 bool TrebleBoard::zakryta(int rada) const {
@@ -218,7 +223,7 @@ void TrebleBoard::nastavCislovani(bool viditelne) {
 
 QString TrebleBoard::popisCisla(int index) const {
     if (otoceno_ && jePismeno(index)) return slovoOdzadu.at(index - prvniPismeno);
-    return QString::number(textCisla(index));
+    return QString::number(nastroj_.cislo(index).text);
 }
 
 bool TrebleBoard::cisloViditelne(int index) const {
@@ -243,7 +248,7 @@ void TrebleBoard::uvolniDiskant() {
 }
 
 void TrebleBoard::uvolniKlavesy() {
-    for (int n = 1; n <= pocetKnofliku; ++n) {
+    for (int n = 1; n <= nastroj_.pocetKnofliku(); ++n) {
         const Pohled predtim = pohled(n);
         vratBarvuKlavesy(n);
         oznamZmenu(n, predtim);

@@ -1,11 +1,10 @@
 #pragma once
 
-#include "board/TrebleLayout.h"
+#include "board/Nastroj.h"
 
 #include <QObject>
 #include <QString>
 
-#include <array>
 #include <vector>
 
 namespace zvonika {
@@ -14,7 +13,7 @@ namespace zvonika {
 enum class StavKnofliku { Volny, Cerveny, Tah, Tlak, Hnedy };
 
 /// Background of a piano key. The names are the system colours that the keys are said to have: caption text
-/// is the white of naturals, window text the black of accidentals; key 28 starts in window background.
+/// is the white of naturals, window text the black of accidentals; one key starts in window background.
 enum class BarvaKlavesy { CaptionText, WindowText, WindowBackground, Cervena, Hneda };
 
 /// How far up the last touch of a button lies. What was shown there later covers it.
@@ -35,14 +34,16 @@ struct ZnackyDiskantu {
 };
 
 /// The treble board as it is shown and marked: pictures, marks, captions and the piano beside it. Knows
-/// nothing of songs. Buttons are numbered 1..49; any other number is a programming error.
+/// nothing of songs. Buttons are numbered as on its instrument; any other number is a programming error.
 ///
 /// What a button shows is what was last put on it: the mark (red or free), the shown grip or the interval.
 /// What lies under it is remembered and seen again when that is taken away.
 class TrebleBoard : public QObject {
     Q_OBJECT
 public:
-    explicit TrebleBoard(QObject* parent = nullptr);
+    explicit TrebleBoard(const Nastroj& nastroj, QObject* parent = nullptr);
+
+    const Nastroj& nastroj() const { return nastroj_; }
 
     bool oznacen(int n) const; ///< lbl(n).Tag is "1"
     /// Marks the button (red, and its key) or releases it (free, the key in its own colour and nameless).
@@ -88,7 +89,7 @@ public:
     void prejmenujKlavesy(const QString& stupnice);
     void vyprazdniTonyKlaves();
 
-    void nastavZabranu(int rada, bool zakryta); ///< row cover 1..5
+    void nastavZabranu(int rada, bool zakryta); ///< row cover 1..`pocetRad`
     bool zakryta(int rada) const;
     void nastavCislovani(bool viditelne); ///< all number labels 0..31
     bool cislovani() const { return cislovani_; }
@@ -133,10 +134,14 @@ private:
     void oznamZmenu(int n, const Pohled& predtim);
     void vratBarvuKlavesy(int n);
 
-    std::array<Knoflik, pocetKnofliku + 1> knofliky_;
+    bool jePulton(int n) const { return nastroj_.knoflik(n).pulton; }
+    bool maPomocny(int n) const { return nastroj_.knoflik(n).pomocny.has_value(); }
+
+    Nastroj nastroj_;
+    std::vector<Knoflik> knofliky_; ///< by number
     ZnackyDiskantu znacky_;
-    int interval_ = 0; ///< the button whose tone it is; 0 where none is shown
-    std::array<bool, 6> zabrany_{};
+    int interval_ = 0;          ///< the button whose tone it is; 0 where none is shown
+    std::vector<bool> zabrany_; ///< by number
     bool nazvy_ = false;
     bool cislovani_ = false;
     bool obraceneCislovani_ = false;

@@ -17,8 +17,6 @@ namespace {
 // Syllables shown on each side of the current row.
 constexpr int sousedu = 2;
 
-}
-
 } // namespace
 
 ZobrazeniHmatu::ZobrazeniHmatu(const Pisen& pisen, const PlochyHmatu& plochy, UkazPrstoklad ukazPrstoklad)
@@ -55,7 +53,7 @@ SmerMechu ZobrazeniHmatu::ZobrazHmatPotichu() {
     if (smer != SmerMechu::Neuveden) zobrazenTlak_ = smer == SmerMechu::Tlak;
     odeberPrstoklad();
     ukazHmat(okoli);
-    if (ZobrazeniPrstokladu::jePlatny(okoli.hmat().prstoklad))
+    if (ZobrazeniPrstokladu::jePlatny(okoli.hmat().prstoklad, plochy_.diskant.nastroj()))
         ukazPrstoklad_(okoli.hmat().prstoklad);
     else
         plochy_.panel.upozorneni += QStringLiteral(" Prstoklad ve sloupci V není platný.");

@@ -1,4 +1,4 @@
-#include "board/TrebleLayout.h"
+#include "board/Nastroj.h"
 
 #include <gtest/gtest.h>
 #include <ostream>
@@ -13,96 +13,70 @@ void PrintTo(const Poloha& poloha, std::ostream* out) {
 
 namespace {
 
-TEST(TrebleLayout, ButtonsStandInTheirRows) {
-    const struct {
-        int n, rada;
-        Poloha poloha;
-    } tabulka[] = {
-        {1, 2, {6000, 9720}}, {2, 4, {4800, 9720}},  {3, 3, {5400, 9360}},
-        {4, 2, {6000, 9120}}, {47, 4, {4800, 720}},  {48, 3, {5400, 360}},
-        {49, 2, {6000, 120}}, {14, 4, {4800, 7320}}, {24, 3, {5400, 5160}},
-    };
-    for (const auto& [n, ocekavanaRada, poloha] : tabulka) {
-        EXPECT_EQ(rada(n), ocekavanaRada) << n;
-        EXPECT_EQ(polohaKnofliku(n), poloha) << n;
-    }
-}
+const Nastroj nastroj = nastrojZvonika();
 
-TEST(TrebleLayout, OuterRowsRepeatRowsAAndB) {
-    const struct {
-        int n, rada;
-        Poloha poloha;
-    } tabulka[] = {
-        {4, 5, {4200, 9360}}, {49, 5, {4200, 360}}, {7, 5, {4200, 8760}},
-        {2, 1, {6600, 9360}}, {47, 1, {6600, 360}}, {5, 1, {6600, 8760}},
-    };
-    for (const auto& [n, ocekavanaRada, poloha] : tabulka) {
-        EXPECT_EQ(radaPomocneho(n), ocekavanaRada) << n;
-        EXPECT_EQ(polohaPomocneho(n), poloha) << n;
-    }
-}
-
-TEST(TrebleLayout, TurnedOverEveryRowRunsTheOtherWay) {
+TEST(Nastroj, ButtonsStandInTheirRows) {
     const struct {
         int n;
-        Poloha hlavni, pomocny;
+        Nastroj::Misto hlavni, pomocny;
     } tabulka[] = {
-        {49, {6000, 9720}, {4200, 9360}},
-        {46, {6000, 9120}, {4200, 8760}},
-        {4, {6000, 720}, {4200, 360}},
-        {1, {6000, 120}, {}},
-        {47, {4800, 9120}, {6600, 9360}},
-        {44, {4800, 8520}, {6600, 8760}},
-        {2, {4800, 120}, {6600, 360}},
-        {48, {5400, 9360}, {}},
-        {3, {5400, 360}, {}},
+        {1, {2, {6000, 9720}, {6000, 120}}, {}},
+        {2, {4, {4800, 9720}, {4800, 120}}, {1, {6600, 9360}, {6600, 360}}},
+        {3, {3, {5400, 9360}, {5400, 360}}, {}},
+        {4, {2, {6000, 9120}, {6000, 720}}, {5, {4200, 9360}, {4200, 360}}},
+        {46, {2, {6000, 720}, {6000, 9120}}, {5, {4200, 960}, {4200, 8760}}},
+        {47, {4, {4800, 720}, {4800, 9120}}, {1, {6600, 360}, {6600, 9360}}},
+        {48, {3, {5400, 360}, {5400, 9360}}, {}},
+        {49, {2, {6000, 120}, {6000, 9720}}, {5, {4200, 360}, {4200, 9360}}},
     };
     for (const auto& [n, hlavni, pomocny] : tabulka) {
-        EXPECT_EQ(polohaKnofliku(n, true), hlavni) << n;
-        EXPECT_EQ(maPomocny(n) ? polohaPomocneho(n, true) : Poloha(), pomocny) << n;
+        const auto porovnej = [n = n](const Nastroj::Misto& misto, const Nastroj::Misto& cekane) {
+            EXPECT_EQ(misto.rada, cekane.rada) << n;
+            EXPECT_EQ(misto.kde(false), cekane.poloha) << n;
+            EXPECT_EQ(misto.kde(true), cekane.otocena) << n;
+        };
+        porovnej(nastroj.knoflik(n).hlavni, hlavni);
+        porovnej(nastroj.knoflik(n).pomocny.value_or(Nastroj::Misto()), pomocny);
     }
-    for (int n = 4; n <= pocetKnofliku; ++n) // row by row, without gaps
-        EXPECT_EQ(polohaKnofliku(n, true).top, polohaKnofliku(n - 3, true).top + 600) << n;
 }
 
-TEST(TrebleLayout, ThirtyTwoButtonsHaveATwin) {
+TEST(Nastroj, ThirtyTwoButtonsHaveATwinAndRowsHaveNoGaps) {
+    ASSERT_EQ(nastroj.pocetKnofliku(), 49);
     int pocet = 0;
-    for (int n = 1; n <= pocetKnofliku; ++n) {
-        const bool dvojce = n != 1 && n % 3 != 0;
-        EXPECT_EQ(maPomocny(n), dvojce) << n;
-        EXPECT_EQ(radaPomocneho(n) != 0, dvojce) << n;
+    for (int n = 1; n <= 49; ++n) {
+        const bool dvojce = nastroj.knoflik(n).pomocny.has_value();
+        EXPECT_EQ(dvojce, n != 1 && n % 3 != 0) << n;
         pocet += dvojce;
+        if (n <= 3) continue;
+        const auto &misto = nastroj.knoflik(n).hlavni, &pod = nastroj.knoflik(n - 3).hlavni;
+        EXPECT_EQ(misto.poloha.top, pod.poloha.top - 600) << n;
+        EXPECT_EQ(misto.otocena.top, pod.otocena.top + 600) << n;
     }
     EXPECT_EQ(pocet, 32);
 }
 
-TEST(TrebleLayout, NoTwoButtonsShareAPlace) {
+TEST(Nastroj, NoTwoButtonsShareAPlace) {
     for (const bool otoceno : {false, true}) {
         std::set<std::pair<int, int>> mista;
         const auto zaber = [&](Poloha p) {
             EXPECT_TRUE(mista.insert({p.left, p.top}).second) << p.left << ' ' << p.top;
         };
-        for (int n = 1; n <= pocetKnofliku; ++n) {
-            zaber(polohaKnofliku(n, otoceno));
-            if (maPomocny(n)) zaber(polohaPomocneho(n, otoceno));
+        for (const Nastroj::Knoflik& knoflik : nastroj.knofliky) {
+            zaber(knoflik.hlavni.kde(otoceno));
+            if (knoflik.pomocny) zaber(knoflik.pomocny->kde(otoceno));
         }
-        for (int bas = 1; bas <= pocetBasu; ++bas)
-            zaber(polohaBasu(bas));
+        for (const Nastroj::Bas& bas : nastroj.basy)
+            zaber(bas.poloha);
     }
 }
 
-TEST(TrebleLayout, RowCoverFiveIsTheLeftmost) {
-    for (int r = 1; r <= 5; ++r)
-        EXPECT_EQ(levyOkrajRady(r), 6600 - (r - 1) * 600);
-}
-
-TEST(TrebleLayout, AccidentalsAreThoseOfAScaleFromE) {
+TEST(Nastroj, AccidentalsAreThoseOfAScaleFromE) {
     const std::set<int> tmave{3, 5, 7, 10, 12, 15, 17, 19, 22, 24, 27, 29, 31, 34, 36, 39, 41, 43, 46, 48};
-    for (int n = 1; n <= pocetKnofliku; ++n)
-        EXPECT_EQ(jePulton(n), tmave.contains(n)) << n;
+    for (int n = 1; n <= 49; ++n)
+        EXPECT_EQ(nastroj.knoflik(n).pulton, tmave.contains(n)) << n;
 }
 
-TEST(TrebleLayout, NumberLabelsOfBothLayouts) {
+TEST(Nastroj, NumberLabelsOfBothLayouts) {
     const struct {
         int index;
         Poloha bezne, obracene;
@@ -114,42 +88,32 @@ TEST(TrebleLayout, NumberLabelsOfBothLayouts) {
         {16, {3840, 9480}, {3840, 5040}, 1}, {24, {3840, 4680}, {3840, 240}, 8},
         {25, {3840, 4080}, {3840, 4080}, 7}, {31, {3840, 480}, {3840, 480}, 1},
     };
-    for (const auto& radek : tabulka) {
-        EXPECT_EQ(polohaCisla(radek.index, false), radek.bezne) << radek.index;
-        EXPECT_EQ(polohaCisla(radek.index, true), radek.obracene) << radek.index;
-        EXPECT_EQ(textCisla(radek.index), radek.text) << radek.index;
+    EXPECT_EQ(nastroj.pocetCisel(), 32);
+    for (const auto& [index, bezne, obracene, text] : tabulka) {
+        EXPECT_EQ(nastroj.cislo(index).poloha, bezne) << index;
+        EXPECT_EQ(nastroj.cislo(index).obracena, obracene) << index;
+        EXPECT_EQ(nastroj.cislo(index).text, text) << index;
     }
 }
 
-TEST(TrebleLayout, PianoRunsFromTheFirstKeyToTheLast) {
-    EXPECT_EQ(polohaKlavesy(1), (Poloha{9720, 9840}));
-    EXPECT_EQ(polohaKlavesy(49), (Poloha{9720, 3120}));
-    for (int n = 2; n <= pocetKnofliku; ++n)
-        EXPECT_LT(polohaKlavesy(n).top, polohaKlavesy(n - 1).top + (jePulton(n - 1) ? 0 : 1)) << n;
-}
-
-TEST(TrebleLayout, KeysAndTheirLabelsHaveTheirKindsSize) {
-    const struct {
-        int n, sirka, vyska, leftTonu;
-    } tabulka[] = {{1, 1575, 255, 11400}, {3, 975, 200, 9240}, {28, 1575, 255, 11400}, {48, 975, 200, 9240}};
-    for (const auto& [n, sirka, vyska, leftTonu] : tabulka) {
-        EXPECT_EQ(sirkaKlavesy(n), sirka);
-        EXPECT_EQ(vyskaKlavesy(n), vyska);
-        EXPECT_EQ(polohaTonuKlavesy(n), (Poloha{leftTonu, polohaKlavesy(n).top})) << n;
+TEST(Nastroj, PianoKeysHaveTheirKindsSizeAndAccidentalsStraddleTheirNaturals) {
+    EXPECT_EQ(nastroj.klavesa(1).poloha, (Poloha{9720, 9840}));
+    EXPECT_EQ(nastroj.klavesa(49).poloha, (Poloha{9720, 3120}));
+    for (int n = 1; n <= 49; ++n) {
+        const bool pulton = nastroj.knoflik(n).pulton;
+        const auto& [poloha, sirka, vyska, ton] = nastroj.klavesa(n);
+        EXPECT_EQ(sirka, pulton ? 975 : 1575) << n;
+        EXPECT_EQ(vyska, pulton ? 200 : 255) << n;
+        EXPECT_EQ(ton, (Poloha{pulton ? 9240 : 11400, poloha.top})) << n;
+        if (!pulton) continue;
+        const int hranice = nastroj.klavesa(n - 1).poloha.top; // upper edge of the natural below
+        EXPECT_LT(poloha.top, hranice) << n;
+        EXPECT_GT(poloha.top + vyska, hranice) << n;
+        EXPECT_GT(poloha.top, nastroj.klavesa(n + 1).poloha.top) << n;
     }
 }
 
-TEST(TrebleLayout, AnAccidentalKeyStraddlesTheBorderOfItsNaturals) {
-    for (int n = 2; n < pocetKnofliku; ++n) {
-        if (!jePulton(n)) continue;
-        const int hranice = polohaKlavesy(n - 1).top; // upper edge of the natural below
-        EXPECT_LT(polohaKlavesy(n).top, hranice) << n;
-        EXPECT_GT(polohaKlavesy(n).top + vyskaKlavesy(n), hranice) << n;
-        EXPECT_GT(polohaKlavesy(n).top, polohaKlavesy(n + 1).top) << n;
-    }
-}
-
-TEST(TrebleLayout, BassesRunUpwardInSixRuns) {
+TEST(Nastroj, BassesRunUpwardInSixRunsAndThreeCarryTactileMarks) {
     const struct {
         int bas, rada;
         Poloha poloha;
@@ -158,10 +122,16 @@ TEST(TrebleLayout, BassesRunUpwardInSixRuns) {
         {60, 2, {1320, 1560}},  {80, 3, {1920, 1710}},  {100, 4, {2520, 1860}},
         {120, 5, {3120, 2010}}, {101, 5, {3120, 7710}}, {30, 1, {720, 4410}},
     };
-    for (const auto& [bas, ocekavanaRada, poloha] : tabulka) {
-        EXPECT_EQ(radaBasu(bas), ocekavanaRada) << bas;
-        EXPECT_EQ(polohaBasu(bas), poloha) << bas;
+    for (const auto& [bas, rada, poloha] : tabulka) {
+        EXPECT_EQ(nastroj.bas(bas).rada, rada) << bas;
+        EXPECT_EQ(nastroj.bas(bas).poloha, poloha) << bas;
     }
+    ASSERT_EQ(nastroj.pocetBasu(), 120);
+    for (int bas = 1; bas <= 120; ++bas)
+        EXPECT_EQ(nastroj.bas(bas).obraz, bas == 30                ? ObrazBasu::C
+                                          : bas == 26 || bas == 34 ? ObrazBasu::Mriz
+                                                                   : ObrazBasu::Bezny)
+            << bas;
 }
 
 } // namespace

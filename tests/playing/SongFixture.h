@@ -110,11 +110,11 @@ protected:
     SongPanel panel;
     CommandStates prikazy;
     Pas pas;
-    TrebleBoard diskant;
-    BassBoard basy;
+    TrebleBoard diskant{nastrojZvonika()};
+    BassBoard basy{nastrojZvonika()};
     ZobrazovaciOsnova osnova;
     QTemporaryDir slozkaProgramu;
-    BassTable tabulka{tabulkaBasu(slozkaProgramu.path())};
+    BassTable tabulka{tabulkaBasu(slozkaProgramu.path()), 120};
     QStringList prstoklady; ///< fingerings that were shown
     int uvolneno = 0;       ///< how often the board was released
     int zastavenoKrokovani = 0;

@@ -26,7 +26,7 @@ protected:
     void naRadek(int radek) { excel->selectRange(QStringLiteral("B%1").arg(radek)); }
     QVector<int> knofliky(StavKnofliku stav) const {
         QVector<int> nalezene;
-        for (int n = 1; n <= pocetKnofliku; ++n)
+        for (int n = 1; n <= diskant.nastroj().pocetKnofliku(); ++n)
             if (diskant.stav(n) == stav) nalezene.append(n);
         return nalezene;
     }
