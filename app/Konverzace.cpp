@@ -11,35 +11,37 @@ OkoliPisne okoliPisne(Modely& modely, Dialogs& dialogs) {
 } // namespace
 
 Konverzace::Konverzace(Modely& modely, const Prostredi& prostredi, std::function<void()> otevriVyberStupnice)
-    : modely_(modely), dialogs_(prostredi.dialogs), notyZapis(modely.zapisovaciOsnova, prostredi.dialogs),
-      prstoklad(prostredi.dialogs), zobrazeniPrstokladu(modely.diskant, prostredi.dialogs),
-      uvolneni(modely.diskant, modely.basy, modely.zapisovaciOsnova, modely.zobrazovaciOsnova),
-      zobrazeniHmatu(
+    : modely_(modely), dialogs_(prostredi.dialogs), notyZapis_(modely.zapisovaciOsnova, prostredi.dialogs),
+      prstoklad_(prostredi.dialogs), zobrazeniPrstokladu_(modely.diskant, prostredi.dialogs),
+      uvolneni_(modely.diskant, modely.basy, modely.zapisovaciOsnova, modely.zobrazovaciOsnova),
+      zobrazeniHmatu_(
           modely.pisen,
           {modely.diskant, modely.basy, modely.tabulkaBasu, modely.zobrazovaciOsnova, modely.panel},
-          [this](const QString& zaznam) { zobrazeniPrstokladu.ZobrazPrstoklad(zaznam); }),
-      pasPisne(modely.pisen, modely.pas),
-      navigace(okoliPisne(modely, prostredi.dialogs), zobrazeniHmatu, pasPisne, modely.diskant,
-               [this] { uvolneni.uvolniVse(); }),
-      zvuk(okoliPisne(modely, prostredi.dialogs), prostredi.drive, prostredi.media),
-      zivotPisne(okoliPisne(modely, prostredi.dialogs), prostredi.drive,
-                 {zobrazeniHmatu, pasPisne, navigace, zvuk, [this] { uvolneni.uvolniVse(); }}),
-      klikDiskantu(modely.diskant, notyZapis, modely.tonina, prostredi.dialogs,
-                   {std::move(otevriVyberStupnice),
-                    [&modely](const QString& veta) { modely.panel.upozorneni = veta; }}),
-      zapisNoty(modely.zapisovaciOsnova, klikDiskantu),
-      zapisBasu(modely.basy, modely.tabulkaBasu, prostredi.dialogs),
-      poZapisu(okoliPisne(modely, prostredi.dialogs), zobrazeniHmatu, pasPisne),
-      zapisHmatu(okoliZapisu(), modely.diskant),
-      zapisHmatuZNot(okoliZapisu(), modely.zapisovaciOsnova, notyZapis),
-      intervaly({modely.pisen, prostredi.dialogs, modely.panel, modely.diskant, modely.zobrazovaciOsnova,
-                 modely.tonina, modely.krokyIntervalu, prostredi.drive.programFolder()}),
-      volbaStupnice(prostredi.dialogs, modely.tonina, modely.zapisovaciOsnova),
-      volbyHmatniku(modely.diskant, modely.tonina, prostredi.nastaveni, modely.stavy),
-      ukonceniExcelu(modely.pisen, prostredi.dialogs) {}
+          [this](const QString& zaznam) { zobrazeniPrstokladu_.ZobrazPrstoklad(zaznam); }),
+      pasPisne_(modely.pisen, modely.pas),
+      navigace_(okoliPisne(modely, prostredi.dialogs), zobrazeniHmatu_, pasPisne_, modely.diskant,
+                [this] { uvolneni_.uvolniVse(); }),
+      zvuk_(okoliPisne(modely, prostredi.dialogs), prostredi.drive, prostredi.media),
+      zivotPisne_(okoliPisne(modely, prostredi.dialogs), prostredi.drive,
+                  {zobrazeniHmatu_, pasPisne_, navigace_, zvuk_, [this] { uvolneni_.uvolniVse(); }}),
+      klikDiskantu_(modely.diskant, notyZapis_, modely.tonina, prostredi.dialogs,
+                    {std::move(otevriVyberStupnice),
+                     [&modely](const QString& veta) { modely.panel.upozorneni = veta; }}),
+      zapisNoty_(modely.zapisovaciOsnova, klikDiskantu_),
+      zapisBasu_(modely.basy, modely.tabulkaBasu, prostredi.dialogs),
+      poZapisu_(okoliPisne(modely, prostredi.dialogs), zobrazeniHmatu_, pasPisne_),
+      zapisHmatu_(okoliZapisu(), modely.diskant),
+      zapisHmatuZNot_(okoliZapisu(), modely.zapisovaciOsnova, notyZapis_),
+      intervaly_({modely.pisen, prostredi.dialogs, modely.panel, modely.diskant, modely.zobrazovaciOsnova,
+                  modely.tonina, modely.krokyIntervalu, prostredi.drive.programFolder()}),
+      volbaStupnice_(prostredi.dialogs, modely.tonina, modely.zapisovaciOsnova),
+      volbyHmatniku_(modely.diskant, modely.tonina, prostredi.nastaveni, modely.stavy),
+      ukonceniExcelu_(modely.pisen, prostredi.dialogs) {
+    zivotPisne_.stavBezPisne();
+}
 
 OkoliZapisu Konverzace::okoliZapisu() {
-    return {modely_.pisen, dialogs_, prstoklad, zapisBasu, poZapisu, modely_.tonina};
+    return {modely_.pisen, dialogs_, prstoklad_, zapisBasu_, poZapisu_, modely_.tonina};
 }
 
 } // namespace zvonika

@@ -20,40 +20,69 @@
 
 namespace zvonika {
 
+/// What a song is opened, walked through and ended by.
+struct KonverzacePisne {
+    Navigace& navigace;
+    Zvuk& zvuk;
+    ZivotPisne& zivotPisne;
+    UkonceniExcelu& ukonceniExcelu;
+};
+
+/// What a grip is put together and recorded by.
+struct KonverzaceZapisu {
+    clsNotyZapis& notyZapis;
+    Prstoklad& prstoklad;
+    Uvolneni& uvolneni;
+    KlikDiskantu& klikDiskantu;
+    ZapisNoty& zapisNoty;
+    ZapisHmatu& zapisHmatu;
+    ZapisHmatuZNot& zapisHmatuZNot;
+};
+
+struct KonverzacePomucek {
+    Intervaly& intervaly;
+    VolbaStupnice& volbaStupnice;
+    VolbyHmatniku& volbyHmatniku;
+};
+
 /// All conversations of the main window, built over the models and ports in the order in which they need each
-/// other.
+/// other. It owns them; what it hands out is good as long as it lives.
 class Konverzace {
 public:
-    /// `otevriVyberStupnice`: shows the key dialog and returns when it is closed.
+    /// No song is open then, and the commands say so. `otevriVyberStupnice`: shows the key dialog and returns
+    /// when it is closed.
     Konverzace(Modely& modely, const Prostredi& prostredi, std::function<void()> otevriVyberStupnice);
 
-private:
-    Modely& modely_;
-    Dialogs& dialogs_;
-
-public:
-    clsNotyZapis notyZapis;
-    Prstoklad prstoklad;
-    ZobrazeniPrstokladu zobrazeniPrstokladu;
-    Uvolneni uvolneni;
-    ZobrazeniHmatu zobrazeniHmatu;
-    PasPisne pasPisne;
-    Navigace navigace;
-    Zvuk zvuk;
-    ZivotPisne zivotPisne;
-    KlikDiskantu klikDiskantu;
-    ZapisNoty zapisNoty;
-    ZapisBasu zapisBasu;
-    PoZapisu poZapisu;
-    ZapisHmatu zapisHmatu;
-    ZapisHmatuZNot zapisHmatuZNot;
-    Intervaly intervaly;
-    VolbaStupnice volbaStupnice;
-    VolbyHmatniku volbyHmatniku;
-    UkonceniExcelu ukonceniExcelu;
+    KonverzacePisne pisen() { return {navigace_, zvuk_, zivotPisne_, ukonceniExcelu_}; }
+    KonverzaceZapisu zapis() {
+        return {notyZapis_, prstoklad_, uvolneni_, klikDiskantu_, zapisNoty_, zapisHmatu_, zapisHmatuZNot_};
+    }
+    KonverzacePomucek pomucky() { return {intervaly_, volbaStupnice_, volbyHmatniku_}; }
 
 private:
     OkoliZapisu okoliZapisu();
+
+    Modely& modely_;
+    Dialogs& dialogs_;
+    clsNotyZapis notyZapis_;
+    Prstoklad prstoklad_;
+    ZobrazeniPrstokladu zobrazeniPrstokladu_;
+    Uvolneni uvolneni_;
+    ZobrazeniHmatu zobrazeniHmatu_;
+    PasPisne pasPisne_;
+    Navigace navigace_;
+    Zvuk zvuk_;
+    ZivotPisne zivotPisne_;
+    KlikDiskantu klikDiskantu_;
+    ZapisNoty zapisNoty_;
+    ZapisBasu zapisBasu_;
+    PoZapisu poZapisu_;
+    ZapisHmatu zapisHmatu_;
+    ZapisHmatuZNot zapisHmatuZNot_;
+    Intervaly intervaly_;
+    VolbaStupnice volbaStupnice_;
+    VolbyHmatniku volbyHmatniku_;
+    UkonceniExcelu ukonceniExcelu_;
 };
 
 } // namespace zvonika

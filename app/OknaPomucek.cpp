@@ -7,10 +7,15 @@
 #include "app/Prostredi.h"
 #include "app/ui/FrmTabulka.h"
 #include "song/SongPanel.h"
+#include "theory/ui/FrmStupnice.h"
 
 #include <QScopeGuard>
 
 namespace zvonika {
+
+void cmdStupnice(QWidget& okno, VolbaStupnice& volba, const Tonina& tonina) {
+    FrmStupnice(volba, tonina, &okno).exec();
+}
 
 void mnuPrekrytRady(QWidget& okno, TrebleBoard& diskant, const Prostredi& prostredi) {
     NastaveniRad nastaveni(prostredi.nastaveni, diskant, prostredi.dialogs);

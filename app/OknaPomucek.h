@@ -7,9 +7,14 @@ namespace zvonika {
 struct Pisen;
 struct Prostredi;
 class SongPanel;
+class Tonina;
 class TrebleBoard;
+class VolbaStupnice;
 
-// The dialogs of the practice aids, each from opening to closing, over the main window `okno`.
+// Dialogs that are about no song, each from opening to closing, over the main window `okno`.
+
+/// The choice of the key.
+void cmdStupnice(QWidget& okno, VolbaStupnice& volba, const Tonina& tonina);
 
 /// The row restrictions. The main window hides while the dialog is up and comes back however it ends.
 void mnuPrekrytRady(QWidget& okno, TrebleBoard& diskant, const Prostredi& prostredi);

@@ -20,6 +20,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QLibraryInfo>
 #include <QPalette>
 #include <QScreen>
 #include <QStandardPaths>
@@ -65,7 +66,7 @@ void nastavVzhled(QApplication& aplikace) {
     paleta.setColor(QPalette::HighlightedText, Qt::white);
     QApplication::setPalette(paleta);
     QApplication::setWindowIcon(ikonaProgramu());
-    static CzechTranslator cestina;
+    static CzechTranslator cestina({QLibraryInfo::path(QLibraryInfo::TranslationsPath), slozkaProgramu()});
     aplikace.installTranslator(&cestina);
 }
 
@@ -135,6 +136,7 @@ struct Sestava::Casti {
 };
 
 Sestava::Sestava(QApplication& aplikace, const Umisteni& umisteni) {
+    QCoreApplication::setApplicationVersion(QStringLiteral(ZVONIKA_VERSION));
     nastavVzhled(aplikace);
     casti_ = std::make_unique<Casti>(umisteni);
     Casti::umisti(casti_->program.okno(), casti_->okna.hlavni);

@@ -100,7 +100,7 @@ def candidates(bin_folder):
     missing = []
     if shutil.which("soffice"):
         # Its first instance is started and ended, and the second is there, before the window is painted.
-        found.append(("Zvonika, Calc", warm_probe, [own, "libreoffice"]))
+        found.append(("Zvonika, Calc", warm_probe, [own, "--tabulka=libreoffice"]))
     else:
         missing.append("LibreOffice")
     for name, commands in PEERS.items():

@@ -1,5 +1,4 @@
-// start_probe [libreoffice] FOLDER: starts the program as its own main does, on a home folder of its own, and
-// prints how long it took until the main window was painted.
+// start_probe [--tabulka libreoffice] FOLDER: see --help.
 #include "app/Program.h"
 #include "app/Sestava.h"
 #include "app/VolbaTabulky.h"
@@ -7,18 +6,25 @@
 #include "platform/IniSettingsStore.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QDir>
-
-#include <cstring>
 
 int main(int argc, char* argv[]) {
     zvonika::bench::StartClock clock;
     clock.mark("main");
     QApplication aplikace(argc, argv);
     clock.mark("application");
-    const bool calc = argc > 1 && std::strcmp(argv[1], "libreoffice") == 0;
-    const int misto = calc ? 2 : 1;
-    QDir slozka(argc > misto ? QString::fromLocal8Bit(argv[misto]) : QDir::tempPath());
+    QCommandLineParser zadano;
+    zadano.setApplicationDescription(
+        "Starts the program as its own main does, on a home folder of its own, and prints "
+        "how long it took until the main window was painted.");
+    zadano.addHelpOption();
+    zadano.addOption(
+        {"tabulka", "The spreadsheet to start with: vestavena or libreoffice.", "spreadsheet", "vestavena"});
+    zadano.addPositionalArgument("folder", "Holds the home folder and the settings.", "[FOLDER]");
+    zadano.process(aplikace);
+    const bool calc = zadano.value("tabulka") == u"libreoffice";
+    QDir slozka(zadano.positionalArguments().value(0, QDir::tempPath()));
     if (calc) {
         zvonika::IniSettingsStore nastaveni(slozka.filePath("calc/nastaveni/Tonavox12.ini"));
         zvonika::VolbaTabulky(nastaveni).zvol(zvonika::Tabulka::LibreOffice);

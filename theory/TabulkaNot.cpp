@@ -40,9 +40,9 @@ void TabulkaNot::rozeber() {
                              .arg(pocet());
 }
 
-std::optional<QString> TabulkaNot::ton(int polozka, const QString& tonina) const {
+std::optional<QString> TabulkaNot::ton(int polozka, const QString& stupnice) const {
     if (polozka < 0 || polozka >= pocet()) return std::nullopt;
-    const auto prvek = polozky_[static_cast<std::size_t>(polozka)].child(tonina.toUtf8().constData());
+    const auto prvek = polozky_[static_cast<std::size_t>(polozka)].child(stupnice.toUtf8().constData());
     if (!prvek) return std::nullopt;
     return QString::fromUtf8(prvek.text().get());
 }

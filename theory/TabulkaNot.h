@@ -25,9 +25,9 @@ public:
     /// Number of entries before the first one that lies outside the scale, the heading included.
     int pocetStupnu() const { return pocetStupnu_; }
 
-    /// How the tone is written in the key whose element is `tonina` ("Cdur"), to the letter; nothing where
+    /// How the tone is written in the key whose element is `stupnice` ("Cdur"), to the letter; nothing where
     /// the table has no such entry or the entry no such key.
-    std::optional<QString> ton(int polozka, const QString& tonina) const;
+    std::optional<QString> ton(int polozka, const QString& stupnice) const;
 
     /// One Czech sentence on why the table is of no use, or not whole; "" when it has what it should have.
     const QString& chyba() const { return chyba_; }

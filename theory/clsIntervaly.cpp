@@ -13,7 +13,7 @@ constexpr int posledniVychozi = 57;
 constexpr int nenalezen = 0;
 
 /// The name of the table's element for the key: "G dur" is Gdur.
-QString prvekToniny(const Key& stupnice) {
+QString prvekStupnice(const Key& stupnice) {
     QString prvek = stupnice.text();
     return prvek.remove(u' ').replace(QStringLiteral("Dur"), QStringLiteral("dur"));
 }
@@ -26,12 +26,12 @@ clsIntervaly::clsIntervaly(const QString& slozkaProgramu, Dialogs& dialogs)
 void clsIntervaly::UrciInterval(const ToneName& ton, const Key& stupnice, std::int16_t kroky,
                                 bool bezKontroly, ToneName& vysledek) const {
     vysledek = {};
-    const QString tonina = prvekToniny(stupnice);
-    const auto odkud = pozice(ton, tonina);
+    const QString prvek = prvekStupnice(stupnice);
+    const auto odkud = pozice(ton, prvek);
     if (!odkud) ohlasMimoTabulku();
     if (!odkud || *odkud == nenalezen) return;
     const int kam = *odkud + kroky;
-    const auto nota = stupen(kam, tonina);
+    const auto nota = stupen(kam, prvek);
     if (!nota)
         ohlasMimoTabulku();
     else if (kam < prvniVychozi)
@@ -43,22 +43,22 @@ void clsIntervaly::UrciInterval(const ToneName& ton, const Key& stupnice, std::i
 }
 
 bool clsIntervaly::zna(const ToneName& ton, const Key& stupnice) const {
-    return pozice(ton, prvekToniny(stupnice)).value_or(nenalezen) != nenalezen;
+    return pozice(ton, prvekStupnice(stupnice)).value_or(nenalezen) != nenalezen;
 }
 
-std::optional<int> clsIntervaly::pozice(const ToneName& ton, const QString& tonina) const {
+std::optional<int> clsIntervaly::pozice(const ToneName& ton, const QString& prvek) const {
     const int posledni = std::min(posledniVychozi, tabulka_.pocetStupnu() - 1);
     for (int i = prvniVychozi; i <= posledni; ++i)
-        if (stupen(i, tonina) == ton) return i;
+        if (stupen(i, prvek) == ton) return i;
     // The steps of a whole table end where they are marked to end.
     const bool vsechny = posledni == posledniVychozi || tabulka_.pocetStupnu() < tabulka_.pocet();
     return vsechny ? std::optional(nenalezen) : std::nullopt;
 }
 
-std::optional<ToneName> clsIntervaly::stupen(int pozice, const QString& tonina) const {
+std::optional<ToneName> clsIntervaly::stupen(int pozice, const QString& prvek) const {
     // What lies behind the last step belongs to no scale.
     if (pozice >= tabulka_.pocetStupnu()) return std::nullopt;
-    const auto nazev = tabulka_.ton(pozice, tonina);
+    const auto nazev = tabulka_.ton(pozice, prvek);
     return nazev ? std::optional(ToneName(*nazev)) : std::nullopt;
 }
 

@@ -1,5 +1,5 @@
-// zvonika-ukazka [--tabulka libreoffice] FOLDER: plays the demonstration and leaves its song and pictures in
-// FOLDER. In LibreOffice Calc it needs a display of its own with a window manager, `xdotool` and `setxkbmap`.
+// zvonika-ukazka [--tabulka libreoffice] FOLDER: see --help. In LibreOffice Calc it needs a display of its
+// own with a window manager, `xdotool` and `setxkbmap`.
 #include "app/Program.h"
 #include "app/Sestava.h"
 #include "app/VolbaTabulky.h"
@@ -7,6 +7,7 @@
 #include "ukazka/Ukazka.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QDir>
 #include <QFile>
 
@@ -33,10 +34,16 @@ int prehraj(QApplication& aplikace, const QDir& slozka, zvonika::Tabulka tabulka
 
 int main(int argc, char* argv[]) {
     QApplication aplikace(argc, argv);
-    QStringList zadano = QCoreApplication::arguments().mid(1);
-    const bool calc = zadano.value(0) == u"--tabulka" && zadano.value(1) == u"libreoffice";
-    if (calc) zadano.remove(0, 2);
-    QDir slozka(QDir(zadano.value(0, QStringLiteral("ukazka"))).absolutePath());
+    QCommandLineParser zadano;
+    zadano.setApplicationDescription("Plays the demonstration and leaves its song and pictures in FOLDER.");
+    zadano.addHelpOption();
+    zadano.addOption(
+        {"tabulka", "The spreadsheet to play in: vestavena or libreoffice.", "spreadsheet", "vestavena"});
+    zadano.addPositionalArgument("folder", "Made where it is missing; \"ukazka\" where none is given.",
+                                 "[FOLDER]");
+    zadano.process(aplikace);
+    const bool calc = zadano.value("tabulka") == u"libreoffice";
+    const QDir slozka(QDir(zadano.positionalArguments().value(0, QStringLiteral("ukazka"))).absolutePath());
     // Only what an earlier demonstration left: the folder may hold other things too.
     for (const char* pisen : {"Kočka leze dírou", "Kočka leze dírou G dur", "Kočka leze dírou F dur"})
         QFile::remove(slozka.filePath(QStringLiteral("domov/Dokumenty/Heligonka/Zvonika/%1.xls").arg(pisen)));

@@ -1,11 +1,10 @@
-// zvonika-prirucka FOLDER SONG [crash]: takes the pictures of the manual. FOLDER holds "domov" with SONG in
-// its working folder; with "crash" the run ends in the middle of recording, which is what the picture of a
-// recovery needs.
+// zvonika-prirucka FOLDER SONG [crash]: see --help.
 #include "app/Program.h"
 #include "app/Sestava.h"
 #include "ukazka/ObrazkyPrirucky.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QDir>
 
 #include <cstdio>
@@ -14,12 +13,12 @@
 namespace {
 
 int vyfot(QApplication& aplikace, const QStringList& argumenty) {
-    const QDir slozka(argumenty.at(1));
+    const QDir slozka(argumenty.at(0));
     zvonika::Sestava sestava(aplikace, {slozka.filePath("domov"), slozka.filePath("nastaveni")});
     zvonika::Program& program = sestava.program();
     program.Main();
-    zvonika::ObrazkyPrirucky obrazky(program, slozka.path(), argumenty.at(2));
-    if (argumenty.size() > 3) obrazky.spadni();
+    zvonika::ObrazkyPrirucky obrazky(program, slozka.path(), argumenty.at(1));
+    if (argumenty.value(2) == u"crash") obrazky.spadni();
     obrazky.vyfot();
     program.okno().close();
     return 0;
@@ -29,8 +28,17 @@ int vyfot(QApplication& aplikace, const QStringList& argumenty) {
 
 int main(int argc, char* argv[]) {
     QApplication aplikace(argc, argv);
+    QCommandLineParser zadano;
+    zadano.setApplicationDescription("Takes the pictures of the manual.");
+    zadano.addHelpOption();
+    zadano.addPositionalArgument("folder", "Holds \"domov\" with the song in its working folder.", "FOLDER");
+    zadano.addPositionalArgument("song", "Name of the song.", "SONG");
+    zadano.addPositionalArgument(
+        "crash", "Ends in the middle of recording: the picture of a recovery needs it.", "[crash]");
+    zadano.process(aplikace);
+    if (zadano.positionalArguments().size() < 2) zadano.showHelp(2);
     try {
-        return vyfot(aplikace, QApplication::arguments());
+        return vyfot(aplikace, zadano.positionalArguments());
     } catch (const std::exception& chyba) {
         std::fprintf(stderr, "The pictures could not be taken: %s\n", chyba.what());
         return 1;

@@ -8,6 +8,7 @@
 #include "song/CommandStates.h"
 #include "song/SongPanel.h"
 #include "song/ui/ElidovanyPopisek.h"
+#include "theory/ui/BarvyVyznamu.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -16,7 +17,6 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QShortcut>
-#include <QSignalBlocker>
 #include <QStatusBar>
 
 #include <optional>
@@ -39,19 +39,14 @@ PrikazoveTlacitko::Vyznam vyznam(DruhTlacitka druh) {
     return PrikazoveTlacitko::Vyznam::Bezny;
 }
 
-/// A colour written blue-green-red.
-QColor zBgr(unsigned bgr) {
-    return QColor(int(bgr & 0xFF), int(bgr >> 8 & 0xFF), int(bgr >> 16 & 0xFF));
-}
-
 std::optional<QColor> barva(BarvaKroku krok) {
     switch (krok) {
     case BarvaKroku::Tah:
-        return zBgr(0xFF8080);
+        return barvyTahu::krok;
     case BarvaKroku::Tlak:
-        return zBgr(0xC000C0);
+        return barvyTlaku::krok;
     case BarvaKroku::TlakPoZapisu:
-        return zBgr(8421631);
+        return barvyTlaku::krokPoZapisu;
     case BarvaKroku::Neznamy:
         break;
     }
@@ -74,20 +69,25 @@ Form1::Form1(SongPanel& panel, CommandStates& stavy, TrebleBoard& hmatnik, Timer
     setCentralWidget(scena_);
     setContextMenuPolicy(Qt::NoContextMenu);
     postavTlacitka();
+    postavVyberListu();
     postavPopisky();
     postavAutomat(timer1);
     postavMenu();
+    postavStavovyRadek();
+    connect(&panel_, &SongPanel::zmeneno, this, &Form1::ukazPanel);
+    connect(&stavy_, &CommandStates::zmeneno, this, &Form1::povol);
+    connect(&hmatnik_, &TrebleBoard::cislovaniZmeneno, this, &Form1::ukazZaskrtnuti);
+    connect(&hmatnik_, &TrebleBoard::nazvyZmeneny, this, &Form1::ukazZaskrtnuti);
+    ukazPanel();
+}
+
+void Form1::postavStavovyRadek() {
     // What a command has to tell may be longer than the window, which must not grow by it.
     stav_ = new ElidovanyPopisek(QStringLiteral("lblStav"), this);
     stav_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     stav_->setMinimumHeight(stav_->fontMetrics().height());
     statusBar()->addWidget(stav_, 1);
     statusBar()->setSizeGripEnabled(false);
-    connect(&panel_, &SongPanel::zmeneno, this, &Form1::ukazPanel);
-    connect(&stavy_, &CommandStates::zmeneno, this, &Form1::povol);
-    connect(&hmatnik_, &TrebleBoard::cislovaniZmeneno, this, &Form1::ukazZaskrtnuti);
-    connect(&hmatnik_, &TrebleBoard::nazvyZmeneny, this, &Form1::ukazZaskrtnuti);
-    ukazPanel();
 }
 
 void Form1::umisti(QWidget* prvek, const QRect& twips) {
@@ -113,27 +113,32 @@ QWidget* Form1::prvek(const QString& jmeno) const {
 }
 
 void Form1::postavTlacitka() {
-    for (const TlacitkoPrikazu& radek : tlacitkaPrikazu()) {
-        auto* tlacitko = new PrikazoveTlacitko(radek.popisek, vyznam(radek.druh), scena_);
-        tlacitko->setObjectName(radek.jmeno);
-        const QString nazev = radek.pristupne.isEmpty() ? radek.popisek : radek.pristupne;
-        tlacitko->setAccessibleName(nazev);
-        // Not the button's own shortcut, which only acts a tenth of a second later.
-        if (!radek.zkratka.isEmpty()) {
-            auto* zkratka = new QShortcut(QKeySequence(radek.zkratka), this);
-            zkratka->setAutoRepeat(false); // a key held down must not record grip after grip
-            connect(zkratka, &QShortcut::activated, tlacitko, &QPushButton::click);
-        }
-        tlacitko->setToolTip(radek.zkratka.isEmpty() ? nazev
-                                                     : nazev + QStringLiteral(" (%1)").arg(radek.zkratka));
-        connect(tlacitko, &QPushButton::clicked, this, [this, jmeno = radek.jmeno] { Q_EMIT prikaz(jmeno); });
-        tlacitka_.insert(radek.jmeno, tlacitko);
-        umisti(tlacitko, radek.twips);
-        tlacitko->setEnabled(stavy_.povolen(radek.jmeno));
-    }
+    for (const TlacitkoPrikazu& radek : tlacitkaPrikazu())
+        pridejTlacitko(radek);
     spojSousedy();
     tlacitka_[QStringLiteral("cmdJakDal")]->nastavObrazek(PrikazoveTlacitko::Obrazek::Sipka);
     tlacitka_[QStringLiteral("cmdZvuk(0)")]->nastavObrazek(PrikazoveTlacitko::Obrazek::Nota);
+}
+
+void Form1::pridejTlacitko(const TlacitkoPrikazu& radek) {
+    auto* tlacitko = new PrikazoveTlacitko(radek.popisek, vyznam(radek.druh), scena_);
+    tlacitko->setObjectName(radek.jmeno);
+    const QString nazev = radek.pristupne.isEmpty() ? radek.popisek : radek.pristupne;
+    tlacitko->setAccessibleName(nazev);
+    tlacitko->setToolTip(radek.zkratka.isEmpty() ? nazev
+                                                 : nazev + QStringLiteral(" (%1)").arg(radek.zkratka));
+    if (!radek.zkratka.isEmpty()) pridejZkratku(*tlacitko, radek.zkratka);
+    connect(tlacitko, &QPushButton::clicked, this, [this, jmeno = radek.jmeno] { Q_EMIT prikaz(jmeno); });
+    tlacitka_.insert(radek.jmeno, tlacitko);
+    umisti(tlacitko, radek.twips);
+    tlacitko->setEnabled(stavy_.povolen(radek.jmeno));
+}
+
+/// Not the button's own shortcut, which only acts a tenth of a second later.
+void Form1::pridejZkratku(PrikazoveTlacitko& tlacitko, const QString& klavesy) {
+    auto* zkratka = new QShortcut(QKeySequence(klavesy), this);
+    zkratka->setAutoRepeat(false); // a key held down must not record grip after grip
+    connect(zkratka, &QShortcut::activated, &tlacitko, &QPushButton::click);
 }
 
 /// The others of its row; of a button that has a row for itself, the like ones of its column.
@@ -159,7 +164,7 @@ void Form1::spojSousedy() {
     }
 }
 
-void Form1::postavPopisky() {
+void Form1::postavVyberListu() {
     combo_ = new QComboBox(scena_);
     combo_->setObjectName(QStringLiteral("Combo1"));
     combo_->setAccessibleName(QStringLiteral("Listy písničky (ladění)"));
@@ -167,7 +172,10 @@ void Form1::postavPopisky() {
     umisti(combo_, {60, 530, 2380, 380});
     // activated, not currentTextChanged: only the user's choice counts
     connect(combo_, &QComboBox::textActivated, this, &Form1::listVybran);
+    combo_->setEnabled(stavy_.povolen(combo_->objectName()));
+}
 
+void Form1::postavPopisky() {
     lblLadeni_ = new ElidovanyPopisek(QStringLiteral("lblLadeni"), scena_);
     lblLadeni_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     lblLadeni_->nastavDvaRadky(); // "G dur-C dur-F dur"
@@ -182,8 +190,6 @@ void Form1::postavPopisky() {
     auto* popisHmatu = popisek(QStringLiteral("lblPopisHmatu"), QStringLiteral("Hmat:"), scena_);
     popisHmatu->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     umisti(popisHmatu, {14020, 8090, 900, 390});
-
-    combo_->setEnabled(stavy_.povolen(combo_->objectName()));
 }
 
 void Form1::postavAutomat(Timer1& timer1) {
@@ -200,23 +206,22 @@ void Form1::postavAutomat(Timer1& timer1) {
 void Form1::postavMenu() {
     for (const Menu& menu : menuPrikazu()) {
         QMenu* rolovaci = menuBar()->addMenu(menu.popisek);
-        for (const PolozkaMenu& polozka : menu.polozky) {
-            if (polozka.jmeno.isEmpty()) {
-                rolovaci->addSeparator();
-                continue;
-            }
-            QAction* akce = rolovaci->addAction(polozka.popisek);
-            akce->setObjectName(polozka.jmeno);
-            akce->setCheckable(polozka.zaskrtavaci);
-            akce->setShortcut(QKeySequence(polozka.zkratka));
-            akce->setEnabled(stavy_.povolen(polozka.jmeno));
-            connect(akce, &QAction::triggered, this, [this, p = polozka.prikaz] {
-                Q_EMIT prikaz(p);
-                ukazZaskrtnuti(); // the entry has switched its mark by itself, done or not
-            });
-            akce_.insert(polozka.jmeno, akce);
-        }
+        for (const PolozkaMenu& polozka : menu.polozky)
+            polozka.jmeno.isEmpty() ? void(rolovaci->addSeparator()) : pridejPolozku(*rolovaci, polozka);
     }
+}
+
+void Form1::pridejPolozku(QMenu& menu, const PolozkaMenu& polozka) {
+    QAction* akce = menu.addAction(polozka.popisek);
+    akce->setObjectName(polozka.jmeno);
+    akce->setCheckable(polozka.zaskrtavaci);
+    akce->setShortcut(QKeySequence(polozka.zkratka));
+    akce->setEnabled(stavy_.povolen(polozka.jmeno));
+    connect(akce, &QAction::triggered, this, [this, p = polozka.prikaz] {
+        Q_EMIT prikaz(p);
+        ukazZaskrtnuti(); // the entry has switched its mark by itself, done or not
+    });
+    akce_.insert(polozka.jmeno, akce);
 }
 
 void Form1::povol(const QString& jmeno, bool povolit) {
@@ -236,7 +241,6 @@ void Form1::ukazPanel() {
 }
 
 void Form1::ukazListy() {
-    const QSignalBlocker ticho(combo_); // a text set by the program is no choice
     QStringList ukazane;
     for (int i = 0; i < combo_->count(); ++i)
         ukazane << combo_->itemText(i);

@@ -8,6 +8,7 @@
 class QAction;
 class QComboBox;
 class QLabel;
+class QMenu;
 
 namespace zvonika {
 
@@ -18,6 +19,8 @@ class SongPanel;
 class Timer1;
 class TrebleBoard;
 class TwipsScene;
+struct PolozkaMenu;
+struct TlacitkoPrikazu;
 
 /// The main window: one scene with everything of a grip, menus and command buttons. It forwards clicks by
 /// control name and shows what the models say; it decides nothing.
@@ -49,10 +52,15 @@ protected:
 
 private:
     void postavTlacitka();
+    void pridejTlacitko(const TlacitkoPrikazu& radek);
+    void pridejZkratku(PrikazoveTlacitko& tlacitko, const QString& klavesy);
     void spojSousedy();
+    void postavVyberListu();
     void postavPopisky();
     void postavAutomat(Timer1& timer1);
     void postavMenu();
+    void pridejPolozku(QMenu& menu, const PolozkaMenu& polozka);
+    void postavStavovyRadek();
     void ukazPanel();
     void ukazListy();
     void ukazBarvuKroku();

@@ -1,5 +1,7 @@
 #include "app/ui/IkonaProgramu.h"
 
+#include "theory/ui/BarvyVyznamu.h"
+
 #include <QPainter>
 #include <QPixmap>
 
@@ -34,7 +36,7 @@ QPixmap kresli(int strana) {
             const QPointF stred(15 + sloupec * 17, (sloupec == 1 ? 10 : 16) + radek * 17);
             if (stred.y() < 58)
                 knoflik(painter, stred, 7,
-                        sloupec == 1 && radek == 1   ? QColor(0x80, 0x80, 0xFF)
+                        sloupec == 1 && radek == 1   ? barvyTahu::krok
                         : (sloupec + radek) % 3 == 2 ? eben
                                                      : perlet);
         }

@@ -1,5 +1,7 @@
 #include "app/ui/PrikazoveTlacitko.h"
 
+#include "theory/ui/BarvyVyznamu.h"
+
 #include <QPainter>
 #include <QPainterPath>
 
@@ -15,9 +17,9 @@ constexpr double nejvetsiUstupek = 0.75; // of what a caption could have by itse
 QColor zakladniBarva(PrikazoveTlacitko::Vyznam vyznam) {
     switch (vyznam) {
     case PrikazoveTlacitko::Vyznam::Tah:
-        return QColor(0xD6, 0xE2, 0xFF);
+        return barvyTahu::prikaz;
     case PrikazoveTlacitko::Vyznam::Tlak:
-        return QColor(0xF1, 0xD9, 0xF3);
+        return barvyTlaku::prikaz;
     case PrikazoveTlacitko::Vyznam::Hlavni:
         return QColor(0xFB, 0xEE, 0xD2);
     case PrikazoveTlacitko::Vyznam::Bezny:

@@ -1,5 +1,7 @@
 #include "board/ui/PodobaPrvku.h"
 
+#include "theory/ui/BarvyVyznamu.h"
+
 namespace zvonika {
 
 namespace {
@@ -14,9 +16,9 @@ struct RadekBarev {
 constexpr RadekBarev knofliky[] = {
     {{{246, 239, 224}, {58, 44, 34}}, {{52, 48, 46}, {240, 232, 216}}},
     {{{218, 42, 36}, {255, 255, 255}}, {{150, 16, 20}, {255, 255, 255}}},
-    {{{140, 148, 255}, {14, 14, 70}}, {{62, 72, 190}, {255, 255, 255}}},
-    {{{186, 20, 186}, {255, 255, 255}}, {{112, 6, 118}, {255, 255, 255}}},
-    {{{206, 150, 90}, {44, 22, 4}}, {{104, 62, 26}, {255, 244, 226}}},
+    {{barvyTahu::knoflik, {14, 14, 70}}, {barvyTahu::tmavyKnoflik, {255, 255, 255}}},
+    {{barvyTlaku::knoflik, {255, 255, 255}}, {barvyTlaku::tmavyKnoflik, {255, 255, 255}}},
+    {{barvyIntervalu::knoflik, {44, 22, 4}}, {barvyIntervalu::tmavyKnoflik, {255, 244, 226}}},
 };
 
 } // namespace

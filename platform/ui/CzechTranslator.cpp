@@ -2,83 +2,49 @@
 
 #include <QHash>
 
+#include <algorithm>
+
 namespace zvonika {
 
 namespace {
 
-// By source text: the same words mean the same in every one of the toolkit's contexts that a user meets here.
-const QHash<QByteArray, QString>& table() {
-    static const QHash<QByteArray, QString> texts{
-        {"&Undo", QStringLiteral("&Zpět")},
-        {"&Redo", QStringLiteral("Zno&vu")},
-        {"Cu&t", QStringLiteral("&Vyjmout")},
-        {"&Copy", QStringLiteral("&Kopírovat")},
-        {"&Paste", QStringLiteral("V&ložit")},
-        {"Delete", QStringLiteral("Smazat")},
-        {"&Delete", QStringLiteral("S&mazat")},
-        {"Select All", QStringLiteral("Vybrat vše")},
-        {"Name", QStringLiteral("Název")},
-        {"Size", QStringLiteral("Velikost")},
-        {"Type", QStringLiteral("Typ")},
-        {"Kind", QStringLiteral("Druh")},
-        {"Date Modified", QStringLiteral("Změněno")},
-        {"%1 File", QStringLiteral("Soubor %1")},
-        {"File", QStringLiteral("Soubor")},
-        {"File Folder", QStringLiteral("Složka se soubory")},
-        {"Folder", QStringLiteral("Složka")},
-        {"Drive", QStringLiteral("Jednotka")},
-        {"Computer", QStringLiteral("Počítač")},
-        {"My Computer", QStringLiteral("Tento počítač")},
-        {"Back", QStringLiteral("Zpět")},
-        {"Go back", QStringLiteral("Jít zpět")},
+// The program's own boxes and windows have Storno, složka and Vpřed; "Změněno" fits its narrow column.
+const QHash<QByteArray, QString>& ourWords() {
+    static const QHash<QByteArray, QString> words{
+        {"Cancel", QStringLiteral("Storno")},
         {"Forward", QStringLiteral("Vpřed")},
         {"Go forward", QStringLiteral("Jít vpřed")},
+        {"Date Modified", QStringLiteral("Změněno")},
+        {"File Folder", QStringLiteral("Složka se soubory")},
         {"Parent Directory", QStringLiteral("Nadřazená složka")},
         {"Go to the parent directory", QStringLiteral("Přejít do nadřazené složky")},
-        {"Create New Folder", QStringLiteral("Vytvořit novou složku")},
-        {"Create a New Folder", QStringLiteral("Vytvořit novou složku")},
-        {"List View", QStringLiteral("Seznam")},
-        {"Change to list view mode", QStringLiteral("Zobrazit jako seznam")},
-        {"Detail View", QStringLiteral("Podrobnosti")},
-        {"Change to detail view mode", QStringLiteral("Zobrazit podrobnosti")},
-        {"Sidebar", QStringLiteral("Postranní panel")},
-        {"List of places and bookmarks", QStringLiteral("Místa a záložky")},
-        {"Files", QStringLiteral("Soubory")},
-        {"&Rename", QStringLiteral("Přejmenovat")},
-        {"Show &hidden files", QStringLiteral("Zobrazit &skryté soubory")},
-        {"&New Folder", QStringLiteral("&Nová složka")},
-        {"New Folder", QStringLiteral("Nová složka")},
-        {"Recent Places", QStringLiteral("Nedávná místa")},
-        {"Remove", QStringLiteral("Odebrat")},
-        {"%1\nFile not found.\nPlease verify the correct file name was given.",
-         QStringLiteral("%1\nSoubor nebyl nalezen.\nZkontrolujte prosím jeho název.")},
         {"%1\nDirectory not found.\nPlease verify the correct directory name was given.",
          QStringLiteral("%1\nSložka nebyla nalezena.\nZkontrolujte prosím její název.")},
-        {"'%1' is write protected.\nDo you want to delete it anyway?",
-         QStringLiteral("Soubor „%1“ je chráněn proti zápisu.\nChcete ho přesto smazat ?")},
         {"Are you sure you want to delete '%1'?", QStringLiteral("Opravdu chcete smazat „%1“ ?")},
         {"Could not delete directory.", QStringLiteral("Složku nelze smazat.")},
-        {"&Yes", QStringLiteral("&Ano")},
-        {"&No", QStringLiteral("&Ne")},
-        {"Cancel", QStringLiteral("Storno")},
-        {"&OK", QStringLiteral("&OK")},
-        {"&Open", QStringLiteral("&Otevřít")},
-        {"&Save", QStringLiteral("&Uložit")},
-        {"Close", QStringLiteral("Zavřít")},
-        {"Today", QStringLiteral("Dnes")},
     };
-    return texts;
+    return words;
 }
 
-bool isToolkits(const char* context) {
-    return context && context[0] == 'Q';
+bool namesKeys(const char* context) {
+    return qstrcmp(context, "QShortcut") == 0;
 }
 
 } // namespace
 
-QString CzechTranslator::translate(const char* context, const char* sourceText, const char*, int) const {
-    if (!isToolkits(context) || !sourceText) return {};
-    return table().value(QByteArray::fromRawData(sourceText, qsizetype(qstrlen(sourceText))));
+CzechTranslator::CzechTranslator(const QStringList& folders) {
+    const bool loaded = std::any_of(folders.begin(), folders.end(), [this](const QString& folder) {
+        return load(QStringLiteral("qtbase_cs"), folder);
+    });
+    if (!loaded) qWarning("qtbase_cs.qm was not found: what the toolkit itself shows is in English");
+}
+
+QString CzechTranslator::translate(const char* context, const char* sourceText, const char* disambiguation,
+                                   int n) const {
+    if (!context || context[0] != 'Q' || namesKeys(context)) return {};
+    const auto ours = ourWords().constFind(QByteArray(sourceText));
+    if (ours != ourWords().constEnd()) return *ours;
+    return QTranslator::translate(context, sourceText, disambiguation, n);
 }
 
 } // namespace zvonika

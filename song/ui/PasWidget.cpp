@@ -1,6 +1,7 @@
 #include "song/ui/PasWidget.h"
 
 #include "song/ui/ElidovanyPopisek.h"
+#include "theory/ui/BarvyVyznamu.h"
 #include "theory/ui/OsnovaPainter.h"
 #include "theory/ui/PolohaNazvu.h"
 
@@ -25,8 +26,6 @@ constexpr QColor zvyrazneniOkraj{240, 205, 130};
 constexpr QColor soucasnaSlabika{255, 0, 0};
 constexpr QColor cisloRadku{128, 122, 110};
 constexpr QColor predel{232, 227, 216};
-constexpr QColor tah{52, 84, 214};
-constexpr QColor tlak{170, 0, 170};
 
 /// "<" for pull, ">" for push, in the middle of `misto`.
 void kresliSmer(QPainter& painter, const QRectF& misto, SmerMechu smer) {
@@ -38,8 +37,8 @@ void kresliSmer(QPainter& painter, const QRectF& misto, SmerMechu smer) {
     sipka.moveTo(stred + QPointF(-sirka, -vyska));
     sipka.lineTo(stred + QPointF(sirka, 0));
     sipka.lineTo(stred + QPointF(-sirka, vyska));
-    painter.setPen(QPen(smer == SmerMechu::Tah ? tah : tlak, std::max(1.5, misto.height() * 0.13),
-                        Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(smer == SmerMechu::Tah ? barvyTahu::znacka : barvyTlaku::znacka,
+                        std::max(1.5, misto.height() * 0.13), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.setBrush(Qt::NoBrush);
     painter.drawPath(sipka);
 }

@@ -1,6 +1,8 @@
 #include "spreadsheet/libreoffice/FileObstacles.h"
 
 #include "platform/RuntimeError.h"
+#include "spreadsheet/FileRefusals.h"
+#include "spreadsheet/Refusals.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -12,31 +14,21 @@ namespace {
 
 constexpr qint64 roomForASave = 1 << 20; ///< bytes; with less than that a disk counts as full
 
-[[noreturn]] void refuse(const QString& sentence) {
-    throw RuntimeError(error::applicationDefined, sentence);
-}
-
-[[noreturn]] void refuseSave(const QString& path, const QString& reason) {
-    refuse(QStringLiteral("Soubor „%1“ nelze uložit: %2.").arg(QFileInfo(path).fileName(), reason));
-}
-
 /// "" when the disk shows nothing.
 QString obstacle(const QString& path) {
     const QFileInfo file(path), folder(file.absolutePath());
     if (!folder.isWritable() || (file.exists() && !file.isWritable()))
-        return QStringLiteral("nemáte oprávnění k zápisu");
+        return QString::fromUtf16(reason::mayNotWrite);
     const QStorageInfo disk(folder.absoluteFilePath());
-    if (disk.isReadOnly()) return QStringLiteral("disk je jen pro čtení");
-    if (disk.isValid() && disk.bytesAvailable() < roomForASave)
-        return QStringLiteral("na disku není dost místa");
+    if (disk.isReadOnly()) return QString::fromUtf16(reason::readOnlyDisk);
+    if (disk.isValid() && disk.bytesAvailable() < roomForASave) return QString::fromUtf16(reason::diskFull);
     return {};
 }
 
 } // namespace
 
 void refuseMissing(const QString& path) {
-    if (!QFileInfo(path).isFile())
-        refuse(QStringLiteral("Soubor „%1“ nelze otevřít: neexistuje.").arg(QFileInfo(path).fileName()));
+    if (!QFileInfo(path).isFile()) refuse(cannotOpen(path, reason::missing));
 }
 
 void refuseTwin(const OpenWorkbook& open, const QString& path) {
@@ -47,10 +39,8 @@ void refuseTwin(const OpenWorkbook& open, const QString& path) {
 
 void refuseToSave(const QString& path) {
     const QFileInfo file(path);
-    const QString folder = QDir::toNativeSeparators(file.absolutePath());
-    if (!QFileInfo(file.absolutePath()).isDir())
-        refuseSave(path, QStringLiteral("složka „%1“ neexistuje").arg(folder));
-    if (file.isDir()) refuseSave(path, QStringLiteral("pod tímto jménem je na disku složka"));
+    if (!QFileInfo(file.absolutePath()).isDir()) refuse(cannotSave(path, reason::folderMissing(path)));
+    if (file.isDir()) refuse(cannotSave(path, reason::isFolder));
 }
 
 void explainingSave(const QString& path, const std::function<void()>& save) {
@@ -58,7 +48,7 @@ void explainingSave(const QString& path, const std::function<void()>& save) {
         save();
     } catch (const RuntimeError& refusal) {
         if (refusal.number() != error::applicationDefined) throw;
-        if (const QString reason = obstacle(path); !reason.isEmpty()) refuseSave(path, reason);
+        if (const QString found = obstacle(path); !found.isEmpty()) refuse(cannotSave(path, found));
         throw;
     }
 }

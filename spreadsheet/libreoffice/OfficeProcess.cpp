@@ -12,8 +12,6 @@
 #include <spawn.h>
 #include <string>
 #include <sys/socket.h>
-#include <sys/wait.h>
-#include <thread>
 #include <unistd.h>
 #include <vector>
 
@@ -118,7 +116,8 @@ OfficeProcess::OfficeProcess(const Installation& installation, const Profile& pr
     if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0) cannotStart(errno);
     line_ = ends[1];
     try {
-        guardian_ = spawn(commandLine(installation, profile, pipe), ends[0], profile.lock());
+        guardian_ = std::make_unique<ChildProcess>(
+            spawn(commandLine(installation, profile, pipe), ends[0], profile.lock()));
     } catch (...) {
         close(ends[0]);
         close(ends[1]);
@@ -131,32 +130,13 @@ OfficeProcess::~OfficeProcess() {
     end();
 }
 
-bool OfficeProcess::running() const {
-    const std::scoped_lock lock(mutex_);
-    if (guardian_ > 0 && waitpid(guardian_, nullptr, WNOHANG) != 0) guardian_ = -1;
-    return guardian_ > 0;
-}
-
-bool OfficeProcess::waitForEnd(milliseconds time) const {
-    constexpr milliseconds step{5};
-    for (milliseconds waited{0}; running(); waited += step) {
-        if (waited >= time) return false;
-        std::this_thread::sleep_for(step);
-    }
-    return true;
-}
-
 void OfficeProcess::end() {
     {
         const std::scoped_lock lock(mutex_);
         if (line_ >= 0) close(line_);
         line_ = -1;
     }
-    if (waitForEnd(guardianTakes)) return;
-    const std::scoped_lock lock(mutex_);
-    kill(guardian_, SIGKILL); // the office goes with it
-    waitpid(guardian_, nullptr, 0);
-    guardian_ = -1;
+    if (!guardian_->waitForEnd(guardianTakes)) guardian_->kill(); // the office goes with it
 }
 
 void OfficeProcess::tellStarted() {

@@ -1,12 +1,13 @@
 #pragma once
 
+#include "spreadsheet/libreoffice/ChildProcess.h"
 #include "spreadsheet/libreoffice/Profile.h"
 
 #include <QString>
 
 #include <chrono>
+#include <memory>
 #include <mutex>
-#include <sys/types.h>
 
 namespace zvonika {
 
@@ -24,9 +25,9 @@ public:
     OfficeProcess(const OfficeProcess&) = delete;
     OfficeProcess& operator=(const OfficeProcess&) = delete;
 
-    bool running() const; ///< from any thread
+    bool running() const { return guardian_->running(); } ///< from any thread
     /// True when it has ended, which it may take this long for.
-    bool waitForEnd(std::chrono::milliseconds time) const;
+    bool waitForEnd(std::chrono::milliseconds time) const { return guardian_->waitForEnd(time); }
     /// Ends it at once; unsaved changes are lost.
     void end();
     /// The office is up: it holds by now what it would leave behind.
@@ -37,9 +38,9 @@ public:
 private:
     void tell(const QByteArray& line);
 
-    mutable std::mutex mutex_;
-    mutable pid_t guardian_ = -1; ///< -1 once it is known to have ended
-    int line_ = -1;
+    std::unique_ptr<ChildProcess> guardian_;
+    std::mutex mutex_;
+    int line_ = -1; ///< to the guardian; -1 once closed
 };
 
 } // namespace zvonika

@@ -69,7 +69,8 @@ QByteArray head(const Setting& setting) {
 }
 
 QByteArray line(const Setting& setting) {
-    return head(setting) + " oor:op=\"fuse\"><value>" + setting.value + "</value></prop></item>";
+    const QByteArray value = QString::fromUtf8(setting.value).toHtmlEscaped().toUtf8();
+    return head(setting) + " oor:op=\"fuse\"><value>" + value + "</value></prop></item>";
 }
 
 const QByteArray opening = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"

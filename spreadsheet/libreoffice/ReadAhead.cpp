@@ -5,7 +5,6 @@
 namespace zvonika {
 
 namespace {
-constexpr qint64 moment = 100;  ///< ms
 constexpr int rowsAhead = 8;    ///< a song is mostly read from row to row
 constexpr int songColumns = 23; ///< A to W
 } // namespace
@@ -16,7 +15,7 @@ CellRange ReadAhead::pieceWith(CellPosition cell) {
 }
 
 bool ReadAhead::fresh(unsigned acts) const {
-    return acts == acts_ && age_.isValid() && !age_.hasExpired(moment);
+    return acts == acts_ && age_.isValid() && !age_.hasExpired(moment_.count());
 }
 
 void ReadAhead::begin(unsigned acts) {

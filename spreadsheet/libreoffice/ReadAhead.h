@@ -5,6 +5,7 @@
 
 #include <QElapsedTimer>
 
+#include <chrono>
 #include <optional>
 
 namespace zvonika {
@@ -13,6 +14,8 @@ namespace zvonika {
 /// Calc once for a piece of the sheet. Whatever the user does there ends it, and so does the moment.
 class ReadAhead {
 public:
+    explicit ReadAhead(std::chrono::milliseconds moment = std::chrono::milliseconds(100)) : moment_(moment) {}
+
     /// The piece of a sheet to read when this cell is asked for.
     static CellRange pieceWith(CellPosition cell);
 
@@ -38,6 +41,7 @@ private:
     bool fresh(unsigned acts) const;
     void begin(unsigned acts);
 
+    std::chrono::milliseconds moment_;
     std::optional<CellPosition> cursor_;
     QString workbook_;
     CellRange piece_;

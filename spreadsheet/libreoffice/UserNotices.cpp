@@ -2,8 +2,8 @@
 
 namespace zvonika {
 
-UserNotices::UserNotices(std::function<void()> deliver, std::function<void(const QString&)> opened)
-    : deliver_(std::move(deliver)), opened_(std::move(opened)), receiver_(std::make_unique<QObject>()) {}
+UserNotices::UserNotices(std::function<bool()> held, std::function<void(const QString&)> opened)
+    : held_(std::move(held)), opened_(std::move(opened)), receiver_(std::make_unique<QObject>()) {}
 
 void UserNotices::cursorMoved() {
     ++acts_;
@@ -17,11 +17,6 @@ void UserNotices::cellsEdited() {
     post();
 }
 
-UserNotices::Acts UserNotices::take() {
-    posted_ = false;
-    return {edited_.exchange(false), moved_.exchange(false)};
-}
-
 void UserNotices::deliverAgain() {
     if (!edited_ && !moved_) return;
     posted_ = false;
@@ -29,6 +24,7 @@ void UserNotices::deliverAgain() {
 }
 
 void UserNotices::stop() {
+    listener_ = nullptr;
     const std::scoped_lock lock(mutex_);
     receiver_.reset();
 }
@@ -38,7 +34,20 @@ void UserNotices::post() {
     const std::scoped_lock lock(mutex_);
     if (receiver_)
         QMetaObject::invokeMethod(
-            receiver_.get(), [this] { deliver_(); }, Qt::QueuedConnection);
+            receiver_.get(),
+            [weak = weak_from_this()] {
+                if (const auto self = weak.lock()) self->deliver();
+            },
+            Qt::QueuedConnection);
+}
+
+// The listener may do anything, down to ending Calc, so each call asks for it anew.
+void UserNotices::deliver() {
+    if (held_()) return;
+    posted_ = false;
+    const bool edited = edited_.exchange(false), moved = moved_.exchange(false);
+    if (edited && listener_) listener_->cellsEdited();
+    if (moved && listener_) listener_->cursorMoved();
 }
 
 } // namespace zvonika

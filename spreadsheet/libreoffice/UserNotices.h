@@ -1,5 +1,6 @@
 #pragma once
 
+#include "spreadsheet/SpreadsheetApplication.h"
 #include "spreadsheet/libreoffice/CalcEngine.h"
 
 #include <QObject>
@@ -10,36 +11,34 @@
 
 namespace zvonika {
 
-/// Brings what the user does in Calc from the threads of the connection to the user-interface thread, several
-/// acts in one.
-class UserNotices : public CalcObserver {
+/// Brings what the user does in Calc from the threads of the connection to the listener on the user-interface
+/// thread, several acts in one.
+class UserNotices : public CalcObserver, public std::enable_shared_from_this<UserNotices> {
 public:
-    /// `deliver` is called by the event loop of the thread that makes this object; `opened` on any thread.
-    UserNotices(std::function<void()> deliver, std::function<void(const QString&)> opened);
+    /// Made on the user-interface thread. `held`: asked there whether the listener has to wait; who held it
+    /// back calls `deliverAgain`. `opened` is called on any thread.
+    UserNotices(std::function<bool()> held, std::function<void(const QString&)> opened);
 
     void cursorMoved() override;
     void cellsEdited() override;
     void workbookCloses() override { ++acts_; }
     void fileOpened(const QString& nativePath) override { opened_(nativePath); }
 
-    /// How many acts have been heard of, those too that are not delivered.
+    /// How many acts have been heard of, those too that are not delivered. From any thread.
     unsigned acts() const { return acts_; }
 
-    struct Acts {
-        bool edited = false;
-        bool moved = false;
-    };
-    /// What has come since the last time.
-    Acts take();
-    /// Has what is not yet taken delivered once more.
+    // --- on the user-interface thread ---
+    void setListener(SpreadsheetListener* listener) { listener_ = listener; }
+    /// Has what the listener has not heard yet delivered once more.
     void deliverAgain();
     /// Nothing is delivered any more.
     void stop();
 
 private:
     void post();
+    void deliver();
 
-    std::function<void()> deliver_;
+    std::function<bool()> held_;
     std::function<void(const QString&)> opened_;
     std::atomic<unsigned> acts_ = 0;
     std::atomic<bool> edited_ = false;
@@ -47,6 +46,7 @@ private:
     std::atomic<bool> posted_ = false;
     std::mutex mutex_;
     std::unique_ptr<QObject> receiver_; ///< null once stopped; with it goes what is posted
+    SpreadsheetListener* listener_ = nullptr;
 };
 
 } // namespace zvonika

@@ -13,27 +13,23 @@ namespace {
 
 class NastaveniRadTest : public ::testing::Test {
 protected:
-    /// The ticked rows, e.g. "12".
-    QString rady() const {
+    /// The rows of which it is true, e.g. "12".
+    template <typename Podminka>
+    static QString rady(Podminka podminka) {
         QString text;
         for (int rada = 1; rada <= 5; ++rada)
-            if (formular.zaskrtnuto(rada)) text += QString::number(rada);
+            if (podminka(rada)) text += QString::number(rada);
         return text;
+    }
+    QString zaskrtnute() const {
+        return rady([this](int rada) { return formular.zaskrtnuto(rada); });
     }
     QString zakryte() const {
-        QString text;
-        for (int rada = 1; rada <= 5; ++rada)
-            if (diskant.zakryta(rada)) text += QString::number(rada);
-        return text;
+        return rady([this](int rada) { return diskant.zakryta(rada); });
     }
-    QStringList popisky() const {
-        QStringList texty;
-        for (const auto t : {TlacitkoRad::cmdCDur, TlacitkoRad::cmdGDur, TlacitkoRad::cmdFDur})
-            texty << formular.tlacitka().popisek(t);
-        return texty;
-    }
+    /// A button with the labels under it: "C: A Es Fis Ges".
     QString sloupec(int kolikaty) const {
-        QStringList texty;
+        QStringList texty{formular.tlacitka().popisek(TlacitkoRad(kolikaty)).chopped(4) + ':'};
         for (int i = 4 * kolikaty; i < 4 * kolikaty + 4; ++i)
             texty << formular.tlacitka().label1(i).chopped(4);
         return texty.join(' ');
@@ -45,54 +41,44 @@ protected:
     NastaveniRad formular{nastaveni, diskant, dialogy};
 };
 
-TEST_F(NastaveniRadTest, CaptionsAndLabelsTravelTogether) {
-    const QString podC = "A Es Fis Ges", podG = "B E Des Cis", podF = "Ces H As D";
-    const struct {
-        int typ;
-        QStringList popisky, sloupce;
-    } tabulka[] = {
-        {2, {"F Dur", "C Dur", "G Dur"}, {podF, podC, podG}},
-        {1, {"G Dur", "F Dur", "C Dur"}, {podG, podF, podC}},
-        {1, {"G Dur", "F Dur", "C Dur"}, {podG, podF, podC}}, // again: nothing moves
-        {0, {"C Dur", "G Dur", "F Dur"}, {podC, podG, podF}},
-    };
-    for (const auto& radek : tabulka) {
-        formular.optTypPrstokladu(radek.typ);
-        EXPECT_EQ(popisky(), radek.popisky) << radek.typ;
-        EXPECT_EQ(QStringList({sloupec(0), sloupec(1), sloupec(2)}), radek.sloupce) << radek.typ;
-        EXPECT_EQ(formular.typ(), radek.typ);
-    }
-}
-
-TEST_F(NastaveniRadTest, WhatAButtonCoversBelongsToTheButton) {
-    formular.optTypPrstokladu(1); // cmdFDur shows "C Dur"
+TEST_F(NastaveniRadTest, LabelsTravelWithTheirButtonsAndCoversStay) {
+    const QString c = "C: A Es Fis Ges", g = "G: B E Des Cis", f = "F: Ces H As D";
     formular.chkZabrany(3, true);
-    formular.klikTlacitkaRad(TlacitkoRad::cmdFDur);
-    EXPECT_EQ(rady(), "45");
-    formular.klikTlacitkaRad(TlacitkoRad::cmdCDur);
-    EXPECT_EQ(rady(), "12");
-    formular.klikTlacitkaRad(TlacitkoRad::cmdGDur);
-    EXPECT_EQ(rady(), "15");
+    for (const auto& [typ, sloupce] : {std::pair{2, QStringList{f, c, g}},
+                                       {1, {g, f, c}},
+                                       {1, {g, f, c}}, // again: nothing moves
+                                       {0, {c, g, f}},
+                                       {2, {f, c, g}}}) {
+        formular.optTypPrstokladu(typ);
+        EXPECT_EQ(QStringList({sloupec(0), sloupec(1), sloupec(2)}), sloupce) << typ;
+        EXPECT_EQ(formular.typ(), typ);
+        for (const auto& [tlacitko, rady] : {std::pair{TlacitkoRad::cmdFDur, "45"},
+                                             {TlacitkoRad::cmdCDur, "12"},
+                                             {TlacitkoRad::cmdGDur, "15"}}) {
+            formular.klikTlacitkaRad(tlacitko);
+            EXPECT_EQ(zaskrtnute(), rady) << typ;
+        }
+    }
     formular.cmdNic();
-    EXPECT_EQ(rady(), "");
+    EXPECT_EQ(zaskrtnute(), "");
 }
 
 TEST_F(NastaveniRadTest, OkStoresTheBoxesAndTheTypeAndCoversTheRows) {
     formular.Form_Load();
+    EXPECT_EQ(zaskrtnute(), "");
     formular.klikTlacitkaRad(TlacitkoRad::cmdGDur);
     formular.chkZabrany(5, false);
     formular.chkZabrany(3, true);
     formular.optTypPrstokladu(2);
     diskant.nastavZabranu(4, true);
     EXPECT_EQ(zakryte(), "4"); // nothing before Ok
-    EXPECT_EQ(nastaveni.get("Zabrany", "1"), std::nullopt);
+    EXPECT_TRUE(nastaveni.values.empty());
     formular.cmdOk();
     EXPECT_EQ(zakryte(), "13");
     QString ulozeno;
-    for (const char* klic : {"1", "2", "3", "4", "5"})
-        ulozeno += nastaveni.getOr("Zabrany", klic, "?");
-    EXPECT_EQ(ulozeno, "10100");
-    EXPECT_EQ(nastaveni.get("TypPrstokladu", "Index"), "2");
+    for (const auto& [klic, hodnota] : nastaveni.values)
+        ulozeno += klic + '=' + hodnota + ' ';
+    EXPECT_EQ(ulozeno, "TypPrstokladu/Index=2 Zabrany/1=1 Zabrany/2=0 Zabrany/3=1 Zabrany/4=0 Zabrany/5=0 ");
 }
 
 TEST_F(NastaveniRadTest, HelpIsOneBox) {
@@ -110,7 +96,7 @@ TEST_F(NastaveniRadTest, CoversReadTheirSettingsAsTheBoardDoes) {
     for (int rada = 1; rada <= 5; ++rada)
         nastaveni.save("Zabrany", QString::number(rada), hodnoty[rada - 1]);
     formular.Form_Load();
-    EXPECT_EQ(rady(), "125");
+    EXPECT_EQ(zaskrtnute(), "125");
     EXPECT_EQ(formular.typ(), 0); // nothing stored: the first type
 }
 

@@ -9,37 +9,32 @@
 namespace zvonika {
 namespace {
 
-constexpr auto zmeneno = "Změna konfigurace Excelu z Tamíka.";
-constexpr auto neexistuje = "Neexistující složka";
-const QString stara = QStringLiteral("C:\\Stará");
-
 TEST(ZmenaCesty, EveryChoiceHasItsMessageAndItsFolder) {
+    const QString stara = "C:\\Stará", reset = "X:\\Nastavení bylo resetováno !!";
+    const Message nic{"Chyba, nic nezadáno.", "Cesta nenastavena, nesprávné zadání.", Icon::Critical};
+    const Message neni{"Neexistující složka", "Požadovanou změnu nebylo možno provést.", Icon::Critical};
+    const Message obnova{"Reset nastavení",
+                         "Po ukončení Tamíka můžete zkontrolovat, zda volba splnila Vaše očekávání.",
+                         Icon::Information};
+    const auto zmena = [](const QString& kam) {
+        return Message{"Změna konfigurace Excelu z Tamíka.",
+                       "Jako výchozí pro aplikaci Excel byla nastavena cesta do " + kam, Icon::Information};
+    };
     const struct {
         std::optional<int> vybrana;
-        const char* txtCesta;
-        const char* titul; ///< null: no message
-        const char* text;
-        Icon ikona;
+        QString txtCesta;
+        std::optional<Message> zprava;
         bool zavre;
         QString potom;
     } tabulka[] = {
-        {{},
-         "C:\\Je",
-         "Chyba, nic nezadáno.",
-         "Cesta nenastavena, nesprávné zadání.",
-         Icon::Critical,
-         false,
-         stara},
-        {0, "C:\\Je", zmeneno, "Jako výchozí pro aplikaci Excel byla nastavena cesta do C:\\Dokumenty",
-         Icon::Information, true, "C:\\Dokumenty"},
-        {1, "C:\\Je", neexistuje, "Požadovanou změnu nebylo možno provést.", Icon::Critical, false, stara},
-        {2, "C:\\Je", zmeneno, "cesta do C:\\Je", Icon::Information, true, "C:\\Je"},
-        {2, "/home/nativni", zmeneno, "cesta do /home/nativni", Icon::Information, true, "/home/nativni"},
-        {2, "C:\\Zmizelá", neexistuje, "nebylo možno", Icon::Critical, false, stara},
-        {2, "", nullptr, "", Icon::None, true, stara},
-        {3, "C:\\Zmizelá", "Reset nastavení",
-         "Po ukončení Tamíka můžete zkontrolovat, zda volba splnila Vaše očekávání.", Icon::Information, true,
-         "X:\\Nastavení bylo resetováno !!"},
+        {{}, "C:\\Je", nic, false, stara},
+        {0, "C:\\Je", zmena("C:\\Dokumenty"), true, "C:\\Dokumenty"},
+        {1, "C:\\Je", neni, false, stara},
+        {2, "C:\\Je", zmena("C:\\Je"), true, "C:\\Je"},
+        {2, "/home/nativni", zmena("/home/nativni"), true, "/home/nativni"},
+        {2, "C:\\Zmizelá", neni, false, stara},
+        {2, "", {}, true, stara},
+        {3, "C:\\Zmizelá", obnova, true, reset},
     };
     for (const auto& radek : tabulka) {
         testing::ScriptedDialogs dialogy;
@@ -47,11 +42,12 @@ TEST(ZmenaCesty, EveryChoiceHasItsMessageAndItsFolder) {
         drive.folders = {"C:\\Dokumenty", "C:\\Je", "/home/nativni"};
         Pisen pisen;
         pisen.puvodniCestaExcelu = stara;
-        ZmenaCesty zmena(pisen, drive, dialogy);
-        if (radek.titul) dialogy.expect(radek.titul, radek.text);
-        EXPECT_EQ(zmena.OKButton(radek.vybrana, radek.txtCesta), radek.zavre) << radek.text;
-        EXPECT_EQ(dialogy.last.icon, radek.ikona) << radek.text;
-        EXPECT_EQ(zmena.lblStaraCesta(), radek.potom) << radek.text;
+        ZmenaCesty zmenaCesty(pisen, drive, dialogy);
+        if (radek.zprava) dialogy.expect(radek.zprava->title, {});
+        EXPECT_EQ(zmenaCesty.OKButton(radek.vybrana, radek.txtCesta), radek.zavre) << qPrintable(radek.potom);
+        EXPECT_EQ(dialogy.last.text, radek.zprava.value_or(Message()).text);
+        EXPECT_EQ(dialogy.last.icon, radek.zprava.value_or(Message()).icon);
+        EXPECT_EQ(zmenaCesty.lblStaraCesta(), radek.potom);
     }
 }
 

@@ -43,14 +43,6 @@ TEST_F(NapovedaTest, TheManualIsReadAndTheMainWindowComesBackEachTime) {
     }
 }
 
-TEST_F(NapovedaTest, AMissingManualIsAPageThatSaysSo) {
-    drive.programFolderPath = QStringLiteral("/nikde");
-    QWidget* okno = otevri();
-    EXPECT_TRUE(okno->findChild<QTextBrowser*>()->toPlainText().contains("/nikde/Tamík.htm"));
-    okno->close();
-    ocekavejHlavniOkno();
-}
-
 TEST_F(NapovedaTest, ABrowserThatCannotBeMadeBringsTheMainWindowBack) {
     tvurceProhlizece = [](const MistoProhlizece&) -> VytvorenyProhlizec {
         throw RuntimeError(7, "prohlížeč nelze vytvořit");

@@ -1,8 +1,8 @@
-// Which spreadsheet program the songs are kept open in: the choice, and a chosen one that does not start.
+// Which spreadsheet program the songs are kept open in: the choice, and a
+// chosen one that does not start.
 #include "app/ui/FrmTabulka.h"
 #include "tests/app/OknoSPisni.h"
 
-#include <QLabel>
 #include <QRadioButton>
 
 using namespace zvonika;
@@ -33,7 +33,6 @@ protected:
             throw AutomationError(429, "Excel není na tomto počítači nainstalován.");
         });
     }
-    QString stav() { return qobject_cast<QLabel*>(prvek("lblStav"))->text(); }
 };
 
 } // namespace

@@ -1,44 +1,45 @@
 #pragma once
 
 #include "conversion/Konverze.h"
-#include "tests/support/FakeDrive.h"
-#include "tests/support/FakeSpreadsheet.h"
-#include "tests/support/PrintQt.h"
-#include "tests/support/ScriptedDialogs.h"
+#include "tests/support/SpreadsheetWorld.h"
 #include "theory/Toniny.h"
 
 #include <gtest/gtest.h>
 
 namespace zvonika::testing {
 
-/// A conversion over an application in memory, whose folder is the working folder.
-class KonverzeFixture : public ::testing::Test {
+/// A conversion over a spreadsheet without a window.
+class KonverzeFixture : public ::testing::Test, protected SpreadsheetWorld {
 protected:
     KonverzeFixture() {
-        auto application = std::make_unique<FakeSpreadsheet>(disk);
+        auto application = launch();
         excel = application.get();
-        excel->setDefaultFilePath(pracovniAdresar);
+        excel->app().setDefaultFilePath(pracovniAdresar);
         pisen.aplikaceExcel = std::move(application);
         drive.programFolderPath = QStringLiteral(ZVONIKA_RESOURCES);
     }
 
-    /// A file on the disk with these rows on its sheet "Tonavox XII". A row is written "B=c1,|I=Tah|W=C dur".
-    QString soubor(const QString& jmeno, const QStringList& radky) {
-        FakeBook kniha{
-            jmeno, pracovniAdresar + u'\\' + jmeno, {{QStringLiteral("Tonavox XII"), {}, {}, 1, 1}}, 0};
-        for (int i = 0; i < radky.size(); ++i)
-            for (const QString& bunka : radky[i].split(u'|', Qt::SkipEmptyParts)) {
-                const auto misto = FakeRange::parse(bunka.left(1) + QString::number(i + 1));
-                kniha.sheets.front().put(misto.top, misto.left, bunka.mid(2));
-            }
-        disk[kniha.fullName] = kniha;
-        return kniha.fullName;
+    static QString cesta(const QString& jmeno) { return pracovniAdresar + u'\\' + jmeno; }
+    /// Rows written "B=c1,|I=Tah|W=C dur" each.
+    static CellBlock bunky(const QStringList& radky) {
+        CellBlock blok(radky.size(), QVector<CellValue>(26));
+        for (qsizetype i = 0; i < radky.size(); ++i)
+            for (const QString& bunka : radky[i].split(u'|', Qt::SkipEmptyParts))
+                blok[i][bunka.front().unicode() - u'A'] = bunka.mid(2);
+        return blok;
     }
-    /// The song of the main window, in place of what was open.
+    /// A file in the working folder with these rows on its sheet "Tonavox XII"; its full name.
+    QString soubor(const QString& jmeno, const QStringList& radky) {
+        store(cesta(jmeno), {{QStringLiteral("Tonavox XII"), bunky(radky)}});
+        return cesta(jmeno);
+    }
+    /// The song of the main window, alone in the working folder and in place of what was open.
     void otevri(const QStringList& radky, const QString& jmeno = QStringLiteral("Polka.xls")) {
-        while (!excel->activeWorkbookName().isEmpty())
-            excel->userClosesWorkbook();
-        excel->openWorkbook(soubor(jmeno, radky));
+        while (excel->workbooks() > 0)
+            excel->app().closeActiveWorkbook();
+        for (const QString& soubor : drive.files(pracovniAdresar))
+            drive.deleteFile(cesta(soubor));
+        excel->app().openWorkbook(soubor(jmeno, radky));
         pisen.aktualniPisen = jmeno;
     }
     void vyber(const char* stupnice) {
@@ -55,17 +56,15 @@ protected:
     void ocekavejHotovo() { dialogs.expect("Hotovo", "a uložena do souboru \n"); }
     /// A row of the active sheet, written as for `soubor`; empty cells are left out.
     QString radek(int cislo) {
-        QStringList bunky;
-        for (const auto& [misto, hodnota] : excel->book().sheet().cells)
-            if (misto.first == cislo) bunky << FakeRange::letters(misto.second) + u'=' + cellText(hodnota);
-        return bunky.join(u'|');
+        const CellBlock blok = excel->app().readBlock(QStringLiteral("A%1:Z%1").arg(cislo));
+        QStringList texty;
+        for (int i = 0; i < blok.first().size(); ++i)
+            if (!isEmpty(blok.first()[i])) texty << QChar(u'A' + i) + (u'=' + cellText(blok.first()[i]));
+        return texty.join(u'|');
     }
-    QString list() { return excel->book().sheet().name; }
+    QString list() { return excel->app().activeSheetName(); }
 
-    FakeDisk disk;
-    FakeSpreadsheet* excel = nullptr;
-    FakeDrive drive;
-    ScriptedDialogs dialogs;
+    WatchedSpreadsheet* excel = nullptr;
     Pisen pisen;
     StavKonverze stav;
     std::function<void()> zpravy = [] {};

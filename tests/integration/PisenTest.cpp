@@ -102,22 +102,6 @@ TEST_F(PisenTest, AutomaticSteppingWaitsForASyllableBeingWritten) {
     EXPECT_EQ(program->aktualniRadek(), radek + 1);
 }
 
-TEST_F(PisenTest, UndoNeverReachesWhatTheProgramHasRecorded) {
-    novaPisen();
-    prejdiNaTabulku();
-    klavesaTabulky(Qt::Key_Left);
-    piseDoTabulky("pes");
-    klavesaTabulky(Qt::Key_Return);
-    prejdiNaHlavniOkno();
-    klikni("cmdPrvni");
-    zapisHmat({"lbl(9)"}, false);
-    prejdiNaTabulku();
-    klavesaTabulky(Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(bunka("A1"), "");
-    EXPECT_EQ(bunka("B1"), "c1,");
-    EXPECT_EQ(bunka("I1"), "Tah");
-}
-
 TEST_F(PisenTest, TheSongOpensAsItWasEnded) {
     zapisTriHmaty();
     klikni("cmdPrvni");
@@ -153,25 +137,6 @@ TEST_F(PisenTest, ADoubleClickMarksOnceAndAsksForTheFinger) {
     EXPECT_EQ(bunka("V1"), "l9;3\\");
     klikni("cmdPrvni");
     EXPECT_TRUE(program->modely().diskant.popis(9).startsWith("3"));
-}
-
-TEST_F(PisenTest, ANewSongMayReplaceAnOldOneOfItsName) {
-    zapisTriHmaty();
-    klikni("cmdEndEdit");
-    const QByteArray stara = obsahSouboru(pisen("Polka.xls"));
-    dialogs.expectInput("Nová skladba.", "Polka");
-    dialogs.expect("Tato skladba již existuje!", "Přejete si vymazat", Answer::No);
-    dialogs.expect("Založení nové skladby přerušeno.", "Začněte znovu a zadejte jiný název písně.");
-    klikni("cmdNovaSkladba");
-    ocekavejStavBezPisne();
-    EXPECT_EQ(obsahSouboru(pisen("Polka.xls")), stara);
-
-    dialogs.expectInput("Nová skladba.", "Polka");
-    dialogs.expect("Tato skladba již existuje!", "Přejete si vymazat", Answer::Yes);
-    klikni("cmdNovaSkladba");
-    EXPECT_EQ(program->okno().windowTitle(), "Polka.xls");
-    EXPECT_EQ(bunka("B1"), "");
-    EXPECT_EQ(textBunky(sesit(pisen("Polka.xls")), "B1"), "");
 }
 
 } // namespace zvonika::testing

@@ -4,7 +4,6 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
-#include <QDir>
 #include <QTimer>
 
 namespace zvonika::testing {
@@ -59,15 +58,6 @@ TEST_F(PrevodTest, TheWindowShowsTheCopyAndWhatWasLost) {
     ocekavejStavBezPisne();
 }
 
-TEST_F(PrevodTest, OpeningAndClosingTheDialogDisturbsNothing) {
-    pripravPisen();
-    klikni("lbl(20)");
-    vDialogu([](QWidget* dialog) { QTest::keyClick(dialog, Qt::Key_Escape); });
-    EXPECT_TRUE(program->modely().diskant.oznacen(20));
-    EXPECT_EQ(program->okno().windowTitle(), "Polka.xls");
-    EXPECT_EQ(textBunky(sesit(pisen("Polka.xls")), "W1"), "C dur"); // saved, as said
-}
-
 TEST_F(PrevodTest, ASongOfNoWindowIsConvertedAndClosed) {
     pripravPisen();
     klikni("cmdEndEdit");
@@ -83,21 +73,6 @@ TEST_F(PrevodTest, ASongOfNoWindowIsConvertedAndClosed) {
     EXPECT_EQ(napis("lblStav"),
               "Tabulka tónů konverze.xml nebyla ve složce programu nalezena. Převod: v tabulce "
               "chybí 3 tóny (řádky 1–2). Kopie je v souboru „Polka G dur.xls“.");
-}
-
-TEST_F(PrevodTest, ACopyThatCannotBeSavedIsOneBoxAndTheSongStays) {
-    pripravPisen();
-    QDir(pracovni()).mkdir("Polka G dur.xls");
-    dialogs.expect("Neočekávaná chyba !", "a sdělte číslo chyby 1004");
-    preved("optStupnice(1)");
-    EXPECT_TRUE(dialogs.last.text.contains("Polka G dur.xls")) << dialogs.last.text.toStdString();
-    EXPECT_EQ(program->okno().windowTitle(), "Polka.xls");
-    EXPECT_EQ(bunka("B1"), "c1,");
-    EXPECT_TRUE(povolen("mnuKonverze"));
-    QDir(pracovni()).rmdir("Polka G dur.xls");
-    dialogs.expect("Hotovo", "Polka G dur.xls");
-    preved("optStupnice(1)");
-    EXPECT_EQ(bunka("B1"), "g,");
 }
 
 } // namespace zvonika::testing

@@ -65,30 +65,6 @@ TEST_F(TabulkaZavrenaRucneTest, AClosedWorkbookIsReportedAtTheEndOfTheSong) {
     EXPECT_EQ(textBunky(sesit(pisen("Valčík.xls")), "B1"), "c1,");
 }
 
-TEST_F(TabulkaZavrenaRucneTest, AClosedWorkbookFailsEveryCommandInOneBox) {
-    ocekavejDotazNaZmeny(Answer::Yes);
-    zavriTabulku();
-    EXPECT_EQ(textBunky(sesit(pisen("Polka.xls")), "B1"), "c1,");
-    for (const char* prikaz : {"cmdPrvni", "cmdDalsi", "cmdJakDal", "cmdReadTah", "cmdPosledni"}) {
-        const int predtim = dialogs.count;
-        dialogs.expect("Neočekávaná chyba !", "a sdělte číslo chyby 91\n");
-        klikni(prikaz);
-        EXPECT_EQ(dialogs.count, predtim + 1) << prikaz;
-        EXPECT_TRUE(dialogs.last.text.section('\n', -1).endsWith('.')) << dialogs.last.text.toStdString();
-    }
-    ukonciPisenSChybou("Nenalezena aktuální skladba.", nenalezenaSkladba);
-}
-
-TEST_F(TabulkaZavrenaRucneTest, AUserWhoChangesHisMindGoesOn) {
-    ocekavejDotazNaZmeny(Answer::Cancel);
-    zavriTabulku();
-    EXPECT_TRUE(tabulka->isVisible());
-    klikni("cmdPrvni");
-    EXPECT_EQ(program->modely().diskant.stav(9), StavKnofliku::Tah) << "the side shown is not the row's";
-    klikni("cmdEndEdit");
-    EXPECT_EQ(textBunky(sesit(pisen("Polka.xls")), "B1"), "c1,");
-}
-
 TEST_F(TabulkaZavrenaRucneTest, AnApplicationThatWasQuitIsReportedAtEveryStep) {
     ocekavejDotazNaZmeny(Answer::Yes);
     ukonciTabulku();

@@ -39,8 +39,6 @@ protected:
 TEST_F(ZakladaniTest, NamesThatTheDiskRefuses) {
     ASSERT_TRUE(QDir(pracovni()).mkdir("složka.xls"));
     ocekavejOdmitnuti("a/b", "složka „" + pracovni() + "/a“ neexistuje");
-    ocekavejOdmitnuti("a\\b", "složka „" + pracovni() + "/a“ neexistuje");
-    ocekavejOdmitnuti(QString(300, u'ž'), "jeho jméno je příliš dlouhé");
     ocekavejOdmitnuti(QString(252, u'x'), "jeho jméno je příliš dlouhé");
     ocekavejOdmitnuti(QStringLiteral("a%1b").arg(QChar(u'\0')), "v jeho jménu je znak, který tam být nesmí");
     ocekavejOdmitnuti("složka", "pod tímto jménem je na disku složka");
@@ -49,24 +47,13 @@ TEST_F(ZakladaniTest, NamesThatTheDiskRefuses) {
 }
 
 TEST_F(ZakladaniTest, NamesThatTheDiskTakes) {
-    for (const char* utf8 : {"Kočka leze dírou", "Polka.xls", " ", "..", "a:b?*", "<b>&amp;", "-rf", "x.y"}) {
-        const QString jmeno = QString::fromUtf8(utf8);
-        SCOPED_TRACE(utf8);
-        novaPisen(jmeno);
+    for (const QString& jmeno :
+         {QStringLiteral("Kočka"), QStringLiteral(" "), QStringLiteral("a:b?*"), QString(251, u'x')}) {
+        novaPisen(jmeno); // the last one is 255 bytes with the ending, as long as a name may be
         zapisHmat({"lbl(9)"}, true);
         klikni("cmdEndEdit");
-        EXPECT_EQ(textBunky(sesit(pisen(jmeno + ".xls")), "B1"), "c1,");
+        EXPECT_EQ(textBunky(sesit(pisen(jmeno + ".xls")), "B1"), "c1,") << jmeno.toStdString();
     }
-    novaPisen(QString(251, u'x')); // 255 bytes with the ending, as long as a name may be
-    klikni("cmdEndEdit");
-    EXPECT_EQ(soubory().size(), 9);
-}
-
-TEST_F(ZakladaniTest, AnEmptyNameEndsSilently) {
-    dialogs.expectInput("Nová skladba.", "");
-    klikni("cmdNovaSkladba");
-    EXPECT_EQ(dialogs.count, 0);
-    ocekavejStavBezPisne();
 }
 
 TEST_F(ZakladaniTest, AMissingWorkingFolderIsMade) {
@@ -79,20 +66,6 @@ TEST_F(ZakladaniTest, AMissingWorkingFolderIsMade) {
         klikni("cmdEndEdit");
         EXPECT_EQ(soubory(), QStringList{"Polka.xls"});
     }
-}
-
-TEST_F(ZakladaniTest, AFileInTheWayOfTheWorkingFolder) {
-    smaz(domov() + "/Dokumenty");
-    for (const char* misto : {"/Dokumenty", "/Dokumenty/Heligonka", "/Dokumenty/Heligonka/Zvonika"}) {
-        SCOPED_TRACE(misto);
-        ulozSoubor(domov() + misto, "překážka");
-        ocekavejZpravuOSlozce();
-        ocekavejOdmitnuti("Polka", "není složka");
-        EXPECT_EQ(obsahSouboru(domov() + misto), "překážka");
-        QFile::remove(domov() + misto);
-        QDir().mkdir(domov() + misto);
-    }
-    novaPisen();
 }
 
 } // namespace zvonika::testing

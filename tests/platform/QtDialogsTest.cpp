@@ -1,11 +1,15 @@
 #include "platform/ui/QtDialogs.h"
 
+#include "platform/ui/CzechTranslator.h"
+#include "tests/support/BoxWatch.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileSystemModel>
 #include <QInputDialog>
+#include <QLibraryInfo>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -13,6 +17,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
 namespace zvonika {
@@ -37,18 +42,6 @@ QPushButton* buttonNamed(QWidget& box, const QString& name) {
 
 class Boxes : public ::testing::Test {
 protected:
-    Answer answer(const Message& message, const QString& button) {
-        whenOpen<QMessageBox>([button](QMessageBox& box) {
-            auto* choice = buttonNamed(box, button);
-            ASSERT_NE(choice, nullptr) << button.toStdString();
-            QTest::mouseClick(choice, Qt::LeftButton);
-        });
-        return dialogs.message(message);
-    }
-    Answer answer(const Message& message, Qt::Key key) {
-        whenOpen<QMessageBox>([key](QMessageBox& box) { QTest::keyClick(&box, key); });
-        return dialogs.message(message);
-    }
     Message question(Buttons buttons, std::optional<Answer> byEnter = {}) const {
         return {QStringLiteral("Titul"), QStringLiteral("Otázka ?"), Icon::Question, buttons, byEnter};
     }
@@ -56,24 +49,36 @@ protected:
     QtDialogs dialogs;
 };
 
-TEST_F(Boxes, GiveEachButtonsAnswer) {
-    EXPECT_EQ(answer(question(Buttons::YesNoCancel), QStringLiteral("Ano")), Answer::Yes);
-    EXPECT_EQ(answer(question(Buttons::YesNoCancel), QStringLiteral("Ne")), Answer::No);
-    EXPECT_EQ(answer(question(Buttons::YesNoCancel), QStringLiteral("Storno")), Answer::Cancel);
-    EXPECT_EQ(answer(question(Buttons::OkCancel), QStringLiteral("OK")), Answer::Ok);
-}
-
-TEST_F(Boxes, EscapeAnswersTheMostCautiousButton) {
-    EXPECT_EQ(answer(question(Buttons::Ok), Qt::Key_Escape), Answer::Ok);
-    EXPECT_EQ(answer(question(Buttons::OkCancel), Qt::Key_Escape), Answer::Cancel);
-    EXPECT_EQ(answer(question(Buttons::YesNo), Qt::Key_Escape), Answer::No);
-    EXPECT_EQ(answer(question(Buttons::YesNoCancel), Qt::Key_Escape), Answer::Cancel);
-}
-
-TEST_F(Boxes, EnterAnswersTheDefaultButton) {
-    EXPECT_EQ(answer(question(Buttons::YesNo), Qt::Key_Return), Answer::Yes);
-    EXPECT_EQ(answer(question(Buttons::YesNo, Answer::No), Qt::Key_Return), Answer::No);
-    EXPECT_EQ(answer(question(Buttons::OkCancel), Qt::Key_Return), Answer::Ok);
+TEST_F(Boxes, GiveTheAnswerOfAButtonEscapeOrEnter) {
+    const struct {
+        Buttons buttons;
+        std::optional<Answer> byEnter;
+        const char* pressed; ///< a button, or a key
+        Answer answer;
+    } cases[] = {
+        {Buttons::YesNoCancel, {}, "Ano", Answer::Yes},
+        {Buttons::YesNoCancel, {}, "Ne", Answer::No},
+        {Buttons::YesNoCancel, {}, "Storno", Answer::Cancel},
+        {Buttons::OkCancel, {}, "OK", Answer::Ok},
+        {Buttons::Ok, {}, "Esc", Answer::Ok},
+        {Buttons::OkCancel, {}, "Esc", Answer::Cancel},
+        {Buttons::YesNo, {}, "Esc", Answer::No},
+        {Buttons::YesNoCancel, {}, "Esc", Answer::Cancel},
+        {Buttons::YesNo, {}, "Enter", Answer::Yes},
+        {Buttons::YesNo, Answer::No, "Enter", Answer::No},
+        {Buttons::OkCancel, {}, "Enter", Answer::Ok},
+    };
+    for (const auto& c : cases) {
+        whenOpen<QMessageBox>([&c](QMessageBox& box) {
+            const QString pressed = c.pressed;
+            if (pressed == "Esc" || pressed == "Enter")
+                QTest::keyClick(&box, pressed == "Esc" ? Qt::Key_Escape : Qt::Key_Return);
+            else if (auto* button = buttonNamed(box, pressed))
+                QTest::mouseClick(button, Qt::LeftButton);
+            EXPECT_FALSE(box.isVisible()) << c.pressed;
+        });
+        EXPECT_EQ(dialogs.message(question(c.buttons, c.byEnter)), c.answer) << c.pressed;
+    }
 }
 
 TEST_F(Boxes, ShowTheMessage) {
@@ -112,6 +117,14 @@ TEST_F(Boxes, StayAboveAWindowKeptOnTop) {
     above.message(question(Buttons::Ok));
 }
 
+TEST_F(Boxes, ThatNobodyAnswersFailTheirCase) {
+    const testing::BoxWatch watch(std::chrono::milliseconds(20));
+    Answer answer = Answer::Yes;
+    EXPECT_NONFATAL_FAILURE(answer = dialogs.message(question(Buttons::YesNo)),
+                            "nobody answers the box \"Titul\" (zprava) Otázka ?");
+    EXPECT_EQ(answer, Answer::No);
+}
+
 TEST_F(Boxes, AskForOneLineOfText) {
     const auto type = [this](Qt::Key end) {
         whenOpen<QInputDialog>([end](QInputDialog& box) {
@@ -125,6 +138,26 @@ TEST_F(Boxes, AskForOneLineOfText) {
     };
     EXPECT_EQ(type(Qt::Key_Return), QStringLiteral("4"));
     EXPECT_EQ(type(Qt::Key_Escape), QString());
+}
+
+TEST(CzechTranslator, HasTheToolkitsTextsBesideItsOwnWords) {
+    const CzechTranslator whole({"/není", QLibraryInfo::path(QLibraryInfo::TranslationsPath)}),
+        bare({"/není"});
+    const struct {
+        const char *context, *text, *czech;
+        bool ours;
+    } cases[] = {
+        {"QWidgetTextControl", "&Copy", "&Kopírovat", false},
+        {"QFileDialog", "&New Folder", "&Nová složka", false},
+        {"QFileDialog", "Parent Directory", "Nadřazená složka", true},
+        {"QDialogButtonBox", "Cancel", "Storno", true},
+        {"QShortcut", "Left", "", true}, // on the keyboard it is so
+        {"zvonika", "Cancel", "", true},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(whole.translate(c.context, c.text, nullptr, -1), QString(c.czech)) << c.text;
+        EXPECT_EQ(bare.translate(c.context, c.text, nullptr, -1), QString(c.ours ? c.czech : "")) << c.text;
+    }
 }
 
 class FileChoice : public Boxes {
@@ -173,38 +206,28 @@ TEST_F(FileChoice, StartsInTheNearestFolderThereIs) {
 }
 
 TEST_F(FileChoice, SavingAddsTheEndingAndAsksBeforeOverwriting) {
-    whenOpen<QFileDialog>([](QFileDialog& box) { typeName(box, QStringLiteral("nová")); });
-    EXPECT_EQ(dialogs.saveFile(title, filter, folder.filePath(QStringLiteral("a.xls"))),
-              folder.filePath(QStringLiteral("nová.xls")));
-
-    // The first name is refused in the question, the second one is free.
-    whenOpen<QFileDialog>([](QFileDialog& box) {
-        whenOpen<QMessageBox>([](QMessageBox& question) {
-            EXPECT_TRUE(question.text().contains(QStringLiteral("kočka.xls")));
-            whenOpen<QFileDialog>([](QFileDialog& again) { typeName(again, QStringLiteral("jiná.xls")); });
-            QTest::keyClick(&question, Qt::Key_Escape);
+    ASSERT_TRUE(QFile::copy(folder.filePath("kočka.xls"), folder.filePath("1. Ach synku.xls")));
+    const struct {
+        const char *typed, *asked, *instead, *chosen; ///< asked: of a file that is there; its answer is no
+    } cases[] = {
+        {"nová", nullptr, nullptr, "nová.xls"},
+        {"kočka.xls", "„kočka.xls“ již existuje", "jiná.xls", "jiná.xls"},
+        {"1. Ach synku", "„1. Ach synku.xls“ již existuje", "2. Ach", "2. Ach.xls"},
+    };
+    for (const auto& c : cases) {
+        bool asked = false;
+        whenOpen<QFileDialog>([&](QFileDialog& box) {
+            if (c.asked)
+                whenOpen<QMessageBox>([&](QMessageBox& question) {
+                    asked = question.text().contains(c.asked);
+                    whenOpen<QFileDialog>([&](QFileDialog& again) { typeName(again, c.instead); });
+                    QTest::keyClick(&question, Qt::Key_Escape);
+                });
+            typeName(box, c.typed);
         });
-        typeName(box, QStringLiteral("kočka.xls"));
-    });
-    EXPECT_EQ(dialogs.saveFile(title, filter, folder.filePath(QStringLiteral("kočka.xls"))),
-              folder.filePath(QStringLiteral("jiná.xls")));
-}
-
-TEST_F(FileChoice, ANameWithADotStandsForTheSongOfThatName) {
-    const QString song = folder.filePath(QStringLiteral("1. Ach synku.xls"));
-    ASSERT_TRUE(QFile::copy(folder.filePath(QStringLiteral("kočka.xls")), song));
-    bool asked = false;
-    whenOpen<QFileDialog>([&asked](QFileDialog& box) {
-        whenOpen<QMessageBox>([&asked](QMessageBox& question) {
-            asked = question.text().contains(QStringLiteral("„1. Ach synku.xls“ již existuje"));
-            whenOpen<QFileDialog>([](QFileDialog& again) { typeName(again, QStringLiteral("2. Ach")); });
-            QTest::keyClick(&question, Qt::Key_Escape);
-        });
-        typeName(box, QStringLiteral("1. Ach synku"));
-    });
-    EXPECT_EQ(dialogs.saveFile(title, filter, folder.filePath(QStringLiteral("a.xls"))),
-              folder.filePath(QStringLiteral("2. Ach.xls")));
-    EXPECT_TRUE(asked);
+        EXPECT_EQ(dialogs.saveFile(title, filter, folder.filePath("a.xls")), folder.filePath(c.chosen));
+        EXPECT_EQ(asked, c.asked != nullptr) << c.typed;
+    }
 }
 
 } // namespace

@@ -7,7 +7,7 @@ namespace {
 
 class SongSheetTest : public SongFixture {
 protected:
-    SongSheetTest() { excel->addWorkbook(); }
+    SongSheetTest() { excel->app().addWorkbook(); }
     SongSheet list{pisen};
 };
 
@@ -54,7 +54,7 @@ TEST_F(SongSheetTest, ReadsEveryColumnOfARow) {
     EXPECT_TRUE(hmaty[1].prazdny());
     EXPECT_TRUE(hmaty[1].tonyZaMezerou);
     EXPECT_FALSE(hmaty[1].basyZaMezerou);
-    EXPECT_EQ(excel->journal.size(), 2) << "the workbook, and one call for all rows";
+    EXPECT_EQ(log.calls, QStringList("readBlock")) << "one call for all rows";
 }
 
 TEST_F(SongSheetTest, TonesEndAtTheFirstEmptyCellAndForeignContentsStayText) {
@@ -93,14 +93,14 @@ TEST_F(SongSheetTest, CursorGoesToColumnBOfItsRow) {
 TEST_F(SongSheetTest, AktivujPisenTellsWhetherTheSongIsOpen) {
     EXPECT_FALSE(pisen.AktivujPisen()) << "no song";
     pisen.aktualniPisen = excel->activeWorkbookName();
-    excel->addWorkbook();
+    excel->app().addWorkbook();
     EXPECT_TRUE(pisen.AktivujPisen());
     EXPECT_EQ(excel->activeWorkbookName(), pisen.aktualniPisen);
     excel->userQuits();
     EXPECT_FALSE(pisen.AktivujPisen());
     pisen.aplikaceExcel.reset();
     EXPECT_FALSE(pisen.AktivujPisen());
-    ocekavejChybu(error::objectNotSet, [this] { list.VyberBunkuB(); });
+    EXPECT_EQ(raised([this] { list.VyberBunkuB(); }), error::objectNotSet);
 }
 
 } // namespace zvonika::testing

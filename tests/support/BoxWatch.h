@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QApplication>
-#include <QDialog>
 #include <QElapsedTimer>
 #include <QMessageBox>
 #include <QPointer>
@@ -44,8 +43,8 @@ private:
     void end(QWidget& box) {
         const QPointer<QWidget> ended(&box);
         watched_ = nullptr;
-        if (auto* dialog = qobject_cast<QDialog*>(&box)) dialog->reject();
-        if (ended && ended->isVisible()) ended->hide(); // one that refuses to be closed
+        box.close();
+        if (ended && ended->isVisible()) ended->hide(); // one that refuses
     }
 
     std::chrono::milliseconds patience_;

@@ -3,6 +3,8 @@
 #include "platform/HomeDrive.h"
 #include "spreadsheet/xls/Workbook.h"
 #include "tests/support/MemorySettings.h"
+#include "tests/support/PrintQt.h"
+#include "tests/support/Raised.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/WatchedSpreadsheet.h"
 

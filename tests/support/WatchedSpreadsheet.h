@@ -16,6 +16,7 @@ public:
 
     // --- what a test looks at and sets up ---
     EmbeddedApplication& app() { return *app_; }
+    bool running() const { return app_->session().state() == Session::State::Running; }
     int workbooks() const { return static_cast<int>(app_->session().documents().size()); }
     CellValue cell(const QString& address) const { return app_->value(address); }
     QString text(const QString& address) const { return cellText(cell(address)); }

@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #ifdef QT_WIDGETS_LIB
+#include "tests/support/BoxWatch.h"
+
 #include <QApplication>
 using Application = QApplication;
 #else
@@ -13,5 +15,8 @@ int main(int argc, char* argv[]) {
     ::testing::InitGoogleTest(&argc, argv);
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     Application application(argc, argv);
+#ifdef QT_WIDGETS_LIB
+    const zvonika::testing::BoxWatch watch;
+#endif
     return RUN_ALL_TESTS();
 }

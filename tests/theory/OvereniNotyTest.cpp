@@ -56,83 +56,68 @@ protected:
 };
 
 TEST_F(OvereniNotyTest, DrawsTonesOfTheKeyWithoutAsking) {
-    struct Pripad {
+    const struct {
         const char* stupnice;
         int ton;
         const char* nazev;
         PolohaNoty poloha;
+    } pripady[] = {
+        {"G dur", 3, "fis,", {Znamenko::Krizek, 180}},
+        {"C dur", 9, "c1,", {Znamenko::Zadne, 420}},
+        {"Ges dur", 8, "ces1,", {Znamenko::Becko, 420}},
+        {"B dur", 7, "b,", {Znamenko::Becko, 360}},
+        {"F dur", 49, "e,", {Znamenko::Zadne, 120}},
+        {"Vyberte tóninu", 3, "fis,", {Znamenko::Krizek, 180}},
     };
-    for (const Pripad& p : {Pripad{"G dur", 3, "fis,", {Znamenko::Krizek, 180}},
-                            {"C dur", 9, "c1,", {Znamenko::Zadne, 420}},
-                            {"Ges dur", 8, "ces1,", {Znamenko::Becko, 420}},
-                            {"B dur", 7, "b,", {Znamenko::Becko, 360}},
-                            {"F dur", 49, "e,", {Znamenko::Zadne, 120}},
-                            {"Vyberte tóninu", 3, "fis,", {Znamenko::Krizek, 180}}}) {
+    for (const auto& p : pripady) {
+        prijemce.kroky.clear();
         over(p.stupnice, p.ton);
         EXPECT_EQ(prijemce.nakreslena, (KreslenaNota{CisloTonu(p.ton), nazev(p.nazev), p.poloha, false}))
             << p.stupnice;
+        EXPECT_EQ(prijemce.kroky, QStringList({QString("popis %1 %2").arg(p.ton).arg(p.nazev),
+                                               QString("nota %1").arg(p.nazev)}));
+        EXPECT_EQ(tonina.stupnice(), stupnice(p.stupnice));
     }
     for (int ton = 1; ton <= 49; ++ton)
         over("Fis dur", ton);
     EXPECT_EQ(dialogs.count, 0);
 }
 
-TEST_F(OvereniNotyTest, NamesTheKeyBeforeTheNote) {
-    over("D dur", 3);
-    EXPECT_EQ(prijemce.kroky, QStringList({"popis 3 fis,", "nota fis,"}));
-    EXPECT_EQ(tonina.stupnice(), stupnice("D dur"));
-}
-
-TEST_F(OvereniNotyTest, OffersANaturalForAPlainNote) {
-    dialogs.expect(titulek, {}, Answer::Yes);
-    over("D dur", 2);
-    EXPECT_EQ(
-        dialogs.last.text,
-        QStringLiteral("Nota f, se ve stupnici D dur nepoužívá.\n"
-                       "Můžete použít odrážku pro dočasné zrušení půltónu, nebo zvolit jinou stupnici.\n"
-                       "Přejete si použít odrážku ?"));
-    EXPECT_EQ(dialogs.last.icon, Icon::Question);
-    EXPECT_EQ(dialogs.last.buttons, Buttons::YesNoCancel);
-    EXPECT_EQ(prijemce.nakreslena, (KreslenaNota{CisloTonu(2), nazev("f,"), {Znamenko::Zadne, 180}, true}));
-}
-
-TEST_F(OvereniNotyTest, OffersOnlyWritingForANoteWithASign) {
-    for (const auto& [klic, jmeno, znamenko, jednotky] :
-         {std::tuple{"F dur", "ges,", Znamenko::Becko, 240}, {"C dur", "fis,", Znamenko::Krizek, 180}}) {
-        dialogs.expect(titulek, {}, Answer::Yes);
-        over(klic, 3);
-        EXPECT_EQ(dialogs.last.text,
-                  QStringLiteral(
-                      "Nota %1 se ve stupnici %2 nepoužívá.\n"
-                      "Pokud skladba pokračuje v jiné stupnici, stiskněte tlačítko Ne a pak zvolte jinou "
-                      "stupnici.\n"
-                      "Přejete-li si i přes upozornění zvolenou notu zapsat, stiskněte Ano a pak Vámi "
-                      "požadované tlačítko pro zápis.")
-                      .arg(jmeno, klic));
-        EXPECT_EQ(dialogs.last.icon, Icon::Question);
-        EXPECT_EQ(dialogs.last.buttons, Buttons::YesNoCancel);
-        EXPECT_EQ(prijemce.nakreslena,
-                  (KreslenaNota{CisloTonu(3), nazev(jmeno), {znamenko, jednotky}, false}));
-    }
-}
-
-TEST_F(OvereniNotyTest, CancelHandsTheButtonBack) {
-    for (int ton : {2, 7}) {
-        prijemce.kroky.clear();
-        dialogs.expect(titulek, {}, Answer::Cancel);
-        over("G dur", ton);
-        EXPECT_EQ(prijemce.kroky.value(1), QStringLiteral("zpět %1").arg(ton));
-        EXPECT_EQ(prijemce.kroky.size(), 2);
-    }
-}
-
-TEST_F(OvereniNotyTest, NoOpensTheKeyChoice) {
-    for (const auto& [klic, ton] : {std::pair{"G dur", 2}, {"F dur", 3}, {"C dur", 3}}) {
-        prijemce.kroky.clear();
-        dialogs.expect(titulek, {}, Answer::No);
-        over(klic, ton);
-        EXPECT_EQ(prijemce.kroky.mid(1), QStringList("výběr")) << klic;
-    }
+TEST_F(OvereniNotyTest, AsksAboutAToneOutsideTheKey) {
+    const QString odrazka = "Můžete použít odrážku pro dočasné zrušení půltónu, nebo zvolit jinou stupnici.\n"
+                            "Přejete si použít odrážku ?";
+    const QString zapis =
+        "Pokud skladba pokračuje v jiné stupnici, stiskněte tlačítko Ne a pak zvolte jinou stupnici.\n"
+        "Přejete-li si i přes upozornění zvolenou notu zapsat, stiskněte Ano a pak Vámi požadované tlačítko "
+        "pro zápis.";
+    const struct {
+        const char* klic;
+        int ton;
+        const char* nazev;
+        PolohaNoty poloha;
+        QString nabidka;
+    } pripady[] = {
+        {"D dur", 2, "f,", {Znamenko::Zadne, 180}, odrazka},
+        {"F dur", 3, "ges,", {Znamenko::Becko, 240}, zapis},
+        {"C dur", 3, "fis,", {Znamenko::Krizek, 180}, zapis},
+    };
+    for (const auto& p : pripady)
+        for (const auto& [odpoved, krok] : {std::pair{Answer::Yes, QString("nota %1").arg(p.nazev)},
+                                            {Answer::No, QString("výběr")},
+                                            {Answer::Cancel, QString("zpět %1").arg(p.ton)}}) {
+            prijemce = {};
+            dialogs.expect(titulek, {}, odpoved);
+            over(p.klic, p.ton);
+            EXPECT_EQ(dialogs.last.text,
+                      QString("Nota %1 se ve stupnici %2 nepoužívá.\n%3").arg(p.nazev, p.klic, p.nabidka));
+            EXPECT_EQ(dialogs.last.icon, Icon::Question);
+            EXPECT_EQ(dialogs.last.buttons, Buttons::YesNoCancel);
+            EXPECT_EQ(prijemce.kroky.mid(1), QStringList(krok)) << p.klic;
+            if (odpoved == Answer::Yes) {
+                EXPECT_EQ(prijemce.nakreslena,
+                          (KreslenaNota{CisloTonu(p.ton), nazev(p.nazev), p.poloha, p.nabidka == odrazka}));
+            }
+        }
 }
 
 TEST_F(OvereniNotyTest, ANewKeyIsCheckedAgain) {
@@ -177,31 +162,21 @@ protected:
 };
 
 TEST_F(VolbaStupniceTest, OkChoosesTheKeyAndPreparesTheStaff) {
-    const QStringList popisky =
-        QStringLiteral("C dur,G dur,D dur,A dur,E dur,H dur,Fis dur,Cis dur,F dur,B dur,Es dur,"
-                       "As dur,Des dur,Ges dur,Ces dur")
-            .split(QLatin1Char(','));
+    const QString popisky = "C dur,G dur,D dur,A dur,E dur,H dur,Fis dur,Cis dur,F dur,B dur,Es dur,As dur,"
+                            "Des dur,Ges dur,Ces dur";
     EXPECT_EQ(tonina.stupnice(), stupnice("Vyberte tóninu"));
     int zmen = 0;
     QObject::connect(&tonina, &Tonina::changed, [&] { ++zmen; });
     for (int i = 0; i < 15; ++i) {
         volba.cmdOK(i);
-        EXPECT_EQ(tonina.stupnice().text(), popisky[i]);
+        EXPECT_EQ(tonina.stupnice().text(), popisky.section(',', i, i));
         EXPECT_EQ(osnova.stupnice(), tonina.stupnice());
         EXPECT_EQ(osnova.predznamenani().pocet(), i < 8 ? i : i - 7);
     }
     EXPECT_EQ(zmen, 15);
-}
-
-TEST_F(VolbaStupniceTest, NothingSelectedMakesTheKeyEmpty) {
-    volba.cmdOK(3);
     volba.cmdOK(std::nullopt);
-    EXPECT_EQ(tonina.stupnice(), Key());
+    EXPECT_EQ(tonina.stupnice(), Key()) << "nothing is selected";
     EXPECT_EQ(osnova.stupnice(), Key());
-    EXPECT_EQ(osnova.predznamenani().pocet(), 0);
-}
-
-TEST_F(VolbaStupniceTest, CancellingForgetsTheKey) {
     volba.cmdOK(1);
     volba.cmdZrusit();
     EXPECT_EQ(tonina.stupnice(), Key::vyberteToninu());
@@ -209,14 +184,11 @@ TEST_F(VolbaStupniceTest, CancellingForgetsTheKey) {
 }
 
 TEST_F(VolbaStupniceTest, HelpExplainsTheChoice) {
-    dialogs.expect(QStringLiteral("Nápověda k výběru tóniny."),
-                   QStringLiteral("v programu Tamík. Dále je toto určení"));
+    dialogs.expect("Nápověda k výběru tóniny.", "v programu Tamík. Dále je toto určení");
     volba.cmdHelp();
     EXPECT_EQ(dialogs.last.icon, Icon::Information);
-    EXPECT_EQ(dialogs.last.buttons, Buttons::Ok);
-    EXPECT_TRUE(
-        dialogs.last.text.startsWith(QStringLiteral("Tóninu skladby, kterou hodláte zapsat, je vhodné")));
-    EXPECT_TRUE(dialogs.last.text.endsWith(QStringLiteral("náleží, stiskněte tlačítko Zrušit nastavení.")));
+    EXPECT_TRUE(dialogs.last.text.startsWith("Tóninu skladby, kterou hodláte zapsat, je vhodné"));
+    EXPECT_TRUE(dialogs.last.text.endsWith("náleží, stiskněte tlačítko Zrušit nastavení."));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "theory/ui/OsnovaPainter.h"
 
+#include "theory/ui/BarvyVyznamu.h"
 #include "theory/ui/Znacky.h"
 
 #include <QPaintDevice>
@@ -66,7 +67,7 @@ void OsnovaPainter::akord(double x, const RozvrzeniAkordu& akord, const QColor& 
     pomocneLinky(x, akord, barva, zmenseni);
     for (const MistoNoty& nota : akord.noty) {
         const double y = mirka_.y(nota.poloha.jednotky);
-        const QColor& inkoust = nota.interval ? barvyOsnovy::interval : barva;
+        const QColor& inkoust = nota.interval ? barvyIntervalu::nota : barva;
         znacka(nota.interval ? znacky::ctverec() : znacky::hlavicka(), x + nota.hlavicka * krok, y, inkoust,
                zmenseni);
         if (const QPainterPath* znamenko = znackaZnamenka(nota.poloha.znamenko))

@@ -18,7 +18,6 @@ inline constexpr QColor okraj{212, 206, 194};
 inline constexpr QColor linka{146, 142, 134};
 inline constexpr QColor inkoust{32, 30, 34};
 inline constexpr QColor mimoStupnici{206, 32, 32};
-inline constexpr QColor interval{140, 84, 32}; ///< brown as on the board
 } // namespace barvyOsnovy
 
 /// Draws a treble staff: lines, clef, key signature and chords with their ledger lines.

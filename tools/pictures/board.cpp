@@ -3,6 +3,7 @@
 #include "tests/board/ui/Sestava.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QPixmap>
@@ -77,7 +78,13 @@ void zmer() {
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
-    const QDir kam(argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral("."));
+    QCommandLineParser zadano;
+    zadano.setApplicationDescription(
+        "Draws the instrument in its states at several scales, to be looked at.");
+    zadano.addHelpOption();
+    zadano.addPositionalArgument("folder", "Where the pictures go; made where it is missing.", "[FOLDER]");
+    zadano.process(app);
+    const QDir kam(zadano.positionalArguments().value(0, "."));
     kam.mkpath(QStringLiteral("."));
     zmer();
     zmer(); // once more with the fonts loaded

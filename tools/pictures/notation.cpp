@@ -11,6 +11,7 @@
 #include "theory/ui/ZapisovaciOsnova.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QMouseEvent>
@@ -169,7 +170,12 @@ void vyfotStupnici(Fotograf& fotograf) {
 
 int main(int argc, char** argv) {
     QApplication aplikace(argc, argv);
-    const QString slozka = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QDir::tempPath();
+    QCommandLineParser zadano;
+    zadano.setApplicationDescription("Draws every widget of notation with sample data, to be looked at.");
+    zadano.addHelpOption();
+    zadano.addPositionalArgument("folder", "Where the pictures go; made where it is missing.", "[FOLDER]");
+    zadano.process(aplikace);
+    const QString slozka = zadano.positionalArguments().value(0, QDir::tempPath());
     QDir().mkpath(slozka);
     Fotograf fotograf(slozka);
     vyfotZapis(fotograf);

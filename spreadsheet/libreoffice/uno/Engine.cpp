@@ -1,8 +1,7 @@
 #include "spreadsheet/libreoffice/uno/Engine.h"
 
+#include "spreadsheet/FileRefusals.h"
 #include "spreadsheet/libreoffice/uno/Interaction.h"
-
-#include <QFileInfo>
 
 #include <algorithm>
 #include <com/sun/star/document/MacroExecMode.hpp>
@@ -15,8 +14,8 @@ namespace zvonika {
 
 namespace {
 
-[[noreturn]] void refuseToOpen(const QString& nativePath, const QString& reason) {
-    refuse(QStringLiteral("Soubor „%1“ nelze otevřít: %2.").arg(QFileInfo(nativePath).fileName(), reason));
+[[noreturn]] void refuseToOpen(const QString& nativePath, QStringView reason) {
+    refuse(cannotOpen(nativePath, reason));
 }
 
 } // namespace
@@ -132,7 +131,7 @@ void Engine::open(const QString& nativePath) {
         }
         if (books_.size() > before) books_.pop_back();
         as<css::util::XCloseable>(document)->close(true);
-        refuseToOpen(nativePath, QStringLiteral("není to sešit ve formátu .xls"));
+        refuseToOpen(nativePath, reason::notXls);
     });
 }
 
@@ -152,7 +151,9 @@ OpenWorkbook Engine::active() {
         try {
             return onBook([](Book& book) { return book.description(); });
         } catch (const RuntimeError&) {
-            if (!connected() || !find(activeId_)->closed()) throw;
+            // It may have been closed, and dropped, since it was looked for.
+            const Book* book = find(activeId_);
+            if (!connected() || (book && !book->closed())) throw;
         }
     }
     return {};

@@ -58,8 +58,8 @@ private:
     template <typename Calls>
     auto onBook(Calls calls);
 
+    Keeper keeper_; ///< outlives the connection: what comes over it is kept here to the last
     std::unique_ptr<Connection> connection_;
-    Keeper keeper_;
     CalcObserver& observer_;
     Ref<css::frame::XDispatchHelper> dispatcher_;
     std::vector<std::unique_ptr<Book>> books_;
@@ -72,8 +72,7 @@ template <typename Calls>
 auto Engine::onBook(Calls calls) {
     return guarded([&] {
         Book* book = activeBook();
-        if (!book)
-            throw RuntimeError(error::objectNotSet, QStringLiteral("V tabulce není otevřen žádný sešit."));
+        if (!book) refuseNoWorkbook();
         try {
             return calls(*book);
         } catch (const css::lang::DisposedException&) {

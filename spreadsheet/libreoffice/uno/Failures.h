@@ -1,16 +1,13 @@
 #pragma once
 
 #include "platform/RuntimeError.h"
+#include "spreadsheet/Refusals.h"
 #include "spreadsheet/libreoffice/uno/Uno.h"
 
 #include <com/sun/star/lang/DisposedException.hpp>
 #include <com/sun/star/util/CloseVetoException.hpp>
 
 namespace zvonika {
-
-[[noreturn]] inline void refuse(const QString& sentence) {
-    throw RuntimeError(error::applicationDefined, sentence);
-}
 
 /// Runs calls to Calc and turns their failures into errors with a number. What is gone, Calc or a workbook,
 /// raises 91; which of them it was is known to the connection.

@@ -1,5 +1,7 @@
 #include "spreadsheet/libreoffice/uno/Interaction.h"
 
+#include "spreadsheet/FileRefusals.h"
+
 #include <com/sun/star/document/BrokenPackageRequest.hpp>
 #include <com/sun/star/document/LockedDocumentRequest.hpp>
 #include <com/sun/star/document/OwnLockOnDocumentRequest.hpp>
@@ -24,7 +26,7 @@ QString reasonOf(const css::uno::Any& question) {
     if (isA<css::task::DocumentPasswordRequest>(question) ||
         isA<css::task::DocumentMSPasswordRequest>(question))
         return QStringLiteral("je chráněn heslem");
-    if (isA<css::document::BrokenPackageRequest>(question)) return QStringLiteral("je poškozený");
+    if (isA<css::document::BrokenPackageRequest>(question)) return QString::fromUtf16(reason::damaged);
     return {};
 }
 

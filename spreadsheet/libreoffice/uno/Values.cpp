@@ -1,8 +1,8 @@
 #include "spreadsheet/libreoffice/uno/Values.h"
 
+#include "spreadsheet/libreoffice/ShownValues.h"
 #include "spreadsheet/libreoffice/uno/Failures.h"
 
-#include <algorithm>
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/lang/Locale.hpp>
 #include <com/sun/star/sheet/XCellRangeData.hpp>
@@ -39,23 +39,12 @@ css::uno::Sequence<Row> dataOf(const CellBlock& block) {
     return data;
 }
 
-bool isZeroOrOne(double number) {
-    return number == 0.0 || number == 1.0;
+QString shownIn(const Ref<css::table::XCell>& cell) {
+    return fromUno(as<css::text::XTextRange>(cell)->getString());
 }
 
-/// Whether a cell that holds 0 or 1 holds a truth value: it shows a word, or it is one of the formulas that
-/// stand for truth values in files.
 bool isLogical(const Ref<css::table::XCell>& cell) {
-    const QString shown = fromUno(as<css::text::XTextRange>(cell)->getString());
-    if (!shown.isEmpty() && std::none_of(shown.begin(), shown.end(), [](QChar c) { return c.isDigit(); }))
-        return true;
-    const rtl::OUString formula = cell->getFormula();
-    return formula.equalsAscii("=TRUE()") || formula.equalsAscii("=FALSE()");
-}
-
-QString knownError(const QString& text) {
-    static const QStringList known = {"#NULL!", "#DIV/0!", "#VALUE!", "#REF!", "#NAME?", "#NUM!", "#N/A"};
-    return known.contains(text) ? text : known.last();
+    return showsTruth(shownIn(cell), fromUno(cell->getFormula()));
 }
 
 } // namespace
@@ -95,7 +84,7 @@ CellValue Values::read(const Ref<css::sheet::XSpreadsheet>& sheet, CellPosition 
     rtl::OUString text;
     if (data >>= text) return text.isEmpty() ? CellValue() : CellValue(fromUno(text));
     if (!(data >>= number)) // nothing at all stands for an error
-        return CellError{knownError(fromUno(as<css::text::XTextRange>(cellAt(sheet, cell))->getString()))};
+        return CellError{errorShown(shownIn(cellAt(sheet, cell)))};
     if (isZeroOrOne(number) && isLogical(cellAt(sheet, cell))) return number == 1.0;
     return number;
 }
@@ -117,7 +106,7 @@ void Values::write(const Ref<css::sheet::XSpreadsheet>& sheet, CellPosition firs
 // The number format decides between numbers and truth values, and a cell may have one from an earlier value.
 void Values::finish(const Ref<css::sheet::XSpreadsheet>& sheet, CellPosition cell, const CellValue& value) {
     if (const auto* error = std::get_if<CellError>(&value)) {
-        cellAt(sheet, cell)->setFormula(toUno(QLatin1Char('=') + knownError(error->text)));
+        cellAt(sheet, cell)->setFormula(toUno(QLatin1Char('=') + errorShown(error->text)));
         return;
     }
     const auto* number = std::get_if<double>(&value);

@@ -3,6 +3,7 @@
 #include "spreadsheet/xls/records/Bof.h"
 #include "spreadsheet/xls/strings/UnicodeText.h"
 
+#include <algorithm>
 #include <initializer_list>
 #include <string_view>
 
@@ -26,9 +27,10 @@ void record16(Bytes& out, RecordType type, std::initializer_list<std::uint16_t> 
 
 void writeAccess(Bytes& out) {
     constexpr std::string_view user = "Zvonika";
-    Bytes payload{static_cast<std::uint8_t>(user.size()), 0, 0};
-    payload.insert(payload.end(), user.begin(), user.end());
-    payload.resize(112, ' ');
+    Bytes payload(112, ' ');
+    store16(payload.data(), static_cast<std::uint32_t>(user.size()));
+    payload[2] = 0; // one byte a character
+    std::ranges::copy(user, payload.begin() + 3);
     appendRecord(out, RecordType::WriteAccess, payload);
 }
 

@@ -26,7 +26,6 @@ public:
     /// none.
     std::vector<std::optional<std::uint32_t>> find(const TextPool& pool) const;
 
-    std::uint32_t recordOffset() const { return recordOffset_; }
     /// Where the last text ends, and the record (Sst or Continue) it ends in.
     std::uint32_t textsEnd() const { return textsEnd_; }
     std::uint32_t lastRecordOffset() const { return lastRecordOffset_; }

@@ -49,7 +49,6 @@ private:
         const ByteView kept =
             run_.payload.subspan(4 + (next_ - run_.u16(2)) * step_, (column - next_) * step_);
         pending_.insert(pending_.end(), kept.begin(), kept.end());
-        if (pending_.empty()) pendingFirst_ = column;
     }
 
     bool joinRun(const CellContent& content, std::uint16_t format) {

@@ -1,17 +1,11 @@
 // A real song through the dialog, from every key into every other and back, over the built-in spreadsheet.
 #include "conversion/Konverze.h"
 #include "conversion/ui/FrmKonverze.h"
-#include "platform/HomeDrive.h"
-#include "platform/IniSettingsStore.h"
-#include "spreadsheet/embedded/EmbeddedApplication.h"
-#include "tests/support/ScriptedDialogs.h"
+#include "tests/support/SpreadsheetWorld.h"
 #include "theory/NazvyTonu.h"
 #include "theory/Toniny.h"
 
 #include <QAbstractButton>
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
 
 namespace zvonika::testing {
 namespace {
@@ -19,12 +13,11 @@ namespace {
 /// Semitones from C dur to each key.
 constexpr std::array<int, 15> posuny{0, -5, 2, -3, 4, -1, 6, 1, 5, -2, 3, -4, 1, 6, -1};
 
-class PrevodyPisne : public ::testing::Test {
+class PrevodyPisne : public ::testing::Test, protected SpreadsheetWorld {
 protected:
     PrevodyPisne() {
-        QDir(slozka.path()).mkpath("Dokumenty/Heligonka/Zvonika");
-        pisen.aplikaceExcel = std::make_unique<EmbeddedApplication>(
-            drive, dialogs, nastaveni, JournalFolder(slozka.filePath("zaznamy")));
+        drive.programFolderPath = QStringLiteral(ZVONIKA_RESOURCES);
+        pisen.aplikaceExcel = launch();
         excel().setDefaultFilePath(pracovniAdresar);
         const QString zdroj = drive.nativePath(pracovniAdresar) + "/Kočka.xls";
         QFile::copy(ZVONIKA_RESOURCES "/ukazky/Kočka leze dírou.xls", zdroj);
@@ -72,10 +65,6 @@ protected:
         return nazevTonu(cil, toniny[kam].key()).nazev.text();
     }
 
-    QTemporaryDir slozka;
-    HomeDrive drive{slozka.path(), QStringLiteral(ZVONIKA_RESOURCES)};
-    ScriptedDialogs dialogs;
-    IniSettingsStore nastaveni{slozka.filePath("tabulka.ini")};
     Pisen pisen;
 };
 

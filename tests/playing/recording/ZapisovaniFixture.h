@@ -7,8 +7,7 @@
 #include "playing/stepping/PasPisne.h"
 #include "playing/stepping/ZobrazeniHmatu.h"
 #include "song/ZobrazovaciOsnova.h"
-#include "tests/support/FakeSpreadsheet.h"
-#include "tests/support/ScriptedDialogs.h"
+#include "tests/support/SpreadsheetWorld.h"
 #include "theory/NotovaOsnova.h"
 #include "theory/clsNotyZapis.h"
 
@@ -17,10 +16,10 @@
 namespace zvonika::testing {
 
 /// The input board with an open song, its cursor on B1.
-class Zapisovani : public ::testing::Test {
+class Zapisovani : public ::testing::Test, protected SpreadsheetWorld {
 protected:
     Zapisovani() {
-        auto aplikace = std::make_unique<FakeSpreadsheet>();
+        auto aplikace = launch();
         excel = aplikace.get();
         excel->addWorkbook();
         pisen.aktualniPisen = excel->activeWorkbookName();
@@ -54,9 +53,8 @@ protected:
         return texty.join(u' ');
     }
 
-    ScriptedDialogs dialogs;
     Pisen pisen;
-    FakeSpreadsheet* excel = nullptr;
+    WatchedSpreadsheet* excel = nullptr;
     SongPanel panel;
     CommandStates prikazy;
     TrebleBoard diskant{nastrojZvonika()};

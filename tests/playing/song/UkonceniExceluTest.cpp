@@ -2,189 +2,180 @@
 
 #include "platform/Hlaseni.h"
 #include "playing/song/SpusteniExcelu.h"
-#include "tests/playing/SongFixture.h"
+#include "tests/support/SpreadsheetWorld.h"
 
 namespace zvonika::testing {
 
 namespace {
 
-/// An application that outlives its object as a record of what was done to it.
-struct Zaznam {
-    QStringList kroky;
-    QString cesta;
-};
+const QString cestaUzivatele = QStringLiteral("C:\\Moje");
+const QString resetovano = QStringLiteral("X:\\Nastavení bylo resetováno !!");
 
-class ZapisovanyExcel : public FakeSpreadsheet {
-public:
-    explicit ZapisovanyExcel(Zaznam& zaznam) : zaznam_(zaznam) {}
-    ~ZapisovanyExcel() override { zaznam_.kroky.append("release"); }
-    bool bezPameti = false; ///< saving fails without a number
-    void quit() override {
-        zaznam_.kroky.append("quit");
-        FakeSpreadsheet::quit();
-    }
-    void saveActiveWorkbook() override {
-        zaznam_.kroky.append("save");
-        if (bezPameti) throw std::bad_alloc();
-        FakeSpreadsheet::saveActiveWorkbook();
-    }
-    QString defaultFilePath() const override { return zaznam_.cesta; }
-    void setDefaultFilePath(const QString& path) override {
-        zaznam_.kroky.append("path");
-        FakeSpreadsheet::setDefaultFilePath(path);
-        zaznam_.cesta = path;
-    }
-    void setVisible(bool shown) override {
-        zaznam_.kroky.append("visible");
-        FakeSpreadsheet::setVisible(shown);
-    }
-
-private:
-    Zaznam& zaznam_;
-};
-
-class UkonceniExceluTest : public ::testing::Test {
+class UkonceniExceluTest : public ::testing::Test, protected SpreadsheetWorld {
 protected:
     UkonceniExceluTest() {
-        auto aplikace = std::make_unique<ZapisovanyExcel>(zaznam);
-        excel = aplikace.get();
-        pisen.aplikaceExcel = std::move(aplikace);
-        pisen.puvodniCestaExcelu = "C:\\Moje";
+        drive.createFolder(cestaUzivatele);
+        nastavCestu(cestaUzivatele);
     }
-    void otevriPisen() {
-        excel->addWorkbook();
-        pisen.aktualniPisen = excel->activeWorkbookName();
-    }
-    void ukonci() {
-        UkonceniExcelu(pisen, dialogs).UkonciExcel();
+    /// The folder that the spreadsheet keeps in its settings.
+    QString cesta() const { return settings.getOr("Tabulka", "DefaultFilePath", {}); }
+    void nastavCestu(const QString& cesta) { settings.save("Tabulka", "DefaultFilePath", cesta); }
+
+    /// The shutdown of a program that has opened a song, another workbook in front of it.
+    void ukonci(bool sPisni, const QString& puvodniCesta,
+                const std::function<void(WatchedSpreadsheet&)>& co) {
+        nastavCestu(pracovniAdresar);
+        auto excel = launch();
+        Pisen pisen;
+        pisen.puvodniCestaExcelu = puvodniCesta;
+        if (sPisni) {
+            excel->app().addWorkbook();
+            excel->app().saveActiveWorkbookAs({QStringLiteral("Polka")});
+            pisen.aktualniPisen = excel->app().activeWorkbookName();
+        }
+        excel->app().addWorkbook();
+        log = {};
+        co(*excel);
+        pisen.aplikaceExcel = std::move(excel);
+        UkonceniExcelu ukonceni(pisen, dialogs);
+        ukonceni.UkonciExcel();
         EXPECT_EQ(pisen.aplikaceExcel, nullptr);
+        ukonceni.UkonciExcel(); // nothing left to do
     }
-
-    Zaznam zaznam;
-    ScriptedDialogs dialogs;
-    Pisen pisen;
-    ZapisovanyExcel* excel = nullptr;
 };
-
-const auto nestandardni = QStringLiteral("Nestandardní ukončení.");
-const auto nezavirejte =
-    QStringLiteral("Nezavírejte příště prosím Excel ručně !\nAplikace si ho ovládá sama.");
 
 } // namespace
 
-TEST_F(UkonceniExceluTest, SavesTheSongQuitsAndGivesTheFolderBackInThisOrder) {
-    otevriPisen();
-    excel->addWorkbook(); // in front of the song
-    ukonci();
-    EXPECT_EQ(zaznam.kroky, (QStringList{"save", "quit", "path", "release"}));
-    EXPECT_EQ(zaznam.cesta, "C:\\Moje");
+TEST_F(UkonceniExceluTest, ItComesToItsEndWhateverFails) {
+    const QString nestandardni = "Nestandardní ukončení.", neocekavana = "Neočekávaná chyba !";
+    const QString rucne = "Nezavírejte příště prosím Excel ručně !\nAplikace si ho ovládá sama.";
+    const QString ukladani = "Chyba při ukládání souboru !\nData v písni mohou být ztracena.";
+    const auto cislo = [](int n) {
+        return "Kontaktujte firmu " + kontakt + " a sdělte číslo chyby " + QString::number(n);
+    };
+    const auto selze = [this](const char* krok, int n, int kolikrat = 1) { log.fail(krok, n, kolikrat); };
+    const struct {
+        const char* popis;
+        bool sPisni;
+        std::function<void(WatchedSpreadsheet&)> co;
+        QVector<QPair<QString, QString>> hlaseni;
+        QString kroky;
+        QString cesta;
+    } pripady[] = {
+        {"nothing fails", true, [](auto&) {}, {}, "save quit path release", cestaUzivatele},
+        {"no song", false, [](auto&) {}, {}, "quit path release", cestaUzivatele},
+        {"the user has quit",
+         true,
+         [](auto& excel) { excel.userQuits(); },
+         {{nestandardni, rucne}},
+         "quit quit path release",
+         cestaUzivatele},
+        {"refused save",
+         true,
+         [&](auto&) { selze("saveActiveWorkbook", 1004); },
+         {{nestandardni, ukladani}},
+         "save quit path release",
+         cestaUzivatele},
+        {"failure without a number",
+         true,
+         [&](auto&) { log.failWithoutNumber("saveActiveWorkbook"); },
+         {{neocekavana, cislo(0)}},
+         "save quit path release",
+         cestaUzivatele},
+        {"no quitting for good",
+         true,
+         [&](auto&) {
+             selze("saveActiveWorkbook", 1004);
+             selze("quit", 70, 1000);
+         },
+         {{nestandardni, ukladani}, {neocekavana, cislo(70)}},
+         "save quit quit quit release",
+         pracovniAdresar},
+        {"two steps of the same number",
+         true,
+         [&](auto&) {
+             selze("saveActiveWorkbook", 1004);
+             selze("setDefaultFilePath", 1004, 1000);
+         },
+         {{nestandardni, ukladani}, {nestandardni, ukladani}},
+         "save quit path quit path quit path release",
+         pracovniAdresar},
+        {"the folder at the third attempt",
+         false,
+         [&](auto&) { selze("setDefaultFilePath", 1004, 2); },
+         {{nestandardni, ukladani}},
+         "quit path quit path quit path release",
+         cestaUzivatele},
+    };
+    const QMap<QString, QString> znacky{{"saveActiveWorkbook", "save"},
+                                        {"quit", "quit"},
+                                        {"setDefaultFilePath", "path"},
+                                        {"release", "release"}};
+    for (const auto& p : pripady) {
+        SCOPED_TRACE(p.popis);
+        for (const auto& [titulek, text] : p.hlaseni)
+            dialogs.expect(titulek, text);
+        ukonci(p.sPisni, cestaUzivatele, p.co);
+        QStringList kroky;
+        for (const QString& volani : log.calls)
+            if (znacky.contains(volani)) kroky << znacky[volani];
+        EXPECT_EQ(kroky.join(u' ').toStdString(), p.kroky.toStdString());
+        EXPECT_EQ(cesta().toStdString(), p.cesta.toStdString());
+        EXPECT_TRUE(dialogs.done());
+        drive.deleteFile(pracovniAdresar + "\\Polka.xls");
+    }
 }
 
-TEST_F(UkonceniExceluTest, WithoutASongNothingIsSavedAndTheResetMarkerPassesAsItIs) {
-    excel->addWorkbook();
-    pisen.puvodniCestaExcelu = "X:\\Nastavení bylo resetováno !!";
-    ukonci();
-    EXPECT_EQ(zaznam.kroky, (QStringList{"quit", "path", "release"}));
-    EXPECT_EQ(zaznam.cesta, pisen.puvodniCestaExcelu);
-    UkonceniExcelu(pisen, dialogs).UkonciExcel(); // nothing left to do
+TEST_F(UkonceniExceluTest, TheSongIsSavedAndAResetMarkerGivenBackAsItIs) {
+    ukonci(true, resetovano, [](WatchedSpreadsheet& excel) {
+        excel.app().activateWindow("Polka.xls");
+        excel.put("A1", "Koč");
+        excel.app().addWorkbook();
+    });
+    EXPECT_EQ(storedText(pracovniAdresar + "\\Polka.xls", "A1"), "Koč");
+    EXPECT_EQ(cesta(), resetovano);
 }
 
-TEST_F(UkonceniExceluTest, AnApplicationThatTheUserQuitIsReportedOnce) {
-    otevriPisen();
-    excel->userQuits();
-    dialogs.expect(nestandardni, nezavirejte);
-    ukonci();
-    EXPECT_EQ(dialogs.last.icon, Icon::Exclamation);
-    EXPECT_EQ(zaznam.kroky, (QStringList{"quit", "quit", "path", "release"}));
-    EXPECT_EQ(zaznam.cesta, "C:\\Moje");
-}
-
-TEST_F(UkonceniExceluTest, ARefusedSaveIsReportedAndTheShutdownGoesOn) {
-    otevriPisen();
-    excel->fail("saveActiveWorkbook", error::applicationDefined);
-    dialogs.expect(nestandardni, "Chyba při ukládání souboru !\nData v písni mohou být ztracena.");
-    ukonci();
-    EXPECT_EQ(dialogs.last.icon, Icon::Exclamation);
-    EXPECT_EQ(zaznam.kroky, (QStringList{"save", "quit", "path", "release"}));
-}
-
-TEST_F(UkonceniExceluTest, AFailureWithoutANumberDoesNotStopTheShutdown) {
-    otevriPisen();
-    excel->bezPameti = true;
-    dialogs.expect("Neočekávaná chyba !", "Kontaktujte firmu " + kontakt + " a sdělte číslo chyby 0");
-    ukonci();
-    EXPECT_EQ(zaznam.kroky, (QStringList{"save", "quit", "path", "release"}));
-}
-
-TEST_F(UkonceniExceluTest, LaterFailuresEnterTheSameTrapAndNeverLastForever) {
-    otevriPisen();
-    excel->fail("saveActiveWorkbook", 1004);
-    excel->fail("quit", 70, 1000);
-    dialogs.expect(nestandardni, "Chyba při ukládání");
-    dialogs.expect("Neočekávaná chyba !", "Kontaktujte firmu " + kontakt + " a sdělte číslo chyby 70");
-    ukonci();
-    EXPECT_EQ(dialogs.last.icon, Icon::Critical);
-}
-
-TEST_F(UkonceniExceluTest, EachStepReportsItsOwnFailureAlsoOfTheSameNumber) {
-    otevriPisen();
-    excel->fail("saveActiveWorkbook", 1004);
-    excel->fail("setDefaultFilePath", 1004, 1000);
-    for (int krok = 0; krok < 2; ++krok)
-        dialogs.expect(nestandardni, "Chyba při ukládání souboru !\nData v písni mohou být ztracena.");
-    ukonci();
-}
-
-TEST_F(UkonceniExceluTest, AFailedReturnOfTheFolderResumesAtQuit) {
-    excel->fail("setDefaultFilePath", 1004);
-    dialogs.expect(nestandardni, "Chyba při ukládání");
-    ukonci();
-    EXPECT_EQ(zaznam.kroky, (QStringList{"quit", "path", "quit", "path", "release"}));
-    EXPECT_EQ(zaznam.cesta, "C:\\Moje");
-}
-
-TEST(SpusteniExcelu, TheFirstInstanceSetsTheFolderAndTheSecondStays) {
-    Zaznam zaznam{{}, "C:\\Moje"};
+TEST_F(UkonceniExceluTest, TheFirstInstanceSetsTheFolderAndTheSecondStays) {
     Pisen pisen;
-    SpustExcel([&] { return zaznam.kroky.append("create"), std::make_unique<ZapisovanyExcel>(zaznam); },
-               pisen);
-    EXPECT_EQ(zaznam.kroky, (QStringList{"create", "path", "quit", "release", "create", "visible"}));
-    EXPECT_EQ(pisen.puvodniCestaExcelu, "C:\\Moje");
-    EXPECT_EQ(zaznam.cesta, pracovniAdresar);
+    SpustExcel([&] { return log.calls.append("create"), launch(); }, pisen);
+    EXPECT_EQ(pisen.puvodniCestaExcelu, cestaUzivatele);
     EXPECT_EQ(pisen.excel().defaultFilePath(), pracovniAdresar);
+    log.calls.removeAll("defaultFilePath");
+    EXPECT_EQ(log.calls.join(u' '), "create setDefaultFilePath quit release create setVisible");
 }
 
-TEST(SpusteniExcelu, AFailedStartLeavesNoApplicationAndTheFolderOfTheUser) {
-    struct Pripad {
+TEST_F(UkonceniExceluTest, AFailedStartLeavesNoApplicationAndTheFolderOfTheUser) {
+    const struct {
         int nespustenyOd, nespustenyDo; ///< starts that fail
-        QString selze;                  ///< what fails in the instance that is number `instance`
+        const char* selze;              ///< what fails in the instance that is number `instance`
         int instance;
         QString cesta; ///< the default folder afterwards
+    } pripady[] = {
+        {1, 1, "", 0, cestaUzivatele},                   // not even the first one: nothing was changed
+        {2, 2, "", 0, cestaUzivatele},                   // given back by a third one
+        {2, 3, "", 0, pracovniAdresar},                  // nobody left to give it back
+        {0, 0, "quit", 1, cestaUzivatele},               // given back by the first one itself
+        {0, 0, "setDefaultFilePath", 1, cestaUzivatele}, // never changed
+        {0, 0, "setVisible", 2, cestaUzivatele},         // the second one started and failed then
     };
-    const Pripad pripady[] = {
-        {1, 1, "", 0, "C:\\Moje"},                   // not even the first one: nothing was changed
-        {2, 2, "", 0, "C:\\Moje"},                   // given back by a third one
-        {2, 3, "", 0, pracovniAdresar},              // nobody left to give it back
-        {0, 0, "quit", 1, "C:\\Moje"},               // given back by the first one itself
-        {0, 0, "setDefaultFilePath", 1, "C:\\Moje"}, // never changed
-        {0, 0, "setVisible", 2, "C:\\Moje"},         // the second one started and failed then
-    };
-    for (const auto& [od, az, selze, instance, cesta] : pripady) {
-        SCOPED_TRACE(QStringLiteral("%1 %2 %3").arg(od).arg(az).arg(selze).toStdString());
+    for (const auto& p : pripady) {
+        SCOPED_TRACE(
+            QStringLiteral("%1 %2 %3").arg(p.nespustenyOd).arg(p.nespustenyDo).arg(p.selze).toStdString());
         Pisen pisen;
+        log = {};
+        nastavCestu(cestaUzivatele);
         int pokusy = 0;
-        Zaznam zaznam{{}, "C:\\Moje"};
-        const SpreadsheetLauncher spoustec = [&, od = od, az = az, selze = selze, instance = instance] {
+        const SpreadsheetLauncher spoustec = [&] {
             ++pokusy;
-            if (pokusy >= od && pokusy <= az) throw AutomationError(429);
-            auto aplikace = std::make_unique<ZapisovanyExcel>(zaznam);
-            if (pokusy == instance) aplikace->fail(selze, 429);
-            return aplikace;
+            if (pokusy >= p.nespustenyOd && pokusy <= p.nespustenyDo) throw AutomationError(429);
+            if (pokusy == p.instance) log.fail(p.selze, 429);
+            return launch();
         };
-        ocekavejChybu(429, [&] { SpustExcel(spoustec, pisen); });
+        EXPECT_EQ(raised([&] { SpustExcel(spoustec, pisen); }), 429);
         EXPECT_EQ(pisen.aplikaceExcel, nullptr);
-        EXPECT_EQ(zaznam.cesta, cesta);
-        EXPECT_GE(zaznam.kroky.count("quit"), zaznam.kroky.count("release")) << "none is left running";
+        EXPECT_EQ(cesta().toStdString(), p.cesta.toStdString());
+        EXPECT_GE(log.count("quit"), log.count("release")) << "none is left running";
     }
 }
 

@@ -79,8 +79,8 @@ TEST_F(NavigaceTest, AFailedCommandForgetsWhatItReported) {
     otevriPolku(3);
     excel->put("V2", "x9;2\\");
     dialogs.expect("Chyba !", "").expect("Chyba !", "");
-    excel->fail("value", 1004); // of column I, behind the grip that is shown already
-    ocekavejChybu(1004, [this] { navigace.cmdJakDal(); });
+    log.fail("value", 1004); // of column I, behind the grip that is shown already
+    EXPECT_EQ(raised([this] { navigace.cmdJakDal(); }), 1004);
     navigace.cmdReadTah();
 }
 
@@ -166,7 +166,7 @@ TEST_F(NavigaceTest, LastGrip) {
 TEST_F(NavigaceTest, LastGripDoesNotTakeALostApplicationForAFullSheet) {
     otevriPolku(3);
     excel->userQuits();
-    ocekavejChybu(error::objectNotSet, [this] { navigace.cmdPosledni(); });
+    EXPECT_EQ(raised([this] { navigace.cmdPosledni(); }), error::objectNotSet);
 }
 
 TEST_F(NavigaceTest, BellowsCheckColoursTheSteppingButtons) {
@@ -227,22 +227,21 @@ TEST_F(NavigaceTest, FollowsTheUserInTheSheetWithoutDisturbingHim) {
 }
 
 TEST_F(NavigaceTest, FollowsTheUserToAnotherSheet) {
-    otevriPolku(3);
-    excel->addSheet("G dur");
-    excel->selectSheet(QStringLiteral("G dur"));
+    otevriPolku(3, {{{}, QStringLiteral("e1,")}});
+    excel->app().commands().selectSheet(2);
     navigace.sledujKurzor();
     EXPECT_EQ(panel.lblLadeni, "G dur");
     EXPECT_EQ(panel.Combo1, "G dur");
     EXPECT_EQ(panel.listy, (QStringList{"Tonavox XII", "G dur"}));
     EXPECT_EQ(excel->activeSheetName(), "G dur");
-    excel->renameActiveSheet("D dur");
+    excel->app().commands().renameSheet(2, "D dur");
     navigace.sledujKurzor();
     EXPECT_EQ(panel.listy, (QStringList{"Tonavox XII", "D dur"}));
 }
 
 TEST_F(NavigaceTest, DoesNotFollowForeignWorkbooksNorFailures) {
     otevriPolku(3);
-    excel->addWorkbook();
+    excel->app().addWorkbook();
     excel->userSelects("B2");
     navigace.sledujKurzor();
     EXPECT_EQ(panel.lblTon, "1");

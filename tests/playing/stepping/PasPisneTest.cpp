@@ -14,9 +14,9 @@ protected:
 TEST_F(PasPisneTest, RedrawsSixteenRowsFromTheCursorInOneRead) {
     otevriPolku(40);
     naRadek(21);
-    const int predtim = excel->calls("readBlock");
+    const int predtim = log.count("readBlock");
     pasPisne.ZobrazPas();
-    EXPECT_EQ(excel->calls("readBlock"), predtim + 1);
+    EXPECT_EQ(log.count("readBlock"), predtim + 1);
     EXPECT_EQ(pas.prvniRadekPasu, 21);
     EXPECT_EQ(pas.poziceVPasu, 1);
     EXPECT_EQ(pas.pozice[0].slabika, "s21");

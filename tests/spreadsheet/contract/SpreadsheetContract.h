@@ -7,6 +7,7 @@
 //                              ::testing::Values(SpreadsheetRigFactory{"embedded", makeEmbeddedRig}));
 
 #include "spreadsheet/SpreadsheetApplication.h"
+#include "tests/support/Raised.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -42,17 +43,6 @@ struct SpreadsheetRigFactory {
         return out << factory.name;
     }
 };
-
-/// The number that `call` raises; 0 when it succeeds.
-template <typename Call>
-int raised(Call call) {
-    try {
-        call();
-        return 0;
-    } catch (const AutomationError& failure) {
-        return failure.number();
-    }
-}
 
 /// Every operation that needs a workbook, with its name in messages.
 struct NamedCall {

@@ -1,7 +1,7 @@
 // Opens a workbook and saves it twice: without a change, and with the changes of a listing.
 // Usage: corpus_roundtrip FILE LISTING SAME CHANGED; "new" as FILE is a new workbook.
-// A line of the listing is "sheet row column what": n and a number, t and a text, b0 or b1, e and a code, or - to empty
-// the cell; r and the sheet's name, w and the column's width, a to make the cell the active one.
+// A line of the listing is "sheet row column what": n and a number, t and a text, b0 or b1, e and a code, or
+// - to empty the cell; r and the sheet's name, w and the column's width, a to make the cell the active one.
 #include "spreadsheet/xls/Workbook.h"
 
 #include <codecvt>

@@ -1,6 +1,6 @@
+#include "spreadsheet/Address.h"
 #include "tests/spreadsheet/libreoffice/CalcWorld.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
 #include <QTest>

@@ -1,21 +1,18 @@
-// What stands around Calc and needs none: the view's text, the profile, what is installed, calls that take
-// long.
+// What stands around Calc and needs none: the view's text, what a cell means, the profile, what is installed,
+// what was read ahead.
 #include "platform/RuntimeError.h"
 #include "spreadsheet/libreoffice/Installation.h"
-#include "spreadsheet/libreoffice/PatientCalls.h"
 #include "spreadsheet/libreoffice/Profile.h"
 #include "spreadsheet/libreoffice/ReadAhead.h"
-#include "spreadsheet/libreoffice/UserNotices.h"
+#include "spreadsheet/libreoffice/ShownValues.h"
 #include "spreadsheet/libreoffice/ViewData.h"
 
-#include <QCoreApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <atomic>
 #include <gtest/gtest.h>
-#include <thread>
 
 namespace zvonika::testing {
 
@@ -43,6 +40,7 @@ TEST(ViewData, TellsSheetAndCursor) {
                  {"100/60/0;1;tw:270;2/30/0/0;0/4/0/0;;", 2, 5, 1},
                  {"100/60/0;0;tw:270;1+70000+0+0", 1, 70001, 2},
                  {"", 0, 0, 0},
+                 {"100/60/0;-3;tw:270;2/30/0/0", 0, 0, 0},
                  {"100/60/0;2;tw:270;2/30/0/0;0/4/0/0", 0, 0, 0},
                  {"100/60/0;0;tw:270;", 0, 0, 0},
                  {"100/60/0;0;tw:270;x/30/0", 0, 0, 0}};
@@ -55,6 +53,23 @@ TEST(ViewData, TellsSheetAndCursor) {
     }
 }
 
+TEST(ShownValues, TellTruthFromNumbersAndErrorsFromEachOther) {
+    const struct {
+        const char *shown, *formula;
+        bool truth;
+    } cells[] = {{"TRUE", "1", true},     {"NEPRAVDA", "0", true}, {"1", "=TRUE()", true},
+                 {"0", "=FALSE()", true}, {"1", "1", false},       {"1,00", "1", false},
+                 {"", "0", false},        {"0 %", "=A1", false},   {"Ano", "=A1", true},
+                 {"1", "=TRUE", false}};
+    for (const auto& [shown, formula, truth] : cells)
+        EXPECT_EQ(showsTruth(shown, formula), truth) << shown << ' ' << formula;
+    const std::pair<const char*, const char*> errors[] = {
+        {"#DIV/0!", "#DIV/0!"}, {"#REF!", "#REF!"}, {"Err:508", "#N/A"}, {"", "#N/A"}, {"#N/A", "#N/A"}};
+    for (const auto& [shown, error] : errors)
+        EXPECT_EQ(errorShown(shown), error) << shown;
+    EXPECT_TRUE(isZeroOrOne(0.0) && isZeroOrOne(1.0) && !isZeroOrOne(0.5) && !isZeroOrOne(-1.0));
+}
+
 TEST(Profile, IsTakenOnceAndKeepsTheUsersSettings) {
     QTemporaryDir folder;
     const Profile first(folder.path());
@@ -65,12 +80,12 @@ TEST(Profile, IsTakenOnceAndKeepsTheUsersSettings) {
                              "oor:op=\"fuse\"><value>1</value></prop></item>\n";
     store(file, "<?xml version=\"1.0\"?>\n<oor:items>\n" + users + "</oor:items>\n");
     first.seed({"/tmp/Dvě písně", QRect(10, 20, 300, 400)});
-    first.seed({"/tmp/Dvě písně", QRect(11, 20, 300, 400), "7.4"});
+    first.seed({"/tmp/Dvě & písně", QRect(11, 20, 300, 400), "7.4"});
     const QByteArray seeded = contents(file);
     EXPECT_TRUE(seeded.contains(users));
     EXPECT_EQ(seeded.count("WarnAlienFormat"), 1);
     EXPECT_EQ(seeded.count("<value>7.4</value>"), 1);
-    EXPECT_EQ(seeded.count("<value>file:///tmp/Dv%C4%9B%20p%C3%ADsn%C4%9B</value>"), 1);
+    EXPECT_EQ(seeded.count("<value>file:///tmp/Dv%C4%9B%20&amp;%20p%C3%ADsn%C4%9B</value>"), 1);
     EXPECT_EQ(seeded.count("<value>11,20,300,400;1;0,0,0,0;</value>"), 1);
     EXPECT_FALSE(seeded.contains("<value>10,20"));
     EXPECT_THROW(Profile("/proc/zvonika"), RuntimeError);
@@ -94,8 +109,23 @@ TEST(ReadAhead, KnowsThePieceItHasReadUntilTheUserActs) {
     seen.learnCursor({8, 2}, 6);
     EXPECT_FALSE(seen.value({8, 23}, 6)) << "what was known before the act is gone";
     EXPECT_EQ(seen.cursor(6), (CellPosition{8, 2}));
+    seen.learnActive("pisen.xls", 6);
+    EXPECT_TRUE(seen.isActive("pisen.xls", 6));
+    EXPECT_FALSE(seen.isActive("pisen.xls", 7) || seen.isActive("jina.xls", 6) || seen.isActive("", 6));
+    seen.forget();
+    EXPECT_FALSE(seen.cursor(6) || seen.isActive("pisen.xls", 6));
     EXPECT_EQ(ReadAhead::pieceWith({lastRow, 30}), single({lastRow, 30}));
     EXPECT_EQ(ReadAhead::pieceWith({lastRow, 3}).last.row, lastRow);
+}
+
+TEST(ReadAhead, KnowsNothingForLong) {
+    ReadAhead seen(std::chrono::milliseconds(1));
+    seen.learnCursor({8, 2}, 0);
+    QElapsedTimer clock;
+    clock.start();
+    while (!clock.hasExpired(3)) {
+    }
+    EXPECT_FALSE(seen.cursor(0));
 }
 
 TEST(Installation, NamesWhatIsMissing) {
@@ -121,73 +151,6 @@ TEST(Installation, NamesWhatIsMissing) {
     EXPECT_EQ(missing("good"), "");
     const Installation best = findLibreOffice({{path("old"), path("good")}, {path("plugins")}});
     EXPECT_EQ(best.version, "7.4");
-}
-
-TEST(PatientCalls, NothingIsEnteredTwiceAndFailuresComeThrough) {
-    PatientCalls calls({[] {}, [] { return false; }, [] {}});
-    int nested = 0;
-    std::atomic<bool> release = false;
-    // Comes while the slow call is waited for, as a command from the window would.
-    QMetaObject::invokeMethod(
-        QCoreApplication::instance(),
-        [&] {
-            try {
-                calls.run(std::chrono::seconds(10), [] {});
-            } catch (const RuntimeError& refusal) {
-                nested = refusal.number();
-            }
-            release = true;
-        },
-        Qt::QueuedConnection);
-    const auto slow = [&] {
-        while (!release)
-            std::this_thread::yield();
-        throw RuntimeError(9);
-    };
-    EXPECT_THROW(calls.run(std::chrono::seconds(10), slow), RuntimeError);
-    EXPECT_EQ(nested, 1004);
-    calls.run(std::chrono::seconds(10), [&] { nested = 0; });
-    EXPECT_EQ(nested, 0);
-}
-
-TEST(PatientCalls, ACallThatCannotBeBrokenOffIsLeftBehind) {
-    auto release = std::make_shared<std::atomic<bool>>(false);
-    int asked = 0;
-    PatientCalls calls({[] {}, [&] { return ++asked < 2; }, [] {}});
-    EXPECT_THROW(calls.run(std::chrono::milliseconds(50),
-                           [release] {
-                               while (!*release)
-                                   std::this_thread::yield();
-                           }),
-                 RuntimeError);
-    EXPECT_EQ(asked, 2);
-    EXPECT_THROW(calls.run(std::chrono::milliseconds(50), [] {}), RuntimeError);
-    *release = true;
-}
-
-TEST(UserNotices, BringManyActsAsOneAndNoneAfterTheEnd) {
-    int delivered = 0;
-    UserNotices* made = nullptr;
-    UserNotices::Acts acts;
-    UserNotices notices(
-        [&] {
-            ++delivered;
-            acts = made->take();
-        },
-        [](const QString&) {});
-    made = &notices;
-    std::thread([&] {
-        for (int i = 0; i < 50; ++i)
-            notices.cursorMoved();
-    }).join();
-    QCoreApplication::processEvents();
-    EXPECT_EQ(delivered, 1);
-    EXPECT_TRUE(acts.moved && !acts.edited);
-    notices.deliverAgain();
-    notices.cellsEdited();
-    notices.stop();
-    QCoreApplication::processEvents();
-    EXPECT_EQ(delivered, 1);
 }
 
 } // namespace zvonika::testing

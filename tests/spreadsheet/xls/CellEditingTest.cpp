@@ -9,27 +9,27 @@ using namespace xlstest;
 
 namespace {
 
+std::uint64_t u(int value) {
+    return static_cast<std::uint64_t>(value);
+}
+
 Rec row(int number, int first, int end, int options = 0x0100, int format = 15) {
-    const auto u = [](int value) { return static_cast<std::uint64_t>(value); };
     return {0x0208, le(2, {u(number), u(first), u(end), 255, 0, 0, u(options), u(format)})};
 }
 
 Rec mulRk(int rowNumber, int first, const std::vector<int>& integers) {
-    const auto u = [](int value) { return static_cast<std::uint64_t>(value); };
     Bytes data = le(2, {u(rowNumber), u(first)});
     for (std::size_t i = 0; i < integers.size(); ++i)
         data = data + le(2, {20 + i}) + le(4, {u(integers[i]) << 2 | 2});
     return {0x00BD, data + le(2, {u(first) + integers.size() - 1})};
 }
 
-Rec rk(int rowNumber, int column, int format, int integer) {
-    const auto u = [](int value) { return static_cast<std::uint64_t>(value); };
-    return {0x027E, le(2, {u(rowNumber), u(column), u(format)}) + le(4, {u(integer) << 2 | 2})};
+Rec blank(int rowNumber, int column, int format) {
+    return {0x0201, le(2, {u(rowNumber), u(column), u(format)})};
 }
 
-Rec blank(int rowNumber, int column, int format) {
-    const auto u = [](int value) { return static_cast<std::uint64_t>(value); };
-    return {0x0201, le(2, {u(rowNumber), u(column), u(format)})};
+Rec rk(int rowNumber, int column, int format, int integer) {
+    return {0x027E, blank(rowNumber, column, format).data + le(4, {u(integer) << 2 | 2})};
 }
 
 Rec boolean(int rowNumber, int column, int format, bool value) {
@@ -48,14 +48,29 @@ Bytes sharedWith(unsigned rowNumber, unsigned column) {
     return Bytes{0x01} + le(2, {rowNumber, column});
 }
 
-/// The table's records after these values were set.
-std::vector<Rec> edited(const std::vector<Rec>& table, const std::vector<std::pair<CellRef, Value>>& values) {
+std::vector<Rec> saved(const std::vector<Rec>& table, const std::vector<std::pair<CellRef, Value>>& values) {
     Workbook book = Workbook::open(fileWithTable(table));
     for (const auto& [cell, value] : values)
         book.setValue(0, cell, value);
     const Bytes file = book.save();
     EXPECT_EQ(offsetFaults(file), "");
     return tableOf(file);
+}
+
+/// The table's records after these values were set: as one row block, and without a description of blocks.
+std::vector<Rec> edited(const std::vector<Rec>& table, const std::vector<std::pair<CellRef, Value>>& values) {
+    std::vector<Rec> after = saved(table, values);
+    const auto isRow = [](const Rec& record) { return record.id == 0x0208; };
+    const auto isBelow = [&](const auto& change) { return change.first.row >= table.front().u16(0); };
+    if (isRow(table.front()) && std::ranges::is_partitioned(table, isRow) &&
+        std::ranges::all_of(values, isBelow)) {
+        std::vector<Rec> asBlock = table;
+        asBlock.push_back(dbCellOf(table));
+        std::vector<Rec> block = saved(asBlock, values);
+        std::erase_if(block, [](const Rec& record) { return record.id == 0x00D7; });
+        EXPECT_EQ(block, after) << "the same with a row block";
+    }
+    return after;
 }
 
 void expectTable(const std::vector<Rec>& actual, const std::vector<Rec>& expected) {
@@ -197,16 +212,20 @@ TEST(ArrayFormula, IsChangedAsAWholeOrNotAtAll) {
 }
 
 TEST(NewCell, TakesTheFormatOfItsRowThenItsColumn) {
-    std::vector<Rec> all = recordsOf(fileWithTable(
-        {row(0, 0, 1, 0x0180, 25), row(1, 0, 1, 0x0100, 26), numberCell(0, 0, 1.5), numberCell(1, 0, 1.5)}));
+    const Rec formatted = row(0, 0, 4, 0x0180, 0x3019); // what is above twelve bits is no format
+    std::vector<Rec> all = recordsOf(fileWithTable({row(0, 0, 1, 0x0180, 0x3019), row(1, 0, 1, 0x0100, 26),
+                                                    numberCell(0, 0, 1.5), numberCell(1, 0, 1.5)}));
+    std::ranges::find(all, 0x0225, &Rec::id)->data = le(2, {0, 400});
+    Rec fresh = row(2, 2, 4);
+    std::ranges::copy(le(2, {400}), fresh.data.begin() + 6);
     all.insert(std::ranges::find(all, 0x0055, &Rec::id) + 1, {0x007D, le(2, {3, 3, 1000, 40, 0, 0})});
     Workbook book = Workbook::open(fileAround(bytesOf(all)));
     for (const CellRef& cell : {CellRef{0, 3}, CellRef{1, 3}, CellRef{1, 4}, CellRef{2, 3}, CellRef{2, 2}})
         book.setValue(0, cell, true);
     expectTable(tableOf(book.save()),
-                {row(0, 0, 4, 0x0180, 25), row(1, 0, 5, 0x0100, 26), row(2, 2, 4), numberCell(0, 0, 1.5),
-                 boolean(0, 3, 25, true), numberCell(1, 0, 1.5), boolean(1, 3, 40, true),
-                 boolean(1, 4, 15, true), boolean(2, 2, 15, true), boolean(2, 3, 40, true)});
+                {formatted, row(1, 0, 5, 0x0100, 26), fresh, numberCell(0, 0, 1.5), boolean(0, 3, 25, true),
+                 numberCell(1, 0, 1.5), boolean(1, 3, 40, true), boolean(1, 4, 15, true),
+                 boolean(2, 2, 15, true), boolean(2, 3, 40, true)});
 }
 
 TEST(NewCell, StandsInOrderWhereverTheRowsAre) {
@@ -279,6 +298,13 @@ TEST(Cells, OfSeveralRecordsKeepNoneOfTheOlderOnes) {
          {mulRk(0, 0, {10, 11, 12}), numberCell(0, 1, 2.5)},
          {0, 1},
          {rk(0, 0, 20, 10), rk(0, 2, 22, 12), blank(0, 1, 15)}},
+        {"a text that goes on",
+         {{0x0204, blank(0, 0, 15).data + le(2, {3}) + Bytes{0, 'a'}},
+          {0x003C, Bytes{0, 'b', 'c'}},
+          last,
+          other},
+         {0, 0},
+         {blank(0, 0, 15), other}},
         {"at the end of a run",
          {blanks, numberCell(0, 2, 1.5)},
          {0, 2},

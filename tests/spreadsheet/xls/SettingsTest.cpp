@@ -21,6 +21,14 @@ TEST(SheetName, RoundTripsInBothWidths) {
     }
 }
 
+TEST(SheetName, OfAHiddenSheetLeavesItHidden) {
+    std::vector<Rec> all = recordsOf(Workbook::create(u"List").save());
+    std::ranges::find(all, 0x0085, &Rec::id)->data[4] = 1;
+    Workbook book = Workbook::open(fileAround(bytesOf(all)));
+    book.renameSheet(0, u"Jiný");
+    EXPECT_EQ(find(recordsOf(book.save()), 0x0085)->data[4], 1);
+}
+
 TEST(SheetName, IsRefusedWhenASpreadsheetWould) {
     Workbook book = Workbook::open(readFixture("xlwt.xls"));
     for (const std::u16string& name :
@@ -37,27 +45,53 @@ TEST(SheetName, IsRefusedWhenASpreadsheetWould) {
 }
 
 TEST(ColumnWidth, SplitsTheRecordThatCoversMoreColumns) {
-    std::vector<Rec> all = recordsOf(Workbook::create(u"List").save());
-    const auto columns = std::ranges::find(all, 0x0055, &Rec::id) + 1;
-    all.insert(columns, {0x007D, le(2, {2, 6, 1000, 20, 0x0001, 0})}); // hidden columns C to G in format 20
-    Workbook book = Workbook::open(fileAround(bytesOf(all)));
-    EXPECT_EQ(book.columnWidth(0, 1), 8 * 256);
-    EXPECT_EQ(book.columnWidth(0, 4), 1000);
-    book.setColumnWidth(0, 4, 5000);
-    book.setColumnWidth(0, 0, 7000);
-    book.setColumnWidth(0, 9, 300);
-    const Bytes file = book.save();
-    std::vector<Bytes> written;
-    for (const Rec& record : recordsOf(file))
-        if (record.id == 0x007D) written.push_back(record.data);
-    const std::vector<Bytes> expected{le(2, {0, 0, 7000, 15, 2, 0}), le(2, {2, 3, 1000, 20, 1, 0}),
-                                      le(2, {4, 4, 5000, 20, 2, 0}), le(2, {5, 6, 1000, 20, 1, 0}),
-                                      le(2, {9, 9, 300, 15, 2, 0})};
-    EXPECT_EQ(written, expected);
-    const Workbook read = Workbook::open(file);
-    EXPECT_EQ(read.columnWidth(0, 0), 7000);
-    EXPECT_EQ(read.columnWidth(0, 4), 5000);
-    EXPECT_EQ(read.columnWidth(0, 6), 1000);
+    using Records = std::vector<Bytes>;
+    // First, last, width, format, flags: 1 hidden, 2 set by the user.
+    const auto info = [](std::uint64_t first, std::uint64_t last, std::uint64_t width, std::uint64_t format,
+                         std::uint64_t flags) {
+        return le(2, {first, last, width, format, flags, 0});
+    };
+    const struct {
+        const char* what;
+        Records before;
+        std::vector<std::pair<int, int>> widths;
+        Records after;
+    } table[] = {
+        {"one in its midst",
+         {info(2, 4, 1000, 20, 1)},
+         {{3, 5000}},
+         {info(2, 2, 1000, 20, 1), info(3, 3, 5000, 20, 2), info(4, 4, 1000, 20, 1)}},
+        {"its first", {info(2, 4, 1000, 20, 2)}, {{2, 0}}, {info(2, 2, 0, 20, 3), info(3, 4, 1000, 20, 2)}},
+        {"its last", {info(2, 4, 1000, 20, 0)}, {{4, 7}}, {info(2, 3, 1000, 20, 0), info(4, 4, 7, 20, 2)}},
+        {"neighbours",
+         {info(2, 6, 1000, 20, 0)},
+         {{4, 1}, {3, 2}},
+         {info(2, 2, 1000, 20, 0), info(3, 3, 2, 20, 2), info(4, 4, 1, 20, 2), info(5, 6, 1000, 20, 0)}},
+        {"of two records",
+         {info(0, 1, 500, 16, 2), info(3, 5, 600, 17, 0)},
+         {{0, 1}, {4, 2}, {2, 3}, {9, 4}},
+         {info(0, 0, 1, 16, 2), info(1, 1, 500, 16, 2), info(2, 2, 3, 15, 2), info(3, 3, 600, 17, 0),
+          info(4, 4, 2, 17, 2), info(5, 5, 600, 17, 0), info(9, 9, 4, 15, 2)}},
+    };
+    for (const auto& [what, before, widths, after] : table) {
+        SCOPED_TRACE(what);
+        std::vector<Rec> all = recordsOf(fileWithTable({numberCell(0, 0, 1.5)}));
+        auto place = std::ranges::find(all, 0x0055, &Rec::id) + 1;
+        for (const Bytes& data : before)
+            place = all.insert(place, {0x007D, data}) + 1;
+        Workbook book = Workbook::open(fileAround(bytesOf(all)));
+        EXPECT_EQ(book.columnWidth(0, 8), 8 * 256);
+        for (const auto& [column, width] : widths)
+            book.setColumnWidth(0, column, width);
+        const Bytes file = book.save();
+        Records written;
+        for (const Rec& record : recordsOf(file))
+            if (record.id == 0x007D) written.push_back(record.data);
+        EXPECT_EQ(written, after);
+        EXPECT_EQ(offsetFaults(file), "");
+        for (int column = 0; column < 12; ++column)
+            EXPECT_EQ(Workbook::open(file).columnWidth(0, column), book.columnWidth(0, column)) << column;
+    }
 }
 
 TEST(ActiveCell, IsTheCursorOfTheActivePane) {
@@ -73,11 +107,19 @@ TEST(ActiveCell, IsTheCursorOfTheActivePane) {
     const Rec lower{0x001D, Bytes{2} + le(2, {7, 3, 0, 1, 7, 7}) + Bytes{3, 3}};
     *selection = upper;
     all.insert(all.insert(selection, pane) + 2, lower);
+    const Bytes moved = Bytes{2} + le(2, {8, 4, 0, 1, 8, 8}) + Bytes{4, 4};
     book = Workbook::open(fileAround(bytesOf(all)));
     EXPECT_EQ(book.activeCell(0), (CellRef{7, 3}));
     book.setActiveCell(0, {8, 4});
     const std::vector<Rec> written = recordsOf(book.save());
     EXPECT_EQ(*find(written, 0x001D), upper) << "the other pane keeps its own";
+    EXPECT_EQ((find(written, 0x001D) + 1)->data, moved);
+    std::erase_if(all, [](const Rec& record) { return record.id == 0x001D; });
+    all.insert(std::ranges::find(all, 0x0041, &Rec::id), {0x00A0, le(2, {3, 4})}); // zoomed
+    book = Workbook::open(fileAround(bytesOf(all)));
+    book.setActiveCell(0, {8, 4});
+    const std::vector<Rec> added = recordsOf(book.save());
+    EXPECT_EQ((find(added, 0x0041) + 1)->data, moved);
     EXPECT_EQ(Workbook::open(book.save()).activeCell(0), (CellRef{8, 4}));
 }
 
@@ -97,10 +139,14 @@ TEST(ActiveSheet, IsTheOnlySelectedOne) {
         book.setActiveSheet(1);
         const Bytes file = book.save();
         EXPECT_EQ(Workbook::open(file).activeSheet(), 1) << name;
-        std::vector<int> selected;
-        for (const Rec& record : recordsOf(file))
-            if (record.id == 0x023E) selected.push_back(record.u16(0) & 0x0600);
-        EXPECT_EQ(selected, (std::vector<int>{0, 0x0600})) << name;
+        const auto windows = [](const Bytes& bytes) {
+            std::vector<int> flags;
+            for (const Rec& record : recordsOf(bytes))
+                if (record.id == 0x023E) flags.push_back(record.u16(0));
+            return flags;
+        };
+        const std::vector<int> before = windows(readFixture(name));
+        EXPECT_EQ(windows(file), (std::vector<int>{before[0] & ~0x0600, before[1] | 0x0600})) << name;
         book.setActiveSheet(0);
         EXPECT_FALSE(book.isModified()) << name;
     }

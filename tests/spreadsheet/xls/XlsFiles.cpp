@@ -23,20 +23,6 @@ bool isTable(const Rec& record) {
     return cellIds.contains(record.id) || tableIds.contains(record.id);
 }
 
-bool blockIsRight(const std::vector<Rec>& block, const Rec& dbCell) {
-    const std::uint32_t firstRow = dbCell.offset - dbCell.u32(0);
-    if (block.empty() || block.front().offset != firstRow) return false;
-    std::vector<std::uint32_t> expected;
-    std::set<std::uint16_t> rows;
-    for (const Rec& record : block)
-        if (cellIds.contains(record.id) && rows.insert(record.u16(0)).second)
-            expected.push_back(record.offset);
-    std::vector<std::uint32_t> listed;
-    for (std::size_t i = 4; i + 1 < dbCell.data.size(); i += 2)
-        listed.push_back((listed.empty() ? firstRow + 20 : listed.back()) + dbCell.u16(i));
-    return listed == expected;
-}
-
 } // namespace
 
 Bytes readFixture(const std::string& name) {
@@ -115,6 +101,22 @@ Rec numberCell(int row, int column, double number, int format) {
                         le(8, {std::bit_cast<std::uint64_t>(number)})};
 }
 
+Rec dbCellOf(const std::vector<Rec>& table) {
+    std::uint64_t at = 0;
+    std::map<std::uint16_t, std::uint64_t> firstCells;
+    for (const Rec& record : table) {
+        if (cellIds.contains(record.id)) firstCells.try_emplace(record.u16(0), at);
+        at += 4 + record.data.size();
+    }
+    Bytes data = le(4, {at});
+    std::uint64_t before = 20;
+    for (const auto& [row, first] : firstCells) {
+        data = data + le(2, {first - before});
+        before = first;
+    }
+    return {0x00D7, data};
+}
+
 std::string offsetFaults(const Bytes& file, const Bytes& original) {
     const std::vector<Rec> theirs = original.empty() ? std::vector<Rec>() : recordsOf(original);
     std::string faults;
@@ -125,9 +127,10 @@ std::string offsetFaults(const Bytes& file, const Bytes& original) {
     std::vector<Rec> block;
     for (const Rec& record : all) {
         if (record.id == 0x0085 && at[record.u32(0)] != 0x0809) faults += "BoundSheet ";
-        if (record.id == 0x0208 || cellIds.contains(record.id)) block.push_back(record);
+        if (record.id == 0x0208 || !block.empty() || cellIds.contains(record.id)) block.push_back(record);
         if (record.id == 0x00D7) {
-            if (std::ranges::find(theirs, record) == theirs.end() && !blockIsRight(block, record))
+            block.pop_back();
+            if (std::ranges::find(theirs, record) == theirs.end() && !(dbCellOf(block) == record))
                 faults += "DbCell " + std::to_string(record.offset) + " ";
             block.clear();
         }

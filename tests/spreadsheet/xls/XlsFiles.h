@@ -46,6 +46,9 @@ const Rec* find(const std::vector<Rec>& records, std::uint16_t id);
 Bytes fileWithTable(const std::vector<Rec>& records);
 Rec numberCell(int row, int column, double number, int format = 15);
 
+/// The record that describes these rows and cells as one block.
+Rec dbCellOf(const std::vector<Rec>& table);
+
 /// Checks every stream offset of BoundSheet, Index and DbCell; returns what is wrong, or nothing.
 /// DbCell records that are in `original`, too, are the other writer's.
 std::string offsetFaults(const Bytes& file, const Bytes& original = {});

@@ -1,0 +1,37 @@
+#include "app/UdalostiOkna.h"
+
+#include "app/Modely.h"
+#include "playing/stepping/StavovyRadek.h"
+
+namespace zvonika {
+
+namespace {
+
+bool neniCoZapsat(const Modely& modely) {
+    return modely.diskant.oznacene().empty() && modely.basy.oznacene().empty() &&
+           modely.zapisovaciOsnova.volnySlot() == 0;
+}
+
+} // namespace
+
+bool UdalostiOkna::proved(const std::function<void()>& procedura) {
+    if (bezi()) return false;
+    modely_.panel.upozorneni.clear();
+    const bool provedeno = obsluha_.proved(procedura);
+    ukazStav();
+    return provedeno;
+}
+
+void UdalostiOkna::ukazStav() {
+    StavProgramu stav;
+    stav.pisenOtevrena = modely_.pisen.otevrena();
+    stav.automatBezi = modely_.timer1.zapnuty();
+    stav.stupnice = modely_.tonina.stupnice().text();
+    stav.neniCoZapsat = neniCoZapsat(modely_);
+    stav.radekPrazdny = modely_.panel.lblTony.isEmpty() && modely_.panel.lblBasy.isEmpty();
+    stav.upozorneni = modely_.panel.upozorneni;
+    modely_.panel.stav = stavovyRadek(stav);
+    modely_.panel.oznamZmenu();
+}
+
+} // namespace zvonika

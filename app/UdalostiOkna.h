@@ -1,0 +1,32 @@
+#pragma once
+
+#include "app/ObsluhaUdalosti.h"
+
+namespace zvonika {
+
+struct Modely;
+
+/// The event procedures of the main window over its models: each starts with no notice to the user and ends
+/// with the status line that fits what it has left.
+class UdalostiOkna {
+public:
+    UdalostiOkna(Modely& modely, Dialogs& dialogs, Shell& shell)
+        : modely_(modely), obsluha_(dialogs, shell) {}
+
+    /// Runs a procedure, see `ObsluhaUdalosti::proved`.
+    bool proved(const std::function<void()>& procedura);
+    /// Runs one without an error trap, see `ObsluhaUdalosti::provedBezZachyceni`.
+    void provedBezZachyceni(const std::function<void()>& procedura) {
+        obsluha_.provedBezZachyceni(procedura);
+    }
+    /// True while a procedure runs.
+    bool bezi() const { return obsluha_.bezi(); }
+    /// Says in the status line what the models have come to, and has the panel shown.
+    void ukazStav();
+
+private:
+    Modely& modely_;
+    ObsluhaUdalosti obsluha_;
+};
+
+} // namespace zvonika

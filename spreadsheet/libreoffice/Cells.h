@@ -1,0 +1,36 @@
+#pragma once
+
+#include "spreadsheet/SpreadsheetApplication.h"
+#include "spreadsheet/libreoffice/PacedCursor.h"
+
+namespace zvonika {
+
+/// The cells of Calc's active sheet, as the port has them.
+class Cells {
+public:
+    Cells(CalcCalls& calls, PacedCursor& cursor, ReadAhead& seen)
+        : calls_(calls), cursor_(cursor), seen_(seen) {}
+
+    CellValue value(const QString& address);                       ///< of a range, its first cell
+    void setValue(const QString& address, const CellValue& value); ///< of a range, all its cells
+    CellValue activeValue() { return at(cursor_.position()); }
+    void setActiveValue(const CellValue& value);
+    void moveCursor(int rows, int columns);
+    void clear(const QString& address);
+    void findAndActivate(const FindArguments& arguments);
+
+    CellBlock read(const QString& address);
+    void write(const QString& address, const CellBlock& block);
+    /// A block as it was read; a single cell fills the selection.
+    void writeAtSelection(const CellBlock& block);
+
+private:
+    CellValue at(CellPosition cell);
+    void noteWrite(const CellRange& range, const CellValue& value);
+
+    CalcCalls& calls_;
+    PacedCursor& cursor_;
+    ReadAhead& seen_;
+};
+
+} // namespace zvonika
