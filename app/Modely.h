@@ -16,7 +16,8 @@ namespace zvonika {
 
 /// The state of the run: everything that conversations change and windows show.
 struct Modely {
-    explicit Modely(const QString& slozkaProgramu) : tabulkaBasu(slozkaProgramu) {}
+    Modely(const Nastroj& nastroj, const QString& slozkaProgramu)
+        : diskant(nastroj), basy(nastroj), tabulkaBasu(slozkaProgramu, nastroj.pocetBasu()) {}
 
     Pisen pisen;
     SongPanel panel;

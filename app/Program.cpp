@@ -9,7 +9,7 @@
 namespace zvonika {
 
 Program::Program(const Prostredi& prostredi)
-    : prostredi_(prostredi), modely_(prostredi.drive.programFolder()),
+    : prostredi_(prostredi), modely_(prostredi.nastroj, prostredi.drive.programFolder()),
       udalosti_(modely_, prostredi.dialogs, prostredi.shell),
       konverzace_(modely_, prostredi_,
                   [this] { cmdStupnice(okno_, konverzace_.pomucky().volbaStupnice, modely_.tonina); }),

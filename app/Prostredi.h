@@ -2,6 +2,7 @@
 
 #include "aids/ui/VolbaProhlizece.h"
 #include "app/TabulkoveProgramy.h"
+#include "board/Nastroj.h"
 #include "platform/Dialogs.h"
 #include "platform/Drive.h"
 #include "platform/Media.h"
@@ -11,7 +12,8 @@
 
 namespace zvonika {
 
-/// The outside world as the program is given it; all of it outlives the program.
+/// The outside world as the program is given it, and the instrument. What is held by reference
+/// outlives the program.
 struct Prostredi {
     Dialogs& dialogs;
     SettingsStore& nastaveni;
@@ -21,6 +23,7 @@ struct Prostredi {
     WakeUpClock& hodiny;
     Media& media;
     TvurceProhlizece tvurceProhlizece = jednoduchyProhlizec();
+    Nastroj nastroj = nastrojZvonika();
 };
 
 } // namespace zvonika

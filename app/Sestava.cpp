@@ -81,7 +81,8 @@ struct Sestava::Casti {
           libreOffice(drive, dialogs, nastaveni(QStringLiteral("Calc Zvoniky"), umisteni),
                       profilyLibreOffice(umisteni)),
           program({dialogs, *nastaveniProgramu, drive, shell, tabulky(),
-                   umisteni.hodiny ? *umisteni.hodiny : hodiny, *media, volbaProhlizece(pluginFolders())}) {
+                   umisteni.hodiny ? *umisteni.hodiny : hodiny, *media, volbaProhlizece(pluginFolders()),
+                   nastrojZvonika()}) {
         dialogs.setMainWindow(&program.okno());
         const QScreen* obrazovka = QApplication::primaryScreen();
         okna = rozmistiOkna(obrazovka ? obrazovka->availableGeometry() : QRect(0, 0, 1366, 768));

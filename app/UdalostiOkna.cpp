@@ -7,15 +7,8 @@ namespace zvonika {
 
 namespace {
 
-template <typename Deska>
-bool nejakyOznacen(const Deska& deska, int pocet) {
-    for (int n = 1; n <= pocet; ++n)
-        if (deska.oznacen(n)) return true;
-    return false;
-}
-
 bool neniCoZapsat(const Modely& modely) {
-    return !nejakyOznacen(modely.diskant, pocetKnofliku) && !nejakyOznacen(modely.basy, pocetBasu) &&
+    return modely.diskant.oznacene().empty() && modely.basy.oznacene().empty() &&
            modely.zapisovaciOsnova.volnySlot() == 0;
 }
 

@@ -2,46 +2,67 @@
 
 namespace zvonika {
 
-ObrazBasu obrazBasu(int bas) {
-    if (bas == 30) return ObrazBasu::C;
-    return bas == 26 || bas == 34 ? ObrazBasu::Mriz : ObrazBasu::Bezny;
+BassBoard::BassBoard(const Nastroj& nastroj, QObject* parent)
+    : QObject(parent), nastroj_(nastroj), hmat_(nastroj.basy.size() + 1) {
+    znacky_.basy.resize(hmat_.size());
 }
-
-BassBoard::BassBoard(QObject* parent) : QObject(parent) {}
 
 bool BassBoard::oznacen(int bas) const {
-    return basy_.at(static_cast<std::size_t>(bas)).oznacen;
+    return znacky_.basy.at(static_cast<std::size_t>(bas)).oznacen;
 }
 
-void BassBoard::nastavZnacku(int bas, bool oznacen) {
-    bool& znacka = basy_.at(static_cast<std::size_t>(bas)).oznacen;
-    if (znacka == oznacen) return;
-    znacka = oznacen;
-    Q_EMIT basZmenen(bas);
+std::vector<int> BassBoard::oznacene() const {
+    std::vector<int> oznacene;
+    for (int bas = 1; bas <= nastroj_.pocetBasu(); ++bas)
+        if (oznacen(bas)) oznacene.push_back(bas);
+    return oznacene;
+}
+
+void BassBoard::nastavZnacku(int bas, bool oznacit) {
+    if (oznacen(bas) == oznacit) return;
+    const StavBasu hmat = hmat_.at(static_cast<std::size_t>(bas));
+    zmen(bas, {oznacit, hmat != StavBasu::Volny}, hmat);
 }
 
 StavBasu BassBoard::stav(int bas) const {
-    return basy_.at(static_cast<std::size_t>(bas)).stav;
+    const auto i = static_cast<std::size_t>(bas);
+    if (hmat_.at(i) != StavBasu::Volny && !znacky_.basy.at(i).nadHmatem) return hmat_.at(i);
+    return oznacen(bas) ? StavBasu::Cerveny : StavBasu::Volny;
 }
 
-void BassBoard::ukaz(int bas, StavBasu stav) {
-    StavBasu& ukazany = basy_.at(static_cast<std::size_t>(bas)).stav;
-    if (ukazany == stav) return;
-    ukazany = stav;
-    Q_EMIT basZmenen(bas);
+void BassBoard::ukazZnacky(const ZnackyBasu& znacky) {
+    for (int bas = 1; bas <= nastroj_.pocetBasu(); ++bas) {
+        const StavBasu hmat = hmat_.at(static_cast<std::size_t>(bas));
+        Znacka znacka = znacky.basy.at(static_cast<std::size_t>(bas));
+        znacka.nadHmatem &= hmat != StavBasu::Volny;
+        zmen(bas, znacka, hmat);
+    }
+}
+
+void BassBoard::ukazHmat(int bas, StavBasu smer) {
+    zmen(bas, {oznacen(bas), false}, smer);
+}
+
+void BassBoard::odeberHmat() {
+    for (int bas = 1; bas <= nastroj_.pocetBasu(); ++bas)
+        zmen(bas, {oznacen(bas), false}, StavBasu::Volny);
 }
 
 void BassBoard::klik(int bas) {
-    const bool oznacit = !oznacen(bas);
-    nastavZnacku(bas, oznacit);
-    ukaz(bas, oznacit ? StavBasu::Cerveny : StavBasu::Volny);
+    nastavZnacku(bas, !oznacen(bas));
 }
 
 void BassBoard::uvolniBasy() {
-    for (int bas = 1; bas <= pocetBasu; ++bas) {
-        nastavZnacku(bas, false);
-        ukaz(bas, StavBasu::Volny);
-    }
+    for (int bas = 1; bas <= nastroj_.pocetBasu(); ++bas)
+        zmen(bas, {}, StavBasu::Volny);
+}
+
+void BassBoard::zmen(int bas, const Znacka& znacka, StavBasu hmat) {
+    const StavBasu videny = stav(bas);
+    const bool byl = oznacen(bas);
+    znacky_.basy.at(static_cast<std::size_t>(bas)) = znacka;
+    hmat_.at(static_cast<std::size_t>(bas)) = hmat;
+    if (oznacen(bas) != byl || stav(bas) != videny) Q_EMIT basZmenen(bas);
 }
 
 } // namespace zvonika

@@ -16,13 +16,14 @@ QString textPolozky(const pugi::xml_node& polozka, const char* jmeno) {
 
 } // namespace
 
-BassTable::BassTable(const QString& slozkaProgramu)
-    : soubor_(slozkaProgramu + QStringLiteral("/tonavox.xml")) {
+BassTable::BassTable(const QString& slozkaProgramu, int pocetBasu)
+    : soubor_(slozkaProgramu + QStringLiteral("/tonavox.xml")),
+      nazvy_(static_cast<std::size_t>(pocetBasu) + 1) {
     nacti();
 }
 
 bool BassTable::nacti() {
-    nazvy_.fill({});
+    nazvy_.assign(nazvy_.size(), {});
     cisla_.clear();
     pugi::xml_document dokument;
     chyba_ = loadXmlTable(soubor_, jmenoTabulky, dokument);
@@ -36,6 +37,7 @@ QString BassTable::nactiPolozky(const pugi::xml_document& dokument) {
         if (!pridej(textPolozky(nalez.node(), "cislo").toInt(), textPolozky(nalez.node(), "bas"))) ++vadnych;
 
     QStringList vady;
+    const auto pocetBasu = static_cast<qsizetype>(nazvy_.size()) - 1;
     const auto chybi = pocetBasu - cisla_.size();
     if (chybi > 0) vady << QStringLiteral("nezná %1 ze %2 basových knoflíků").arg(chybi).arg(pocetBasu);
     if (vadnych > 0) vady << QStringLiteral("má vadné nebo opakované položky (%1)").arg(vadnych);
@@ -43,7 +45,7 @@ QString BassTable::nactiPolozky(const pugi::xml_document& dokument) {
 }
 
 bool BassTable::pridej(int bas, const QString& nazev) {
-    if (bas < 1 || bas > pocetBasu || nazev.isEmpty()) return false;
+    if (!jeKnoflik(bas) || nazev.isEmpty()) return false;
     QString& misto = nazvy_.at(static_cast<std::size_t>(bas));
     if (!misto.isEmpty() || cisla_.contains(nazev)) return false;
     misto = nazev;
@@ -52,7 +54,7 @@ bool BassTable::pridej(int bas, const QString& nazev) {
 }
 
 QString BassTable::nazev(int bas) const {
-    return bas < 1 || bas > pocetBasu ? QString() : nazvy_.at(static_cast<std::size_t>(bas));
+    return jeKnoflik(bas) ? nazvy_.at(static_cast<std::size_t>(bas)) : QString();
 }
 
 } // namespace zvonika

@@ -1,12 +1,10 @@
 #pragma once
 
-#include "board/TrebleLayout.h"
-
 #include <QHash>
 #include <QString>
 
-#include <array>
 #include <pugixml.hpp>
+#include <vector>
 
 namespace zvonika {
 
@@ -15,15 +13,16 @@ namespace zvonika {
 /// with faults keeps the entries that are good, and `chyba` tells what is wrong.
 class BassTable {
 public:
-    /// `slozkaProgramu`: native folder of the table. The table is loaded at once.
-    explicit BassTable(const QString& slozkaProgramu);
+    /// `slozkaProgramu`: native folder of the table, which is loaded at once; `pocetBasu`: how many buttons
+    /// the instrument has.
+    BassTable(const QString& slozkaProgramu, int pocetBasu);
 
     /// Loads the table afresh; true when it is whole.
     bool nacti();
 
-    /// Name of button 1..120; "" where the table has none.
+    /// Name of a button from 1 on; "" where the table has none.
     QString nazev(int bas) const;
-    /// Button 1..120 of exactly this name; 0 when unknown.
+    /// The button of exactly this name; 0 when unknown.
     int cislo(const QString& nazev) const { return cisla_.value(nazev, 0); }
 
     /// One Czech sentence on what is wrong with the table; "" when it is whole.
@@ -31,11 +30,12 @@ public:
 
 private:
     QString nactiPolozky(const pugi::xml_document& dokument);
+    bool jeKnoflik(int bas) const { return bas >= 1 && bas < static_cast<int>(nazvy_.size()); }
     bool pridej(int bas, const QString& nazev);
 
     QString soubor_;
     QString chyba_;
-    std::array<QString, pocetBasu + 1> nazvy_;
+    std::vector<QString> nazvy_; ///< of button n at n; 0 is nobody's
     QHash<QString, int> cisla_;
 };
 

@@ -2,6 +2,7 @@
 
 #include "theory/NazvyTonu.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace zvonika {
@@ -33,59 +34,114 @@ QString prejmenuj(const QString& popis, const QString& stary, const QString& nov
 
 } // namespace
 
-TrebleBoard::TrebleBoard(QObject* parent) : QObject(parent) {
-    for (int n = 1; n <= pocetKnofliku; ++n)
+struct TrebleBoard::Pohled {
+    bool oznacen;
+    StavKnofliku stav;
+    BarvaKlavesy klavesa;
+    QString ton;
+};
+
+TrebleBoard::TrebleBoard(const Nastroj& nastroj, QObject* parent)
+    : QObject(parent), nastroj_(nastroj), knofliky_(nastroj.knofliky.size() + 1),
+      zabrany_(static_cast<std::size_t>(nastroj.pocetRad) + 1) {
+    znacky_.knofliky.resize(knofliky_.size());
+    for (int n = 1; n <= nastroj_.pocetKnofliku(); ++n)
         vratBarvuKlavesy(n);
-    knoflik(28).klavesa = BarvaKlavesy::WindowBackground;
+    if (const int n = nastroj.vyjimecnaKlavesa) znacka(n).klavesa = BarvaKlavesy::WindowBackground;
 }
 
 bool TrebleBoard::oznacen(int n) const {
-    return knoflik(n).oznacen;
+    return znacka(n).oznacen;
+}
+
+std::vector<int> TrebleBoard::oznacene() const {
+    std::vector<int> oznacene = znacky_.poradi;
+    std::sort(oznacene.begin(), oznacene.end());
+    return oznacene;
+}
+
+Dotek TrebleBoard::nejvyse(int n) const {
+    if (n == interval_) return Dotek::NadIntervalem;
+    return knoflik(n).hmat == StavKnofliku::Volny ? Dotek::Dole : Dotek::NadHmatem;
+}
+
+TrebleBoard::Pohled TrebleBoard::pohled(int n) const {
+    return {oznacen(n), stav(n), barvaKlavesy(n), tonKlavesy(n)};
+}
+
+void TrebleBoard::oznamZmenu(int n, const Pohled& predtim) {
+    const Pohled ted = pohled(n);
+    if (ted.oznacen != predtim.oznacen || ted.stav != predtim.stav) Q_EMIT knoflikZmenen(n);
+    if (ted.klavesa != predtim.klavesa || ted.ton != predtim.ton) Q_EMIT klavesaZmenena(n);
 }
 
 void TrebleBoard::nastavZnacku(int n, bool oznacen) {
-    if (!zmen(knoflik(n).oznacen, oznacen)) return;
-    if (oznacen)
-        poradiZnacek_.push_back(n);
-    else
-        std::erase(poradiZnacek_, n);
-    Q_EMIT knoflikZmenen(n);
+    const Pohled predtim = pohled(n);
+    if (!zmen(znacka(n).oznacen, oznacen)) return;
+    znacka(n).dotek = nejvyse(n);
+    if (oznacen) {
+        znacky_.poradi.push_back(n);
+        znacka(n).klavesa = BarvaKlavesy::Cervena;
+    } else {
+        std::erase(znacky_.poradi, n);
+        znacka(n).tonKlavesy.clear();
+        vratBarvuKlavesy(n);
+    }
+    oznamZmenu(n, predtim);
+}
+
+void TrebleBoard::ukazZnacky(const ZnackyDiskantu& znacky) {
+    znacky_.poradi = znacky.poradi;
+    for (int n = 1; n <= nastroj_.pocetKnofliku(); ++n) {
+        const Pohled predtim = pohled(n);
+        znacka(n) = znacky.knofliky.at(static_cast<std::size_t>(n));
+        znacka(n).dotek = std::min(znacka(n).dotek, nejvyse(n));
+        oznamZmenu(n, predtim);
+    }
 }
 
 StavKnofliku TrebleBoard::stav(int n) const {
-    return knoflik(n).stav;
+    if (n == interval_ && znacka(n).dotek < Dotek::NadIntervalem) return StavKnofliku::Hnedy;
+    const StavKnofliku hmat = knoflik(n).hmat;
+    if (hmat != StavKnofliku::Volny && znacka(n).dotek < Dotek::NadHmatem) return hmat;
+    return oznacen(n) ? StavKnofliku::Cerveny : StavKnofliku::Volny;
 }
 
 StavKnofliku TrebleBoard::stavPomocneho(int n) const {
-    return knoflik(n).stavPomocneho;
+    return maPomocny(n) ? stav(n) : StavKnofliku::Volny;
 }
 
-void TrebleBoard::ukaz(int n, StavKnofliku stav) {
-    ukazHlavni(n, stav);
-    ukazPomocny(n, stav);
+void TrebleBoard::ukazHmat(int n, StavKnofliku smer) {
+    const Pohled predtim = pohled(n);
+    knoflik(n).hmat = smer;
+    znacka(n).dotek = Dotek::Dole;
+    oznamZmenu(n, predtim);
 }
 
-void TrebleBoard::ukazHlavni(int n, StavKnofliku stav) {
-    if (zmen(knoflik(n).stav, stav)) Q_EMIT knoflikZmenen(n);
-}
-
-void TrebleBoard::ukazPomocny(int n, StavKnofliku stav) {
-    if (maPomocny(n) && zmen(knoflik(n).stavPomocneho, stav)) Q_EMIT knoflikZmenen(n);
+void TrebleBoard::odeberHmat() {
+    odeberInterval();
+    for (int n = 1; n <= nastroj_.pocetKnofliku(); ++n) {
+        const Pohled predtim = pohled(n);
+        knoflik(n).hmat = StavKnofliku::Volny;
+        znacka(n).dotek = Dotek::Dole;
+        oznamZmenu(n, predtim);
+    }
 }
 
 void TrebleBoard::ukazInterval(int n) {
     odeberInterval();
-    podIntervalem_ = {n, stav(n), stavPomocneho(n), barvaKlavesy(n)};
-    ukaz(n, StavKnofliku::Hnedy);
-    nastavBarvuKlavesy(n, BarvaKlavesy::Hneda);
+    const Pohled predtim = pohled(n);
+    interval_ = n;
+    oznamZmenu(n, predtim);
 }
 
 void TrebleBoard::odeberInterval() {
-    const PodIntervalem pod = std::exchange(podIntervalem_, {});
-    if (pod.n == 0) return;
-    if (stav(pod.n) == StavKnofliku::Hnedy) ukazHlavni(pod.n, pod.stav);
-    if (stavPomocneho(pod.n) == StavKnofliku::Hnedy) ukazPomocny(pod.n, pod.stavPomocneho);
-    if (barvaKlavesy(pod.n) == BarvaKlavesy::Hneda) nastavBarvuKlavesy(pod.n, pod.klavesa);
+    if (interval_ == 0) return;
+    const int n = interval_;
+    const Pohled predtim = pohled(n);
+    interval_ = 0;
+    znacka(n).dotek = std::min(znacka(n).dotek, nejvyse(n));
+    oznamZmenu(n, predtim);
 }
 
 QString TrebleBoard::popis(int n) const {
@@ -106,7 +162,7 @@ void TrebleBoard::nastavPopisPomocneho(int n, const QString& popis) {
 
 void TrebleBoard::nastavNazvy(bool zapnuto, const QString& stupnice) {
     const bool prepnuto = zmen(nazvy_, zapnuto);
-    for (int n = 1; n <= pocetKnofliku; ++n) {
+    for (int n = 1; n <= nastroj_.pocetKnofliku(); ++n) {
         const QString novy = zapnuto ? nazevTonu(CisloTonu(n), Key(stupnice)).nazev.text() : QString();
         const QString stary = std::exchange(knoflik(n).nazev, novy);
         nastavPopis(n, prejmenuj(popis(n), stary, novy));
@@ -116,39 +172,44 @@ void TrebleBoard::nastavNazvy(bool zapnuto, const QString& stupnice) {
 }
 
 void TrebleBoard::vyprazdniPopisy() {
-    for (int n = 1; n <= pocetKnofliku; ++n) {
+    for (int n = 1; n <= nastroj_.pocetKnofliku(); ++n) {
         nastavPopis(n, knoflik(n).nazev);
         nastavPopisPomocneho(n, knoflik(n).nazev);
     }
 }
 
 BarvaKlavesy TrebleBoard::barvaKlavesy(int n) const {
-    return knoflik(n).klavesa;
-}
-
-void TrebleBoard::nastavBarvuKlavesy(int n, BarvaKlavesy barva) {
-    if (zmen(knoflik(n).klavesa, barva)) Q_EMIT klavesaZmenena(n);
+    if (n == interval_ && znacka(n).dotek < Dotek::NadIntervalem) return BarvaKlavesy::Hneda;
+    return znacka(n).klavesa;
 }
 
 void TrebleBoard::vratBarvuKlavesy(int n) {
-    nastavBarvuKlavesy(n, jePulton(n) ? BarvaKlavesy::WindowText : BarvaKlavesy::CaptionText);
+    znacka(n).klavesa = jePulton(n) ? BarvaKlavesy::WindowText : BarvaKlavesy::CaptionText;
 }
 
 QString TrebleBoard::tonKlavesy(int n) const {
-    return knoflik(n).tonKlavesy;
+    return znacka(n).tonKlavesy;
 }
 
 void TrebleBoard::nastavTonKlavesy(int n, const QString& ton) {
-    if (zmen(knoflik(n).tonKlavesy, ton)) Q_EMIT klavesaZmenena(n);
+    if (zmen(znacka(n).tonKlavesy, ton)) Q_EMIT klavesaZmenena(n);
+}
+
+void TrebleBoard::prejmenujKlavesy(const QString& stupnice) {
+    for (int n = 1; n <= nastroj_.pocetKnofliku(); ++n)
+        if (!tonKlavesy(n).isEmpty())
+            nastavTonKlavesy(n, nazevTonu(CisloTonu(n), Key(stupnice)).nazev.text());
 }
 
 void TrebleBoard::vyprazdniTonyKlaves() {
-    for (int n = 1; n <= pocetKnofliku; ++n)
+    for (int n = 1; n <= nastroj_.pocetKnofliku(); ++n)
         nastavTonKlavesy(n, {});
 }
 
 void TrebleBoard::nastavZabranu(int rada, bool zakryta) {
-    if (zmen(zabrany_.at(static_cast<std::size_t>(rada)), zakryta)) Q_EMIT zabranyZmeneny();
+    if (zabrany_.at(static_cast<std::size_t>(rada)) == zakryta) return;
+    zabrany_.at(static_cast<std::size_t>(rada)) = zakryta;
+    Q_EMIT zabranyZmeneny();
 }
 
 bool TrebleBoard::zakryta(int rada) const {
@@ -162,7 +223,7 @@ void TrebleBoard::nastavCislovani(bool viditelne) {
 
 QString TrebleBoard::popisCisla(int index) const {
     if (otoceno_ && jePismeno(index)) return slovoOdzadu.at(index - prvniPismeno);
-    return QString::number(textCisla(index));
+    return QString::number(nastroj_.cislo(index).text);
 }
 
 bool TrebleBoard::cisloViditelne(int index) const {
@@ -181,15 +242,16 @@ void TrebleBoard::nastavObraceneCislovani(bool obracene) {
 }
 
 void TrebleBoard::uvolniDiskant() {
-    for (int n = 1; n <= pocetKnofliku; ++n) {
-        ukaz(n, StavKnofliku::Volny);
+    odeberHmat();
+    for (const int n : oznacene())
         nastavZnacku(n, false);
-    }
 }
 
 void TrebleBoard::uvolniKlavesy() {
-    for (int n = 1; n <= pocetKnofliku; ++n) {
+    for (int n = 1; n <= nastroj_.pocetKnofliku(); ++n) {
+        const Pohled predtim = pohled(n);
         vratBarvuKlavesy(n);
+        oznamZmenu(n, predtim);
         if (jePulton(n)) nastavZnacku(n, false);
     }
     vyprazdniTonyKlaves(); // a released key carries no name

@@ -1,11 +1,10 @@
 #pragma once
 
-#include "board/TrebleLayout.h"
+#include "board/Nastroj.h"
 
 #include <QObject>
 #include <QString>
 
-#include <array>
 #include <vector>
 
 namespace zvonika {
@@ -14,31 +13,61 @@ namespace zvonika {
 enum class StavKnofliku { Volny, Cerveny, Tah, Tlak, Hnedy };
 
 /// Background of a piano key. The names are the system colours that the keys are said to have: caption text
-/// is the white of naturals, window text the black of accidentals; key 28 starts in window background.
+/// is the white of naturals, window text the black of accidentals; one key starts in window background.
 enum class BarvaKlavesy { CaptionText, WindowText, WindowBackground, Cervena, Hneda };
 
+/// How far up the last touch of a button lies. What was shown there later covers it.
+enum class Dotek { Dole, NadHmatem, NadIntervalem };
+
+/// What the player has marked on the treble board and not recorded yet.
+struct ZnackyDiskantu {
+    struct Znacka {
+        bool oznacen = false;
+        Dotek dotek = Dotek::Dole; ///< Dole where neither a grip nor an interval shows anything
+        BarvaKlavesy klavesa = BarvaKlavesy::CaptionText; ///< Cervena where marked
+        QString tonKlavesy;
+        friend bool operator==(const Znacka&, const Znacka&) = default;
+    };
+    std::vector<Znacka> knofliky; ///< button n is element n; element 0 is nobody's
+    std::vector<int> poradi;      ///< the marked buttons in the order of marking
+    friend bool operator==(const ZnackyDiskantu&, const ZnackyDiskantu&) = default;
+};
+
 /// The treble board as it is shown and marked: pictures, marks, captions and the piano beside it. Knows
-/// nothing of songs. Buttons are numbered 1..49; any other number is a programming error.
+/// nothing of songs. Buttons are numbered as on its instrument; any other number is a programming error.
+///
+/// What a button shows is what was last put on it: the mark (red or free), the shown grip or the interval.
+/// What lies under it is remembered and seen again when that is taken away.
 class TrebleBoard : public QObject {
     Q_OBJECT
 public:
-    explicit TrebleBoard(QObject* parent = nullptr);
+    explicit TrebleBoard(const Nastroj& nastroj, QObject* parent = nullptr);
 
-    // The mark that recording reads; independent of the picture.
+    const Nastroj& nastroj() const { return nastroj_; }
+
     bool oznacen(int n) const; ///< lbl(n).Tag is "1"
+    /// Marks the button (red, and its key) or releases it (free, the key in its own colour and nameless).
     void nastavZnacku(int n, bool oznacen);
+    /// The marked buttons by rising number.
+    std::vector<int> oznacene() const;
     /// The button marked last among those that are marked; 0 when none is.
-    int posledniOznaceny() const { return poradiZnacek_.empty() ? 0 : poradiZnacek_.back(); }
+    int posledniOznaceny() const { return znacky_.poradi.empty() ? 0 : znacky_.poradi.back(); }
+
+    const ZnackyDiskantu& znacky() const { return znacky_; }
+    /// Exchanges all marks for those of another time. Grip and interval stay; what they covered then they
+    /// cover again.
+    void ukazZnacky(const ZnackyDiskantu& znacky);
 
     StavKnofliku stav(int n) const;          ///< picture of the main button
     StavKnofliku stavPomocneho(int n) const; ///< picture of the auxiliary button, Volny where there is none
-    void ukaz(int n, StavKnofliku stav);     ///< both pictures
-    void ukazHlavni(int n, StavKnofliku stav);
-    void ukazPomocny(int n, StavKnofliku stav);
+
+    /// Shows that the grip presses the button; `smer` is Tah or Tlak.
+    void ukazHmat(int n, StavKnofliku smer);
+    /// The grip lets all its buttons go, and the interval with it; marks are seen again.
+    void odeberHmat();
 
     /// Shows button and key of an interval's tone in brown, in place of an interval shown before.
     void ukazInterval(int n);
-    /// What the brown had covered is shown again; what was set on the button since then stays.
     void odeberInterval();
 
     // Captions of the click areas: the tone's name where names are switched on, finger digits stacked above
@@ -54,14 +83,13 @@ public:
     void vyprazdniPopisy();
 
     BarvaKlavesy barvaKlavesy(int n) const;
-    void nastavBarvuKlavesy(int n, BarvaKlavesy barva);
-    /// Gives the key the colour of a released key: caption text for a natural, window text for an accidental.
-    void vratBarvuKlavesy(int n);
     QString tonKlavesy(int n) const; ///< caption of lblTonKlav(n)
     void nastavTonKlavesy(int n, const QString& ton);
+    /// Spells the names beside the keys in another key.
+    void prejmenujKlavesy(const QString& stupnice);
     void vyprazdniTonyKlaves();
 
-    void nastavZabranu(int rada, bool zakryta); ///< row cover 1..5
+    void nastavZabranu(int rada, bool zakryta); ///< row cover 1..`pocetRad`
     bool zakryta(int rada) const;
     void nastavCislovani(bool viditelne); ///< all number labels 0..31
     bool cislovani() const { return cislovani_; }
@@ -75,9 +103,9 @@ public:
     void otoc();
     bool otoceno() const { return otoceno_; }
 
-    /// Pictures and marks of all buttons released.
+    /// Pictures and marks of all buttons released, and their keys.
     void uvolniDiskant();
-    /// Piano keys back to their colours; marks of the accidental buttons only are reset.
+    /// Piano keys back to their colours and without names; marks of the accidental buttons only are reset.
     void uvolniKlavesy();
 
 Q_SIGNALS:
@@ -89,29 +117,31 @@ Q_SIGNALS:
     void nazvyZmeneny(); ///< names switched on or off
 
 private:
+    struct Pohled; ///< what is seen of a button and its key
+    using Znacka = ZnackyDiskantu::Znacka;
+
     struct Knoflik {
-        bool oznacen = false;
-        StavKnofliku stav = StavKnofliku::Volny;
-        StavKnofliku stavPomocneho = StavKnofliku::Volny;
+        StavKnofliku hmat = StavKnofliku::Volny; ///< what the shown grip says: Tah, Tlak or nothing
         QString popis, popisPomocneho, nazev;
-        BarvaKlavesy klavesa = BarvaKlavesy::CaptionText;
-        QString tonKlavesy;
     };
     Knoflik& knoflik(int n) { return knofliky_.at(static_cast<std::size_t>(n)); }
     const Knoflik& knoflik(int n) const { return knofliky_.at(static_cast<std::size_t>(n)); }
+    Znacka& znacka(int n) { return znacky_.knofliky.at(static_cast<std::size_t>(n)); }
+    const Znacka& znacka(int n) const { return znacky_.knofliky.at(static_cast<std::size_t>(n)); }
 
-    std::array<Knoflik, pocetKnofliku + 1> knofliky_;
-    /// What the brown of the interval's button covers; no button where `n` is 0.
-    struct PodIntervalem {
-        int n = 0;
-        StavKnofliku stav = StavKnofliku::Volny;
-        StavKnofliku stavPomocneho = StavKnofliku::Volny;
-        BarvaKlavesy klavesa = BarvaKlavesy::CaptionText;
-    };
+    Dotek nejvyse(int n) const;
+    Pohled pohled(int n) const;
+    void oznamZmenu(int n, const Pohled& predtim);
+    void vratBarvuKlavesy(int n);
 
-    std::vector<int> poradiZnacek_;
-    PodIntervalem podIntervalem_;
-    std::array<bool, 6> zabrany_{};
+    bool jePulton(int n) const { return nastroj_.knoflik(n).pulton; }
+    bool maPomocny(int n) const { return nastroj_.knoflik(n).pomocny.has_value(); }
+
+    Nastroj nastroj_;
+    std::vector<Knoflik> knofliky_; ///< by number
+    ZnackyDiskantu znacky_;
+    int interval_ = 0;          ///< the button whose tone it is; 0 where none is shown
+    std::vector<bool> zabrany_; ///< by number
     bool nazvy_ = false;
     bool cislovani_ = false;
     bool obraceneCislovani_ = false;

@@ -24,8 +24,8 @@ VyznamPrvku vyznam(StavBasu stav) {
     return VyznamPrvku::Volny;
 }
 
-HmatovaZnacka hmat(int bas) {
-    switch (obrazBasu(bas)) {
+HmatovaZnacka hmat(ObrazBasu obraz) {
+    switch (obraz) {
     case ObrazBasu::Bezny:
         return HmatovaZnacka::Zadna;
     case ObrazBasu::Mriz:
@@ -59,7 +59,7 @@ void BasKnoflik::obnov() {
     nova.vyznam = vyznam(model_.stav(cislo()));
     nova.popsany = true;
     nova.obtazeny = model_.oznacen(cislo()) && nova.vyznam != VyznamPrvku::Oznaceny;
-    nova.hmat = hmat(cislo());
+    nova.hmat = hmat(model_.nastroj().bas(cislo()).obraz);
     prevezmi(nova, model_.oznacen(cislo()));
 }
 

@@ -8,15 +8,14 @@
 #include "board/ui/Skupina.h"
 
 #include <array>
+#include <vector>
 
 namespace zvonika {
 
 namespace {
 
 constexpr QSize velikostBasu(590, 292); // fills its cell of 600 by 300: no gap between neighbours to miss in
-constexpr int basuVRade = 20;
 constexpr int vyskaNadpisu = 255;
-constexpr int prvniZastavka = 30; // C
 
 struct Rada {
     const char16_t* nadpis;
@@ -29,22 +28,23 @@ constexpr std::array<Rada, 6> rady{{{u"Prot.", u"Protibasy"},
                                     {u"Sept.", u"Septakordy"},
                                     {u"Zmen.", u"Zmenšené akordy"}}};
 
-QRect plochaRady(int r) {
-    const Poloha horni = polohaBasu(r * basuVRade + basuVRade);
-    const Poloha dolni = polohaBasu(r * basuVRade + 1);
+QRect plochaRady(const Nastroj& nastroj, int r) {
+    const Poloha horni = nastroj.bas((r + 1) * nastroj.basuVRade).poloha;
+    const Poloha dolni = nastroj.bas(r * nastroj.basuVRade + 1).poloha;
     return QRect(QPoint(horni.left, horni.top),
                  QPoint(dolni.left + velikostBasu.width(), dolni.top + velikostBasu.height()));
 }
 
-QRect plochaNadpisu(int r) {
-    const QRect rada = plochaRady(r);
+QRect plochaNadpisu(const QRect& rada) {
     return QRect(rada.left() - 10, rada.top() - vyskaNadpisu - 40, rada.width() + 10, vyskaNadpisu);
 }
 
-Pozadi::Nacrt nacrtTela() {
+Pozadi::Nacrt nacrtTela(const Nastroj& nastroj) {
+    const QRect prvni = plochaNadpisu(plochaRady(nastroj, 0)),
+                posledni = plochaRady(nastroj, static_cast<int>(rady.size()) - 1);
     Pozadi::Nacrt nacrt;
-    nacrt.telo = QRect(QPoint(plochaNadpisu(0).left() - 90, plochaNadpisu(0).top() - 160),
-                       QPoint(plochaRady(5).right() + 106, plochaRady(5).bottom() + 190));
+    nacrt.telo = QRect(QPoint(prvni.left() - 90, prvni.top() - 160),
+                       QPoint(posledni.right() + 106, posledni.bottom() + 190));
     nacrt.sklon = 0.25; // a run starts a quarter of its width lower than the one before
     return nacrt;
 }
@@ -53,8 +53,10 @@ Pozadi::Nacrt nacrtTela() {
 class Basy : public QObject {
 public:
     Basy(QWidget* scena, const BassBoard& model, const ObsluhaBasu& obsluha, const Umisti& umisti)
-        : QObject(scena), scena_(scena), model_(model) {
-        umisti(new Pozadi(nacrtTela(), scena), nacrtTela().telo);
+        : QObject(scena), scena_(scena), model_(model),
+          knofliky_(static_cast<std::size_t>(model.nastroj().pocetBasu()) + 1) {
+        const Pozadi::Nacrt nacrt = nacrtTela(model.nastroj());
+        umisti(new Pozadi(nacrt, scena), nacrt.telo);
         vytvorNadpisy(umisti);
         vytvorKnofliky(obsluha, umisti);
         connect(&model, &BassBoard::basZmenen, this,
@@ -71,29 +73,30 @@ private:
             nadpis->setAttribute(Qt::WA_TransparentForMouseEvents, false); // its tooltip needs the mouse
             nadpis->setToolTip(QString::fromUtf16(rada.napoveda));
             nadpis->setAccessibleName(QString::fromUtf16(rada.napoveda));
-            umisti(nadpis, plochaNadpisu(r));
+            umisti(nadpis, plochaNadpisu(plochaRady(model_.nastroj(), r)));
         }
     }
 
     void vytvorKnofliky(const ObsluhaBasu& obsluha, const Umisti& umisti) {
         const auto obrazy = std::make_shared<ObrazyPrvku>();
-        const auto ostrov = std::make_shared<OstrovFokusu>(basuVRade, 1);
-        for (int bas = 1; bas <= pocetBasu; ++bas) {
+        const Nastroj& nastroj = model_.nastroj();
+        const auto ostrov = std::make_shared<OstrovFokusu>(nastroj.basuVRade, 1);
+        for (int bas = 1; bas <= nastroj.pocetBasu(); ++bas) {
             const QString nazev = obsluha.nazev ? obsluha.nazev(bas) : QString();
             auto* knoflik = new BasKnoflik(bas, nazev, model_, obrazy, scena_);
             popis(knoflik, "ImgBas", QStringLiteral("Bas"), nazev);
             pripojKlik(knoflik, obsluha.klik);
             knoflik->vlozDoOstrova(ostrov);
-            const Poloha p = polohaBasu(bas);
+            const Poloha p = nastroj.bas(bas).poloha;
             umisti(knoflik, QRect({p.left + 5, p.top + 4}, velikostBasu));
             knofliky_.at(static_cast<std::size_t>(bas)) = knoflik;
         }
-        ostrov->vstup(knofliky_.at(prvniZastavka));
+        ostrov->vstup(knofliky_.at(static_cast<std::size_t>(nastroj.zastavkaBasu)));
     }
 
     QWidget* scena_;
     const BassBoard& model_;
-    std::array<BasKnoflik*, pocetBasu + 1> knofliky_{};
+    std::vector<BasKnoflik*> knofliky_; ///< by number
 };
 
 } // namespace

@@ -8,40 +8,34 @@
 #include "board/ui/Skupina.h"
 #include "board/ui/Zabrana.h"
 
-#include <array>
 #include <optional>
+#include <vector>
 
 namespace zvonika {
 
 namespace {
 
-constexpr int pocetRad = 5;
-constexpr int pocetCisel = 32;
-constexpr int stranaKlikaciPlochy = 615;
 constexpr QSize velikostCisla(360, 330);
-constexpr int prvniZastavka = 9; // c1: where a hand finds the board
 
 /// The groove of a row of buttons, which its cover fills.
-QRect drazkaRady(int cisloRady, bool otoceno) {
+QRect drazkaRady(const Nastroj& nastroj, int rada, bool otoceno) {
     QRect plocha;
-    for (int n = 1; n <= pocetKnofliku; ++n) {
-        Poloha p;
-        if (rada(n) == cisloRady)
-            p = polohaKnofliku(n, otoceno);
-        else if (radaPomocneho(n) == cisloRady)
-            p = polohaPomocneho(n, otoceno);
-        else
-            continue;
-        plocha |= QRect(p.left, p.top, sirkaKnofliku, vyskaKnofliku);
+    const auto pridej = [&](const Nastroj::Misto& misto) {
+        const Poloha p = misto.kde(otoceno);
+        if (misto.rada == rada) plocha |= QRect(p.left, p.top, nastroj.sirkaKnofliku, nastroj.vyskaKnofliku);
+    };
+    for (const Nastroj::Knoflik& knoflik : nastroj.knofliky) {
+        pridej(knoflik.hlavni);
+        if (knoflik.pomocny) pridej(*knoflik.pomocny);
     }
     return plocha.adjusted(15, -25, -15, 25);
 }
 
-Pozadi::Nacrt nacrtTela(bool otoceno) {
+Pozadi::Nacrt nacrtTela(const Nastroj& nastroj, bool otoceno) {
     Pozadi::Nacrt nacrt;
     nacrt.telo = QRect(QPoint(3826, 20), QPoint(7591, 10439));
-    for (int r = 1; r <= pocetRad; ++r)
-        nacrt.drazky.push_back(drazkaRady(r, otoceno));
+    for (int r = 1; r <= nastroj.pocetRad; ++r)
+        nacrt.drazky.push_back(drazkaRady(nastroj, r, otoceno));
     return nacrt;
 }
 
@@ -49,9 +43,11 @@ Pozadi::Nacrt nacrtTela(bool otoceno) {
 class Diskant : public QObject {
 public:
     Diskant(QWidget* scena, const TrebleBoard& model, const ObsluhaDiskantu& obsluha, const Umisti& umisti)
-        : QObject(scena), scena_(scena), model_(model), umisti_(umisti),
-          pozadi_(new Pozadi(nacrtTela(model.otoceno()), scena)) {
-        umisti_(pozadi_, nacrtTela(model.otoceno()).telo);
+        : QObject(scena), scena_(scena), model_(model), nastroj_(model.nastroj()), umisti_(umisti),
+          pozadi_(new Pozadi(nacrtTela(nastroj_, model.otoceno()), scena)),
+          hlavni_(nastroj_.knofliky.size() + 1), pomocne_(hlavni_.size()), cisla_(nastroj_.cisla.size()),
+          zabrany_(idx(nastroj_.pocetRad) + 1) {
+        umisti_(pozadi_, nacrtTela(nastroj_, model.otoceno()).telo);
         vytvorKnofliky(obsluha);
         vytvorCisla();
         vytvorZabrany();
@@ -66,11 +62,12 @@ private:
     void vytvorKnofliky(const ObsluhaDiskantu& obsluha) {
         const auto obrazy = std::make_shared<ObrazyPrvku>();
         const auto ostrov = std::make_shared<OstrovFokusu>();
-        for (int n = 1; n <= pocetKnofliku; ++n) {
+        for (int n = 1; n <= nastroj_.pocetKnofliku(); ++n) {
             hlavni_.at(idx(n)) = vytvorKnoflik(n, false, obrazy, ostrov, obsluha);
-            if (maPomocny(n)) pomocne_.at(idx(n)) = vytvorKnoflik(n, true, obrazy, ostrov, obsluha);
+            if (nastroj_.knoflik(n).pomocny)
+                pomocne_.at(idx(n)) = vytvorKnoflik(n, true, obrazy, ostrov, obsluha);
         }
-        ostrov->vstup(hlavni_.at(idx(prvniZastavka)));
+        ostrov->vstup(hlavni_.at(idx(nastroj_.zastavkaDiskantu)));
     }
 
     KnoflikDiskantu* vytvorKnoflik(int n, bool pomocny, const std::shared_ptr<ObrazyPrvku>& obrazy,
@@ -90,20 +87,21 @@ private:
 
     void rozmisti() {
         const bool otoceno = model_.otoceno();
-        const auto umistiKnoflik = [this](KnoflikDiskantu* knoflik, Poloha p) {
-            umisti_(knoflik, QRect(p.left, p.top, stranaKlikaciPlochy, stranaKlikaciPlochy));
+        const auto umistiKnoflik = [&](KnoflikDiskantu* knoflik, const Nastroj::Misto& misto) {
+            const Poloha p = misto.kde(otoceno);
+            umisti_(knoflik, QRect(p.left, p.top, nastroj_.klikaciPlocha, nastroj_.klikaciPlocha));
         };
-        pozadi_->prestav(nacrtTela(otoceno));
-        for (int n = 1; n <= pocetKnofliku; ++n) {
-            umistiKnoflik(hlavni_.at(idx(n)), polohaKnofliku(n, otoceno));
-            if (maPomocny(n)) umistiKnoflik(pomocne_.at(idx(n)), polohaPomocneho(n, otoceno));
+        pozadi_->prestav(nacrtTela(nastroj_, otoceno));
+        for (int n = 1; n <= nastroj_.pocetKnofliku(); ++n) {
+            umistiKnoflik(hlavni_.at(idx(n)), nastroj_.knoflik(n).hlavni);
+            if (const auto& misto = nastroj_.knoflik(n).pomocny) umistiKnoflik(pomocne_.at(idx(n)), *misto);
         }
-        for (int r = 1; r <= pocetRad; ++r)
-            umisti_(zabrany_.at(idx(r)), drazkaRady(r, otoceno));
+        for (int r = 1; r <= nastroj_.pocetRad; ++r)
+            umisti_(zabrany_.at(idx(r)), drazkaRady(nastroj_, r, otoceno));
     }
 
     void vytvorCisla() {
-        for (int i = 0; i < pocetCisel; ++i) {
+        for (int i = 0; i < nastroj_.pocetCisel(); ++i) {
             auto* cislo = new Popisek(QColor(248, 226, 184), Qt::AlignHCenter, true, scena_);
             cislo->setObjectName(jmenoPrvku("lblCisKnofl", i));
             cisla_.at(static_cast<std::size_t>(i)) = cislo;
@@ -112,7 +110,7 @@ private:
     }
 
     void vytvorZabrany() {
-        for (int r = 1; r <= pocetRad; ++r) {
+        for (int r = 1; r <= nastroj_.pocetRad; ++r) {
             auto* zabrana = new Zabrana(r, scena_);
             zabrana->setObjectName(jmenoPrvku("cmdZabrana", r));
             zabrany_.at(idx(r)) = zabrana;
@@ -126,16 +124,17 @@ private:
     }
 
     void obnovZabrany() {
-        for (int r = 1; r <= pocetRad; ++r)
+        for (int r = 1; r <= nastroj_.pocetRad; ++r)
             zabrany_.at(idx(r))->setVisible(model_.zakryta(r));
     }
 
     void obnovCisla() {
         const bool prelozit = !umistenaObracene_ || *umistenaObracene_ != model_.obraceneCislovani();
         umistenaObracene_ = model_.obraceneCislovani();
-        for (int i = 0; i < pocetCisel; ++i) {
+        for (int i = 0; i < nastroj_.pocetCisel(); ++i) {
             Popisek* cislo = cisla_.at(static_cast<std::size_t>(i));
-            const Poloha p = polohaCisla(i, *umistenaObracene_);
+            const Nastroj::Cislo& misto = nastroj_.cislo(i);
+            const Poloha p = *umistenaObracene_ ? misto.obracena : misto.poloha;
             if (prelozit) umisti_(cislo, QRect({p.left, p.top}, velikostCisla));
             cislo->setText(model_.popisCisla(i));
             cislo->setVisible(model_.cisloViditelne(i));
@@ -146,12 +145,12 @@ private:
 
     QWidget* scena_;
     const TrebleBoard& model_;
+    const Nastroj& nastroj_;
     Umisti umisti_;
     Pozadi* pozadi_;
-    std::array<KnoflikDiskantu*, pocetKnofliku + 1> hlavni_{};
-    std::array<KnoflikDiskantu*, pocetKnofliku + 1> pomocne_{};
-    std::array<Popisek*, pocetCisel> cisla_{};
-    std::array<Zabrana*, pocetRad + 1> zabrany_{};
+    std::vector<KnoflikDiskantu*> hlavni_, pomocne_; ///< by number
+    std::vector<Popisek*> cisla_;
+    std::vector<Zabrana*> zabrany_;
     std::optional<bool> umistenaObracene_;
 };
 

@@ -14,7 +14,7 @@ Klavesa::Klavesa(int n, const TrebleBoard& model, std::shared_ptr<ObrazyPrvku> o
 void Klavesa::obnov() {
     const BarvaKlavesy barva = model_.barvaKlavesy(cislo());
     PodobaPrvku nova;
-    nova.tvar = jePulton(cislo()) ? TvarPrvku::CernaKlavesa : TvarPrvku::BilaKlavesa;
+    nova.tvar = model_.nastroj().knoflik(cislo()).pulton ? TvarPrvku::CernaKlavesa : TvarPrvku::BilaKlavesa;
     if (barva == BarvaKlavesy::Cervena) nova.vyznam = VyznamPrvku::Oznaceny;
     if (barva == BarvaKlavesy::Hneda) nova.vyznam = VyznamPrvku::Interval;
     nova.tmavy = barva == BarvaKlavesy::WindowBackground;

@@ -6,7 +6,7 @@
 #include "board/ui/Popisek.h"
 #include "board/ui/Skupina.h"
 
-#include <array>
+#include <vector>
 
 namespace zvonika {
 
@@ -14,20 +14,20 @@ namespace {
 
 constexpr int sirkaTonuPultonu = 470; // up to the keys, less a hair's breadth
 constexpr int sirkaTonuPrirozene = 600;
-constexpr int prvniZastavka = 9; // c1
 
 /// Keeps keys and their labels in step with the model.
 class Klaviatura : public QObject {
 public:
     Klaviatura(QWidget* scena, const TrebleBoard& model, const ObsluhaDiskantu& obsluha, const Umisti& umisti)
-        : QObject(scena), scena_(scena), model_(model), umisti_(umisti) {
+        : QObject(scena), scena_(scena), model_(model), nastroj_(model.nastroj()), umisti_(umisti),
+          klavesy_(nastroj_.klavesy.size() + 1), tony_(klavesy_.size()) {
         const auto ostrov = std::make_shared<OstrovFokusu>(1, 1);
         vytvorKlavesy(obsluha);
-        for (int n = 1; n <= pocetKnofliku; ++n) {
+        for (int n = 1; n <= nastroj_.pocetKnofliku(); ++n) {
             klavesy_.at(idx(n))->vlozDoOstrova(ostrov);
             vytvorTon(n);
         }
-        ostrov->vstup(klavesy_.at(prvniZastavka));
+        ostrov->vstup(klavesy_.at(idx(nastroj_.zastavkaDiskantu)));
         connect(&model, &TrebleBoard::klavesaZmenena, this, [this](int n) {
             klavesy_.at(idx(n))->obnov();
             tony_.at(idx(n))->setText(model_.tonKlavesy(n));
@@ -39,26 +39,27 @@ private:
     void vytvorKlavesy(const ObsluhaDiskantu& obsluha) {
         const auto obrazy = std::make_shared<ObrazyPrvku>();
         for (const bool pulton : {false, true})
-            for (int n = 1; n <= pocetKnofliku; ++n)
-                if (jePulton(n) == pulton) vytvorKlavesu(n, obrazy, obsluha);
+            for (int n = 1; n <= nastroj_.pocetKnofliku(); ++n)
+                if (nastroj_.knoflik(n).pulton == pulton) vytvorKlavesu(n, obrazy, obsluha);
     }
 
     void vytvorKlavesu(int n, const std::shared_ptr<ObrazyPrvku>& obrazy, const ObsluhaDiskantu& obsluha) {
         auto* klavesa = new Klavesa(n, model_, obrazy, scena_);
         popis(klavesa, "cmdKlavesa", QStringLiteral("Klávesa"), obsluha.nazev ? obsluha.nazev(n) : QString());
         pripojKlik(klavesa, obsluha.klik);
-        const Poloha p = polohaKlavesy(n);
-        umisti_(klavesa, QRect(p.left, p.top, sirkaKlavesy(n), vyskaKlavesy(n)));
+        const Nastroj::Klavesa& k = nastroj_.klavesa(n);
+        umisti_(klavesa, QRect(k.poloha.left, k.poloha.top, k.sirka, k.vyska));
         klavesy_.at(idx(n)) = klavesa;
     }
 
     void vytvorTon(int n) {
-        const bool pulton = jePulton(n);
+        const bool pulton = nastroj_.knoflik(n).pulton;
         auto* ton = new Popisek(barvy::oznaceni, pulton ? Qt::AlignRight : Qt::AlignLeft, true, scena_);
         ton->setObjectName(jmenoPrvku("lblTonKlav", n));
         ton->setText(model_.tonKlavesy(n));
-        const Poloha p = polohaTonuKlavesy(n);
-        umisti_(ton, QRect(p.left, p.top, pulton ? sirkaTonuPultonu : sirkaTonuPrirozene, vyskaKlavesy(n)));
+        const Poloha p = nastroj_.klavesa(n).ton;
+        const int sirka = pulton ? sirkaTonuPultonu : sirkaTonuPrirozene;
+        umisti_(ton, QRect(p.left, p.top, sirka, nastroj_.klavesa(n).vyska));
         tony_.at(idx(n)) = ton;
     }
 
@@ -66,9 +67,10 @@ private:
 
     QWidget* scena_;
     const TrebleBoard& model_;
+    const Nastroj& nastroj_;
     Umisti umisti_;
-    std::array<Klavesa*, pocetKnofliku + 1> klavesy_{};
-    std::array<Popisek*, pocetKnofliku + 1> tony_{};
+    std::vector<Klavesa*> klavesy_; ///< by number, as the labels
+    std::vector<Popisek*> tony_;
 };
 
 } // namespace

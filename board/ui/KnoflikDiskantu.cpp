@@ -10,8 +10,6 @@ namespace zvonika {
 
 namespace {
 
-constexpr int stranaKlikaciPlochy = 615; // the picture it covers is 600 by 570
-
 VyznamPrvku vyznam(StavKnofliku stav) {
     switch (stav) {
     case StavKnofliku::Volny:
@@ -45,7 +43,7 @@ void KnoflikDiskantu::obnov() {
     }
     PodobaPrvku nova;
     nova.vyznam = vyznam(pomocny_ ? model_.stavPomocneho(n) : model_.stav(n));
-    nova.tmavy = jePulton(n);
+    nova.tmavy = model_.nastroj().knoflik(n).pulton;
     nova.popsany = !napis_.prazdny();
     nova.obtazeny = model_.oznacen(n) && nova.vyznam != VyznamPrvku::Oznaceny;
     prevezmi(nova, model_.oznacen(n));
@@ -53,7 +51,8 @@ void KnoflikDiskantu::obnov() {
 
 QRect KnoflikDiskantu::mistoObrazu() const {
     // A square picture: rounding of the widget's edges must not make one button rounder than its neighbour.
-    const int strana = std::min(width(), height()) * sirkaKnofliku / stranaKlikaciPlochy;
+    const Nastroj& nastroj = model_.nastroj();
+    const int strana = std::min(width(), height()) * nastroj.sirkaKnofliku / nastroj.klikaciPlocha;
     return QRect((width() - strana) / 2, 0, strana, strana);
 }
 

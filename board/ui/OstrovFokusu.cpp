@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+#include <algorithm>
 #include <cstdlib>
 #include <limits>
 
@@ -48,7 +49,7 @@ QWidget* OstrovFokusu::soused(const QWidget* od, int klavesa) const {
 }
 
 QWidget* OstrovFokusu::podlePoradi(const QWidget* od, QPoint smer) const {
-    const qsizetype odkud = clenove_.indexOf(const_cast<QWidget*>(od));
+    const qsizetype odkud = std::find(clenove_.begin(), clenove_.end(), od) - clenove_.begin();
     const qsizetype kam = odkud + smer.x() * vpravo_ - smer.y() * nahoru_;
     if (kam < 0 || kam >= clenove_.size()) return nullptr;
     const bool opoustiSloupec = vpravo_ > 1 && smer.x() == 0 && kam / vpravo_ != odkud / vpravo_;

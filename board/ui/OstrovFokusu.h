@@ -20,7 +20,6 @@ public:
     void pridej(QWidget* clen);
     /// Makes the member the Tab stop; called whenever it gets the focus.
     void vstup(QWidget* clen);
-    QWidget* zastavka() const { return zastavka_; }
 
     /// The member that an arrow key, Home or End leads to; null when there is none that way or the key is
     /// another.

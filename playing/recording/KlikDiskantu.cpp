@@ -1,6 +1,5 @@
 #include "playing/recording/KlikDiskantu.h"
 
-#include "theory/NazvyTonu.h"
 #include "theory/Tonina.h"
 #include "theory/clsNotyZapis.h"
 
@@ -32,27 +31,19 @@ void KlikDiskantu::notaOdebrana(CisloTonu ton) {
 }
 
 void KlikDiskantu::oznac(int n) {
-    diskant_.ukaz(n, StavKnofliku::Cerveny);
     diskant_.nastavZnacku(n, true);
-    diskant_.nastavBarvuKlavesy(n, BarvaKlavesy::Cervena);
     const QScopedValueRollback overeni(overujeSe_, true);
     overeni_.OverNotuVeStupnici(CisloTonu(n));
 }
 
 void KlikDiskantu::uvolni(int n) {
-    diskant_.ukaz(n, StavKnofliku::Volny);
     diskant_.nastavZnacku(n, false);
-    diskant_.vratBarvuKlavesy(n);
-    diskant_.nastavTonKlavesy(n, {});
     noty_.odeberTon(CisloTonu(n));
 }
 
 void KlikDiskantu::nasledujToninu() {
     diskant_.nastavNazvy(diskant_.nazvyZapnuty(), tonina_.stupnice().text());
-    for (int n = 1; n <= pocetKnofliku; ++n) {
-        if (!diskant_.tonKlavesy(n).isEmpty())
-            diskant_.nastavTonKlavesy(n, nazevTonu(CisloTonu(n), tonina_.stupnice()).nazev.text());
-    }
+    diskant_.prejmenujKlavesy(tonina_.stupnice().text());
 }
 
 void KlikDiskantu::popisKlavesu(CisloTonu ton, const ToneName& nazev) {

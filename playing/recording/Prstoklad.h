@@ -7,7 +7,8 @@
 namespace zvonika {
 
 /// Fingering marks collected for the grip being recorded: entries "l12;1\" (main button 12, thumb) and
-/// "s14;4\" (auxiliary button 14, ring finger) in the order of entering. Only `odeber` empties them.
+/// "s14;4\" (auxiliary button 14, ring finger) in the order of entering. Only a
+/// recorded grip empties them.
 class Prstoklad {
 public:
     explicit Prstoklad(Dialogs& dialogs) : dialogs_(dialogs) {}
@@ -18,6 +19,8 @@ public:
     const QString& prstoklad() const { return prstoklad_; }
     /// The collected entries, which are given away.
     QString odeber();
+    /// Exchanges the entries for those of another time.
+    void nastav(const QString& prstoklad) { prstoklad_ = prstoklad; }
 
 private:
     void pridej(QChar druh, int n);

@@ -2,8 +2,6 @@
 
 #include "platform/Contact.h"
 
-#include <utility>
-
 namespace zvonika {
 
 void ZapisBasu::ZapisBasy(SongSheet& list, int radek, Grip& hmat) {
@@ -16,13 +14,10 @@ void ZapisBasu::ZapisBasy(SongSheet& list, int radek, Grip& hmat) {
 
 ZapisBasu::Jmena ZapisBasu::jmenaOznacenych() {
     Jmena jmena;
-    bool nacteno = false;
-    for (int bas = 1; bas <= pocetBasu && !jmena.prebyva; ++bas) {
-        if (!basy_.oznacen(bas)) continue;
-        // Read afresh each time, so that a repaired table counts at once.
-        if (!std::exchange(nacteno, true)) tabulka_.nacti();
-        pridej(jmena, tabulka_.nazev(bas));
-    }
+    const std::vector<int> oznacene = basy_.oznacene();
+    if (!oznacene.empty()) tabulka_.nacti(); // afresh each time, so that a repaired table counts at once
+    for (const int bas : oznacene)
+        if (!jmena.prebyva) pridej(jmena, tabulka_.nazev(bas));
     return jmena;
 }
 

@@ -49,8 +49,7 @@ void ZapisHmatu::zapisTony(SongSheet& list, int radek, Grip& hmat) {
 
 QStringList ZapisHmatu::oznaceneTony(bool& prebyva) {
     QStringList tony;
-    for (int n = 1; n <= pocetKnofliku && !prebyva; ++n) {
-        if (!diskant_.oznacen(n)) continue;
+    for (const int n : diskant_.oznacene()) {
         prebyva = tony.size() == maxTonu;
         if (prebyva) break;
         tony.append(nazevTonu(CisloTonu(n), okoli_.tonina.stupnice()).nazev.text());

@@ -11,21 +11,6 @@
 
 namespace zvonika {
 
-namespace {
-
-template <typename Stav>
-bool zHmatu(Stav stav) {
-    return stav == Stav::Tah || stav == Stav::Tlak;
-}
-
-/// What a button shows when the grip lets it go: the mark outlives the picture.
-template <typename Stav>
-Stav stavPodleZnacky(bool oznacen) {
-    return oznacen ? Stav::Cerveny : Stav::Volny;
-}
-
-} // namespace
-
 ZobrazeniHmatu::ZobrazeniHmatu(Pisen& pisen, const PlochyHmatu& plochy, UkazPrstoklad ukazPrstoklad)
     : list_(pisen), plochy_(plochy), ukazPrstoklad_(std::move(ukazPrstoklad)) {}
 
@@ -52,7 +37,7 @@ SmerMechu ZobrazeniHmatu::ZobrazHmatPotichu(const VyrezPisne& vyrez) {
     if (smer != SmerMechu::Neuveden) zobrazenTlak_ = smer == SmerMechu::Tlak;
     odeberPrstoklad();
     ukazHmat(vyrez);
-    if (ZobrazeniPrstokladu::jePlatny(vyrez.hmat().prstoklad))
+    if (ZobrazeniPrstokladu::jePlatny(vyrez.hmat().prstoklad, plochy_.diskant.nastroj()))
         ukazPrstoklad_(vyrez.hmat().prstoklad);
     else
         plochy_.panel.upozorneni += QStringLiteral(" Prstoklad ve sloupci V není platný.");
@@ -101,16 +86,8 @@ void ZobrazeniHmatu::ukazTexty(const VyrezPisne& vyrez) {
 }
 
 void ZobrazeniHmatu::uvolniObrazky() {
-    TrebleBoard& diskant = plochy_.diskant;
-    diskant.odeberInterval(); // its brown may cover a picture of the grip
-    for (int n = 1; n <= pocetKnofliku; ++n) {
-        const auto volny = stavPodleZnacky<StavKnofliku>(diskant.oznacen(n));
-        if (zHmatu(diskant.stav(n))) diskant.ukazHlavni(n, volny);
-        if (zHmatu(diskant.stavPomocneho(n))) diskant.ukazPomocny(n, volny);
-    }
-    BassBoard& basy = plochy_.basy;
-    for (int bas = 1; bas <= pocetBasu; ++bas)
-        if (zHmatu(basy.stav(bas))) basy.ukaz(bas, stavPodleZnacky<StavBasu>(basy.oznacen(bas)));
+    plochy_.diskant.odeberHmat();
+    plochy_.basy.odeberHmat();
 }
 
 QStringList ZobrazeniHmatu::ukazTony(const QStringList& tony) {
@@ -118,7 +95,7 @@ QStringList ZobrazeniHmatu::ukazTony(const QStringList& tony) {
     for (const QString& ton : tony) {
         const CisloTonu cislo = cisloTonu(ToneName(ton));
         if (cislo.jeVRozsahu())
-            plochy_.diskant.ukaz(cislo.hodnota(), zobrazenTlak_ ? StavKnofliku::Tlak : StavKnofliku::Tah);
+            plochy_.diskant.ukazHmat(cislo.hodnota(), zobrazenTlak_ ? StavKnofliku::Tlak : StavKnofliku::Tah);
         else
             cizi.append(ton);
     }
@@ -130,7 +107,7 @@ QStringList ZobrazeniHmatu::ukazBasy(const QStringList& basy) {
     for (const QString& nazev : basy) {
         const int bas = plochy_.tabulkaBasu.cislo(nazev);
         if (bas > 0)
-            plochy_.basy.ukaz(bas, zobrazenTlak_ ? StavBasu::Tlak : StavBasu::Tah);
+            plochy_.basy.ukazHmat(bas, zobrazenTlak_ ? StavBasu::Tlak : StavBasu::Tah);
         else
             cizi.append(nazev);
     }

@@ -17,7 +17,7 @@ struct Polozka {
     QString prst;
 };
 
-Polozka prectiPolozku(const QString& text) {
+Polozka prectiPolozku(const QString& text, const Nastroj& nastroj) {
     const auto strednik = text.indexOf(u';');
     if (strednik < 1) throw NeplatnyZaznam();
     const QChar druh = text.front();
@@ -25,17 +25,18 @@ Polozka prectiPolozku(const QString& text) {
 
     bool jeCislo = false;
     const int n = text.mid(1, strednik - 1).toInt(&jeCislo);
-    if (!jeCislo || n < 1 || n > pocetKnofliku || (druh == u's' && !maPomocny(n))) throw NeplatnyZaznam();
+    if (!jeCislo || n < 1 || n > nastroj.pocetKnofliku()) throw NeplatnyZaznam();
+    if (druh == u's' && !nastroj.knoflik(n).pomocny) throw NeplatnyZaznam();
     return {druh, n, text.mid(strednik + 1)};
 }
 
 /// Hands over entry after entry, so that what stands before a faulty one counts.
 template <typename Co>
-void ctiPolozky(const QString& zaznam, const Co& co) {
+void ctiPolozky(const QString& zaznam, const Nastroj& nastroj, const Co& co) {
     for (qsizetype zacatek = 0; zacatek < zaznam.size();) {
         const auto konec = zaznam.indexOf(u'\\', zacatek);
         if (konec < 0) throw NeplatnyZaznam();
-        co(prectiPolozku(zaznam.mid(zacatek, konec - zacatek)));
+        co(prectiPolozku(zaznam.mid(zacatek, konec - zacatek), nastroj));
         zacatek = konec + 1;
     }
 }
@@ -53,7 +54,7 @@ void vyznac(TrebleBoard& diskant, const Polozka& polozka) {
 
 void ZobrazeniPrstokladu::ZobrazPrstoklad(const QString& zaznam) {
     try {
-        ctiPolozky(zaznam, [this](const Polozka& polozka) { vyznac(diskant_, polozka); });
+        ctiPolozky(zaznam, diskant_.nastroj(), [this](const Polozka& polozka) { vyznac(diskant_, polozka); });
     } catch (const NeznamyDruh&) {
         dialogs_.message({QStringLiteral("Chyba !"),
                           QStringLiteral("Neočekávaná hodnota ve značení prstokladu."), Icon::Critical});
@@ -62,9 +63,9 @@ void ZobrazeniPrstokladu::ZobrazPrstoklad(const QString& zaznam) {
     }
 }
 
-bool ZobrazeniPrstokladu::jePlatny(const QString& zaznam) {
+bool ZobrazeniPrstokladu::jePlatny(const QString& zaznam, const Nastroj& nastroj) {
     try {
-        ctiPolozky(zaznam, [](const Polozka&) {});
+        ctiPolozky(zaznam, nastroj, [](const Polozka&) {});
         return true;
     } catch (const NeznamyDruh&) {
         return false;

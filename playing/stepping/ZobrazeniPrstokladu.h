@@ -7,6 +7,7 @@
 namespace zvonika {
 
 class TrebleBoard;
+struct Nastroj;
 
 /// Shows the fingering of a stored grip on the buttons.
 class ZobrazeniPrstokladu {
@@ -17,7 +18,7 @@ public:
     /// cannot be read to its end is reported to the user here; what was read before stays shown.
     void ZobrazPrstoklad(const QString& zaznam);
     /// True when `ZobrazPrstoklad` would have nothing to report.
-    static bool jePlatny(const QString& zaznam);
+    static bool jePlatny(const QString& zaznam, const Nastroj& nastroj);
 
 private:
     void ohlasNeplatnyZaznam();

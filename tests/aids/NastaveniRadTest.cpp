@@ -37,7 +37,7 @@ protected:
 
     testing::MemorySettings nastaveni;
     testing::ScriptedDialogs dialogy;
-    TrebleBoard diskant;
+    TrebleBoard diskant{nastrojZvonika()};
     NastaveniRad formular{nastaveni, diskant, dialogy};
 };
 

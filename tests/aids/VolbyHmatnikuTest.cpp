@@ -14,7 +14,7 @@ class VolbyHmatnikuTest : public ::testing::Test {
 protected:
     QString ulozeno(const char* sekce) const { return nastaveni.getOr(sekce, "Index", "nic"); }
 
-    TrebleBoard diskant;
+    TrebleBoard diskant{nastrojZvonika()};
     Tonina tonina;
     testing::MemorySettings nastaveni;
     CommandStates stavy;

@@ -11,8 +11,10 @@
 namespace zvonika {
 namespace {
 
+constexpr int pocetBasu = 120;
+
 BassTable dodanaTabulka() {
-    return BassTable(QStringLiteral(ZVONIKA_RESOURCES));
+    return BassTable(QStringLiteral(ZVONIKA_RESOURCES), pocetBasu);
 }
 
 /// A program folder with a table of its own.
@@ -68,9 +70,8 @@ TEST(BassTable, ColumnsFollowTheCircleOfFifths) {
 
 TEST(BassTable, ACounterBassIsAMajorThirdAboveItsColumn) {
     const BassTable tabulka = dodanaTabulka();
-    const QString kmeny = QStringLiteral("CDEFGAH");
-    const auto kmen = [&](const QString& ton) {
-        return kmeny.indexOf(ton == u'B' ? QChar(u'H') : ton.front());
+    const auto kmen = [](const QString& ton) {
+        return QStringLiteral("CDEFGAH").indexOf(ton == u'B' ? QChar(u'H') : ton.front());
     };
     for (int bas = 1; bas <= 20; ++bas) {
         const QString zaklad = tabulka.nazev(bas + 20);
@@ -136,7 +137,7 @@ TEST(BassTable, FaultsAreToldInOneSentenceAndTheRestIsUsed) {
     for (const auto& radek : radky) {
         VlastniTabulka vlastni;
         vlastni.zapis(radek.obsah);
-        const BassTable tabulka(vlastni.slozka());
+        const BassTable tabulka(vlastni.slozka(), pocetBasu);
         EXPECT_TRUE(tabulka.chyba().contains(QString::fromUtf8(radek.chyba)))
             << radek.popis << ": " << tabulka.chyba().toStdString();
         EXPECT_TRUE(tabulka.chyba().endsWith(u'.')) << radek.popis;
@@ -149,7 +150,7 @@ TEST(BassTable, FaultsAreToldInOneSentenceAndTheRestIsUsed) {
 
 TEST(BassTable, AMissingTableIsFoundOnceItIsThere) {
     VlastniTabulka vlastni;
-    BassTable tabulka(vlastni.slozka());
+    BassTable tabulka(vlastni.slozka(), pocetBasu);
     EXPECT_TRUE(tabulka.chyba().contains(QStringLiteral("nebyla ve složce programu nalezena")));
     vlastni.zapis("<t>" + polozka("C", "30") + "</t>");
     EXPECT_FALSE(tabulka.nacti());

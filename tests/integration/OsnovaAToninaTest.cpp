@@ -58,10 +58,8 @@ protected:
         QTest::mouseRelease(okno(), Qt::LeftButton, {}, misto(slot, kam));
     }
     QList<int> oznacene() const {
-        QList<int> oznacene;
-        for (int n = 1; n <= pocetKnofliku; ++n)
-            if (program->modely().diskant.oznacen(n)) oznacene << n;
-        return oznacene;
+        const std::vector<int> oznacene = program->modely().diskant.oznacene();
+        return {oznacene.begin(), oznacene.end()};
     }
     QList<int> tonyOsnovy() const {
         QList<int> tony;

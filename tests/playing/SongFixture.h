@@ -71,10 +71,10 @@ protected:
     SongPanel panel;
     CommandStates prikazy;
     Pas pas;
-    TrebleBoard diskant;
-    BassBoard basy;
+    TrebleBoard diskant{nastrojZvonika()};
+    BassBoard basy{nastrojZvonika()};
     ZobrazovaciOsnova osnova;
-    BassTable tabulka{QStringLiteral(ZVONIKA_RESOURCES)};
+    BassTable tabulka{QStringLiteral(ZVONIKA_RESOURCES), 120};
     QStringList prstoklady; ///< fingerings that were shown
     int uvolneno = 0;       ///< how often the board was released
     int zastavenoKrokovani = 0;

@@ -58,14 +58,14 @@ protected:
         QFile::remove(path);
         const auto book = sheets.size() > 1 ? twoSheets(path) : std::make_unique<Document>(QString());
         for (int i = 1; i <= sheets.size(); ++i)
-            book->renameSheet(i, QStringLiteral("List%1 k přejmenování").arg(i));
+            book->editing().renameSheet(i, QStringLiteral("List%1 k přejmenování").arg(i));
         for (int i = static_cast<int>(sheets.size()); i > 0; --i) {
             const SheetContents& sheet = sheets.at(i - 1);
-            book->renameSheet(i, sheet.name);
-            book->activateSheet(i);
-            book->fill(i, {{1, 1}, {lastRow, lastColumn}}, {});
-            book->write(i, {1, 1}, sheet.rows);
-            book->select(parseAddress(sheet.cursor).value().first);
+            book->editing().renameSheet(i, sheet.name);
+            book->cursor().activateSheet(i);
+            book->editing().fill(i, {{1, 1}, {lastRow, lastColumn}}, {});
+            book->editing().write(i, {1, 1}, sheet.rows);
+            book->cursor().select(parseAddress(sheet.cursor).value().first);
         }
         book->saveAs(path);
     }

@@ -32,8 +32,8 @@ public:
     void userTypes(const QString& address, const QString& text) {
         app_->commands().type(parseAddress(address).value().first, text);
     }
-    void userClosesWorkbook() { app_->commands().close(); }
-    void userQuits() { app_->commands().quit(); }
+    void userClosesWorkbook() { app_->commands().files().close(); }
+    void userQuits() { app_->commands().files().quit(); }
 
     // --- the port ---
     QString defaultFilePath() const override { return on("defaultFilePath").defaultFilePath(); }

@@ -18,19 +18,14 @@ void rozehraj(Sestava& s) {
     s.diskant.nastavNazvy(true, QStringLiteral("C dur"));
     for (const int n : {9, 12, 15, 16, 21}) {
         s.diskant.nastavZnacku(n, true);
-        s.diskant.ukaz(n, StavKnofliku::Cerveny);
-        s.diskant.nastavBarvuKlavesy(n, BarvaKlavesy::Cervena);
         s.diskant.nastavTonKlavesy(n, s.diskant.popis(n));
     }
-    for (const int n : {24, 25, 26, 29})
-        s.diskant.ukaz(n, StavKnofliku::Tah);
-    for (const int n : {32, 34, 35, 37})
-        s.diskant.ukaz(n, StavKnofliku::Tlak);
-    for (const int n : {40, 41, 43}) {
-        s.diskant.ukaz(n, StavKnofliku::Hnedy);
-        s.diskant.nastavBarvuKlavesy(n, BarvaKlavesy::Hneda);
-    }
     s.diskant.nastavZnacku(29, true);
+    for (const int n : {24, 25, 26, 29})
+        s.diskant.ukazHmat(n, StavKnofliku::Tah);
+    for (const int n : {32, 34, 35, 37})
+        s.diskant.ukazHmat(n, StavKnofliku::Tlak);
+    s.diskant.ukazInterval(40);
     s.diskant.nastavPopis(5, QStringLiteral("3\r\n") + s.diskant.popis(5));
     s.diskant.nastavPopis(25, QStringLiteral("1\r\n") + s.diskant.popis(25));
     s.diskant.nastavPopis(16, QStringLiteral("5\r\n4\r\n") + s.diskant.popis(16));
@@ -39,13 +34,12 @@ void rozehraj(Sestava& s) {
     s.diskant.nastavTonKlavesy(24, QStringLiteral("dis2,"));
     s.diskant.nastavTonKlavesy(29, QStringLiteral("gis2,"));
     s.diskant.nastavCislovani(true);
-    for (const int n : {30, 50, 26})
+    for (const int n : {30, 50, 26, 54})
         s.basy.klik(n);
     for (const int n : {32, 52, 72, 12})
-        s.basy.ukaz(n, StavBasu::Tah);
+        s.basy.ukazHmat(n, StavBasu::Tah);
     for (const int n : {34, 54, 94, 114})
-        s.basy.ukaz(n, StavBasu::Tlak);
-    s.basy.nastavZnacku(54, true);
+        s.basy.ukazHmat(n, StavBasu::Tlak);
 }
 
 void uloz(Sestava& s, const QString& soubor, double dpr = 1) {

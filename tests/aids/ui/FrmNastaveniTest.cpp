@@ -39,7 +39,7 @@ protected:
 
     testing::MemorySettings nastaveni;
     testing::ScriptedDialogs dialogy;
-    TrebleBoard diskant;
+    TrebleBoard diskant{nastrojZvonika()};
     NastaveniRad formular{nastaveni, diskant, dialogy};
     std::unique_ptr<FrmNastaveni> dialog;
 };

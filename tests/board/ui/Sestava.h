@@ -22,8 +22,8 @@ struct Sestava {
         return scena.findChild<T*>(QLatin1String(jmeno));
     }
 
-    TrebleBoard diskant;
-    BassBoard basy;
+    TrebleBoard diskant{nastrojZvonika()};
+    BassBoard basy{nastrojZvonika()};
     QVector<int> kliky;
     QVector<std::pair<int, bool>> dvojkliky;
     QVector<int> klikyBasu;

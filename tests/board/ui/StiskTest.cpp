@@ -46,16 +46,12 @@ struct Prvek {
     friend std::ostream& operator<<(std::ostream& out, const Prvek& prvek) { return out << prvek.jmeno; }
 };
 
-class StiskPrvku : public Stisk, public ::testing::WithParamInterface<Prvek> {
-protected:
-    const QVector<int>& kliky() { return GetParam().bas ? s.klikyBasu : s.kliky; }
-};
-
 TEST_F(Stisk, naOtocenemHmatnikuJeKazdyKnoflikPodRukou) {
     s.diskant.otoc();
-    for (int n = 1; n <= pocetKnofliku; ++n) {
-        QVector<Poloha> mista{polohaKnofliku(n, true)};
-        if (maPomocny(n)) mista << polohaPomocneho(n, true);
+    const Nastroj& nastroj = s.diskant.nastroj();
+    for (int n = 1; n <= nastroj.pocetKnofliku(); ++n) {
+        QVector<Poloha> mista{nastroj.knoflik(n).hlavni.otocena};
+        if (const auto& pomocny = nastroj.knoflik(n).pomocny) mista << pomocny->otocena;
         s.kliky.clear();
         for (const Poloha& p : mista)
             QTest::mouseClick(okno(), Qt::LeftButton, {}, QPoint(p.left + 300, p.top + 285) / 15);
@@ -63,38 +59,38 @@ TEST_F(Stisk, naOtocenemHmatnikuJeKazdyKnoflikPodRukou) {
     }
 }
 
-TEST_P(StiskPrvku, kazdyStiskJeJedenKlik) {
-    klikni(GetParam().jmeno);
-    klikni(GetParam().jmeno);
-    EXPECT_EQ(kliky(), QVector<int>(2, GetParam().cislo));
-    EXPECT_TRUE(s.dvojkliky.isEmpty());
-    klikni(GetParam().jmeno, Qt::RightButton);
-    EXPECT_EQ(kliky().size(), 2);
+TEST_F(Stisk, kazdyPrvekSeStiskneJednouZeVsechStran) {
+    const Prvek prvky[] = {{"lbl(1)", 1, false},          {"lbl(28)", 28, false},
+                           {"lblSynchro(4)", 4, false},   {"cmdKlavesa(5)", 5, false},
+                           {"cmdKlavesa(49)", 49, false}, {"ImgBas(1)", 1, true},
+                           {"ImgBas(120)", 120, true}};
+    for (const auto& [jmeno, cislo, bas] : prvky) {
+        SCOPED_TRACE(jmeno);
+        QVector<int>& kliky = bas ? s.klikyBasu : s.kliky;
+        const auto ocekavej = [&, cislo = cislo](int kolik, const char* ceho) {
+            EXPECT_EQ(kliky, QVector<int>(kolik, cislo)) << ceho;
+            kliky.clear();
+        };
+        klikni(jmeno);
+        klikni(jmeno);
+        klikni(jmeno, Qt::RightButton);
+        EXPECT_TRUE(s.dvojkliky.isEmpty());
+        ocekavej(2, "presses of the left button");
+        QTest::mouseDClick(okno(), Qt::LeftButton, {}, stred(jmeno));
+        ocekavej(1, "double click");
+        s.dvojkliky.clear();
+        s.prvek(jmeno)->setFocus();
+        stiskni(Qt::Key_Space);
+        stiskni(Qt::Key_Return);
+        QKeyEvent drzeny(QEvent::KeyPress, Qt::Key_Space, {}, QStringLiteral(" "), true);
+        QApplication::sendEvent(s.prvek(jmeno), &drzeny);
+        ocekavej(2, "keys; a held one repeats nothing");
+        QAccessibleInterface* pristup = QAccessible::queryAccessibleInterface(s.prvek(jmeno));
+        ASSERT_TRUE(pristup && pristup->actionInterface());
+        pristup->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+        ocekavej(1, "assistive technology");
+    }
 }
-
-TEST_P(StiskPrvku, dvojklikNeprepinaDvakrat) {
-    QTest::mouseDClick(okno(), Qt::LeftButton, {}, stred(GetParam().jmeno));
-    EXPECT_EQ(kliky(), QVector<int>{GetParam().cislo});
-}
-
-TEST_P(StiskPrvku, klavesniceAPomocneTechnologie) {
-    s.prvek(GetParam().jmeno)->setFocus();
-    stiskni(Qt::Key_Space);
-    stiskni(Qt::Key_Return);
-    QKeyEvent drzeny(QEvent::KeyPress, Qt::Key_Space, {}, QStringLiteral(" "), true);
-    QApplication::sendEvent(s.prvek(GetParam().jmeno), &drzeny);
-    EXPECT_EQ(kliky().size(), 2) << "a held key repeats nothing";
-    QAccessibleInterface* pristup = QAccessible::queryAccessibleInterface(s.prvek(GetParam().jmeno));
-    ASSERT_TRUE(pristup && pristup->actionInterface());
-    pristup->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
-    EXPECT_EQ(kliky(), QVector<int>(3, GetParam().cislo));
-}
-
-INSTANTIATE_TEST_SUITE_P(Prvky, StiskPrvku,
-                         ::testing::Values(Prvek{"lbl(1)", 1, false}, Prvek{"lbl(28)", 28, false},
-                                           Prvek{"lblSynchro(4)", 4, false}, Prvek{"cmdKlavesa(5)", 5, false},
-                                           Prvek{"cmdKlavesa(49)", 49, false}, Prvek{"ImgBas(1)", 1, true},
-                                           Prvek{"ImgBas(120)", 120, true}));
 
 TEST_F(Stisk, dvojklikAF2OteviraPrstoklad) {
     QTest::mouseDClick(okno(), Qt::LeftButton, {}, stred("lbl(12)"));

@@ -57,15 +57,15 @@ protected:
     WatchedSpreadsheet* excel = nullptr;
     SongPanel panel;
     CommandStates prikazy;
-    TrebleBoard diskant;
-    BassBoard basy;
+    TrebleBoard diskant{nastrojZvonika()};
+    BassBoard basy{nastrojZvonika()};
     Tonina tonina;
     NotovaOsnova osnova;
     ZobrazovaciOsnova zobrazovaci;
     Pas pas;
     clsNotyZapis noty{osnova, dialogs};
     Prstoklad prstoklad{dialogs};
-    BassTable tabulka{QStringLiteral(ZVONIKA_RESOURCES)};
+    BassTable tabulka{QStringLiteral(ZVONIKA_RESOURCES), 120};
     ZapisBasu zapisBasu{basy, tabulka, dialogs};
     ZobrazeniHmatu zobrazeni{pisen, {diskant, basy, tabulka, zobrazovaci, panel}, [](const QString&) {}};
     PasPisne pasPisne{pisen, pas};

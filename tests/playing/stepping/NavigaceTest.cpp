@@ -76,10 +76,10 @@ TEST_F(NavigaceTest, AMoveReadsOneBlockForBoardAndStrip) {
         navigace.cmdPrvni();
         naRadek(z);
         pasPisne.obnov();
-        excel->journal.clear();
+        log.calls.clear();
         pohyb();
-        EXPECT_EQ(excel->calls("readBlock"), 1);
-        EXPECT_EQ(excel->journal.size(), volani) << excel->journal.join(u' ').toStdString();
+        EXPECT_EQ(log.count("readBlock"), 1);
+        EXPECT_EQ(log.calls.size(), volani) << log.calls.join(u' ').toStdString();
     }
 }
 
