@@ -27,8 +27,9 @@ void PoZapisu::ukazNovyRadek(int radek) {
 void PoZapisu::obnovOkno() {
     list_.VyberBunkuB();
     PovolZpet(okoli_.prikazy); // the cursor has left the first row
-    zobrazeni_.ZobrazTexty();
-    pas_.obnov();
+    const VyrezPisne vyrez = pas_.ctiPoZmene();
+    zobrazeni_.ZobrazTexty(vyrez);
+    pas_.obnov(vyrez);
 }
 
 } // namespace zvonika

@@ -56,7 +56,7 @@ LOWEST_WITH_BACK_ENDS = 5
 
 INCLUDE = re.compile(r'^\s*#\s*include\s+([<"])([^>"]+)[>"]')
 BOXES = re.compile(r"\bQ(MessageBox|InputDialog|FileDialog)\b")
-LONGEST_FILE = 600
+LONGEST_FILE = 400
 
 
 def room(path):
