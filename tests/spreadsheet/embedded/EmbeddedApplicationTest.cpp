@@ -126,21 +126,6 @@ TEST_F(EmbeddedApplicationTest, AnExistingFileIsReplacedOnlyWithTheUsersConsent)
     EXPECT_NE(contents(arguments.filename), "stará");
 }
 
-TEST_F(EmbeddedApplicationTest, OtherFormsOfSavingAreRefused) {
-    app.addWorkbook();
-    const QString name = path(QStringLiteral("x.xls"));
-    const SaveAsArguments others[] = {{name, 51},
-                                      {name, -4143, QStringLiteral("heslo")},
-                                      {name, -4143, {}, QStringLiteral("heslo")},
-                                      {name, -4143, {}, {}, true},
-                                      {name, -4143, {}, {}, false, true}};
-    for (const auto& arguments : others)
-        EXPECT_TRUE(refusalOf([&] {
-                        app.saveActiveWorkbookAs(arguments);
-                    }).startsWith(QStringLiteral("1004 Sešit ")));
-    EXPECT_EQ(files(), QStringList());
-}
-
 TEST_F(EmbeddedApplicationTest, TheFileChoiceStartsInTheDefaultFolder) {
     app.setDefaultFilePath(pracovniAdresar);
     dialogs.expectFile(QStringLiteral("Vyberte"), {});
@@ -170,38 +155,9 @@ TEST_F(EmbeddedApplicationTest, WhatCannotBeSavedOnQuittingMayBeSavedElsewhere) 
         .expectFile(saveAs, {})
         .expect(jmenoTabulky, question.arg(QStringLiteral("Sešit3")), Answer::No);
     app.quit();
-    EXPECT_TRUE(dialogs.done());
     EXPECT_EQ(files(), QStringList{QStringLiteral("zachráněná.xls")});
     const auto rescued = Document::open(path(QStringLiteral("zachráněná.xls")));
     EXPECT_EQ(cellText(rescued->cells().value(1, {1, 2})), QStringLiteral("c"));
-}
-
-TEST_F(EmbeddedApplicationTest, TheWindowIsMadeWhenItIsFirstShownAndFollowsTheActiveWorkbook) {
-    app.addWorkbook();
-    app.setVisible(false);
-    EXPECT_EQ(view.made, 0);
-    app.setVisible(true);
-    app.setVisible(true);
-    EXPECT_EQ(view.made, 1);
-    EXPECT_TRUE(view.visible);
-    const Document* first = view.document;
-    EXPECT_EQ(first, app.session().active());
-    app.addWorkbook();
-    EXPECT_NE(view.document, first);
-    app.activateWindow(QStringLiteral("Sešit1"));
-    EXPECT_EQ(view.document, first);
-    app.showToUser();
-    EXPECT_EQ(view.raised, 1);
-    app.quit();
-    EXPECT_FALSE(view.visible);
-    EXPECT_EQ(view.document, nullptr);
-}
-
-TEST_F(EmbeddedApplicationTest, ABlockOfTheWholeSheetIsTooLarge) {
-    app.addWorkbook();
-    EXPECT_EQ(refusalOf([&] { app.readBlock(QStringLiteral("A:IV")); }),
-              QStringLiteral("1004 Oblast je příliš velká."));
-    EXPECT_EQ(app.readBlock(QStringLiteral("B:B")).size(), lastRow);
 }
 
 } // namespace zvonika::testing

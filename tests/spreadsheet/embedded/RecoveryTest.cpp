@@ -129,18 +129,6 @@ TEST_F(RecoveryTest, TurnedDownTheSongIsAsItWasSavedAndTheJournalIsKeptAside) {
     open();
 }
 
-TEST_F(RecoveryTest, AfterASecondCrashBothWorksComeBack) {
-    crashWith("B2", "d");
-    dialogs.expect(title, QStringLiteral("1 neuložená"), Answer::Yes);
-    open();
-    write("B3", "e");
-    crash();
-    start();
-    dialogs.expect(title, QStringLiteral("2 neuložené"), Answer::Yes);
-    open();
-    EXPECT_EQ(text("B2") + text("B3"), QStringLiteral("de"));
-}
-
 TEST_F(RecoveryTest, SaysWhenTheSongHasChangedSince) {
     crashWith("B2", "d");
     auto other = Document::open(song);
@@ -268,12 +256,9 @@ TEST_F(RecoveryTest, WhatDoesNotFitIsTold) {
 
 TEST_F(RecoveryTest, ATypedOverFormulaComesBackWhenThatWasTakenBack) {
     const QString sheet = path(QStringLiteral("vzorce.xls"));
-    ASSERT_TRUE(QFile::copy(QStringLiteral(XLS_DATA "/xlwt.xls"), sheet));
+    ASSERT_TRUE(QFile::copy(QStringLiteral(XLS_DATA "/libreoffice.xls"), sheet));
     const auto formulas = Document::open(sheet);
-    CellPosition cell{1, 1};
-    for (int row = 1; row <= formulas->cells().usedRows(1); ++row)
-        for (int column = 1; column <= formulas->cells().usedColumns(1); ++column)
-            if (formulas->cells().isFormula(1, {row, column})) cell = {row, column};
+    const CellPosition cell{1, 6};
     ASSERT_TRUE(formulas->cells().isFormula(1, cell));
     const CellValue shown = formulas->cells().value(1, cell);
     PendingJournal pending{JournalFile::create(path(QStringLiteral("zápis")), {}), {}};

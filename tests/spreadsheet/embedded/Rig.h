@@ -26,31 +26,22 @@ public:
     QString heard;
 };
 
-/// What the application has told its window.
-struct ViewLog {
-    int made = 0;
-    bool visible = false;
-    int raised = 0;
-    Document* document = nullptr;
-    SheetCommands* commands = nullptr;
-    std::function<void()> typing; ///< what the user has typed and not committed
-};
-
-class RecordingView : public SheetView {
+/// Shows nothing; gives over what the user has typed and not committed.
+class BlindView : public SheetView {
 public:
-    explicit RecordingView(ViewLog& log) : log_(log) {}
-    void setVisible(bool visible) override { log_.visible = visible; }
-    void raise() override { ++log_.raised; }
+    explicit BlindView(std::function<void()>& typing) : typing_(typing) {}
+    void setVisible(bool) override {}
+    void raise() override {}
     void commitPending() override {
-        if (log_.typing) std::exchange(log_.typing, nullptr)();
+        if (typing_) std::exchange(typing_, nullptr)();
     }
-    void setDocument(Document* document) override { log_.document = document; }
+    void setDocument(Document*) override {}
 
 private:
-    ViewLog& log_;
+    std::function<void()>& typing_;
 };
 
-/// A folder of its own as drive C:, scripted boxes, settings in memory and a window that only keeps a log.
+/// A folder of its own as drive C:, scripted boxes, settings in memory and a window that shows nothing.
 struct World {
     QTemporaryDir folder;
     QTemporaryDir state;
@@ -58,15 +49,12 @@ struct World {
     HomeDrive drive{folder.path(), QString()};
     ScriptedDialogs dialogs;
     MemorySettings settings;
-    ViewLog view;
+    std::function<void()> typing;
 
     std::unique_ptr<EmbeddedApplication> launch() {
-        return std::make_unique<EmbeddedApplication>(drive, dialogs, settings, journals,
-                                                     [this](SheetCommands& commands) {
-                                                         ++view.made;
-                                                         view.commands = &commands;
-                                                         return std::make_unique<RecordingView>(view);
-                                                     });
+        return std::make_unique<EmbeddedApplication>(
+            drive, dialogs, settings, journals,
+            [this](SheetCommands&) { return std::make_unique<BlindView>(typing); });
     }
     QString path(const QString& name) const { return folder.filePath(name); }
     QStringList files() const {

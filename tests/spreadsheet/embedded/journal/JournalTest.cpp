@@ -33,19 +33,6 @@ protected:
 
 } // namespace
 
-TEST_F(JournalTest, ComesWithTheFirstChangeAndGoesWithTheSave) {
-    Journal journal(journals, base());
-    journal.saving(song, "nic");
-    EXPECT_EQ(kept(), QStringList());
-    journal.record(written(1));
-    EXPECT_EQ(kept().size(), 1);
-    journal.startAfresh();
-    EXPECT_EQ(kept(), QStringList());
-    Journal none(JournalFolder(), base());
-    none.record(written(1));
-    EXPECT_FALSE(none.trouble());
-}
-
 TEST_F(JournalTest, IsFoundByItsSongOnceItsOwnerIsGone) {
     {
         Journal journal(journals, base());
@@ -91,7 +78,7 @@ TEST_F(JournalTest, TakenOverGoesOnBehindItsLastWholeEntry) {
     EXPECT_EQ(kept().size(), 1);
 }
 
-TEST_F(JournalTest, WhatIsSavedOrUnreadableIsNotOffered) {
+TEST_F(JournalTest, WhatIsSavedIsNotOffered) {
     {
         Journal journal(journals, base());
         journal.record(written(1));
@@ -100,11 +87,6 @@ TEST_F(JournalTest, WhatIsSavedOrUnreadableIsNotOffered) {
     }
     EXPECT_TRUE(journals.pending(song).empty());
     EXPECT_EQ(kept(), QStringList());
-    crash(1, base());
-    store(state.filePath(QStringLiteral("zaznamy/")) + kept().value(0), "co to je?");
-    EXPECT_TRUE(journals.pending(song).empty());
-    EXPECT_EQ(kept(), QStringList());
-    EXPECT_EQ(kept(QStringLiteral("odmitnute")).size(), 1);
 }
 
 TEST_F(JournalTest, TurnedDownOnesAreKeptAsideButNotForEver) {
@@ -140,16 +122,6 @@ TEST_F(JournalTest, OnAFullDiskChangesWaitUntilThereIsRoom) {
     ASSERT_EQ(pending[0].contents.groups.size(), 5U);
     for (int row = 1; row <= 5; ++row)
         EXPECT_EQ(pending[0].contents.groups[std::size_t(row - 1)].changes, written(row));
-}
-
-TEST_F(JournalTest, WithoutAFolderThereIsOnlyTrouble) {
-    store(path(QStringLiteral("soubor")), "x");
-    Journal journal(JournalFolder(path(QStringLiteral("soubor/zaznamy"))), base());
-    journal.record(written(1));
-    journal.record(written(2));
-    EXPECT_TRUE(journal.trouble());
-    journal.startAfresh();
-    EXPECT_FALSE(journal.trouble());
 }
 
 } // namespace zvonika::testing

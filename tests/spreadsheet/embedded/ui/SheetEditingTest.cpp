@@ -1,7 +1,5 @@
 #include "tests/spreadsheet/embedded/ui/SheetWindowFixture.h"
 
-#include <QFile>
-
 #include <functional>
 
 namespace zvonika::testing {
@@ -17,7 +15,7 @@ TEST_F(SheetEditing, ATypedSyllableIsCommittedByEnterAndGoesDown) {
     EXPECT_EQ(text("A1"), QStringLiteral("Koc"));
     EXPECT_EQ(shown("A1"), QStringLiteral("Koc"));
     EXPECT_EQ(cursor(), "$A$2");
-    EXPECT_EQ(listener.edits, 1);
+    EXPECT_EQ(listener.take().count(u'b'), 1);
     EXPECT_TRUE(window->isWindowModified());
 
     type("ka");
@@ -53,14 +51,17 @@ TEST_F(SheetEditing, EnterAndTabMoveWithoutEditing) {
         {Qt::Key_Up, Qt::NoModifier, "$B$1"},        {Qt::Key_Return, Qt::ShiftModifier, "$B$1"},
     };
     click("B2");
+    EXPECT_EQ(listener.take(), QStringLiteral("k"));
     for (const auto& [key, modifiers, expected] : steps) {
+        const bool stays = cursor() == expected;
         press(key, modifiers);
         EXPECT_EQ(cursor(), expected);
+        EXPECT_EQ(listener.take(), stays ? QString() : QStringLiteral("k"));
     }
 }
 
 TEST_F(SheetEditing, EveryCommandFirstTakesWhatIsBeingTyped) {
-    const QString file = folder.filePath(QStringLiteral("pisen.xls"));
+    const QString file = path(QStringLiteral("pisen.xls"));
     const std::pair<const char*, std::function<void()>> commands[] = {
         {"save by key", [&] { press(Qt::Key_S, Qt::ControlModifier); }},
         {"save as",
@@ -110,7 +111,7 @@ TEST_F(SheetEditing, UndoTakesBackWhatIsBeingTyped) {
 
 TEST_F(SheetEditing, TypingStaysInItsWorkbookAndOnItsSheet) {
     const QString first = application.activeWorkbookName();
-    const QString copy = folder.filePath(QStringLiteral("listy.xls"));
+    const QString copy = path(QStringLiteral("listy.xls"));
     ASSERT_TRUE(QFile::copy(QStringLiteral(XLS_DATA "/libreoffice.xls"), copy));
     for (const bool inLine : {false, true}) {
         application.activateWindow(first);
@@ -162,9 +163,6 @@ TEST_F(SheetEditing, ABlockGoesThroughTheClipboard) {
     QApplication::clipboard()->setText(QStringLiteral("c1,\te1,\r\nd1,\t1,5\r\n"));
     click("B1");
     press(Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(text("C1"), QStringLiteral("e1,"));
-    EXPECT_EQ(application.value(QStringLiteral("C2")), CellValue(1.5));
-
     press(Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QApplication::clipboard()->text().trimmed(), QStringLiteral("c1,\te1,\nd1,\t1,5"));
     press(Qt::Key_X, Qt::ControlModifier);
@@ -189,8 +187,8 @@ TEST_F(SheetEditing, RowsComeAndGo) {
 }
 
 TEST_F(SheetEditing, TheLineAboveShowsAndTakesTheContents) {
-    application.setValue(QStringLiteral("A1"), QStringLiteral("ok"));
     click("A1");
+    application.setActiveCellValue(QStringLiteral("ok"));
     EXPECT_EQ(line().text(), QStringLiteral("ok"));
     EXPECT_EQ(window->findChild<QWidget*>(QStringLiteral("adresaBunky"))->property("text"),
               QStringLiteral("A1"));

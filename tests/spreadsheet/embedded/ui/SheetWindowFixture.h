@@ -1,38 +1,22 @@
 #pragma once
 
-#include "platform/HomeDrive.h"
-#include "platform/IniSettingsStore.h"
 #include "song/PopisSloupcu.h"
-#include "spreadsheet/embedded/EmbeddedApplication.h"
 #include "spreadsheet/embedded/ui/SheetTable.h"
 #include "spreadsheet/embedded/ui/SheetTabs.h"
 #include "spreadsheet/embedded/ui/SheetWindow.h"
-#include "tests/support/ScriptedDialogs.h"
+#include "tests/spreadsheet/embedded/Rig.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
-#include <QTemporaryDir>
 #include <QTest>
-
-#include <gtest/gtest.h>
 
 namespace zvonika::testing {
 
-/// Counts what the program is told of the user's doings.
-class CountingListener : public SpreadsheetListener {
-public:
-    void cursorMoved() override { ++moves; }
-    void cellsEdited() override { ++edits; }
-
-    int moves = 0;
-    int edits = 0;
-};
-
 /// The built-in application with its real window on an empty workbook.
-class SheetWindowFixture : public ::testing::Test {
+class SheetWindowFixture : public ::testing::Test, protected World {
 protected:
     void SetUp() override {
         ASSERT_TRUE(folder.isValid());
@@ -82,15 +66,9 @@ protected:
     QString shown(const char* address) const { return indexOf(address).data().toString(); }
     std::string cursor() const { return application.activeAddress().toStdString(); }
 
-    QTemporaryDir folder;
-    HomeDrive drive{folder.path(), folder.path()};
-    ScriptedDialogs dialogs;
-    IniSettingsStore settings{folder.filePath(QStringLiteral("nastaveni.ini"))};
-    CountingListener listener;
+    Listener listener;
     SheetWindow* window = nullptr;
-    EmbeddedApplication application{drive, dialogs, settings,
-                                    JournalFolder(folder.filePath(QStringLiteral("zaznamy"))),
-                                    [this](SheetCommands& commands) {
+    EmbeddedApplication application{drive, dialogs, settings, journals, [this](SheetCommands& commands) {
                                         auto made = std::make_unique<SheetWindow>(commands, popisSloupcu());
                                         window = made.get();
                                         return made;
