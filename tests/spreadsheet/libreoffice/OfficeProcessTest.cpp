@@ -106,13 +106,6 @@ TEST(OfficeProcess, RunsUnderItsGuardianAndEndsWithIt) {
     EXPECT_NO_THROW(process.tellStarted());
 }
 
-TEST(OfficeProcess, WhatCannotBeStartedIsToldOf) {
-    QTemporaryDir profiles;
-    Installation installation;
-    installation.guardian = profiles.filePath("none");
-    EXPECT_THROW(OfficeProcess(installation, Profile(profiles.path()), "roura"), RuntimeError);
-}
-
 TEST(Leftovers, AreRemovedAndThoseOfOthersStay) {
     QTemporaryDir folder;
     const auto file = [&](const QString& name) { return folder.filePath(name); };
