@@ -117,11 +117,4 @@ TEST(Refusals, ContradictionsInTheWorkbook) {
     });
 }
 
-TEST(Refusals, DoNotAskForMemoryThatCountsPretend) {
-    std::vector<Rec> all = recordsOf(Workbook::create(u"List").save());
-    auto sst = std::ranges::find(all, 0x00FC, &Rec::id);
-    sst->data = le(4, {0xFFFFFFFF, 0xFFFFFFFF});
-    EXPECT_EQ(Workbook::open(fileAround(bytesOf(all))).sheetCount(), 1);
-}
-
 } // namespace
