@@ -1,7 +1,6 @@
 // The office's process and its guardian, with a shell script for an office.
 #include "spreadsheet/libreoffice/OfficeProcess.h"
 
-#include "platform/RuntimeError.h"
 #include "spreadsheet/libreoffice/Installation.h"
 #include "spreadsheet/libreoffice/hlidac/Leftovers.h"
 

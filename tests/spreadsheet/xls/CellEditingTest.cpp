@@ -1,4 +1,3 @@
-#include "spreadsheet/xls/records/CellRecord.h"
 #include "tests/spreadsheet/xls/XlsFiles.h"
 
 #include <algorithm>

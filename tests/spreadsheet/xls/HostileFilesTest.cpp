@@ -114,11 +114,6 @@ std::vector<Hostile> hostileFiles() {
         {"column records without use",
          fileWithTable(times(400, {{0x007D, le(2, {0, 255, 1000, 15, 2, 0})}}))},
         {"formulas that are one", manyFormulasOfOne()},
-        {"a text of 32,767 letters in little room",
-         changed(0x00FC,
-                 [](Rec& sst) {
-                     sst.data = le(4, {1, 1}) + le(2, {0x7FFF}) + Bytes{0};
-                 })},
     };
 }
 
