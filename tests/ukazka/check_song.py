@@ -43,7 +43,6 @@ def expected_rows():
             row[0], row[1], row[8], row[12] = syllable, tone + "1,", bellows, BASS[tone]
             row[21], row[22] = "l%d;%d\\" % (BUTTON[tone], FINGER[tone]), "C dur"
             rows.append(row)
-    assert len(rows) == 30
     return rows
 
 

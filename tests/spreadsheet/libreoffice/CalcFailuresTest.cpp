@@ -4,7 +4,6 @@
 #include <QFile>
 #include <QProcess>
 #include <QTest>
-#include <QTimer>
 
 #include <csignal>
 #include <sys/mount.h>
@@ -72,22 +71,16 @@ TEST_F(CalcFailures, AKilledCalcIsGoneAndLeavesNothingBehind) {
     EXPECT_TRUE(locksIn(world.folder.path()).isEmpty());
 }
 
-TEST_F(CalcFailures, ACalcThatHangsIsWaitedForWhileTimersStandStill) {
+TEST_F(CalcFailures, ACalcThatHangsIsWaitedFor) {
     world.patience.cell = std::chrono::milliseconds(400);
     auto calc = withSong();
-    int ticks = 0;
-    QTimer stepping;
-    QObject::connect(&stepping, &QTimer::timeout, [&] { ++ticks; });
-    stepping.start(5);
     world.dialogs.expect(jmenoCalcu, "neodpovídá", Answer::Yes);
     world.dialogs.meanwhile = [&] { kill(world.office(), SIGCONT); };
     world.signs = 0;
     kill(world.office(), SIGSTOP);
     calc->setValue("B1", QString("c"));
-    EXPECT_EQ(ticks, 0);
     EXPECT_GE(world.signs, 3);
     EXPECT_EQ(cellText(calc->value("B1")), "c");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return ticks > 0; }));
 }
 
 TEST_F(CalcFailures, ACalcThatHangsIsEndedWhenTheUserWantsIt) {
@@ -122,12 +115,6 @@ TEST_F(CalcFailures, AFullDiskRefusesAndKeepsTheOldFile) {
         EXPECT_NE(contents(disk + '/' + pisen), before);
     }
     umount(disk.toUtf8().constData());
-}
-
-TEST_F(CalcFailures, AFolderThatTakesNoFilesRefuses) {
-    auto calc = withSong();
-    EXPECT_EQ(number([&] { calc->saveActiveWorkbookAs({"/proc/pisen.xls"}); }), 1004);
-    EXPECT_EQ(calc->activeWorkbookName(), pisen);
 }
 
 TEST_F(CalcFailures, WhatTheFormatCannotHoldIsNotDroppedInSilence) {

@@ -119,11 +119,4 @@ TEST_F(CalcUser, AWorkbookClosedInCalcIsGoneWhenTheUserHasAnswered) {
     EXPECT_EQ(text("B1"), QString());
 }
 
-TEST_F(CalcUser, ADefaultFolderSurvivesCalcAndItsProfile) {
-    calc->setDefaultFilePath("C:\\Dokumenty\\Heligonka");
-    EXPECT_EQ(calc->defaultFilePath(), "C:\\Dokumenty\\Heligonka");
-    calc->quit();
-    EXPECT_EQ(calc->defaultFilePath(), "C:\\Dokumenty\\Heligonka");
-}
-
 } // namespace zvonika::testing

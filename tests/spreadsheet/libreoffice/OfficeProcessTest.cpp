@@ -1,7 +1,6 @@
 // The office's process and its guardian, with a shell script for an office.
 #include "spreadsheet/libreoffice/OfficeProcess.h"
 
-#include "platform/RuntimeError.h"
 #include "spreadsheet/libreoffice/Installation.h"
 #include "spreadsheet/libreoffice/hlidac/Leftovers.h"
 
@@ -104,13 +103,6 @@ TEST(OfficeProcess, RunsUnderItsGuardianAndEndsWithIt) {
     EXPECT_FALSE(QFile::exists(profiles.filePath(".~lock.moje.xls#")));
     EXPECT_EQ(Profile(profiles.path()).path(), path);
     EXPECT_NO_THROW(process.tellStarted());
-}
-
-TEST(OfficeProcess, WhatCannotBeStartedIsToldOf) {
-    QTemporaryDir profiles;
-    Installation installation;
-    installation.guardian = profiles.filePath("none");
-    EXPECT_THROW(OfficeProcess(installation, Profile(profiles.path()), "roura"), RuntimeError);
 }
 
 TEST(Leftovers, AreRemovedAndThoseOfOthersStay) {

@@ -20,23 +20,15 @@ std::vector<Rec> sharedTable(const Bytes& file) {
 
 TEST(SharedStrings, CountReferencesAndTexts) {
     Workbook book = Workbook::create(u"List");
-    for (int row = 0; row < 5; ++row)
-        book.setValue(0, {row, 0}, std::u16string(row % 2 ? u"c1" : u"dis1"));
-    book.setValue(0, {7, 0}, std::u16string(u"nikde"));
-    book.setValue(0, {7, 0}, 1.0);
-    Bytes file = book.save();
-    EXPECT_EQ(sharedTable(file).front().u32(0), 5U);
-    EXPECT_EQ(sharedTable(file).front().u32(4), 2U) << "a text that was written over is not stored";
+    for (const char16_t* text : {u"nikde", u"c1"})
+        for (int row = 0; row < 3; ++row)
+            book.setValue(0, {row, 0}, std::u16string(text));
+    const Bytes file = book.save();
+    EXPECT_EQ(sharedTable(file).front().u32(0), 3U);
+    EXPECT_EQ(sharedTable(file).front().u32(4), 1U) << "a text that was written over is not stored";
     book = Workbook::open(file);
-    book.setValue(0, {0, 0}, 3.0);
-    book.setValue(0, {1, 0}, std::u16string(u"dis1"));
-    book.setValue(0, {9, 0}, std::u16string(u"nová"));
-    file = book.save();
-    EXPECT_EQ(sharedTable(file).front().u32(0), 5U);
-    EXPECT_EQ(sharedTable(file).front().u32(4), 3U) << "a text that is there already is used again";
-    book = Workbook::open(file);
-    book.setValue(0, {9, 0}, 1.0);
-    EXPECT_EQ(sharedTable(book.save()).front().u32(0), 4U) << "without a new text, too";
+    book.setValue(0, {1, 0}, 1.0);
+    EXPECT_EQ(sharedTable(book.save()).front().u32(0), 2U) << "without a new text, too";
 }
 
 TEST(SharedStrings, RecordsStayWithinTheLimit) {
