@@ -1,9 +1,6 @@
 #include "board/BassTable.h"
 
 #include <QFile>
-#include <QMap>
-#include <QRegularExpression>
-#include <QSet>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -35,77 +32,19 @@ QByteArray polozka(const QByteArray& bas, const QByteArray& cislo) {
     return "<knoflik><bas>" + bas + "</bas><cislo>" + cislo + "</cislo></knoflik>";
 }
 
-/// Semitones above c of a Czech tone name.
-int pulton(const QString& nazev) {
-    static const QMap<QString, int> kmeny{{"c", 0}, {"d", 2}, {"e", 4}, {"f", 5},
-                                          {"g", 7}, {"a", 9}, {"h", 11}};
-    if (nazev == u'B') return 10;
-    const QString maly = nazev.toLower();
-    int pultonu = kmeny.value(maly.left(1), -100);
-    pultonu += static_cast<int>(maly.count(QStringLiteral("is")));
-    pultonu -= static_cast<int>(maly.mid(1).count(u's') - maly.count(QStringLiteral("is")));
-    return (pultonu + 12) % 12;
-}
-
-TEST(BassTable, TheShippedTableIsWhole) {
+TEST(BassTable, TheShippedTableFollowsTheCircleOfFifths) {
+    const QStringList kvinty = QStringLiteral("Heses Fes Ces Ges Des As Es B F C G D A E H Fis Cis Gis Dis "
+                                              "Ais Eis His Fisis Cisis")
+                                   .split(u' ');
     const BassTable tabulka = dodanaTabulka();
     EXPECT_EQ(tabulka.chyba().toStdString(), "");
-    for (int bas = 1; bas <= pocetBasu; ++bas)
-        EXPECT_EQ(tabulka.cislo(tabulka.nazev(bas)), bas) << bas;
-}
-
-TEST(BassTable, ColumnsFollowTheCircleOfFifths) {
-    const BassTable tabulka = dodanaTabulka();
-    const struct {
-        int bas;
-        const char* nazev;
-    } radky[] = {{21, "Heses"}, {26, "As"},     {30, "C"},        {34, "E"},
-                 {40, "Ais"},   {10, "E/C"},    {1, "Des/Heses"}, {20, "Cisis/Ais"},
-                 {50, "C-dur"}, {70, "c-moll"}, {90, "C-sept"},   {110, "C-zm"}};
-    for (const auto& [bas, nazev] : radky)
-        EXPECT_EQ(tabulka.nazev(bas).toStdString(), nazev) << bas;
-    for (int bas = 22; bas <= 40; ++bas)
-        EXPECT_EQ((pulton(tabulka.nazev(bas - 1)) + 7) % 12, pulton(tabulka.nazev(bas))) << bas;
-}
-
-TEST(BassTable, ACounterBassIsAMajorThirdAboveItsColumn) {
-    const BassTable tabulka = dodanaTabulka();
-    const auto kmen = [](const QString& ton) {
-        return QStringLiteral("CDEFGAH").indexOf(ton == u'B' ? QChar(u'H') : ton.front());
-    };
-    for (int bas = 1; bas <= 20; ++bas) {
-        const QString zaklad = tabulka.nazev(bas + 20);
-        const QStringList casti = tabulka.nazev(bas).split(u'/');
-        ASSERT_EQ(casti.size(), 2) << bas;
-        EXPECT_EQ(casti.at(1), zaklad);
-        EXPECT_EQ(pulton(casti.at(0)), (pulton(zaklad) + 4) % 12) << bas;
-        EXPECT_EQ(kmen(casti.at(0)), (kmen(zaklad) + 2) % 7) << bas; // a third, not a diminished fourth
-    }
-}
-
-TEST(BassTable, ChordsCarryTheRootOfTheirColumn) {
-    const BassTable tabulka = dodanaTabulka();
-    const char* druhy[] = {"-dur", "-moll", "-sept", "-zm"};
-    for (int bas = 41; bas <= pocetBasu; ++bas) {
-        const QString ocekavany = tabulka.nazev((bas - 1) % 20 + 21) + QLatin1String(druhy[(bas - 41) / 20]);
-        EXPECT_EQ(tabulka.nazev(bas).toLower(), ocekavany.toLower()) << bas;
-    }
-}
-
-TEST(BassTable, NamesAreNothingButTextToASpreadsheet) {
-    const BassTable tabulka = dodanaTabulka();
-    // No digit: no number, date, cell or exponent. No blank: several names in a row stay apart.
-    const QRegularExpression bezpecny(QStringLiteral("^[A-Ha-h][a-z]*([/-][A-Za-z]+)?$"));
-    const QSet<QString> zakazane{"true", "false", "pravda", "nepravda"};
-    QSet<QString> jmena;
     for (int bas = 1; bas <= pocetBasu; ++bas) {
-        const QString nazev = tabulka.nazev(bas);
-        EXPECT_TRUE(bezpecny.match(nazev).hasMatch()) << nazev.toStdString();
-        EXPECT_LE(nazev.size(), 10);
-        EXPECT_FALSE(zakazane.contains(nazev.toLower()));
-        jmena.insert(nazev.toLower()); // some spreadsheets compare without regard to case
+        const QString zaklad = kvinty.at((bas - 1) % 20), tercie = kvinty.at((bas - 1) % 20 + 4);
+        const QString rady[] = {tercie + u'/' + zaklad,     zaklad,           zaklad + "-dur",
+                                zaklad.toLower() + "-moll", zaklad + "-sept", zaklad + "-zm"};
+        EXPECT_EQ(tabulka.nazev(bas).toStdString(), rady[(bas - 1) / 20].toStdString());
+        EXPECT_EQ(tabulka.cislo(tabulka.nazev(bas)), bas);
     }
-    EXPECT_EQ(jmena.size(), pocetBasu);
 }
 
 TEST(BassTable, OutsideTheTableThereIsNothing) {
@@ -126,7 +65,6 @@ TEST(BassTable, FaultsAreToldInOneSentenceAndTheRestIsUsed) {
         {"empty", "", "je poškozená", 0},
         {"damaged", "<tonavox><knoflik><bas>C</bas>", "je poškozená", 0},
         {"other document", "<html/>", "nezná 120 ze 120", 0},
-        {"incomplete", "<t>" + polozka("C", "30") + "</t>", "nezná 119 ze 120", 1},
         {"nested", "<t><a>" + polozka("C", " 30 ") + "</a></t>", "nezná 119 ze 120", 1},
         {"number twice", "<t>" + polozka("C", "30") + polozka("D", "30") + "</t>", "opakované položky (1)",
          1},

@@ -1,6 +1,7 @@
 // The services of the conversion one by one, also those that no run calls.
 #include "conversion/KonverzeBasu.h"
 #include "conversion/NahradText.h"
+#include "conversion/ZtratyKonverze.h"
 #include "tests/conversion/KonverzeFixture.h"
 
 #include <QFile>
@@ -29,21 +30,13 @@ TEST_F(SluzbyKonverze, ATonIsLookedUpByTheNamesOfItsKeys) {
     const struct {
         const char *zdroj, *cil, *ton, *vysledek;
     } radky[] = {
-        {"C dur", "G dur", "c1,", "g,"},
-        {"C Dur", "G dur", "c1,", "g,"},
-        {"CDUR", "G dur", "c1,", "g,"},
+        {"C dur", "G dur", "c1,", "g,"},     {"C Dur", "G dur", "c1,", "g,"},
         {"C dur", "G Dur", "c1,", "Empty"}, // only the source may be written so
-        {"Fis dur", "C dur", "fis,", "c,"},
-        {"C  dur", "G dur", "c1,", "Empty"},
-        {"Vyberte tóninu", "G dur", "c1,", "Empty"},
-        {"", "G dur", "c1,", "Empty"},
+        {"Fis dur", "C dur", "fis,", "c,"},  {"Vyberte tóninu", "G dur", "c1,", "Empty"},
         {"C dur", "G dur", "A,", "Empty"},   // only the heading has it
         {"C dur", "G dur", "Ais,", "Empty"}, // the 57th is not reached
         {"C dur", "F dur", "dis4,", "as4,"}, // the 56th
-        {"C dur", "G dur", "c1", "Empty"},
         {"C dur", "G dur", "C1,", "Empty"},
-        {"C dur", "F dur", "h3,", "e4,"},
-        {"F dur", "C dur", "e4,", "h3,"},
     };
     for (const auto& r : radky)
         EXPECT_EQ(prevedeno(r.zdroj, r.cil, r.ton), r.vysledek) << r.zdroj << ' ' << r.cil << ' ' << r.ton;
@@ -67,22 +60,6 @@ TEST_F(SluzbyKonverze, TheTableIsReadAfreshAndAnyFaultGivesNothing) {
     EXPECT_EQ(prevedeno("C dur", "G dur", "c1,"), "Empty");
 }
 
-TEST_F(SluzbyKonverze, TheQuestionAtAKeyChange) {
-    const struct {
-        Answer odpoved;
-        const char* vysledek;
-    } radky[] = {{Answer::Yes, "Zmenit"}, {Answer::No, "Ne"}, {Answer::Cancel, "Storno"}};
-    for (const auto& [odpoved, vysledek] : radky) {
-        dialogs.expect("Přechod do jiné stupnice", "", odpoved);
-        EXPECT_EQ(sluzby.ZmenaLadeni("C dur", "Vyberte tóninu", "12"), vysledek);
-    }
-    EXPECT_EQ(dialogs.last.text, "Na řádku 12 se mění původní stupnice z C dur do Vyberte tóninu.\n"
-                                 "Chcete-li tento úsek konvertovat do jiné stupnice, stiskněte Ano.");
-    EXPECT_EQ(dialogs.last.buttons, Buttons::YesNoCancel);
-    EXPECT_EQ(dialogs.last.defaultAnswer, Answer::No);
-    EXPECT_EQ(dialogs.last.icon, Icon::Question);
-}
-
 TEST_F(SluzbyKonverze, ATargetWorkbookIsMadeWhereNothingIsInItsWay) {
     const QString cil = cesta("Polka G dur.xls"), existuje = "Tato skladba již existuje!";
     const QString preruseno = "Založení nové skladby přerušeno.";
@@ -93,19 +70,14 @@ TEST_F(SluzbyKonverze, ATargetWorkbookIsMadeWhereNothingIsInItsWay) {
     EXPECT_EQ(storedText(cil, "A2"), "ka");
     EXPECT_EQ(storedText(cil, "B1"), "");
 
-    const struct {
-        int failingDeletions;
-        Answer smazat;
-        bool zalozen;
-    } pripady[] = {{0, Answer::No, false}, {1, Answer::Yes, false}, {0, Answer::Yes, true}};
-    for (const auto& [failingDeletions, smazat, zalozen] : pripady) {
-        otevri({"A=nová"});
-        drive.addFile(cil);
-        drive.failingDeletions = failingDeletions;
-        dialogs.expect(existuje, "vymazat z disku", smazat);
-        if (!zalozen) dialogs.expect(preruseno, "zadejte jiný název písně.");
-        EXPECT_EQ(sluzby.VytvorCilovySoubor("G dur", "Polka.xls"), zalozen);
-        EXPECT_EQ(excel->workbooks(), zalozen ? 2 : 1);
+    otevri({"A=nová"});
+    drive.addFile(cil);
+    for (const int zabranenych : {1, 0}) {
+        drive.failingDeletions = zabranenych;
+        dialogs.expect(existuje, "vymazat z disku", Answer::Yes);
+        if (zabranenych) dialogs.expect(preruseno, "zadejte jiný název písně.");
+        EXPECT_EQ(sluzby.VytvorCilovySoubor("G dur", "Polka.xls"), !zabranenych);
+        EXPECT_EQ(excel->workbooks(), zabranenych ? 1 : 2);
     }
     EXPECT_EQ(storedText(cil, "A1"), "nová");
 
@@ -126,7 +98,6 @@ TEST(NahradText, SearchesOnFromThePlaceOfTheFind) {
         int provedeno;
     } radky[] = {
         {"C dur a", " ", "", {Qt::CaseInsensitive, 1, 1}, "Cdur a", 1},
-        {"C DUR Dur", "Dur", "dur", {Qt::CaseInsensitive, 1, 1}, "C dur Dur", 1},
         {"C DUR Dur", "Dur", "mol", {}, "C DUR mol", 1},
         {"xxxx", "xx", "x", {}, "x", 3}, // what was put there is searched again
         {"aaa", "a", "b", {Qt::CaseSensitive, 2}, "abb", 2},
@@ -177,6 +148,29 @@ TEST_F(SluzbyKonverze, BassesAreFoundInTheTablesOfASecondWorkbook) {
     dialogs.expect("Neočekávaná chyba.", "Chybí záznam o směru tahu měchu.");
     EXPECT_FALSE(basy.KonvertujBasy("tah", "B-Es-As"));
     EXPECT_EQ(dialogs.last.icon, Icon::Critical);
+}
+
+TEST(ZtratyKonverze, RowsAreNamedShortly) {
+    const struct {
+        QList<int> radky;
+        const char* popis;
+    } radky[] = {
+        {{3}, "řádek 3"},
+        {{3, 4}, "řádky 3–4"},
+        {{1, 3, 5, 6, 7, 9}, "řádky 1, 3, 5–7, 9"},
+        {{1, 3, 5, 7, 9, 11, 12, 13}, "řádky 1, 3, 5, 7, 9, 11–13"},
+        {{1, 3, 5, 7, 9, 11, 13, 14}, "řádky 1, 3, 5, 7, 9, 11 a další, celkem 8 řádků"},
+    };
+    for (const auto& r : radky)
+        EXPECT_EQ(popisRadku(r.radky), QString::fromUtf8(r.popis));
+}
+
+TEST(ZtratyKonverze, CountsAreInGoodCzech) {
+    ZtratyKonverze ztraty;
+    for (const char* tony : {"1 tón", "2 tóny", "3 tóny", "4 tóny", "5 tónů"}) {
+        ztraty.pridejMimoNastroj(8);
+        EXPECT_EQ(ztraty.veta(), QStringLiteral("Převod: mimo rozsah nástroje %1 (řádek 8).").arg(tony));
+    }
 }
 
 } // namespace

@@ -75,8 +75,7 @@ protected:
     BassBoard basy{nastrojZvonika()};
     ZobrazovaciOsnova osnova;
     BassTable tabulka{QStringLiteral(ZVONIKA_RESOURCES), 120};
-    QStringList prstoklady; ///< fingerings that were shown
-    int uvolneno = 0;       ///< how often the board was released
+    int uvolneno = 0; ///< how often the board was released
     int zastavenoKrokovani = 0;
 
     OkoliPisne okoli{pisen, dialogs, panel, prikazy};
@@ -86,7 +85,6 @@ protected:
         basy.uvolniBasy();
     };
     ZobrazeniHmatu zobrazeni{pisen, {diskant, basy, tabulka, osnova, panel}, [this](const QString& zaznam) {
-                                 prstoklady.append(zaznam);
                                  ZobrazeniPrstokladu(diskant, dialogs).ZobrazPrstoklad(zaznam);
                              }};
     PasPisne pasPisne{pisen, pas};

@@ -14,14 +14,10 @@ protected:
 } // namespace
 
 TEST(Grip, DirectionIsExactlyTahOrTlak) {
-    const QHash<QString, SmerMechu> pripady{{"Tah", SmerMechu::Tah},       {"Tlak", SmerMechu::Tlak},
-                                            {"tah", SmerMechu::Neuveden},  {"Tlak ", SmerMechu::Neuveden},
-                                            {"TLAK", SmerMechu::Neuveden}, {"", SmerMechu::Neuveden}};
-    for (auto it = pripady.cbegin(); it != pripady.cend(); ++it)
-        EXPECT_EQ(smerMechu(it.key()), it.value()) << it.key().toStdString();
-    EXPECT_EQ(textSmeru(SmerMechu::Tah), "Tah");
-    EXPECT_EQ(textSmeru(SmerMechu::Tlak), "Tlak");
-    EXPECT_EQ(textSmeru(SmerMechu::Neuveden), "");
+    for (const char* smer : {"Tah", "Tlak", ""})
+        EXPECT_EQ(textSmeru(smerMechu(smer)), smer);
+    for (const char* cizi : {"tah", "Tlak ", "TLAK"})
+        EXPECT_EQ(smerMechu(cizi), SmerMechu::Neuveden) << cizi;
 }
 
 TEST(PopisSloupcu, TellsAPlayerWhatTheyAre) {
@@ -95,30 +91,6 @@ TEST_F(SongSheetTest, WritesTheNamedPartsOfAGripAndNothingElse) {
     }
 }
 
-TEST_F(SongSheetTest, TonesEndAtTheFirstEmptyCellAndForeignContentsStayText) {
-    excel->put("B1", CellValue(5.0));
-    excel->put("C1", CellValue(CellError{"#N/A"}));
-    excel->put("D1", CellValue(true));
-    excel->put("F1", "e,");
-    excel->put("I1", CellValue(1.0));
-    excel->put("N1", "C");
-    const Grip grip = list.gripy(1, 1).constFirst();
-    EXPECT_EQ(grip.tony, (QStringList{"5", "#N/A", "True"})) << "F stands behind a gap";
-    EXPECT_EQ(smerMechu(grip.smer), SmerMechu::Neuveden);
-    EXPECT_TRUE(grip.tonyZaMezerou);
-    EXPECT_TRUE(grip.basy.isEmpty()) << "N stands behind the empty M";
-    EXPECT_TRUE(grip.basyZaMezerou);
-}
-
-TEST_F(SongSheetTest, RowsBeyondTheEdgeOfTheSheetAreEmpty) {
-    excel->put("B65536", "e,");
-    const auto hmaty = list.gripy(65535, 16);
-    ASSERT_EQ(hmaty.size(), 16);
-    EXPECT_TRUE(hmaty[0].prazdny());
-    EXPECT_EQ(hmaty[1].tony, QStringList{"e,"});
-    EXPECT_TRUE(hmaty[2].prazdny());
-}
-
 // The song as one list is what export and practice start from; the player's commands go by the cursor.
 TEST_F(SongSheetTest, TheWholeSongEndsBeforeTheFirstRowWithoutATone) {
     const struct {
@@ -144,15 +116,6 @@ TEST_F(SongSheetTest, TheWholeSongEndsBeforeTheFirstRowWithoutATone) {
     }
 }
 
-TEST_F(SongSheetTest, CursorGoesToColumnBOfItsRow) {
-    excel->selectRange("F7");
-    list.VyberBunkuB();
-    EXPECT_EQ(excel->activeAddress(), "$B$7");
-    list.vyberRadek(12);
-    EXPECT_EQ(excel->activeAddress(), "$B$12");
-    EXPECT_EQ(list.aktualniRadek(), 12);
-}
-
 TEST_F(SongSheetTest, AktivujPisenTellsWhetherTheSongIsOpen) {
     EXPECT_FALSE(pisen.AktivujPisen()) << "no song";
     pisen.aktualniPisen = excel->activeWorkbookName();
@@ -161,9 +124,6 @@ TEST_F(SongSheetTest, AktivujPisenTellsWhetherTheSongIsOpen) {
     EXPECT_EQ(excel->activeWorkbookName(), pisen.aktualniPisen);
     excel->userQuits();
     EXPECT_FALSE(pisen.AktivujPisen());
-    pisen.aplikaceExcel.reset();
-    EXPECT_FALSE(pisen.AktivujPisen());
-    EXPECT_EQ(raised([this] { list.VyberBunkuB(); }), error::objectNotSet);
 }
 
 } // namespace zvonika::testing

@@ -6,28 +6,17 @@
 
 namespace zvonika::testing {
 
-/// Folders and files by their full names, nothing else.
+/// Folders by their full names, nothing else.
 class FakeDrive : public Drive {
 public:
-    QSet<QString> files;
     QSet<QString> folders{pracovniAdresar};
-    QStringList created;      ///< folders in the order of their creation
-    int failingDeletions = 0; ///< so many deletions fail first
 
     QString nativePath(const QString& path) const override { return path; }
-    bool fileExists(const QString& path) const override { return files.contains(path); }
+    bool fileExists(const QString&) const override { return false; }
     bool folderExists(const QString& path) const override { return folders.contains(path); }
-    bool createFolder(const QString& path) override {
-        created.append(path);
-        folders.insert(path);
-        return true;
-    }
-    bool deleteFile(const QString& path) override {
-        if (failingDeletions > 0) return --failingDeletions, false;
-        return files.remove(path);
-    }
-    QString programFolderPath = QStringLiteral("/program");
-    QString programFolder() const override { return programFolderPath; }
+    bool createFolder(const QString& path) override { return folders.insert(path), true; }
+    bool deleteFile(const QString&) override { return false; }
+    QString programFolder() const override { return {}; }
 };
 
 } // namespace zvonika::testing

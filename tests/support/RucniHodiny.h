@@ -20,7 +20,6 @@ public:
     void cancel() override { volani_ = nullptr; }
 
     bool ceka() const { return volani_ != nullptr; }
-    Time termin() const { return termin_; }
 
     /// Time passes while the event loop is busy: nothing is called.
     void prodleva(Ms doba) { ted_ += doba; }

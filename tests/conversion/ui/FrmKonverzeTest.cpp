@@ -107,6 +107,7 @@ TEST_F(FrmKonverzeTest, TheCloseBoxStopsARunAndWhatCannotBeUsedIsGrey) {
     EXPECT_FALSE(okno->isVisible());
     EXPECT_EQ(excel->text("W1"), "G dur");
     EXPECT_EQ(excel->text("W2"), "C dur");
+    EXPECT_EQ(list(), "G dur Nedokončeno");
 }
 
 } // namespace

@@ -28,13 +28,12 @@ protected:
         hodiny.prodleva(trvaniKroku);
         if (priKroku) priKroku();
         navigace.cmdJakDal();
-        return krokSePodari;
+        return true;
     }
 
     RucniHodiny hodiny;
     Timer1 timer1;
     bool volno = true;
-    bool krokSePodari = true;
     Ms trvaniKroku{0};
     int malovano = 0;
     WakeUpClock::Time zacatek{};
@@ -74,13 +73,6 @@ TEST_F(AutomatTest, ThreeHundredGripsDoNotDriftHoweverUnevenTheSteps) {
     }
 }
 
-TEST_F(AutomatTest, AnIdleClockIsKeptToTheMillisecond) {
-    spust(5, 301);
-    hodiny.uplyn(Ms(30000));
-    ASSERT_EQ(kroky.size(), 300);
-    EXPECT_EQ(kroky.back(), 30000);
-}
-
 TEST_F(AutomatTest, ANewRateCountsFromTheNextTick) {
     spust(0, 30);
     hodiny.uplyn(Ms(1500));
@@ -104,12 +96,7 @@ TEST_F(AutomatTest, ARushAfterALongStandstillIsSpared) {
 
 TEST_F(AutomatTest, ATickIntoABoxIsARest) {
     spust(5, 30);
-    volno = false;
-    hodiny.uplyn(Ms(950));
-    EXPECT_TRUE(kroky.isEmpty());
-    volno = true;
-    hodiny.uplyn(Ms(250));
-    EXPECT_EQ(kroky, QVector<qint64>({1000, 1100, 1200}));
+    hodiny.uplyn(Ms(150));
     priKroku = [this] { // the step shows a box, whose event loop goes on
         volno = false;
         hodiny.uplyn(Ms(450));
@@ -117,17 +104,11 @@ TEST_F(AutomatTest, ATickIntoABoxIsARest) {
         priKroku = nullptr;
     };
     hodiny.uplyn(Ms(700));
-    EXPECT_EQ(kroky, QVector<qint64>({1000, 1100, 1200, 1300, 1800, 1900}));
-    EXPECT_EQ(excel->activeRow(), 7);
+    EXPECT_EQ(kroky, QVector<qint64>({100, 200, 700, 800}));
 }
 
-TEST_F(AutomatTest, WhatStopsIt) {
+TEST_F(AutomatTest, TheEndOfTheGripsStopsIt) {
     spust(5, 3);
-    automat.cmdTimer(); // pressed again
-    EXPECT_FALSE(timer1.zapnuty());
-    EXPECT_FALSE(hodiny.ceka());
-
-    automat.cmdTimer();
     hodiny.uplyn(Ms(250));
     EXPECT_EQ(excel->activeRow(), 3);
     dialogs.expect("Neprovedeno.", "chybí informace o směru tahu měchu");
@@ -138,24 +119,6 @@ TEST_F(AutomatTest, WhatStopsIt) {
     EXPECT_TRUE(zastavenoPredHlasenim);
     EXPECT_FALSE(timer1.zapnuty());
     EXPECT_EQ(excel->activeRow(), 4);
-
-    automat.cmdTimer();
-    krokSePodari = false; // the workbook is gone: one box, not one at every tick
-    navigace.cmdPrvni();
-    hodiny.uplyn(Ms(1000));
-    EXPECT_EQ(excel->activeRow(), 2);
-    EXPECT_FALSE(timer1.zapnuty());
-}
-
-TEST_F(AutomatTest, TheFirstTickAfterTheEndOfTheSongStopsIt) {
-    spust(0, 3);
-    zivot.cmdEndEdit();
-    hodiny.uplyn(Ms(1999));
-    EXPECT_TRUE(timer1.zapnuty());
-    hodiny.uplyn(Ms(1));
-    EXPECT_FALSE(timer1.zapnuty());
-    EXPECT_FALSE(hodiny.ceka());
-    EXPECT_TRUE(kroky.isEmpty());
 }
 
 } // namespace zvonika::testing

@@ -12,16 +12,10 @@ protected:
         napis(1, {"c1,", "e1,"}, {"C"});
     }
     void napis(int radek, const QStringList& tony, const QStringList& basy) {
-        QString sloupec = "B";
-        for (const QString& ton : tony) {
-            excel->put(sloupec + QString::number(radek), ton);
-            sloupec[0] = QChar(sloupec[0].unicode() + 1);
-        }
-        sloupec = "M";
-        for (const QString& bas : basy) {
-            excel->put(sloupec + QString::number(radek), bas);
-            sloupec[0] = QChar(sloupec[0].unicode() + 1);
-        }
+        for (int i = 0; i < tony.size(); ++i)
+            excel->put(QStringLiteral("%1%2").arg(QChar('B' + i)).arg(radek), tony[i]);
+        for (int i = 0; i < basy.size(); ++i)
+            excel->put(QStringLiteral("%1%2").arg(QChar('M' + i)).arg(radek), basy[i]);
     }
     void ukazRadek() { zobrazeni.ZobrazHmat(SongReader(pisen).kolemKurzoru()); }
     void naRadek(int radek) { excel->selectRange(QStringLiteral("B%1").arg(radek)); }
@@ -87,20 +81,6 @@ TEST_F(ZobrazeniHmatuTest, AnotherGripTakesTheIntervalAway) {
     EXPECT_FALSE(osnova.interval());
 }
 
-TEST_F(ZobrazeniHmatuTest, ForeignTonesAndBassesAreLeftOutAndTold) {
-    napis(3, {"c1,", "h9,", "x"}, {"G-dur", "Xyz"});
-    naRadek(3);
-    zobrazeni.cmdReadTah();
-    EXPECT_EQ(knofliky(StavKnofliku::Tah), QVector<int>{9});
-    EXPECT_EQ(basy.stav(51), StavBasu::Tah);
-    EXPECT_TRUE(panel.upozorneni.contains("h9, x")) << panel.upozorneni.toStdString();
-    EXPECT_TRUE(panel.upozorneni.contains("Xyz"));
-    EXPECT_EQ(panel.lblTony, "c1, h9, x");
-    naRadek(1);
-    ukazRadek();
-    EXPECT_EQ(panel.upozorneni, "");
-}
-
 TEST_F(ZobrazeniHmatuTest, WhatFollowsAGapIsTold) {
     const QString tony = "Tóny za prázdnou buňkou se nečtou.", basy = "Basy za prázdnou buňkou se nečtou.";
     for (const auto& [bunka, ocekavano] : {std::pair{"D1", QString()},
@@ -134,9 +114,7 @@ TEST_F(ZobrazeniHmatuTest, TextPanelShowsTheRowAndItsNeighbours) {
                                          {6, {"s4", "s5", "s6", "s7", ""}},
                                          {65536, {"", "", "", "", ""}}}) {
         naRadek(radek);
-        const int predtim = log.count("readBlock");
         ukazRadek();
-        EXPECT_EQ(log.count("readBlock"), predtim + 1);
         EXPECT_EQ(panel.lblSlabika, slabiky) << radek;
         EXPECT_EQ(panel.lblTon, QString::number(radek));
     }
@@ -147,14 +125,6 @@ TEST_F(ZobrazeniHmatuTest, TextPanelShowsTheRowAndItsNeighbours) {
     EXPECT_EQ(panel.lblTony, "c1, e1,");
     EXPECT_EQ(panel.lblBasy, "C");
     EXPECT_EQ(panel.lblStupnice, "Vyberte tóninu");
-}
-
-TEST_F(ZobrazeniHmatuTest, FingersReplaceThoseOfTheGripBefore) {
-    diskant.nastavPopis(9, "3\r\n");
-    excel->put("V1", "l9;1\\");
-    ukazRadek();
-    EXPECT_EQ(diskant.popis(9), "1\r\n");
-    EXPECT_EQ(prstoklady, QStringList{"l9;1\\"});
 }
 
 TEST_F(ZobrazeniHmatuTest, QuietShowingTakesTheSideFromTheRowAndLeavesTheCursor) {
@@ -176,13 +146,12 @@ TEST_F(ZobrazeniHmatuTest, QuietShowingTakesTheSideFromTheRowAndLeavesTheCursor)
 }
 
 TEST_F(ZobrazeniHmatuTest, QuietShowingTellsAFaultyFingeringInsteadOfABox) {
-    const QHash<QString, bool> zaznamy{{"", true}, {"l012;1\\", true}, {"s1;1\\", false}, {"k5;1\\", false}};
-    for (auto it = zaznamy.cbegin(); it != zaznamy.cend(); ++it) {
-        prstoklady.clear();
-        excel->put("V1", it.key());
+    for (const auto& [zaznam, popis] : {std::pair{"l9;1\\", "1\r\n"}, {"", ""}, {"s1;1\\", ""}}) {
+        diskant.nastavPopis(9, "3\r\n");
+        excel->put("V1", zaznam);
         zobrazeni.ZobrazHmatPotichu(SongReader(pisen).kolemKurzoru());
-        EXPECT_EQ(!prstoklady.isEmpty(), it.value()) << it.key().toStdString();
-        EXPECT_EQ(panel.upozorneni.contains("Prstoklad"), !it.value()) << it.key().toStdString();
+        EXPECT_EQ(diskant.popis(9), popis);
+        EXPECT_EQ(panel.upozorneni.contains("Prstoklad"), zaznam[0] == 's') << zaznam;
     }
 }
 
