@@ -13,19 +13,12 @@ namespace {
 
 class NastaveniRadTest : public ::testing::Test {
 protected:
-    /// The rows of which it is true, e.g. "12".
-    template <typename Podminka>
-    static QString rady(Podminka podminka) {
+    /// The rows whose boxes are ticked, e.g. "12".
+    QString zaskrtnute() const {
         QString text;
         for (int rada = 1; rada <= 5; ++rada)
-            if (podminka(rada)) text += QString::number(rada);
+            if (formular.zaskrtnuto(rada)) text += QString::number(rada);
         return text;
-    }
-    QString zaskrtnute() const {
-        return rady([this](int rada) { return formular.zaskrtnuto(rada); });
-    }
-    QString zakryte() const {
-        return rady([this](int rada) { return diskant.zakryta(rada); });
     }
     /// A button with the labels under it: "C: A Es Fis Ges".
     QString sloupec(int kolikaty) const {
@@ -61,34 +54,6 @@ TEST_F(NastaveniRadTest, LabelsTravelWithTheirButtonsAndCoversStay) {
     }
     formular.cmdNic();
     EXPECT_EQ(zaskrtnute(), "");
-}
-
-TEST_F(NastaveniRadTest, OkStoresTheBoxesAndTheTypeAndCoversTheRows) {
-    formular.Form_Load();
-    EXPECT_EQ(zaskrtnute(), "");
-    formular.klikTlacitkaRad(TlacitkoRad::cmdGDur);
-    formular.chkZabrany(5, false);
-    formular.chkZabrany(3, true);
-    formular.optTypPrstokladu(2);
-    diskant.nastavZabranu(4, true);
-    EXPECT_EQ(zakryte(), "4"); // nothing before Ok
-    EXPECT_TRUE(nastaveni.values.empty());
-    formular.cmdOk();
-    EXPECT_EQ(zakryte(), "13");
-    QString ulozeno;
-    for (const auto& [klic, hodnota] : nastaveni.values)
-        ulozeno += klic + '=' + hodnota + ' ';
-    EXPECT_EQ(ulozeno, "TypPrstokladu/Index=2 Zabrany/1=1 Zabrany/2=0 Zabrany/3=1 Zabrany/4=0 Zabrany/5=0 ");
-}
-
-TEST_F(NastaveniRadTest, HelpIsOneBox) {
-    dialogy.expect("Nápověda",
-                   "Tento formulář slouží k určení řad, které mají být jako jediné používány při "
-                   "pozičním prstokladu a hře v konkrétní tónině.\nOstatní řady budou přeškrtnuty");
-    formular.cmdNapoveda();
-    EXPECT_EQ(dialogy.last.icon, Icon::Information);
-    EXPECT_EQ(dialogy.last.text.count('\n'), 8);
-    EXPECT_TRUE(dialogy.last.text.endsWith("Nastavení se při potvrzení automaticky ukládá."));
 }
 
 TEST_F(NastaveniRadTest, CoversReadTheirSettingsAsTheBoardDoes) {

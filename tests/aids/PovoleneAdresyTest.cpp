@@ -18,25 +18,17 @@ TEST(PovoleneAdresy, OnlyFilesOfTheManualTheWebAndMail) {
     ASSERT_TRUE(QFile::link(slozka.filePath("tajne.htm"), slozka.filePath("manual/odkaz.htm")));
     using enum PovoleneAdresy::Zachazeni;
     const PovoleneAdresy povolene(slozka.filePath("manual"));
-    const std::pair<const char*, PovoleneAdresy::Zachazeni> pripady[] = {{"a.htm", Zobrazit},
-                                                                         {"obrazky/b.png", Zobrazit},
-                                                                         {"neni.htm", Zobrazit},
-                                                                         {"odkaz.htm", Odmitnout},
-                                                                         {"../tajne.htm", Odmitnout},
-                                                                         {"../manual2/c.htm", Odmitnout},
-                                                                         {"../manual2/neni", Odmitnout},
-                                                                         {"../neni.htm", Odmitnout},
-                                                                         {"/etc/passwd", Odmitnout},
-                                                                         {"http://a.example", Zobrazit},
-                                                                         {"https://a.example/x", Zobrazit},
-                                                                         {"about:blank", Zobrazit},
-                                                                         {"about:config", Odmitnout},
-                                                                         {"mailto:a@b.example", Ven},
-                                                                         {"ftp://a.example/x", Odmitnout},
-                                                                         {"javascript:alert(1)", Odmitnout},
-                                                                         {"data:text/html,x", Odmitnout}};
-    for (const auto& [adresa, zachazeni] : pripady)
-        EXPECT_EQ(povolene.zachazeni(povolene.zTextu(adresa)), zachazeni) << adresa;
+    const std::pair<PovoleneAdresy::Zachazeni, std::vector<const char*>> pripady[] = {
+        {Zobrazit,
+         {"a.htm", "obrazky/b.png", "neni.htm", "http://a.example", "https://a.example/x", "about:blank"}},
+        {Odmitnout,
+         {"odkaz.htm", "../tajne.htm", "../manual2/c.htm", "../manual2/neni", "../neni.htm", "/etc/passwd",
+          "about:config", "ftp://a.example/x", "javascript:alert(1)", "data:text/html,x"}},
+        {Ven, {"mailto:a@b.example"}},
+    };
+    for (const auto& [zachazeni, adresy] : pripady)
+        for (const char* adresa : adresy)
+            EXPECT_EQ(povolene.zachazeni(povolene.zTextu(adresa)), zachazeni) << adresa;
 }
 
 } // namespace

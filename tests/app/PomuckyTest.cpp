@@ -73,7 +73,12 @@ TEST_F(Pomucky, CheckMarksNamesAndNumbersComeBackWithTheNextStart) {
     akce("mnuCislovat")->trigger();
     EXPECT_FALSE(akce("mnuCislovat")->isChecked());
     EXPECT_FALSE(prvek("lblCisKnofl(31)")->isVisible());
-    EXPECT_EQ(nastaveni.get("Cislovani", "Index"), "0");
+    program->modely().diskant.nastavPopis(2, "3\r\n");
+    akce("mnu2Rady")->trigger();
+    for (const int n : {2, 7})
+        EXPECT_EQ(program->modely().diskant.popis(n) + program->modely().diskant.popisPomocneho(n), "");
+    for (const char* volba : {"Cislovani", "PopisKnof"})
+        EXPECT_EQ(nastaveni.get(volba, "Index"), "0");
 }
 
 TEST_F(Pomucky, TurnedOverEveryButtonShowsAndRecordsItsOwnTone) {
@@ -84,6 +89,7 @@ TEST_F(Pomucky, TurnedOverEveryButtonShowsAndRecordsItsOwnTone) {
     klikniNaKnoflik({5400, 1560}); // c1 stands third from the top of row C
     klikniNaKnoflik({6600, 2760});
     EXPECT_TRUE(program->modely().diskant.oznacen(9) && program->modely().diskant.oznacen(14));
+    EXPECT_EQ(nastaveni.get("Cislovani", "Index"), std::nullopt) << "nothing of it is remembered";
     klikni("cmdTah");
     EXPECT_EQ(excel->text("B1"), "c1,");
     EXPECT_EQ(excel->text("C1"), "f1,");

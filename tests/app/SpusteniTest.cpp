@@ -1,7 +1,6 @@
 #include "app/Spusteni.h"
 
 #include "platform/HodnotyNastaveni.h"
-#include "platform/RuntimeError.h"
 #include "tests/support/MemorySettings.h"
 #include "tests/support/ScriptedDialogs.h"
 
@@ -21,44 +20,34 @@ public:
     QStringList deje;
     ScriptedDialogs dialogs;
     MemorySettings nastaveni;
-    std::function<void()> spustExcel = [] {};
 
     /// No entry where the value is nothing.
-    void nastav(const char* sekce, const QString& klic, const char* hodnota) {
-        if (hodnota) nastaveni.save(sekce, klic, QString::fromUtf8(hodnota));
+    void nastav(const char* sekce, const char* hodnota) {
+        if (hodnota) nastaveni.save(sekce, "Index", hodnota);
     }
     bool spust() {
         const auto zapis = [this](const QString& dej) { deje << dej; };
         KrokySpusteni kroky{
             [=] { zapis("nahore"); },
-            [=, this] {
-                spustExcel();
-                zapis("excel");
-            },
+            [=] { zapis("excel"); },
             [=](bool ano) { zapis(ano ? "obracene" : "rovne"); },
             [=](bool ano) { zapis(ano ? "nazvy" : "bez nazvu"); },
             [=](bool ano) { zapis(ano ? "cisla" : "bez cisel"); },
             [=] { zapis("basy"); },
             [=] { zapis("diskant"); },
-            [=](int rada, bool ano) {
-                if (ano) zapis(QStringLiteral("zabrana %1").arg(rada));
-            },
+            [](int, bool) {},
         };
         return Spusteni(nastaveni, dialogs, kroky).Form_Load();
     }
 };
 
-struct Pripad {
-    const char* znaceni;
-    const char* popis;
-    const char* cislovani;
-    QStringList cekano; ///< layout, names, numbers
-};
-
 } // namespace
 
 TEST(Spusteni, OneByteServesTheThreeReadings) {
-    const Pripad pripady[] = {
+    const struct {
+        const char *znaceni, *popis, *cislovani;
+        QStringList cekano; ///< layout, names, numbers
+    } pripady[] = {
         {nullptr, nullptr, nullptr, {"rovne", "bez nazvu", "bez cisel"}},
         {"1", nullptr, nullptr, {"obracene", "nazvy", "cisla"}}, // a missing entry takes over the one before
         {"1", "0", nullptr, {"obracene", "bez nazvu", "bez cisel"}},
@@ -67,11 +56,11 @@ TEST(Spusteni, OneByteServesTheThreeReadings) {
         {"255", "0", "1", {"rovne", "bez nazvu", "cisla"}},
         {"0,5", "0.4", "1.5", {"rovne", "bez nazvu", "cisla"}}, // rounded to even
     };
-    for (const Pripad& pripad : pripady) {
+    for (const auto& pripad : pripady) {
         Start start;
-        start.nastav("Znaceni", "Index", pripad.znaceni);
-        start.nastav("PopisKnof", "Index", pripad.popis);
-        start.nastav("Cislovani", "Index", pripad.cislovani);
+        start.nastav("Znaceni", pripad.znaceni);
+        start.nastav("PopisKnof", pripad.popis);
+        start.nastav("Cislovani", pripad.cislovani);
         EXPECT_TRUE(start.spust());
         EXPECT_EQ(start.deje.mid(2, 3), pripad.cekano) << pripad.cekano.join('|').toStdString();
         EXPECT_EQ(start.deje.mid(0, 2), QStringList({"nahore", "excel"}));
@@ -82,7 +71,7 @@ TEST(Spusteni, OneByteServesTheThreeReadings) {
 TEST(Spusteni, AnOverflowIsReportedAndEndsTheSequence) {
     for (const char* hodnota : {"256", "-1", "1e9"}) {
         Start start;
-        start.nastav("PopisKnof", "Index", hodnota);
+        start.nastav("PopisKnof", hodnota);
         start.dialogs.expect("Neočekávaná chyba programu.",
                              "V programu došlo k chybě číslo 6. Možná budete moci dále pokračovat. "
                              "V případě problémů kontaktujte ");
@@ -90,22 +79,4 @@ TEST(Spusteni, AnOverflowIsReportedAndEndsTheSequence) {
         EXPECT_EQ(start.deje.last(), "rovne") << hodnota;
         EXPECT_EQ(start.dialogs.last.icon, Icon::Exclamation);
     }
-}
-
-TEST(Spusteni, WithoutASpreadsheetTheRestIsSkipped) {
-    Start start;
-    start.spustExcel = [] { throw RuntimeError(429, "Tabulkový program se nespustil."); };
-    start.dialogs.expect("Neočekávaná chyba programu.", "číslo 429.");
-    EXPECT_FALSE(start.spust());
-    EXPECT_EQ(start.deje, QStringList({"nahore"}));
-    EXPECT_TRUE(start.dialogs.last.text.endsWith("Tabulkový program se nespustil."));
-}
-
-TEST(Spusteni, RowCoversComeFromTheirSettings) {
-    Start start;
-    const char* hodnoty[] = {"1", "True", "0", "nesmysl", "-1"};
-    for (int rada = 1; rada <= 5; ++rada)
-        start.nastav("Zabrany", QString::number(rada), hodnoty[rada - 1]);
-    EXPECT_TRUE(start.spust());
-    EXPECT_EQ(start.deje.mid(7), QStringList({"zabrana 1", "zabrana 2", "zabrana 5"}));
 }

@@ -71,6 +71,7 @@ TEST_F(JinaTabulka, ThatFailsLeavesTheWindowOpenOtherwise) {
     spustPorouchanou(Answer::No);
     EXPECT_TRUE(program->okno().isVisible());
     EXPECT_FALSE(program->modely().pisen.aplikaceExcel);
+    EXPECT_FALSE(akce("mnuCislovat")->isChecked()) << "the rest of the start is skipped";
 }
 
 TEST_F(JinaTabulka, ThatCannotBeStartedIsReplacedWithASentence) {

@@ -8,20 +8,10 @@
 #include <QDir>
 #include <QFile>
 #include <QLabel>
-#include <QWindow>
 
 #include <stdexcept>
 
 namespace zvonika::testing {
-
-namespace {
-
-void napisDo(QWindow* okno, const QString& text) {
-    for (const QChar znak : text)
-        QTest::sendKeyEvent(QTest::Click, okno, Qt::Key_unknown, QString(znak), Qt::NoModifier);
-}
-
-} // namespace
 
 QByteArray obsahSouboru(const QString& soubor) {
     QFile cteny(soubor);
@@ -61,8 +51,6 @@ CelyProgram::CelyProgram()
         QFile::copy(QLatin1String(ZVONIKA_RESOURCES) + QLatin1String(tabulka),
                     slozkaProgramu() + QLatin1String(tabulka));
 }
-
-CelyProgram::~CelyProgram() = default;
 
 void CelyProgram::spust() {
     program = std::make_unique<Program>(Prostredi{
@@ -109,10 +97,6 @@ bool CelyProgram::povolen(const QString& jmeno) const {
     return prvek(jmeno)->isEnabled();
 }
 
-QPoint CelyProgram::mistoVOkne(const QWidget* cil, const QPoint& misto) const {
-    return cil->mapTo(cil->window(), misto);
-}
-
 void CelyProgram::klikni(const QString& jmeno) const {
     const QWidget* cil = prvek(jmeno);
     ASSERT_TRUE(cil->isEnabled()) << jmeno.toStdString();
@@ -124,10 +108,6 @@ void CelyProgram::dvojklikni(const QString& jmeno) const {
     const QWidget* cil = prvek(jmeno);
     QTest::mouseDClick(cil->window()->windowHandle(), Qt::LeftButton, {},
                        mistoVOkne(cil, cil->rect().center()));
-}
-
-void CelyProgram::klavesa(Qt::Key key, Qt::KeyboardModifiers m) const {
-    QTest::keyClick(program->okno().windowHandle(), key, m);
 }
 
 void CelyProgram::novaPisen(const QString& jmeno) {
@@ -147,10 +127,6 @@ void CelyProgram::zapisHmat(const QStringList& knofliky, bool tlak) const {
         klikni(knoflik);
     klikni(tlak ? "cmdTlak" : "cmdTah");
     klikni("cmdUvolKnofl");
-}
-
-void CelyProgram::zavriOkno() const {
-    program->okno().windowHandle()->close();
 }
 
 void CelyProgram::ocekavejStavBezPisne() const {
@@ -174,10 +150,6 @@ void CelyProgram::prejdiNaHlavniOkno() const {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&program->okno()));
 }
 
-void CelyProgram::piseDoTabulky(const QString& text) const {
-    napisDo(tabulka->windowHandle(), text);
-}
-
 void CelyProgram::klavesaTabulky(Qt::Key key, Qt::KeyboardModifiers m) const {
     QTest::keyClick(tabulka->windowHandle(), key, m);
     QCoreApplication::processEvents(); // an editor commits after it has seen the key
@@ -189,18 +161,6 @@ void CelyProgram::klikniNaBunku(const char* adresa) const {
     const QRect misto = bunky->visualRect(bunky->model()->index(bunka.row - 1, bunka.column - 1));
     QTest::mouseClick(tabulka->windowHandle(), Qt::LeftButton, {},
                       bunky->viewport()->mapTo(tabulka, misto.center()));
-}
-
-QString CelyProgram::bunka(const char* adresa) const {
-    return cellText(excel->value(QLatin1String(adresa)));
-}
-
-QString CelyProgram::kurzor() const {
-    return excel->activeAddress();
-}
-
-QString CelyProgram::souborNastaveniTabulky() const {
-    return slozka.filePath(QStringLiteral("Tabulka Zvoniky.ini"));
 }
 
 QStringList CelyProgram::soubory() const {

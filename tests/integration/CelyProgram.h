@@ -16,6 +16,7 @@
 #include <QPointer>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -32,7 +33,6 @@ QString textBunky(const xls::Workbook& kniha, const char* adresa); ///< of the f
 class CelyProgram : public ::testing::Test {
 protected:
     CelyProgram();
-    ~CelyProgram() override;
 
     /// Overridden where the start itself is tested.
     void SetUp() override { spust(); }
@@ -43,34 +43,39 @@ protected:
     QWidget* prvek(const QString& jmeno) const;
     QString napis(const QString& jmeno) const; ///< of a label or button
     bool povolen(const QString& jmeno) const;
-    QPoint mistoVOkne(const QWidget* cil, const QPoint& misto) const;
+    static QPoint mistoVOkne(const QWidget* cil, QPoint misto) { return cil->mapTo(cil->window(), misto); }
     void klikni(const QString& jmeno) const;
     void dvojklikni(const QString& jmeno) const;
-    void klavesa(Qt::Key key, Qt::KeyboardModifiers m = Qt::NoModifier) const;
+    void klavesa(Qt::Key key, Qt::KeyboardModifiers m = Qt::NoModifier) const {
+        QTest::keyClick(program->okno().windowHandle(), key, m);
+    }
     void novaPisen(const QString& jmeno = QStringLiteral("Polka"));
     /// Boxes that the opening shows are to be expected in `boxy`.
     void otevri(const QString& soubor, const std::function<void()>& boxy = {});
     /// Marks the buttons, records the grip and releases everything.
     void zapisHmat(const QStringList& knofliky, bool tlak) const;
-    void zavriOkno() const;
+    void zavriOkno() const { program->okno().windowHandle()->close(); }
     /// No song is open, neither here nor in the sheet, and one can be begun.
     void ocekavejStavBezPisne() const;
 
     // --- the sheet window ---
     void prejdiNaTabulku() const;
     void prejdiNaHlavniOkno() const;
-    void piseDoTabulky(const QString& text) const; ///< key by key
+    void piseDoTabulky(const QString& text) const {
+        for (const QChar znak : text)
+            QTest::sendKeyEvent(QTest::Click, tabulka->windowHandle(), Qt::Key_unknown, QString(znak), {});
+    }
     void klavesaTabulky(Qt::Key key, Qt::KeyboardModifiers m = Qt::NoModifier) const;
     void klikniNaBunku(const char* adresa) const;
-    QString bunka(const char* adresa) const; ///< as it stands in the sheet
-    QString kurzor() const;
+    QString bunka(const char* adresa) const { return cellText(excel->value(QLatin1String(adresa))); }
+    QString kurzor() const { return excel->activeAddress(); }
 
     // --- the disk ---
     QString domov() const { return slozka.filePath(QStringLiteral("domov")); }
     QString pracovni() const { return domov() + QStringLiteral("/Dokumenty/Heligonka/Zvonika"); }
     QString pisen(const QString& jmeno) const { return pracovni() + QLatin1Char('/') + jmeno; }
     QString slozkaProgramu() const { return slozka.filePath(QStringLiteral("program")); }
-    QString souborNastaveniTabulky() const;
+    QString souborNastaveniTabulky() const { return slozka.filePath(QStringLiteral("Tabulka Zvoniky.ini")); }
     QStringList soubory() const; ///< of the working folder, hidden ones too
 
     QTemporaryDir slozka;

@@ -47,12 +47,12 @@ protected:
     void krok(const QStringList& titulky) {
         for (const QString& titulek : titulky)
             dialogs.expect(titulek, {});
-        const int predtim = dialogs.count;
         klavesa(Qt::Key_PageDown);
-        EXPECT_EQ(dialogs.count, predtim + titulky.size()) << kurzor().toStdString();
         EXPECT_TRUE(dialogs.done()) << kurzor().toStdString();
     }
-    bool stavObsahuje(const char* text) const { return napis("lblStav").contains(QString::fromUtf8(text)); }
+    void ocekavejVeStavu(const char* text) const {
+        EXPECT_TRUE(napis("lblStav").contains(text)) << napis("lblStav").toStdString();
+    }
     StavKnofliku knoflik(int n) const { return program->modely().diskant.stav(n); }
 
     const QString soubor_ = pisen("Cizí.xls");
@@ -66,9 +66,8 @@ TEST_F(CiziObsahTest, SteppingShowsWhatCanBeShown) {
     EXPECT_EQ(napis("lblBasy"), "7");
     EXPECT_EQ(napis("lblSlabika(2)"), "3.5");
     EXPECT_EQ(napis("lblStupnice"), "42");
-    EXPECT_TRUE(stavObsahuje("Neznámý tón v tabulce: 15 True #DIV/0! hovadina."))
-        << napis("lblStav").toStdString();
-    EXPECT_TRUE(stavObsahuje("Neznámý bas v tabulce: 7.")) << napis("lblStav").toStdString();
+    ocekavejVeStavu("Neznámý tón v tabulce: 15 True #DIV/0! hovadina.");
+    ocekavejVeStavu("Neznámý bas v tabulce: 7.");
 
     krok({chyba340, neprovedeno}); // row 2: no such button, and a number for the direction
     EXPECT_NE(knoflik(9), StavKnofliku::Volny);
@@ -80,10 +79,10 @@ TEST_F(CiziObsahTest, SteppingShowsWhatCanBeShown) {
     krok({});
     EXPECT_EQ(knoflik(13), StavKnofliku::Tah);
     EXPECT_EQ(program->modely().basy.stav(30), StavBasu::Tah);
-    EXPECT_TRUE(stavObsahuje("Neznámý bas v tabulce: Nic.")) << napis("lblStav").toStdString();
+    ocekavejVeStavu("Neznámý bas v tabulce: Nic.");
     krok({});
     EXPECT_EQ(knoflik(16), StavKnofliku::Tlak);
-    EXPECT_TRUE(stavObsahuje("Neznámý tón v tabulce: c 1 C1,.")) << napis("lblStav").toStdString();
+    ocekavejVeStavu("Neznámý tón v tabulce: c 1 C1,.");
     krok({neprovedeno}); // beyond the last grip
 }
 

@@ -1,4 +1,4 @@
-// New songs that cannot be made: names and folders that the disk refuses.
+// What the disk refuses: names and folders of new songs, files that are no song, tables that are missing.
 #include "tests/integration/CelyProgram.h"
 
 #include <QDir>
@@ -20,11 +20,25 @@ protected:
                        "Cesta C:\\Dokumenty\\Heligonka nenalezena. Aby mohl program správně pracovat, "
                        "vytvořte nejprve ručně tento adresář !!!");
         klikni("cmdNovaSkladba");
-        EXPECT_TRUE(dialogs.done());
         EXPECT_EQ(dialogs.last.icon, Icon::Critical);
         EXPECT_TRUE(napis("lblStav").contains(pricina)) << napis("lblStav").toStdString();
         ocekavejStavBezPisne();
         EXPECT_EQ(soubory(), predtim);
+    }
+    /// Tries to open such a file: one box with the number and, as its last line, the sentence.
+    void ocekavejOdmitnutiSouboru(const QString& jmeno, const QByteArray& obsah, const QString& duvod) {
+        SCOPED_TRACE(jmeno.toStdString());
+        ulozSoubor(pisen(jmeno), obsah);
+        otevri(pisen(jmeno),
+               [this] { dialogs.expect("Neočekávaná chyba !", "a sdělte číslo chyby 1004\n"); });
+        EXPECT_EQ(dialogs.last.icon, Icon::Critical);
+        const QString veta = dialogs.last.text.section('\n', 1);
+        EXPECT_TRUE(veta.startsWith("Soubor „" + jmeno + "“ ")) << veta.toStdString();
+        EXPECT_TRUE(veta.contains(duvod) && veta.endsWith('.')) << veta.toStdString();
+        ocekavejStavBezPisne();
+        EXPECT_EQ(obsahSouboru(pisen(jmeno)), obsah);
+        EXPECT_EQ(soubory(), QStringList{jmeno}) << "nothing is left beside the file";
+        QFile::remove(pisen(jmeno));
     }
     void ocekavejZpravuOSlozce() {
         dialogs.expect(titulek, "Cesta do C:\\Dokumenty\\Heligonka\\Zvonika nebyla nalezena.\n"
@@ -66,6 +80,31 @@ TEST_F(ZakladaniTest, AMissingWorkingFolderIsMade) {
         klikni("cmdEndEdit");
         EXPECT_EQ(soubory(), QStringList{"Polka.xls"});
     }
+}
+
+TEST_F(ZakladaniTest, FilesThatAreNoSongAreNamedAndLeftAlone) {
+    const auto kniha = bajty(xls::Workbook::create(u"Tonavox XII"));
+    ocekavejOdmitnutiSouboru("prázdný.xls", {}, "je prázdný");
+    ocekavejOdmitnutiSouboru("dopis.xls", "Milá babičko, posílám Ti písničku.", "prostý text (CSV)");
+    ocekavejOdmitnutiSouboru("useknutý & 100% „x“.xls", kniha.left(1000), "nelze otevřít");
+    novaPisen();
+    zapisHmat({"lbl(9)"}, true);
+}
+
+TEST_F(ZakladaniTest, AMissingBassTableIsSaidAndRecordingGoesOn) {
+    const QString soubor = slozkaProgramu() + "/tonavox.xml";
+    ASSERT_TRUE(QFile::remove(soubor));
+    spust();
+    EXPECT_EQ(napis("lblStav"), "Tabulka basů tonavox.xml nebyla ve složce programu nalezena.");
+    novaPisen();
+    dialogs.expect("Bas nebyl zapsán !", "nebyla ve složce programu nalezena.");
+    zapisHmat({"lbl(9)", "ImgBas(30)", "ImgBas(31)"}, true);
+    EXPECT_EQ(bunka("B1"), "c1,");
+    EXPECT_EQ(bunka("M1"), "");
+
+    QFile::copy(QStringLiteral(ZVONIKA_RESOURCES "/tonavox.xml"), soubor);
+    zapisHmat({"ImgBas(30)"}, false);
+    EXPECT_EQ(bunka("M2"), "C") << "a repaired table counts at once";
 }
 
 } // namespace zvonika::testing

@@ -6,7 +6,7 @@ Every link leads to a place of the page and every picture exists, shown at its s
 message („...“ in the tables of messages) and every key is one that the sources know; every command of the
 main window is spoken of. Prints what is wrong as line: text and exits with 1 when there is something.
 """
-import html.parser
+import html
 import pathlib
 import re
 import struct
@@ -26,45 +26,28 @@ KNOWN_EVERYWHERE = {"Tab", "Enter", "Esc", "Shift", "Shift+Enter", "Delete", "In
                     "#", "b", "n", "+", "-", "0", "←", "→", "↑", "↓", "F2", "F10"}
 
 
-class Manual(html.parser.HTMLParser):
+class Manual:
     """What the page names, each with its line."""
 
-    def __init__(self):
-        super().__init__()
-        self.ids, self.links, self.pictures = [], [], []
-        self.texts = {"em": [], "kbd": []}
-        self.first_cells = []
-        self.open, self.cell, self.section = None, None, ""
+    def __init__(self, page):
+        def found(pattern, group=1):
+            return [(page.count("\n", 0, match.start()) + 1, match.group(group))
+                    for match in re.finditer(pattern, page, re.DOTALL)]
 
-    def handle_starttag(self, tag, attributes):
-        given = dict(attributes)
-        line = self.getpos()[0]
-        if "id" in given:
-            self.ids.append((line, given["id"]))
-            self.section = given["id"]
-        if tag == "a":
-            self.links.append((line, given.get("href", "")))
-        if tag == "img":
-            self.pictures.append((line, given))
-        if tag in self.texts:
-            self.open = [tag, line, ""]
-        if tag == "tr":
-            self.cell = 0
-        if tag == "td":
-            self.cell += 1
-            if self.cell == 1:
-                self.first_cells.append([line, self.section, ""])
+        def texts(pattern):
+            return [(line, " ".join(plain(text).split())) for line, text in found(pattern)]
 
-    def handle_endtag(self, tag):
-        if self.open and tag == self.open[0]:
-            self.texts[tag].append((self.open[1], " ".join(self.open[2].split())))
-            self.open = None
+        self.ids = found(r'<[^>]*\bid="([^"]*)"')
+        self.links = found(r'<a\b[^>]*\bhref="([^"]*)"')
+        self.pictures = [(line, dict(re.findall(r'(\w+)="([^"]*)"', tag))) for line, tag in found(r"<img\b([^>]*)>")]
+        self.captions, self.keys = texts(r"<em>(.*?)</em>"), texts(r"<kbd>(.*?)</kbd>")
+        start, end = page.index('id="hlaseni"'), page.index("<h2", page.index('id="hlaseni"'))
+        first, last = (page.count("\n", 0, place) for place in (start, end))
+        self.messages = [row for row in texts(r"<tr[^>]*>\s*<td[^>]*>(.*?)</td>") if first < row[0] <= last]
 
-    def handle_data(self, data):
-        if self.open:
-            self.open[2] += data
-        if self.cell == 1 and self.first_cells:
-            self.first_cells[-1][2] += data.replace("\n", " ")
+
+def plain(markup):
+    return html.unescape(re.sub(r"<[^>]*>", "", markup))
 
 
 def literals(patterns):
@@ -116,16 +99,14 @@ def links(manual):
 
 def captions(manual):
     known = literals(CAPTION_SOURCES)
-    for line, caption in manual.texts["em"]:
+    for line, caption in manual.captions:
         if caption not in known:
             yield line, f"no control is captioned {caption!r}"
 
 
 def messages(manual):
     known = "\n".join(literals(MESSAGE_SOURCES))
-    for line, section, cell in manual.first_cells:
-        if section != "hlaseni":
-            continue
+    for line, cell in manual.messages:
         for quoted in re.findall("„([^“]*)“", cell):
             for part in re.split("…|'9'", quoted):
                 if part.strip(" :") and part.strip(" :") not in known:
@@ -135,7 +116,7 @@ def messages(manual):
 def keys(manual):
     known = literals(CAPTION_SOURCES)
     code = "\n".join(file.read_text(encoding="utf-8") for pattern in CAPTION_SOURCES for file in ROOT.glob(pattern))
-    for line, key in manual.texts["kbd"]:
+    for line, key in manual.keys:
         if key in KNOWN_EVERYWHERE:
             continue
         parts = key.split("+") if not key.endswith("+") else [*key[:-2].split("+"), "Plus"]
@@ -152,20 +133,19 @@ def keys(manual):
 def commands(manual):
     """Each caption of the main window's tables is spoken of somewhere."""
     table = (ROOT / "app" / "Prikazy.cpp").read_text(encoding="utf-8")
-    said = {caption for _, caption in manual.texts["em"]}
+    said = {caption for _, caption in manual.captions}
     for caption in re.findall(r'\{"(?:cmd|mnu)[^"]*",\s*"([^"]+)"', table):
         if caption not in said:
             yield 0, f"the manual does not speak of {caption!r}"
 
 
 def main():
-    manual = Manual()
-    manual.feed(MANUAL.read_text(encoding="utf-8"))
+    manual = Manual(MANUAL.read_text(encoding="utf-8"))
     wrong = [finding for check in (pictures, links, captions, messages, keys, commands) for finding in check(manual)]
     for line, what in wrong:
         print(f"{MANUAL.name}:{line}: {what}")
-    print(f"{len(manual.links)} links, {len(manual.pictures)} pictures, {len(manual.texts['em'])} captions, "
-          f"{len(manual.texts['kbd'])} keys: {len(wrong)} wrong")
+    print(f"{len(manual.links)} links, {len(manual.pictures)} pictures, {len(manual.captions)} captions, "
+          f"{len(manual.keys)} keys: {len(wrong)} wrong")
     return 1 if wrong else 0
 
 

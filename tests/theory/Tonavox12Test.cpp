@@ -12,8 +12,6 @@
 namespace zvonika {
 namespace {
 
-using testing::nazev;
-
 /// The names by the rules of music: a key's scale is a chain of fifths, sharp keys write sharps and flat keys
 /// flats.
 class Teorie {
@@ -81,22 +79,22 @@ TEST(Tonavox12, LeavesTheKeyNormalisedAndItsResultInItself) {
         QString stupnice = p.stupnice;
         model.DejTonVeStupnici(CisloTonu(3), stupnice);
         EXPECT_EQ(stupnice, p.normalizovana);
-        EXPECT_EQ(model.nazevTonu(), nazev(p.ton3)) << p.stupnice;
+        EXPECT_EQ(model.nazevTonu(), ToneName(p.ton3)) << p.stupnice;
         EXPECT_EQ(model.MimoStupnici(), p.mimo) << p.stupnice;
     }
     QString stupnice = "G dur";
     model.DejTonVeStupnici(CisloTonu(2), stupnice);
-    model.DejCisloTonu(nazev("c1,"));
+    model.DejCisloTonu(ToneName("c1,"));
     EXPECT_TRUE(model.MimoStupnici()) << "numbering leaves the flag alone";
     EXPECT_EQ(model.Ton(), Tonavox12::Vysledek(CisloTonu(9)));
     EXPECT_TRUE(model.nazevTonu().jePrazdny());
     model.DejTon(CisloTonu(3));
     EXPECT_FALSE(model.MimoStupnici());
-    EXPECT_EQ(model.Ton(), Tonavox12::Vysledek(nazev("fis,")));
+    EXPECT_EQ(model.Ton(), Tonavox12::Vysledek(ToneName("fis,")));
     EXPECT_EQ(model.cisloTonu(), CisloTonu::neznamy());
     for (const int n : {-1, 0, 50, 99}) {
         model.DejTon(CisloTonu(n));
-        EXPECT_EQ(model.nazevTonu(), nazev("Nenalezeno"));
+        EXPECT_EQ(model.nazevTonu(), ToneName("Nenalezeno"));
         stupnice = "Ces dur";
         model.DejTonVeStupnici(CisloTonu(n), stupnice);
         EXPECT_EQ(model.nazevTonu(), ToneName::nenalezeno());
@@ -125,11 +123,11 @@ TEST(Tonavox12, NumbersEverySpellingAndNothingElse) {
                                        {"his3,", 45},
                                        {"fes4,", 49},
                                        {"e4,", 49}})
-        EXPECT_EQ(cisloTonu(nazev(jmeno)).hodnota(), cislo) << jmeno;
+        EXPECT_EQ(cisloTonu(ToneName(jmeno)).hodnota(), cislo) << jmeno;
     for (const char* jmeno :
          {"",      ",",       "cis1",    "e",  "es,", "dis,", "c,",  "ces,", "eis4,", "f4,",
           "his4,", "cisis1,", "heses1,", "E,", " e,", "e0,",  "e5,", "hes,", "es 1,", "Nenalezeno"})
-        EXPECT_EQ(cisloTonu(nazev(jmeno)).hodnota(), 99) << jmeno;
+        EXPECT_EQ(cisloTonu(ToneName(jmeno)).hodnota(), 99) << jmeno;
 }
 
 } // namespace

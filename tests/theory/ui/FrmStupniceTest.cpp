@@ -48,31 +48,33 @@ TEST_F(FrmStupniceTest, OffersTheKeysBesideEachOther) {
 }
 
 TEST_F(FrmStupniceTest, EachEndLeavesItsKey) {
-    dialogy.expect("Nápověda k výběru tóniny.", "Tóninu skladby");
+    dialogy.expect("Nápověda k výběru tóniny.", "v programu Tamík. Dále je toto určení");
     const struct {
         const char* pred;
         std::optional<int> volba; ///< option that the mouse chooses
         const char* konec;        ///< a button, or a key
         const char* potom;
+        int znamenek; ///< of the staff, which had three
     } pripady[] = {
-        {"Es dur", 6, "Enter", "Fis dur"},           {"Es dur", {}, "cmdOK", "Es dur"},
-        {"Vyberte tóninu", {}, "cmdOK", ""},         {"G dur", 3, "Esc", "G dur"},
-        {"G dur", 3, "cmdZrusit", "Vyberte tóninu"},
+        {"Es dur", 6, "Enter", "Fis dur", 6},           {"Es dur", {}, "cmdOK", "Es dur", 3},
+        {"Vyberte tóninu", {}, "cmdOK", "", 0},         {"G dur", 3, "Esc", "G dur", 3},
+        {"G dur", 3, "cmdZrusit", "Vyberte tóninu", 0},
     };
     for (const auto& p : pripady) {
         SCOPED_TRACE(p.konec);
+        osnova.nastavStupnici(Key("A dur"), {});
         otevri(p.pred);
         if (p.volba) QTest::mouseClick(opt(*p.volba), Qt::LeftButton, {}, {8, opt(*p.volba)->height() / 2});
         if (dialogy.count == 0) stiskni("cmdHelp");
         EXPECT_TRUE(dialog->isVisible());
         EXPECT_EQ(tonina.stupnice().text(), p.pred) << "nothing before the end";
         const QString konec = p.konec;
-        if (konec.startsWith("cmd"))
-            stiskni(p.konec);
-        else
-            QTest::keyClick(dialog.get(), konec == "Enter" ? Qt::Key_Return : Qt::Key_Escape);
+        konec.startsWith("cmd")
+            ? stiskni(p.konec)
+            : QTest::keyClick(dialog.get(), konec == "Enter" ? Qt::Key_Return : Qt::Key_Escape);
         EXPECT_FALSE(dialog->isVisible());
         EXPECT_EQ(tonina.stupnice().text(), p.potom);
+        EXPECT_EQ(osnova.predznamenani().pocet(), p.znamenek);
     }
 }
 

@@ -19,7 +19,7 @@ protected:
         widget.show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&widget)); // the focus ring is in all pictures
         QObject::connect(&widget, &ZapisovaciOsnova::notaVlozena,
-                         [this](int slot) { udalosti << zapisUdalosti("+", slot); });
+                         [this](int slot) { udalosti << '+' + QString::number(slot); });
         zaznamenej(&ZapisovaciOsnova::notaPosunuta, "~");
         zaznamenej(&ZapisovaciOsnova::znamenkoZmeneno, "#");
         zaznamenej(&ZapisovaciOsnova::notaOdebrana, "-");
@@ -29,11 +29,8 @@ protected:
     template <typename Signal>
     void zaznamenej(Signal signal, const char* znak) {
         QObject::connect(&widget, signal, [this, znak](int slot, CisloTonu puvodni) {
-            udalosti << zapisUdalosti(znak, slot) + QStringLiteral(" bylo %1").arg(puvodni.hodnota());
+            udalosti << QStringLiteral("%1%2 bylo %3").arg(znak).arg(slot).arg(puvodni.hodnota());
         });
-    }
-    static QString zapisUdalosti(const char* znak, int slot) {
-        return QLatin1String(znak) + QString::number(slot);
     }
 
     QPoint bod(int slot, int jednotky) const {
@@ -138,15 +135,13 @@ TEST_F(ZapisovaciOsnovaTest, SignsOfThePaletteArePutOnTheClickedNoteAndTakenAgai
     klepni(0, 600);
     EXPECT_EQ(obsah(), QStringLiteral("fis1 - - - -")) << "the signature governs a plain note";
     udalosti.clear();
-    struct Krok {
-        const char* znacka;
-        const char* obsah;
-    };
-    for (const Krok krok : {Krok{"picOdrazka", "f1 - - - -"}, Krok{"picBecko", "fes1 - - - -"},
-                            Krok{"picKrizek", "fis1 - - - -"}, Krok{"picOdrazka", "f1 - - - -"}}) {
-        zvol(krok.znacka);
+    for (const auto& [znacka, potom] : {std::pair("picOdrazka", "f1 - - - -"),
+                                        {"picBecko", "fes1 - - - -"},
+                                        {"picKrizek", "fis1 - - - -"},
+                                        {"picOdrazka", "f1 - - - -"}}) {
+        zvol(znacka);
         klepni(0, 600);
-        EXPECT_EQ(obsah(), QLatin1String(krok.obsah)) << krok.znacka;
+        EXPECT_EQ(obsah(), potom) << znacka;
     }
     klepni(0, 600);
     EXPECT_EQ(obsah(), QStringLiteral("fis1 - - - -")) << "the same sign again is taken away";
@@ -185,10 +180,7 @@ TEST_F(ZapisovaciOsnovaTest, EverythingCanBeDoneFromTheKeyboard) {
         clsNotyZapis jejiZapis(sama, dialogy);
         ZapisovaciOsnova jeji(sama, jejiZapis);
         for (const int klavesa : pripad.klavesy) {
-            if (klavesa < 0x80)
-                QTest::keyClick(&jeji, char(klavesa));
-            else
-                QTest::keyClick(&jeji, Qt::Key(klavesa));
+            klavesa < 0x80 ? QTest::keyClick(&jeji, char(klavesa)) : QTest::keyClick(&jeji, Qt::Key(klavesa));
         }
         EXPECT_EQ(obsah(sama, jejiZapis), QLatin1String(pripad.obsah)) << pripad.postup;
     }
