@@ -114,12 +114,14 @@ void FrmBrowser::postavAdresu() {
     rozvrh->addWidget(cboAddress_, 1);
     pas->addWidget(picAddress);
     connect(cboAddress_, &QComboBox::textActivated, this, &FrmBrowser::cboAddress_Click);
+    cboAddress_->installEventFilter(this);
     cboAddress_->lineEdit()->installEventFilter(this);
 }
 
 bool FrmBrowser::eventFilter(QObject* cil, QEvent* udalost) {
     // Enter is taken before the list hears of it: it would choose the address a second time.
-    if (udalost->type() != QEvent::KeyPress || cil != cboAddress_->lineEdit()) return false;
+    if (udalost->type() != QEvent::KeyPress || (cil != cboAddress_ && cil != cboAddress_->lineEdit()))
+        return false;
     const int klavesa = static_cast<QKeyEvent*>(udalost)->key();
     if (klavesa != Qt::Key_Return && klavesa != Qt::Key_Enter) return false;
     cboAddress_Click();

@@ -95,7 +95,7 @@ protected:
         klavesa(Qt::Key_A, Qt::AltModifier); // the mnemonic of its label
         klavesa(Qt::Key_A, Qt::ControlModifier);
         pisZnaky(napsana);
-        QTest::keyClick(cboAddress()->lineEdit(), Qt::Key_Return);
+        klavesa(Qt::Key_Return);
     }
 
     QTemporaryDir slozka;

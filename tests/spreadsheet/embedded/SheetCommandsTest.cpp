@@ -1,5 +1,6 @@
 #include "spreadsheet/embedded/Failures.h"
 #include "tests/spreadsheet/embedded/Rig.h"
+#include "tests/spreadsheet/embedded/SmallMemory.h"
 
 #include <new>
 
@@ -27,6 +28,21 @@ protected:
     EmbeddedApplication& app = *owned;
     SheetCommands& user = app.commands();
 };
+
+#ifndef __SANITIZE_ADDRESS__ // needs more room than any limit leaves
+TEST_F(SheetCommandsTest, WhatCouldNotBeCopiedIsNotCutOut) {
+    app.setValue(QStringLiteral("O65536"), QStringLiteral("daleko"));
+    select("A:O");
+    dialogs.expect(jmenoTabulky, QStringLiteral("Nestačí paměť"));
+    {
+        const SmallMemory memory(4 << 20); // nearly a million cells are copied, one is to be emptied
+        EXPECT_EQ(user.cut(), QString());
+    }
+    EXPECT_TRUE(dialogs.done());
+    EXPECT_EQ(cellText(app.value(QStringLiteral("O65536"))), QStringLiteral("daleko"));
+    EXPECT_EQ(listener.take(), QString());
+}
+#endif
 
 } // namespace
 

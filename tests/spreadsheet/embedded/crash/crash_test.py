@@ -1,13 +1,20 @@
 #!/usr/bin/python3
-"""Cuts runs of the built-in spreadsheet off and lets the disk fail under them.
+"""Cuts runs of the built-in spreadsheet off, lets the disk fail under them and runs two at a time.
 
-usage: crash_test.py SONG_SESSION kill|fault
+usage: crash_test.py SONG_SESSION PART      PART: kill | fault | full | two
 
-kill   ends the process before each system call that changes a file: what was acknowledged must come back, and
-       nothing else but the step that was under way; an independent reader must read the same from the file.
-fault  lets each such call of a save fail: error 1004, the old file as it was, no temporary file left.
-Prints what was tried; 77 where the system allows no tracing.
+kill   ends the process before each system call that changes a file, in every step of a session and of its
+       recovery. Each time the song must come back with everything that was acknowledged, and with nothing else
+       but the step that was under way; an independent reader must read the same from the file afterwards.
+fault  lets each such call of a save fail with ENOSPC, EIO, EACCES and EROFS: error 1004, the old file as it
+       was, no temporary file left, and the song can be saved elsewhere.
+full   the same on a file system that is really full.
+two    two processes on one song.
+
+Prints what was tried; 77 where the system allows no tracing
+or no mounting.
 """
+import os
 import pathlib
 import re
 import shutil
@@ -62,10 +69,14 @@ class Outcome:
         self.asked = [line[6:] for line in lines if line.startswith("asked ")]
 
 
-def run(room, steps, strace=()):
+def command(room, steps, answer="yes"):
+    return [HELPER, str(room.journals), str(room.song), answer, *steps]
+
+
+def run(room, steps, answer="yes", strace=()):
     tracer = ["strace", "-qq", "-o", str(room.root / "trace"), *strace] if strace else []
-    done = subprocess.run(tracer + [HELPER, str(room.journals), str(room.song), *steps], stdout=subprocess.PIPE,
-                          stderr=subprocess.DEVNULL, timeout=60)
+    done = subprocess.run(tracer + command(room, steps, answer), stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
+                          timeout=60)
     return Outcome(done.stdout.decode())
 
 
@@ -211,13 +222,114 @@ def fault_at(room, steps, old, place, error):
     return bool(done.refused)
 
 
-def main():
-    probe = shutil.which("strace") and subprocess.run(["strace", "-qq", "-o", "/dev/null", "true"], stderr=subprocess.DEVNULL)
-    if not probe or probe.returncode:
-        print("SKIPPED: strace is missing or may not trace here")
+def full_part(work):
+    place = work / "disk"
+    place.mkdir()
+    if subprocess.run(["mount", "-t", "tmpfs", "-o", "size=200k", "none", place], stderr=subprocess.DEVNULL).returncode:
+        print("SKIPPED: no file system may be mounted here")
         sys.exit(SKIPPED)
+    try:
+        room = Room(place / "room")
+        make_song(room)
+        with subprocess.Popen(command(room, ["open", "wait", "set:B2:g,", "save", "wait", "set:B3:h,", "save", "close"]),
+                              stdin=subprocess.PIPE, stdout=subprocess.PIPE) as session:
+            filler = place / "filler"
+            told = session.stdout.readline()
+            with open(filler, "wb", buffering=0) as full:
+                try:
+                    while True:
+                        full.write(b"x" * 512)
+                except OSError:
+                    pass
+            old = room.song.read_bytes()
+            session.stdin.write(b"\n")
+            session.stdin.flush()
+            for _ in range(3):
+                told += session.stdout.readline()
+            check(b"refused 3 1004" in told, "not refused:", told.decode())
+            check(room.song.read_bytes() == old, "the old file is not as it was")
+            check(room.files() == [".~Kočka.xls.zamek", room.song.name], room.files())
+            filler.unlink()
+            rest, _ = session.communicate(b"\n", timeout=60)
+        outcome = Outcome((told + rest).decode())
+        check(len(outcome.acks) == 7, "not saved when there was room again:", outcome.refused)
+        check(cells_in(room.song).endswith("B2=g,|List1!B3=h,"), cells_in(room.song))
+        print("a full disk: refused with 1004, saved when there was room again")
+    finally:
+        subprocess.run(["umount", place], check=False)
+
+
+class Live:
+    """A run that goes on step by step."""
+
+    def __init__(self, room, steps, answer):
+        self.process = subprocess.Popen(command(room, [s for step in steps for s in ("wait", step)], answer),
+                                        stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+
+    def step(self):
+        """Does the next step; the line about it and the questions before."""
+        self.process.stdin.write(b"\n")
+        self.process.stdin.flush()
+        self.process.stdout.readline()  # of the waiting
+        asked = []
+        while True:
+            line = self.process.stdout.readline().decode()
+            if not line.startswith("asked "):
+                return line, asked
+            asked.append(line)
+
+    def kill(self):
+        self.process.kill()
+        self.process.wait()
+
+
+def two_part(work):
+    room = Room(work / "room")
+    make_song(room)
+    first = Live(room, ["start", "open", "set:B2:první", "save", "new", "set:B1:nikdy"], "no")
+    first.step()
+    first.step()
+    first.step()
+    turned_down = Live(room, ["start", "open"], "no")
+    turned_down.step()
+    line, asked = turned_down.step()
+    check("refused" in line and "1004" in line and str(first.process.pid) in line, line)
+    check(len(asked) == 1 and "má už otevřený někdo jiný" in asked[0], asked)
+    turned_down.kill()
+
+    second = Live(room, ["start", "open", "set:B3:druhá", "save"], "yes")
+    check(second.step()[1] == [], "asked about what is in use")
+    line, asked = second.step()
+    check(line.startswith("ack") and len(asked) == 1, line, asked)
+    second.step()
+    line, asked = second.step()
+    check(line.startswith("ack") and not asked, line, asked)
+    saved = room.song.read_bytes()
+    line, asked = first.step()
+    check("refused" in line and "1004" in line, "wrote over what the other one had saved:", line)
+    check(len(asked) == 1 and "mezitím změnil jiný program" in asked[0], asked)
+    check(room.song.read_bytes() == saved, "the file is not as the other one saved it")
+    second.kill()
+    first.step()
+    first.step()
+    first.kill()
+
+    last = run(room, ["start", "open"])
+    check(len(last.asked) == 2 and "dosud neuloženém" in last.asked[0] and "Pozor" in last.asked[1], last.asked)
+    check("B2=první" in last.acks[1] and "B3=druhá" in last.acks[1], last.acks)
+    print("two processes: lock, refusal, changed file and both journals are told of")
+
+
+def main():
+    part = {"kill": kill_part, "fault": fault_part, "full": full_part, "two": two_part}[sys.argv[2]]
+    if part in (kill_part, fault_part):
+        probe = subprocess.run(["strace", "-qq", "-o", "/dev/null", "true"], stderr=subprocess.DEVNULL) if shutil.which(
+            "strace") else None
+        if not probe or probe.returncode:
+            print("SKIPPED: strace is missing or may not trace here")
+            sys.exit(SKIPPED)
     with tempfile.TemporaryDirectory() as work:
-        {"kill": kill_part, "fault": fault_part}[sys.argv[2]](pathlib.Path(work))
+        part(pathlib.Path(work))
 
 
 main()

@@ -1,10 +1,11 @@
-// One run of the built-in spreadsheet on one song, for tests that cut it off or let the disk fail under it.
+// One run of the built-in spreadsheet on one song, for tests that cut it off, let the disk fail under it or
+// run several at a time.
 //
-//     song_session JOURNALS SONG STEP...
+//     song_session JOURNALS SONG yes|no STEP...
 //
 // Each step is done in turn. Its line on the standard output comes when it is done, in a single write:
 //     ack <number> <all cells>      or      refused <number> <error> <sentence>
-// Boxes are answered by "yes" and told of on a line of their own: asked <text>.
+// Boxes are answered by "yes" or "no" and told of on a line of their own: asked <text>.
 #include "platform/HomeDrive.h"
 #include "platform/SettingsStore.h"
 #include "spreadsheet/embedded/EmbeddedApplication.h"
@@ -13,7 +14,9 @@
 
 #include <cstdio>
 #include <functional>
+#include <iostream>
 #include <map>
+#include <string>
 #include <unistd.h>
 
 namespace zvonika {
@@ -31,21 +34,26 @@ void tell(const QString& line) {
     if (::write(STDOUT_FILENO, bytes.constData(), size_t(bytes.size())) != bytes.size()) ::_exit(3);
 }
 
-class AlwaysYes : public Dialogs {
+class OneAnswer : public Dialogs {
 public:
+    explicit OneAnswer(bool yes) : yes_(yes) {}
     Answer message(const Message& message) override {
         tell(QStringLiteral("asked ") + message.text);
-        return message.buttons == Buttons::Ok ? Answer::Ok : Answer::Yes;
+        if (message.buttons == Buttons::Ok) return Answer::Ok;
+        return yes_ ? Answer::Yes : Answer::No;
     }
     QString input(const QString&, const QString&) override { return {}; }
     std::optional<QString> openFile(const QString&, const QString&, const QString&) override { return {}; }
     std::optional<QString> saveFile(const QString&, const QString&, const QString&) override { return {}; }
+
+private:
+    bool yes_;
 };
 
 class SongSession {
 public:
-    SongSession(const QString& journals, const QString& song)
-        : song_(song), app_(drive_, dialogs_, settings_, JournalFolder(journals)) {}
+    SongSession(const QString& journals, const QString& song, bool yes)
+        : song_(song), dialogs_(yes), app_(drive_, dialogs_, settings_, JournalFolder(journals)) {}
 
     void perform(int number, const QString& step) {
         try {
@@ -67,12 +75,18 @@ private:
             {QStringLiteral("saveas"), [&] { app_.saveActiveWorkbookAs({where.isEmpty() ? song_ : where}); }},
             {QStringLiteral("save"), [&] { app_.saveActiveWorkbook(); }},
             {QStringLiteral("close"), [&] { app_.closeActiveWorkbook(); }},
+            {QStringLiteral("quit"), [&] { app_.quit(); }},
             {QStringLiteral("grip"), [&] { grip(where, value); }},
             {QStringLiteral("set"), [&] { app_.setValue(where, value); }},
             {QStringLiteral("type"), [&] { app_.commands().type(parseAddress(where)->first, value); }},
             {QStringLiteral("undo"), [&] { app_.commands().undo(); }},
             {QStringLiteral("insert"), [&] { app_.commands().insertRow(); }},
             {QStringLiteral("rename"), [&] { app_.renameActiveSheet(where); }},
+            {QStringLiteral("wait"),
+             [] {
+                 std::string line;
+                 std::getline(std::cin, line);
+             }},
         };
         steps.at(what)();
     }
@@ -102,7 +116,7 @@ private:
 
     QString song_;
     HomeDrive drive_{QStringLiteral("/"), {}};
-    AlwaysYes dialogs_;
+    OneAnswer dialogs_;
     NoSettings settings_;
     EmbeddedApplication app_;
 };
@@ -114,10 +128,10 @@ private:
 int main(int argc, char* argv[]) {
     const QCoreApplication application(argc, argv);
     const QStringList words = QCoreApplication::arguments();
-    if (words.size() < 3) return 2;
-    zvonika::SongSession session(words[1], words[2]);
-    for (int step = 3; step < words.size(); ++step)
-        session.perform(step - 3, words[step]);
+    if (words.size() < 4) return 2;
+    zvonika::SongSession session(words[1], words[2], words[3] == QLatin1String("yes"));
+    for (int step = 4; step < words.size(); ++step)
+        session.perform(step - 4, words[step]);
     ::fflush(stdout);
     ::_exit(0); // as when the program is ended from outside: nothing is closed properly
 }
