@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QDialog>
+#include <QLineEdit>
 #include <QTimer>
 
 namespace zvonika::testing {
@@ -70,6 +71,20 @@ TEST_F(AutomatOkna, AModalWindowIsARest) {
         EXPECT_EQ(program->aktualniRadek(), 2);
         klikni("cmdTimer");
     }
+}
+
+TEST_F(AutomatOkna, ATextBeingTypedIsARest) {
+    klikni("cmdTimer");
+    QLineEdit radka;
+    radka.show();
+    radka.activateWindow();
+    radka.setFocus();
+    ASSERT_EQ(QApplication::focusWidget(), &radka);
+    hodiny.uplyn(Ms(8000));
+    EXPECT_EQ(program->aktualniRadek(), 1);
+    radka.clearFocus();
+    hodiny.uplyn(Ms(2000));
+    EXPECT_EQ(program->aktualniRadek(), 2);
 }
 
 TEST_F(AutomatOkna, AFailingStepIsOneBoxAndTheEnd) {

@@ -4,6 +4,7 @@
 #include "tests/app/OknoSPisni.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
 
 using namespace zvonika;
 using zvonika::testing::OknoSPisni;
@@ -129,6 +130,13 @@ TEST_F(OknoSPisni, TheStatusLineFollowsWhatIsDone) {
     EXPECT_TRUE(stav().contains("hovadina")) << stav().toStdString();
     klikni("cmdUvolKnofl");
     EXPECT_FALSE(stav().contains("hovadina")) << "a notice is over with the next command";
+}
+
+TEST_F(OknoSPisni, TheIntervalThatIsShownIsTheOneThatCounts) {
+    auto* volba = qobject_cast<QComboBox*>(prvek("cmbInterval"));
+    EXPECT_EQ(volba->currentIndex(), program->modely().krokyIntervalu - 1);
+    volba->setCurrentIndex(4);
+    EXPECT_EQ(program->modely().krokyIntervalu, 5);
 }
 
 TEST_F(OknoSPisni, ExitAsks) {

@@ -17,6 +17,22 @@ TEST(TrebleBoard, ReleasedKeyTwentyEightIsANaturalLikeTheOthers) {
     EXPECT_EQ(deska.barvaKlavesy(28), BarvaKlavesy::CaptionText);
 }
 
+TEST(TrebleBoard, AGripGoesWholeAndAMarkOverItKeepsItsRedKey) {
+    TrebleBoard deska{nastrojZvonika()};
+    for (int n = 1; n <= 49; ++n)
+        deska.ukazHmat(n, StavKnofliku::Tlak);
+    deska.nastavZnacku(9, true);
+    EXPECT_EQ(deska.barvaKlavesy(9), BarvaKlavesy::Cervena);
+    deska.ukazInterval(9);
+    EXPECT_EQ(deska.barvaKlavesy(9), BarvaKlavesy::Hneda);
+    deska.odeberHmat();
+    EXPECT_EQ(deska.barvaKlavesy(9), BarvaKlavesy::Cervena);
+    for (int n = 1; n <= 49; ++n) {
+        EXPECT_EQ(deska.stav(n), n == 9 ? StavKnofliku::Cerveny : StavKnofliku::Volny) << n;
+        EXPECT_EQ(deska.stavPomocneho(n), StavKnofliku::Volny) << n;
+    }
+}
+
 TEST(TrebleBoard, ButtonsWithoutATwinShowOnlyTheirMainPicture) {
     TrebleBoard deska{nastrojZvonika()};
     for (const int n : {1, 3, 48}) {
@@ -34,7 +50,10 @@ TEST(TrebleBoard, NamesAreSpelledInTheKeyAndFingersStayUntilTheCaptionsAreEmptie
     TrebleBoard deska{nastrojZvonika()};
     deska.nastavPopis(7, QStringLiteral("3\r\n"));
     deska.nastavPopisPomocneho(7, QStringLiteral("5\r\n4\r\n"));
+    int prepnuti = 0;
+    QObject::connect(&deska, &TrebleBoard::nazvyZmeneny, &deska, [&] { ++prepnuti; });
     deska.nastavNazvy(true, QStringLiteral("F dur"));
+    EXPECT_EQ(prepnuti, 1) << "the menu shows it";
     EXPECT_EQ(deska.popis(7), QStringLiteral("3\r\nb,"));
     EXPECT_EQ(deska.popisPomocneho(7), QStringLiteral("5\r\n4\r\nb,"));
     deska.nastavNazvy(true, QStringLiteral("G dur"));

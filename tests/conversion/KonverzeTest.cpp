@@ -240,6 +240,11 @@ TEST_F(KonverzeTest, ASongChosenInTheDialogIsClosedAgain) {
     EXPECT_EQ(excel->workbooks(), 0);
     EXPECT_EQ(pisen.aktualniPisen, "zavřená ručně.xls");
     EXPECT_EQ(konverze.veta(), "Kopie je v souboru „Polka G dur.xls“.");
+    konverze.Form_Load();
+    dialogs.expectFile(titulek, soubor("Bez tóniny.xls", {"B=c1,"})).expect("Nevhodný soubor.", "");
+    log.fail("saveActiveWorkbook", 1004);
+    EXPECT_EQ(raised([this] { konverze.cmdVyberPisen(); }), 1004);
+    EXPECT_EQ(pisen.aktualniPisen, "zavřená ručně.xls") << "also where saving fails";
 }
 
 TEST_F(KonverzeTest, ClicksThatComeInDuringTheRunStartNothing) {

@@ -125,12 +125,16 @@ TEST_F(ZapisHmatuTest, TheNextGripIsShownByItsDirection) {
 }
 
 TEST_F(ZapisHmatuTest, BassesWithoutANameAloneAreNoGrip) {
-    tabulka = BassTable(QStringLiteral("/neni"), 120);
+    const QString slozka = drive.nativePath(pracovniAdresar);
+    tabulka = BassTable(slozka, 120);
     oznacBasy({30});
     dialogs.expect("Bas nebyl zapsán !", "\nOznačené basy, jejichž jméno tabulka neuvádí");
     zapis.cmdTah();
     EXPECT_FALSE(dialogs.last.text.contains(u'\r')) << "lines end as in every box";
     EXPECT_EQ(s(excel->activeAddress()), "$B$1");
+    ASSERT_TRUE(QFile::copy(QStringLiteral(ZVONIKA_RESOURCES "/tonavox.xml"), slozka + "/tonavox.xml"));
+    zapis.cmdTah();
+    EXPECT_EQ(s(bunky(1, u'M', u'M')), "C") << "a repaired table counts at once";
 }
 
 TEST_F(ZapisHmatuTest, AnotherWorkbookInFrontIsLeftAlone) {

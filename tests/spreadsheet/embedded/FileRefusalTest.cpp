@@ -98,6 +98,10 @@ TEST_F(FileRefusalTest, SavingSaysWhatIsWrongAndChangesNothing) {
     document->save();
     EXPECT_FALSE(document->file().isModified());
     EXPECT_NE(contents(good), saved);
+
+    ASSERT_TRUE(QFile::remove(good) && QDir().mkdir(good));
+    EXPECT_NE(saving(*document, good), QString());
+    EXPECT_TRUE(FileLock::holder(good)) << "what could not be saved in its place stays locked";
 }
 
 TEST_F(FileRefusalTest, WhateverFailsInASaveIsARefusal) {

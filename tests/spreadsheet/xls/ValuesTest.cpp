@@ -58,6 +58,7 @@ TEST(Values, OfNumbersInFourBytesAreRead) {
     };
     for (const auto& [rk, number] : table)
         EXPECT_NEAR(decodeRk(rk), number, 1e-5) << std::hex << rk;
+    EXPECT_EQ(decodeRk(0x0000008F), 0.35) << "hundredths, as they are typed";
 }
 
 TEST(Values, OfOtherProgramsAreUnderstood) {
