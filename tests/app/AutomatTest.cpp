@@ -75,9 +75,8 @@ TEST_F(AutomatOkna, AModalWindowIsARest) {
 
 TEST_F(AutomatOkna, ATextBeingTypedIsARest) {
     klikni("cmdTimer");
-    QLineEdit radka;
+    QLineEdit radka(&program->okno());
     radka.show();
-    radka.activateWindow();
     radka.setFocus();
     ASSERT_EQ(QApplication::focusWidget(), &radka);
     hodiny.uplyn(Ms(8000));
