@@ -19,7 +19,7 @@ public:
                        const QString& profily);
     ~TabulkaLibreOffice();
 
-    /// Where Calc's windows come up, in logical pixels, frame included.
+    /// Where Calc's windows come up, in logical pixels, frame not included: Calc does not know its size then.
     void nastavMisto(const QRect& misto) { misto_ = misto; }
     /// Starts an instance; until `spusteno` a sign of progress is on the screen.
     std::unique_ptr<SpreadsheetApplication> spust();

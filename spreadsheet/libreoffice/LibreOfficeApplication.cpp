@@ -4,6 +4,7 @@
 #include "spreadsheet/libreoffice/CalcFolder.h"
 #include "spreadsheet/libreoffice/CalcSession.h"
 #include "spreadsheet/libreoffice/Clipboard.h"
+#include "spreadsheet/libreoffice/RaisedDialogs.h"
 #include "spreadsheet/libreoffice/Sheets.h"
 #include "spreadsheet/libreoffice/UnsavedWorkbooks.h"
 
@@ -17,6 +18,7 @@ struct LibreOfficeApplication::Parts {
     Dialogs& dialogs;
     WorkbookPlaces places;
     CalcSession session;
+    RaisedDialogs raisedDialogs;
     CalcCalls& calls = session.calls();
     ReadAhead seen;
     CalcFolder folder{calls, places};
