@@ -6,6 +6,7 @@
 
 #include <QFileInfo>
 
+#include <com/sun/star/awt/PosSize.hpp>
 #include <com/sun/star/awt/XToolkitExperimental.hpp>
 #include <com/sun/star/awt/XTopWindow.hpp>
 #include <com/sun/star/awt/XWindowPeer.hpp>
@@ -156,6 +157,12 @@ void Book::setVisible(bool visible) {
     const auto window = frame_->getContainerWindow();
     window->setVisible(visible);
     frame_->getComponentWindow()->setVisible(visible);
+}
+
+void Book::standWhere(const Book& other) {
+    const css::awt::Rectangle place = other.frame_->getContainerWindow()->getPosSize();
+    frame_->getContainerWindow()->setPosSize(place.X, place.Y, place.Width, place.Height,
+                                             css::awt::PosSize::POSSIZE);
 }
 
 void Book::toFront() {

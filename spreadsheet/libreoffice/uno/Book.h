@@ -42,6 +42,8 @@ public:
     // --- its window ---
     void setVisible(bool visible);
     void toFront();
+    /// Takes the place that the other workbook's window has on the screen.
+    void standWhere(const Book& other);
 
     // --- sheets: those that are not hidden ---
     int activeSheet() const;

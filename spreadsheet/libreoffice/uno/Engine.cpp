@@ -170,10 +170,18 @@ bool Engine::quit() {
     });
 }
 
+// Calc sets the window of a further workbook off from the last one, under the main window for instance.
+void Engine::makeActive() {
+    dropClosed();
+    const Book* before = find(activeId_);
+    activeId_ = lastId_;
+    if (Book* now = find(activeId_); visible_ && before && now && before != now) now->standWhere(*before);
+}
+
 void Engine::add() {
     guarded([&] {
         adopt(load(QStringLiteral("private:factory/scalc"), {}));
-        activeId_ = lastId_;
+        makeActive();
     });
 }
 
@@ -183,8 +191,7 @@ void Engine::open(const QString& nativePath) {
         const std::size_t before = books_.size();
         adopt(document);
         if (books_.size() > before && books_.back()->format() != WorkbookFormat::Other) {
-            activeId_ = lastId_;
-            return;
+            return makeActive();
         }
         if (books_.size() > before) books_.pop_back();
         as<css::util::XCloseable>(document)->close(true);

@@ -55,6 +55,7 @@ private:
     std::vector<Ref<css::lang::XComponent>> documents();
     std::vector<Ref<css::lang::XComponent>> otherDocuments();
     bool isBook(const Ref<css::lang::XComponent>& document) const;
+    void makeActive();
     void adopt(const Ref<css::lang::XComponent>& document);
     void adoptStrangers();
     void dropClosed();
