@@ -6,6 +6,7 @@
 #include "spreadsheet/embedded/FileSentences.h"
 #include "spreadsheet/embedded/Replay.h"
 #include "spreadsheet/embedded/WorkbookFile.h"
+#include "spreadsheet/journal/ImageChanges.h"
 
 namespace zvonika {
 

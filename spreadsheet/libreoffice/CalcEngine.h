@@ -2,12 +2,14 @@
 
 #include "spreadsheet/Address.h"
 #include "spreadsheet/CellValue.h"
+#include "spreadsheet/WorkbookImage.h"
 
 #include <QString>
 #include <QStringList>
 #include <QVector>
 
 #include <functional>
+#include <optional>
 
 namespace zvonika {
 
@@ -20,6 +22,8 @@ public:
     virtual void cellsEdited() = 0;
     /// A workbook is being closed, by whomever.
     virtual void workbookCloses() = 0;
+    /// ... by the user, who has been asked about its changes.
+    virtual void userCloses(int workbook) = 0;
     /// Calc has this file open from now on, whoever opened it.
     virtual void fileOpened(const QString& nativePath) = 0;
 };
@@ -52,6 +56,7 @@ public:
     virtual void open(const QString& nativePath) = 0;
     virtual QVector<OpenWorkbook> workbooks() = 0; ///< also those that the user has opened; oldest first
     virtual OpenWorkbook active() = 0;             ///< id 0 when there is none
+    virtual std::optional<WorkbookImage> image(int id) = 0; ///< nothing when it is not open any more
     virtual void activate(int id) = 0;
     virtual void saveAs(const QString& nativePath) = 0; ///< .xls; replaces an existing file
     virtual void save() = 0;                            ///< only of a workbook that has a file
@@ -81,7 +86,7 @@ struct CalcAddress {
 };
 
 /// Raised with every change of the classes above: a plug-in built for others is not used.
-constexpr int calcPluginVersion = 2;
+constexpr int calcPluginVersion = 3;
 
 /// What a plug-in exports: "zvonikaCalcPluginVersion" and "zvonikaConnectToCalc". The latter returns when
 /// Calc has answered, or nullptr when `keepTrying` gave up; AutomationError 429 when the connection cannot be

@@ -7,13 +7,16 @@ namespace zvonika {
 
 void UnsavedWorkbooks::offer() {
     for (const OpenWorkbook& workbook : workbooks_.all())
-        if (workbook.modified && wantsToSave(dialogs_, jmenoCalcu, workbook.name)) save(workbook);
+        if (workbook.modified && (!wantsToSave(dialogs_, jmenoCalcu, workbook.name) || save(workbook)))
+            settled_(workbook.id);
 }
 
-void UnsavedWorkbooks::save(const OpenWorkbook& workbook) {
-    if (savedInPlace(workbook)) return;
-    while (!savedElsewhere(workbook)) {
-    }
+bool UnsavedWorkbooks::save(const OpenWorkbook& workbook) {
+    if (savedInPlace(workbook)) return true;
+    Outcome outcome = Outcome::Refused;
+    while (outcome == Outcome::Refused && calls_.alive())
+        outcome = savedElsewhere(workbook);
+    return outcome == Outcome::Saved;
 }
 
 bool UnsavedWorkbooks::savedInPlace(const OpenWorkbook& workbook) {
@@ -24,13 +27,14 @@ bool UnsavedWorkbooks::savedInPlace(const OpenWorkbook& workbook) {
     });
 }
 
-bool UnsavedWorkbooks::savedElsewhere(const OpenWorkbook& workbook) {
+UnsavedWorkbooks::Outcome UnsavedWorkbooks::savedElsewhere(const OpenWorkbook& workbook) {
     const auto chosen = askSaveName(dialogs_, suggestedFile(workbook));
-    if (!chosen) return true; // given up
-    return done([&] {
+    if (!chosen) return Outcome::GivenUp;
+    const bool saved = done([&] {
         workbooks_.activate(workbook.id);
         workbooks_.storeAs(*chosen);
     });
+    return saved ? Outcome::Saved : Outcome::Refused;
 }
 
 QString UnsavedWorkbooks::suggestedFile(const OpenWorkbook& workbook) const {
@@ -38,14 +42,14 @@ QString UnsavedWorkbooks::suggestedFile(const OpenWorkbook& workbook) const {
                                    : workbook.path;
 }
 
-// A refusal is told; with a Calc that is gone there is nothing left to save.
+// A refusal is told.
 bool UnsavedWorkbooks::done(const std::function<void()>& save) {
     try {
         save();
         return true;
     } catch (const AutomationError& refusal) {
         dialogs_.message({jmenoCalcu, refusal.cause(), Icon::Exclamation});
-        return !calls_.alive();
+        return false;
     }
 }
 
