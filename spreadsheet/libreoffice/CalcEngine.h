@@ -2,12 +2,14 @@
 
 #include "spreadsheet/Address.h"
 #include "spreadsheet/CellValue.h"
+#include "spreadsheet/WorkbookImage.h"
 
 #include <QString>
 #include <QStringList>
 #include <QVector>
 
 #include <functional>
+#include <optional>
 
 namespace zvonika {
 
@@ -20,6 +22,8 @@ public:
     virtual void cellsEdited() = 0;
     /// A workbook is being closed, by whomever.
     virtual void workbookCloses() = 0;
+    /// ... by the user, who has been asked about its changes.
+    virtual void userCloses(int workbook) = 0;
     /// Calc has opened or saved a file, whoever asked it to: it has it open, as it is on the disk now.
     virtual void fileOpened(const QString& nativePath) = 0;
     virtual void fileClosed(const QString& nativePath) = 0;
@@ -63,6 +67,7 @@ public:
     virtual void open(const QString& nativePath) = 0; ///< .xls of today or older
     virtual QVector<OpenWorkbook> workbooks() = 0;    ///< also those that the user has opened; oldest first
     virtual OpenWorkbook active() = 0;                ///< id 0 when there is none
+    virtual std::optional<WorkbookImage> image(int id) = 0; ///< nothing when it is not open any more
     virtual void activate(int id) = 0;
     virtual void saveAs(const QString& nativePath) = 0; ///< .xls; replaces an existing file
     /// Of a workbook that has a file, in the file's own format and with its password; an older .xls becomes

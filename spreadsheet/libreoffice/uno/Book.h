@@ -27,7 +27,8 @@ public:
     Book(const Book&) = delete;
     Book& operator=(const Book&) = delete;
 
-    int id = 0;
+    int id() const { return id_; }
+    void setId(int id);
 
     // --- the file ---
     bool closed() const { return events_->closed(); }
@@ -35,6 +36,7 @@ public:
     bool is(const Ref<css::uno::XInterface>& document) const { return identity_ == document; }
     OpenWorkbook description() const;
     WorkbookFormat format() const;
+    WorkbookImage image();
     void saveAs(const QString& nativePath);
     void save();
     void close();
@@ -63,6 +65,7 @@ public:
     void clear(const CellRange& range);
 
 private:
+    SheetImage imageOf(const Ref<css::sheet::XSpreadsheet>& sheet);
     Book(const Ref<css::frame::XModel>& model, const Ref<css::sheet::XSpreadsheets>& sheets,
          CalcObserver& observer, const Ref<css::frame::XDispatchHelper>& dispatcher, Keeper& keeper);
     Ref<css::sheet::XSpreadsheet> sheet() const;
@@ -75,6 +78,7 @@ private:
     void commitEntry();
     QString title() const;
 
+    int id_ = 0;
     CalcObserver& observer_;
     Keeper& keeper_;
     Ref<css::frame::XDispatchHelper> dispatcher_;
@@ -90,5 +94,8 @@ private:
 
 /// The last row and column that a sheet uses, counted from 1.
 CellPosition usedEnd(const Ref<css::sheet::XSpreadsheet>& sheet, Keeper& keeper);
+bool containsFormulas(const Ref<css::sheet::XSpreadsheet>& sheet, Keeper& keeper);
+/// "" where a cell has none.
+QVector<QStringList> formulasIn(const Ref<css::table::XCellRange>& cells);
 
 } // namespace zvonika

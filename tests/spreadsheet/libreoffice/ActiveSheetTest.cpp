@@ -103,8 +103,10 @@ TEST(UnsavedWorkbooks, ARefusedSaveIsToldAndOfferedElsewhere) {
         dialogs.expect(jmeno, "má neuložené změny", Answer::Yes);
         if (one.refused) dialogs.expect(jmeno, "Nejde to.");
         dialogs.expectFile("Uložit jako", one.chosen);
-        UnsavedWorkbooks(world.calls, workbooks, dialogs, places).offer();
+        QVector<int> settled;
+        UnsavedWorkbooks(world.calls, workbooks, dialogs, places, [&](int id) { settled << id; }).offer();
         EXPECT_EQ(world.calc->asked, one.asked);
+        EXPECT_EQ(settled, one.chosen ? QVector<int>{one.workbook.id} : QVector<int>());
     }
 }
 

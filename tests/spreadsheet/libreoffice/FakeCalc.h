@@ -26,6 +26,7 @@ public:
     void open(const QString& path) override { note("open " + path); }
     QVector<OpenWorkbook> workbooks() override { return open_; }
     OpenWorkbook active() override { return open_.value(0); }
+    std::optional<WorkbookImage> image(int) override { return {}; }
     void activate(int id) override { note("activate " + QString::number(id)); }
     void saveAs(const QString& path) override { note("saveAs " + path); }
     void save() override { note("save"); }

@@ -1,8 +1,10 @@
 #pragma once
 
-#include "spreadsheet/embedded/journal/JournalContents.h"
+#include "spreadsheet/journal/JournalContents.h"
 
 #include <QString>
+
+#include <system_error>
 
 namespace zvonika {
 
@@ -14,7 +16,11 @@ QString changesInWords(int count);
 QString recoveryQuestion(const QString& workbook, const JournalContents& journal, bool changedSince);
 /// A journal that is damaged from its beginning, and where it lies. `workbook`: "" when it was never saved.
 QString unreadableJournal(const QString& workbook, const QString& place);
+/// A journal that the system does not give, and where it lies. `workbook`: as above.
+QString closedJournal(const QString& workbook, const QString& place, const std::error_code& error);
 /// Some changes could not be made.
 QString partlyRecovered(const QString& workbook, int refused);
+/// Why changes cannot be recorded for the case of a crash.
+QString journalRefused(const std::error_code& error);
 
 } // namespace zvonika

@@ -1,6 +1,6 @@
-#include "spreadsheet/embedded/journal/JournalFolder.h"
+#include "spreadsheet/journal/JournalFolder.h"
 
-#include "spreadsheet/embedded/journal/ContentHash.h"
+#include "spreadsheet/journal/ContentHash.h"
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -78,12 +78,23 @@ JournalFile JournalFolder::begin(const QString& song, const QByteArray& contents
     throw std::system_error(std::make_error_code(std::errc::file_exists));
 }
 
+QStringList JournalFolder::names(const QString& pattern) const {
+    return isOff() ? QStringList() : QDir(path_).entryList({pattern + ending}, QDir::Files);
+}
+
+std::optional<JournalFile> JournalFolder::opened(const QString& name, Unusable* unusable) const {
+    const QString path = QDir(path_).filePath(name);
+    std::error_code failure;
+    auto file = JournalFile::open(path, &failure);
+    if (failure && unusable) unusable->closed.emplace_back(path, failure);
+    return file;
+}
+
 /// Adds the journal to the found ones, or clears it away.
-void JournalFolder::look(JournalFile file, std::vector<PendingJournal>& found,
-                         QStringList* unreadable) const {
+void JournalFolder::look(JournalFile file, std::vector<PendingJournal>& found, Unusable* unusable) const {
     const QByteArray bytes = readable(file);
     auto contents = readJournal(bytes);
-    if (!contents) return clearAway(std::move(file), bytes.isEmpty(), unreadable);
+    if (!contents) return clearAway(std::move(file), bytes.isEmpty(), unusable);
     contents->dropSaved(contentHashOfFile);
     if (contents->groups.empty())
         file.remove();
@@ -91,25 +102,61 @@ void JournalFolder::look(JournalFile file, std::vector<PendingJournal>& found,
         found.push_back({std::move(file), std::move(*contents)});
 }
 
-void JournalFolder::clearAway(JournalFile file, bool isEmpty, QStringList* unreadable) const {
+void JournalFolder::clearAway(JournalFile file, bool isEmpty, Unusable* unusable) const {
     if (isEmpty) return file.remove();
     const QString place = setAside(std::move(file));
-    if (unreadable) unreadable->append(place);
+    if (unusable) unusable->damaged.append(place);
 }
 
-std::vector<PendingJournal> JournalFolder::pending(const QString& song, QStringList* unreadable) const {
-    std::vector<PendingJournal> found;
-    if (isOff()) return found;
-    const QDir folder(path_);
-    for (const QString& name : folder.entryList({key(song) + QStringLiteral("-*") + ending}, QDir::Files)) {
-        if (auto file = JournalFile::open(folder.filePath(name))) look(std::move(*file), found, unreadable);
-    }
+std::vector<PendingJournal> JournalFolder::pending(const QString& song, Unusable* unusable) const {
+    auto found = ofThisName(song, unusable);
+    if (!song.isEmpty()) lookForMoved(song, found);
     std::ranges::stable_sort(found, isOlder);
     return found;
 }
 
+std::vector<PendingJournal> JournalFolder::ofThisName(const QString& song, Unusable* unusable) const {
+    std::vector<PendingJournal> found;
+    for (const QString& name : names(key(song) + QStringLiteral("-*")))
+        if (auto file = opened(name, unusable)) look(std::move(*file), found, unusable);
+    return found;
+}
+
+// Where another song has taken the place, or the contents have changed, nothing is known of a move.
+void JournalFolder::lookForMoved(const QString& song, std::vector<PendingJournal>& found) const {
+    const QString own = key(song) + QLatin1Char('-');
+    QByteArray hash;
+    for (const QString& name : names(QStringLiteral("*"))) {
+        if (name.startsWith(own)) continue;
+        auto file = opened(name, nullptr);
+        auto contents = file ? readJournal(readable(*file)) : std::nullopt;
+        if (!contents || contents->base.hash.isEmpty() || QFileInfo::exists(contents->base.path)) continue;
+        if (hash.isEmpty()) hash = contentHashOfFile(song);
+        contents->dropSaved(contentHashOfFile);
+        if (contents->base.hash == hash && !contents->groups.empty())
+            found.push_back({std::move(*file), std::move(*contents)});
+    }
+}
+
+std::vector<PendingSong> JournalFolder::songs(Unusable* unusable) const {
+    std::vector<PendingSong> found;
+    if (isOff()) return found;
+    for (const QString& name : names(QStringLiteral("*"))) {
+        auto file = opened(name, unusable);
+        auto contents = file ? readJournal(readable(*file)) : std::nullopt;
+        if (!contents || contents->base.path.isEmpty()) continue;
+        contents->dropSaved(contentHashOfFile);
+        if (contents->groups.empty()) continue;
+        const auto& base = contents->base;
+        found.push_back({base.path, base.name, contents->changeCount(), contents->lastChange(),
+                         QFileInfo::exists(base.path)});
+    }
+    std::ranges::stable_sort(found, std::greater(), &PendingSong::lastChange);
+    return found;
+}
+
 void JournalFolder::setAsideAll(const QString& song) const {
-    for (auto& journal : pending(song))
+    for (auto& journal : ofThisName(song, nullptr))
         setAside(std::move(journal.file));
 }
 
