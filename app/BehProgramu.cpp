@@ -9,12 +9,25 @@
 
 namespace zvonika {
 
+namespace {
+
+QString vetaOVracenych(const QStringList& pisne) {
+    if (pisne.isEmpty()) return {};
+    return QStringLiteral("Nahrazení novou písničkou se minule nedokončilo, na svém místě je zpátky: %1.")
+        .arg(pisne.join(QStringLiteral(", ")));
+}
+
+} // namespace
+
 bool BehProgramu::spust() {
     const TabulkoveProgramy& tabulky = c_.prostredi.tabulky;
+    const QStringList vracene = c_.prostredi.drive.bringBackSetAside(pracovniAdresar);
     bool cele = Form_Load(tabulky.spoustec());
     if (!c_.modely.pisen.aplikaceExcel && chceNahradniTabulku()) cele = Form_Load(tabulky.nahradni());
     c_.modely.panel.upozorneni =
-        QStringList{tabulky.veta(), c_.modely.tabulkaBasu.chyba()}.join(u' ').trimmed();
+        QStringList{vetaOVracenych(vracene), tabulky.veta(), c_.modely.tabulkaBasu.chyba()}
+            .join(u' ')
+            .trimmed();
     return cele;
 }
 

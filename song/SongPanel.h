@@ -33,6 +33,7 @@ public:
     bool popisyViditelne = false; ///< lblPopisD and lblPopisB
     QString lblTony, lblBasy;
     BarvaKroku barvaKroku = BarvaKroku::Neznamy;
+    QString vystraha;       ///< what the last command must not let pass unseen, one sentence
     QString upozorneni;     ///< what the last command has to tell besides its boxes
     QString stav;           ///< status line: what to do next, warnings
     int zapsanychHmatu = 0; ///< grips recorded in this run

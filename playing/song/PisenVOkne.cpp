@@ -58,6 +58,7 @@ void PisenVOkne::NaplnListy() {
 
 void PisenVOkne::stavBezPisne() {
     okoli_.pisen.aktualniPisen.clear();
+    okoli_.pisen.plneJmeno.clear();
     ZakazPrikazyPisne(okoli_.prikazy);
     okoli_.prikazy.povol(QStringLiteral("Combo1"), false);
     vyprazdniTexty();

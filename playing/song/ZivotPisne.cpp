@@ -15,6 +15,7 @@ void ZivotPisne::cmdEdit() {
     excel.openWorkbook(*soubor);
     try {
         okoli_.pisen.aktualniPisen = excel.activeWorkbookName();
+        okoli_.pisen.plneJmeno = *soubor;
         vOkne_.ukazOtevrenou();
     } catch (...) {
         if (!okoli_.pisen.otevrena()) zavriTise(excel);

@@ -83,12 +83,52 @@ TEST_F(KonverzeTest, AnOlderCopyIsReplacedOnlyWhenTheUserAgrees) {
     EXPECT_EQ(raised([&] { konverze.cmdGo(); }), error::permissionDenied);
     EXPECT_FALSE(stav.bezi);
     EXPECT_EQ(storedText(cesta("Polka.xls"), "A1"), "");
+    EXPECT_EQ(drive.files(pracovniAdresar), (QStringList{"Polka G dur.xls", "Polka.xls"}));
 
     dialogs.expect(kopie, "", Answer::Ok);
     ocekavejHotovo();
     konverze.cmdGo();
     EXPECT_EQ(storedText(kopie, "A1"), "změna");
     EXPECT_EQ(storedText(cesta("Polka.xls"), "A1"), "změna");
+}
+
+TEST_F(KonverzeTest, AnErrorBeforeTheFirstRowGoesBackToTheSongAndTakesTheCopyAway) {
+    const QString kopie = cesta("Polka G dur.xls");
+    for (const char* krok : {"saveActiveWorkbook", "saveActiveWorkbookAs", "renameActiveSheet"})
+        for (const bool starsi : {true, false}) {
+            SCOPED_TRACE(krok);
+            otevri({tah});
+            pisen.plneJmeno = cesta("Polka.xls");
+            if (starsi) store(kopie, {{QStringLiteral("L"), {{QStringLiteral("starší")}}}});
+            if (starsi) dialogs.expect(kopie, "", Answer::Ok);
+            log.fail(krok, 1004);
+            EXPECT_EQ(raised([this] { preved("G dur"); }), 1004);
+            EXPECT_EQ(pisen.aktualniPisen, "Polka.xls");
+            EXPECT_EQ(pisen.plneJmeno, cesta("Polka.xls"));
+            EXPECT_EQ(excel->activeWorkbookName(), "Polka.xls");
+            EXPECT_EQ(excel->workbooks(), 1);
+            EXPECT_EQ(konverze.veta(), "");
+            EXPECT_FALSE(stav.selhala || stav.zavreno || konverze.predanaKopie());
+            EXPECT_EQ(drive.fileExists(kopie), starsi);
+            if (starsi) {
+                EXPECT_EQ(storedText(kopie, "A1"), "starší");
+            }
+        }
+    ocekavejHotovo();
+    konverze.cmdGo(); // the same dialog, once the obstacle is gone
+    EXPECT_EQ(pisen.plneJmeno, kopie);
+    EXPECT_EQ(radek(1), "B=g,|C=h,|I=Tah|W=G dur");
+}
+
+TEST_F(KonverzeTest, ACopyWhoseSongCannotBeOpenedAgainStays) {
+    otevri({tah});
+    pisen.plneJmeno = cesta("Polka.xls");
+    log.fail("renameActiveSheet", 1004);
+    log.fail("openWorkbook", 1004);
+    EXPECT_EQ(raised([this] { preved("G dur"); }), 1004);
+    EXPECT_EQ(pisen.aktualniPisen, "Polka G dur.xls");
+    EXPECT_TRUE(stav.selhala && konverze.predanaKopie());
+    EXPECT_EQ(storedText(cesta("Polka G dur.xls"), "B1"), "c1,");
 }
 
 TEST_F(KonverzeTest, AShortFileNameKeepsItsEnd) {

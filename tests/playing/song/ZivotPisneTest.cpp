@@ -70,11 +70,16 @@ TEST_F(ZivotPisneTest, AnExistingSongIsReplacedOnlyOnYes) {
     EXPECT_EQ(storedText(polka, "A1"), "stará");
     ocekavejBezPisne();
 
-    // A deletion that fails is asked about again.
+    // A deletion that fails is told once and ends the creation.
     drive.failingDeletions = 1;
     zadejNazev("Polka");
-    dialogs.expect("Tato skladba již existuje!", otazka, Answer::Yes)
-        .expect("Tato skladba již existuje!", otazka, Answer::Yes);
+    dialogs.expect("Tato skladba již existuje!", otazka, Answer::Yes);
+    EXPECT_EQ(raised([this] { zivot.cmdNovaSkladba(); }), error::permissionDenied);
+    EXPECT_EQ(storedText(polka, "A1"), "stará");
+    ocekavejBezPisne();
+
+    zadejNazev("Polka");
+    dialogs.expect("Tato skladba již existuje!", otazka, Answer::Yes);
     zivot.cmdNovaSkladba();
     EXPECT_EQ(dialogs.last.icon, Icon::Exclamation);
     EXPECT_EQ(dialogs.last.buttons, Buttons::YesNo);
@@ -82,18 +87,21 @@ TEST_F(ZivotPisneTest, AnExistingSongIsReplacedOnlyOnYes) {
     EXPECT_EQ(pisen.aktualniPisen, "Polka.xls");
 }
 
-TEST_F(ZivotPisneTest, AFailureAnywhereInANewSongLeavesNoSong) {
+TEST_F(ZivotPisneTest, AFailureAnywhereInANewSongLeavesNoSongAndTheOneItWasToReplace) {
     for (const char* krok : {"addWorkbook", "saveActiveWorkbookAs", "activeWorkbookName", "renameActiveSheet",
                              "activeSheetName", "readBlock"})
         for (const int cislo : {91, 0}) {
             SCOPED_TRACE(krok);
+            store(polka, {{QStringLiteral("L"), {{QStringLiteral("stará")}}}});
             selze(krok, cislo);
             zadejNazev("Polka");
+            dialogs.expect("Tato skladba již existuje!", "", Answer::Yes);
             ocekavejKontakt(cislo);
             zivot.cmdNovaSkladba();
             EXPECT_EQ(dialogs.last.icon, Icon::Critical);
             ocekavejBezPisne();
-            drive.deleteFile(polka);
+            EXPECT_EQ(storedText(polka, "A1"), "stará");
+            EXPECT_EQ(drive.files(pracovniAdresar), QStringList{"Polka.xls"});
         }
 }
 
