@@ -185,6 +185,7 @@ void Konverze::poBehu(KonecBehu konec) {
 
 void Konverze::dokonci() {
     SpreadsheetApplication& excel = pisen_.excel();
+    najdiNeprevedene();
     const int posledni = std::min(excel.activeRow() + radkuPodPisni, lastRow);
     excel.clearContents(adresaSloupce(sloupce::prstoklad, posledni));
     excel.selectRange(adresa(sloupce::slabika, 1)); // the run has scrolled the syllables out of sight
@@ -196,6 +197,14 @@ void Konverze::dokonci() {
                                      "požadavků a uložena do souboru \n") +
                           kopie_ + u'.',
                       Icon::Information});
+}
+
+/// What stands below the end of the run, and in the row of it where no cell of it was converted.
+void Konverze::najdiNeprevedene() {
+    const auto konec = parseAddress(pisen_.excel().activeAddress());
+    if (!konec) return;
+    const int od = konec->first.row + (konec->first.column > sloupce::tony.prvni ? 1 : 0);
+    ztraty_.nastavKonec(adresa(konec->first.column, konec->first.row), SongReader(pisen_).radkySHmaty(od));
 }
 
 /// Another sheet of the song may have that name; the song is converted nonetheless.

@@ -44,6 +44,7 @@ private:
     void proved(const QString& cilova, KonecBehu (BehKonverze::*odkud)());
     void poBehu(KonecBehu konec);
     void dokonci();
+    void najdiNeprevedene();
     void prejmenujList(const QString& jmeno);
     void cekejNaStupnici();
     void zavri();

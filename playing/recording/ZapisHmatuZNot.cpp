@@ -64,7 +64,7 @@ bool ZapisHmatuZNot::pridejTon(QStringList& tony, int slot) {
 }
 
 void ZapisHmatuZNot::SeradTonyHmatu(SongSheet& list, int radek) {
-    QStringList tony = list.grip(radek).tony;
+    QStringList tony = list.tonyDoMezery(radek);
     const auto niz = [](const QString& a, const QString& b) {
         return cisloTonu(ToneName(a)) < cisloTonu(ToneName(b));
     };

@@ -123,7 +123,9 @@ QString ZobrazeniHmatu::upozorneni(const Grip& hmat, const QStringList& ciziTony
         vety.append(QStringLiteral("Neznámý bas v tabulce: %1.").arg(ciziBasy.join(u' ')));
         vety.append(plochy_.tabulkaBasu.chyba());
     }
-    if (hmat.tonyZaMezerou) vety.append(QStringLiteral("Tóny za prázdnou buňkou se nečtou."));
+    if (hmat.bezPrvnihoTonu)
+        vety.append(QStringLiteral("Sloupec B je na tomto řádku prázdný: pro hledání posledního hmatu a pro "
+                                   "převod tu písnička končí."));
     if (hmat.basyZaMezerou) vety.append(QStringLiteral("Basy za prázdnou buňkou se nečtou."));
     return vety.join(u' ').trimmed();
 }

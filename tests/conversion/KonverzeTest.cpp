@@ -167,22 +167,27 @@ TEST_F(KonverzeTest, HeligonkaVersionsCarryTheNameOfATuning) {
 TEST_F(KonverzeTest, RowsOfAnyShapeAreReadToTheirEnd) {
     const struct {
         const char *popis, *puvodni, *prevedeny;
-        bool dalsiRadek; ///< the row below is converted too
+        const char *konec = "", *zbyva = ""; ///< where the run ends before the row below, and what is left
     } radky[] = {
-        {"gap in the grip", "B=c1,|E=e1,|I=Tah", "B=g,|E=h,|I=Tah", true},
-        {"direction too early", "B=c1,|C=Tlak|D=e1,", "B=g,|C=Tlak|D=e1,", true},
-        {"no direction", "B=c1,|C=e1,", "B=g,|C=h,", false},
-        {"another direction", "B=c1,|I=tah", "B=g,|I=tah", false},
+        {"gap in the grip", "B=c1,|E=e1,|I=Tah", "B=g,|E=h,|I=Tah"},
+        {"direction too early", "B=c1,|C=Tlak|D=e1,", "B=g,|C=Tlak|D=e1,"},
+        {"no direction", "B=c1,|C=e1,", "B=g,|C=h,", "D2", "řádek 3"},
+        {"another direction", "B=c1,|I=tah", "B=g,|I=tah", "C2", "řádek 3"},
         {"other text as direction", "B=c1,|C=c1,|D=c1,|E=c1,|F=c1,|G=c1,|H=c1,|I=x|J=e1,|L=e1,",
-         "B=g,|C=g,|D=g,|E=g,|F=g,|G=g,|H=g,|J=h,|L=e1,", false},
-        {"no tones", "C=c1,|I=Tah", "C=c1,|I=Tah", false},
+         "B=g,|C=g,|D=g,|E=g,|F=g,|G=g,|H=g,|J=h,|L=e1,", "K2", "řádek 3"},
+        {"no tones", "C=c1,|I=Tah", "C=c1,|I=Tah", "B2", "řádky 2–3"},
+        {"an empty row", "A=la", "A=la", "B2", "řádek 3"},
     };
     for (const auto& r : radky) {
         otevri({tah, r.puvodni + QString("|W=C dur"), tah});
         ocekavejHotovo();
         preved("G dur");
-        EXPECT_EQ(radek(2), r.prevedeny + QString(r.dalsiRadek ? "|W=G dur" : "|W=C dur")) << r.popis;
-        EXPECT_EQ(excel->text("B3"), r.dalsiRadek ? "g," : "c1,") << r.popis;
+        const bool dalsiRadek = !*r.konec;
+        EXPECT_EQ(radek(2), r.prevedeny + QString(dalsiRadek ? "|W=G dur" : "|W=C dur")) << r.popis;
+        EXPECT_EQ(excel->text("B3"), dalsiRadek ? "g," : "c1,") << r.popis;
+        const QString veta = "Převod skončil u prázdné buňky %1. Nepřevedeno zůstalo: %2.";
+        EXPECT_TRUE(konverze.veta().endsWith(dalsiRadek ? QString() : veta.arg(r.konec, r.zbyva))) << r.popis;
+        EXPECT_EQ(konverze.veta().contains("Převod skončil"), !dalsiRadek) << r.popis;
     }
 }
 
@@ -249,8 +254,21 @@ TEST_F(KonverzeTest, WhatIsLostIsTold) {
     preved("Fis dur");
     EXPECT_EQ(excel->text("B3"), "ais4,");
     EXPECT_EQ(excel->text("B1"), "");
-    EXPECT_EQ(konverze.veta(),
-              "Převod: v tabulce chybí 4 tóny (řádky 1–3), mimo rozsah nástroje 2 tóny (řádky 2–3).");
+    EXPECT_EQ(
+        konverze.veta(),
+        "Ztratil se nejnižší tón (řádek 1): sloupec B je tam prázdný a pro každého, kdo kopii čte, končí "
+        "písnička před řádkem 1. Převod: v tabulce chybí 4 tóny (řádky 1–3), mimo rozsah nástroje "
+        "2 tóny (řádky 2–3).");
+}
+
+TEST_F(KonverzeTest, AKeyThatIsNoneIsNamedAsTheReasonOfTheLoss) {
+    otevri({"B=c1,|C=e1,|I=Tah|W=Vyberte tóninu", "B=d1,|I=Tlak|W=Vyberte tóninu", "B=e1,|I=Tah|W=C Dur"});
+    dialogs.expect("Přechod do jiné stupnice", "", Answer::No);
+    ocekavejHotovo();
+    preved("G dur");
+    EXPECT_EQ(konverze.veta().section(": ", 2),
+              "„Vyberte tóninu“ ve sloupci W není tónina, bez ní nebylo čím nahradit 3 tóny (řádky 1–2).");
+    EXPECT_EQ(excel->text("B3"), "h,");
 }
 
 TEST_F(KonverzeTest, ASongChosenInTheDialogIsClosedAgain) {
