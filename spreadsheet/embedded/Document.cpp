@@ -39,7 +39,7 @@ void Document::passSignalsOn() {
     connect(&cursor_, &SheetCursor::selectionChanged, this, &Document::selectionChanged);
     connect(&file_, &DocumentFile::nameChanged, this, &Document::nameChanged);
     connect(&file_, &DocumentFile::modifiedChanged, this, &Document::modifiedChanged);
-    connect(&journal_, &DocumentJournal::troubleChanged, this, &Document::journalTroubleChanged);
+    connect(&journal_, &WorkbookJournal::troubleChanged, this, &Document::journalTroubleChanged);
 }
 
 std::unique_ptr<Document> Document::open(const QString& nativePath, JournalFolder journals) {

@@ -4,8 +4,8 @@
 #include "platform/files/LockSentences.h"
 #include "spreadsheet/Refusals.h"
 #include "spreadsheet/embedded/FileSentences.h"
-#include "spreadsheet/embedded/RecoverySentences.h"
 #include "spreadsheet/embedded/Session.h"
+#include "spreadsheet/journal/RecoverySentences.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/files/FileLock.h"
-#include "spreadsheet/embedded/journal/JournalFolder.h"
+#include "spreadsheet/journal/JournalFolder.h"
 
 #include <QString>
 

@@ -1,6 +1,6 @@
-#include "spreadsheet/embedded/journal/JournalFolder.h"
+#include "spreadsheet/journal/JournalFolder.h"
 
-#include "spreadsheet/embedded/journal/ContentHash.h"
+#include "spreadsheet/journal/ContentHash.h"
 
 #include <QCryptographicHash>
 #include <QDir>

@@ -1,4 +1,6 @@
-#include "spreadsheet/embedded/RecoverySentences.h"
+#include "spreadsheet/journal/RecoverySentences.h"
+
+#include "spreadsheet/FileRefusals.h"
 
 namespace zvonika {
 
@@ -65,6 +67,10 @@ QString partlyRecovered(const QString& workbook, int refused) {
     return QStringLiteral("V sešitu „%1“ se nepodařilo vrátit %2 z těch, které po programu zůstaly. "
                           "Zkontrolujte ho prosím, než ho uložíte.")
         .arg(workbook, refused == 1 ? QStringLiteral("1 změnu") : changesInWords(refused));
+}
+
+QString journalRefused(const std::error_code& error) {
+    return QStringLiteral("změny nejsou zajištěny proti výpadku: %1").arg(reason::ofDisk(error));
 }
 
 } // namespace zvonika

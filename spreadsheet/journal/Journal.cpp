@@ -1,6 +1,6 @@
-#include "spreadsheet/embedded/journal/Journal.h"
+#include "spreadsheet/journal/Journal.h"
 
-#include "spreadsheet/embedded/journal/JournalFormat.h"
+#include "spreadsheet/journal/JournalFormat.h"
 
 namespace zvonika {
 

@@ -1,8 +1,10 @@
 #pragma once
 
-#include "spreadsheet/embedded/journal/JournalContents.h"
+#include "spreadsheet/journal/JournalContents.h"
 
 #include <QString>
+
+#include <system_error>
 
 namespace zvonika {
 
@@ -16,5 +18,7 @@ QString recoveryQuestion(const QString& workbook, const JournalContents& journal
 QString unreadableJournal(const QString& workbook, const QString& place);
 /// Some changes could not be made.
 QString partlyRecovered(const QString& workbook, int refused);
+/// Why changes cannot be recorded for the case of a crash.
+QString journalRefused(const std::error_code& error);
 
 } // namespace zvonika

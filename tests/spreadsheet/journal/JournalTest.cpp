@@ -1,7 +1,7 @@
-#include "spreadsheet/embedded/journal/Journal.h"
+#include "spreadsheet/journal/Journal.h"
 
-#include "spreadsheet/embedded/journal/ContentHash.h"
-#include "spreadsheet/embedded/journal/JournalFormat.h"
+#include "spreadsheet/journal/ContentHash.h"
+#include "spreadsheet/journal/JournalFormat.h"
 #include "tests/spreadsheet/embedded/Rig.h"
 #include "tests/spreadsheet/embedded/SmallDisk.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "spreadsheet/embedded/journal/JournalContents.h"
-#include "spreadsheet/embedded/journal/JournalFile.h"
+#include "spreadsheet/journal/JournalContents.h"
+#include "spreadsheet/journal/JournalFile.h"
 
 #include <QString>
 #include <QStringList>

@@ -1,4 +1,4 @@
-#include "spreadsheet/embedded/journal/JournalFile.h"
+#include "spreadsheet/journal/JournalFile.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "spreadsheet/embedded/journal/JournalFolder.h"
+#include "spreadsheet/journal/JournalFolder.h"
 
 #include <optional>
 
