@@ -2,6 +2,7 @@
 
 #include "platform/Dialogs.h"
 #include "spreadsheet/Refusals.h"
+#include "spreadsheet/SaveSentences.h"
 
 namespace zvonika {
 
@@ -12,6 +13,11 @@ bool wantsToSave(Dialogs& dialogs, const QString& title, const QString& workbook
 
 bool mayReplace(Dialogs& dialogs, const QString& title, const QString& fileName) {
     const QString question = QStringLiteral("Soubor „%1“ už existuje. Chcete ho nahradit?").arg(fileName);
+    return dialogs.message({title, question, Icon::Exclamation, Buttons::YesNo, Answer::No}) == Answer::Yes;
+}
+
+bool mayOverwrite(Dialogs& dialogs, const QString& title, const QString& nativePath) {
+    const QString question = overwriteQuestion(nativePath);
     return dialogs.message({title, question, Icon::Exclamation, Buttons::YesNo, Answer::No}) == Answer::Yes;
 }
 

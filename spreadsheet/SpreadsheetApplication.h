@@ -80,7 +80,7 @@ public:
     /// Brings a workbook to the front by its file name; 9 when it is not open or the name is empty.
     virtual void activateWindow(const QString& name) = 0;
 
-    // --- sheets ---
+    // --- sheets: those that the user can see; hidden ones are not counted, walked or found by name ---
     virtual QString activeSheetName() const = 0;
     virtual void renameActiveSheet(const QString& name) = 0;
     virtual int activeSheetIndex() const = 0; ///< from 1

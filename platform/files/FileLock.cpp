@@ -3,6 +3,7 @@
 #include "platform/RuntimeError.h"
 #include "platform/files/ExclusiveFile.h"
 #include "platform/files/LockSentences.h"
+#include "platform/files/OfficeLock.h"
 #include "platform/files/ProcessStart.h"
 
 #include <QCoreApplication>
@@ -123,12 +124,13 @@ QString FileLock::lockName(const QString& nativePath) {
 std::optional<LockHolder> FileLock::holder(const QString& nativePath) {
     if (isNoName(nativePath)) return {};
     const Found found = lookWhenWritten(lockName(nativePath));
-    return found.counts() ? std::optional(found.holder) : std::nullopt;
+    return found.counts() ? std::optional(found.holder) : officeLockHolder(nativePath);
 }
 
 FileLock FileLock::acquire(const QString& nativePath) {
     FileLock lock;
     if (isNoName(nativePath)) return lock;
+    if (const auto office = officeLockHolder(nativePath)) refuse(nativePath, *office);
     const QString path = lockName(nativePath);
     for (int i = 0; i < attempts; ++i) {
         const Found found = lookWhenWritten(path);

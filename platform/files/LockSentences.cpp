@@ -7,12 +7,20 @@
 
 namespace zvonika {
 
+namespace {
+
+QString programOf(const LockHolder& holder) {
+    const QString program = QStringLiteral("program %1").arg(holder.program);
+    return holder.process == 0 ? program : program + QStringLiteral(", proces %1").arg(holder.process);
+}
+
+} // namespace
+
 QString whoHolds(const LockHolder& holder) {
     QStringList known;
     if (!holder.user.isEmpty()) known << QStringLiteral("uživatel %1").arg(holder.user);
     if (!holder.host.isEmpty()) known << QStringLiteral("počítač %1").arg(holder.host);
-    if (holder.process != 0)
-        known << QStringLiteral("program %1, proces %2").arg(holder.program).arg(holder.process);
+    if (!holder.program.isEmpty()) known << programOf(holder);
     if (known.isEmpty()) known << QStringLiteral("neznámý uživatel");
     return known.join(QStringLiteral(", "));
 }

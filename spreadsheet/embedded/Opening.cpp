@@ -1,8 +1,7 @@
 #include "spreadsheet/embedded/Opening.h"
 
 #include "platform/Log.h"
-#include "platform/files/LockSentences.h"
-#include "spreadsheet/Refusals.h"
+#include "platform/files/OpeningLock.h"
 #include "spreadsheet/embedded/FileSentences.h"
 #include "spreadsheet/embedded/Session.h"
 #include "spreadsheet/journal/RecoverySentences.h"
@@ -16,7 +15,8 @@ Opening::Opening(Session& session, JournalFolder journals)
     : session_(session), journals_(std::move(journals)) {}
 
 std::unique_ptr<Document> Opening::open(const QString& nativePath) {
-    auto document = Document::open(nativePath, journals_, lock(nativePath));
+    auto document =
+        Document::open(nativePath, journals_, lockToOpen(session_.dialogs(), jmenoTabulky, nativePath));
     for (auto& pending : pending(nativePath))
         offer(*document, std::move(pending));
     return document;
@@ -30,22 +30,6 @@ void Opening::recoverUnsaved() {
         offer(*document, std::move(pending));
         if (document->journal().hasRecovered()) session_.add(std::move(document));
     }
-}
-
-/// A lock can outlive its owner on a computer that is no longer there; the file itself cannot be spoiled by
-/// opening it, and a save notices what the other one has written.
-FileLock Opening::lock(const QString& nativePath) {
-    const auto holder = FileLock::holder(nativePath);
-    if (!holder || holder->isThisProcess()) return FileLock::acquire(nativePath);
-    const QString question =
-        QStringLiteral("Soubor „%1“ má už otevřený někdo jiný:\n%2.\n\n"
-                       "Kdybyste ho měnili oba, mohl by jeden z Vás o svou práci přijít. "
-                       "Chcete ho přesto otevřít?")
-            .arg(QFileInfo(nativePath).fileName(), whoHolds(*holder));
-    const Answer answer =
-        session_.dialogs().message({jmenoTabulky, question, Icon::Exclamation, Buttons::YesNo, Answer::No});
-    if (answer != Answer::Yes) refuse(openElsewhere(nativePath, *holder));
-    return FileLock::takeOver(nativePath);
 }
 
 std::vector<PendingJournal> Opening::pending(const QString& nativePath) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/files/FileLock.h"
 #include "spreadsheet/journal/JournalFolder.h"
 
 #include <QString>
@@ -26,7 +25,6 @@ public:
     void recoverUnsaved();
 
 private:
-    FileLock lock(const QString& nativePath);
     std::vector<PendingJournal> pending(const QString& nativePath);
     void offer(Document& document, PendingJournal pending);
     bool wanted(const Document& document, const PendingJournal& pending);

@@ -57,11 +57,7 @@ void Session::remove(Document& document) {
 
 void Session::refuseTwin(const QString& name, const Document* self) const {
     const Document* open = find(name);
-    if (open && open != self)
-        refuse(
-            QStringLiteral("Sešit „%1“ je už otevřen v okně tabulky; dva sešity téhož jména najednou otevřít "
-                           "nelze. Uložte ho tam pod jiným jménem, nebo ho zavřete.")
-                .arg(open->file().name()));
+    if (open && open != self) zvonika::refuseTwin(open->file().name());
 }
 
 void Session::end(State state) {

@@ -41,9 +41,13 @@ CalcSession::CalcSession(const LibreOfficeSurroundings& surroundings, const QStr
              surroundings.signOver, surroundings.patience) {
     const QString pipe = freshPipe();
     process_ = started(surroundings_, folder, pipe);
-    notices_ = std::make_shared<UserNotices>(
-        [this] { return calls_.busy(); },
-        [process = process_](const QString& path) { process->tellDocument(path); });
+    files_ = std::make_shared<OpenFiles>(process_->profileUrl());
+    notices_ = std::make_shared<UserNotices>([this] { return calls_.busy(); },
+                                             [process = process_, files = files_](const QString& path) {
+                                                 process->tellDocument(path);
+                                                 files->learn(path);
+                                             },
+                                             [files = files_](const QString& path) { files->close(path); });
     connectTo(pipe);
     process_->tellStarted();
 }
@@ -90,6 +94,7 @@ void CalcSession::end() {
     if (quits()) process_->waitForEnd(endTakes);
     ended_ = true;
     process_->end();
+    files_->closeAll();
     calls_.detach();
 }
 

@@ -21,7 +21,7 @@ struct LibreOfficeApplication::Parts {
     ReadAhead seen;
     CalcFolder folder{calls, places};
     PacedCursor cursor{calls, seen};
-    Workbooks workbooks{calls, seen, dialogs, places};
+    Workbooks workbooks{calls, seen, dialogs, places, session.files()};
     Sheets sheets{calls};
     Cells cells{calls, cursor, seen};
     Clipboard clipboard{workbooks, cells};

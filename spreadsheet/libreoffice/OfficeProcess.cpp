@@ -26,12 +26,16 @@ using std::chrono::milliseconds;
 constexpr int lockInGuardian = 3;
 constexpr milliseconds guardianTakes{4000}; ///< for ending the office and clearing up
 
+QString urlOf(const Profile& profile) {
+    return QString::fromLatin1(QUrl::fromLocalFile(profile.path()).toEncoded());
+}
+
 std::vector<std::string> commandLine(const Installation& installation, const Profile& profile,
                                      const QString& pipe) {
-    const QByteArray url = QUrl::fromLocalFile(profile.path()).toEncoded();
+    const QString url = urlOf(profile);
     const QStringList parts = {
         installation.guardian,
-        QString::fromLatin1(url),
+        url,
         profile.path() + QStringLiteral("/vystup.txt"),
         installation.program + QStringLiteral("/soffice.bin"),
         QStringLiteral("--norestore"),
@@ -39,7 +43,7 @@ std::vector<std::string> commandLine(const Installation& installation, const Pro
         QStringLiteral("--nodefault"),
         QStringLiteral("--nolockcheck"),
         QStringLiteral("--accept=pipe,name=%1;urp;StarOffice.ComponentContext").arg(pipe),
-        QStringLiteral("-env:UserInstallation=") + QString::fromLatin1(url)};
+        QStringLiteral("-env:UserInstallation=") + url};
     std::vector<std::string> encoded;
     for (const QString& part : parts)
         encoded.push_back(QFile::encodeName(part).toStdString());
@@ -122,7 +126,8 @@ pid_t spawn(std::vector<std::string> command, int line, int profileLock) {
 
 } // namespace
 
-OfficeProcess::OfficeProcess(const Installation& installation, const Profile& profile, const QString& pipe) {
+OfficeProcess::OfficeProcess(const Installation& installation, const Profile& profile, const QString& pipe)
+    : profileUrl_(urlOf(profile)) {
     ignoreBrokenPipes();
     int ends[2];
     if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0) cannotStart(errno);

@@ -8,12 +8,38 @@ namespace zvonika {
 void UnsavedWorkbooks::offer() {
     for (const OpenWorkbook& workbook : workbooks_.all())
         if (workbook.modified && wantsToSave(dialogs_, jmenoCalcu, workbook.name)) save(workbook);
+    for (const QString& title : otherUnsaved())
+        leaveToOwner(title, [&] { return otherUnsaved().contains(title); });
+}
+
+QStringList UnsavedWorkbooks::otherUnsaved() {
+    return calls_.alive() ? calls_.ask([](CalcEngine& calc) { return calc.otherUnsaved(); }) : QStringList();
 }
 
 void UnsavedWorkbooks::save(const OpenWorkbook& workbook) {
     if (savedInPlace(workbook)) return;
+    if (workbook.format == WorkbookFormat::Other || workbook.encrypted)
+        return leaveToOwner(workbook.name, [&] { return isUnsaved(workbook.id); });
     while (!savedElsewhere(workbook)) {
     }
+}
+
+/// Calc's own window can be used while the box is up.
+void UnsavedWorkbooks::leaveToOwner(const QString& name, const std::function<bool()>& isUnsaved) {
+    const QString question =
+        QStringLiteral("„%1“ má v LibreOffice neuložené změny. Uložte ho prosím v jeho okně a pak "
+                       "zvolte Ano.\n\nNe: bude zavřen a změny v něm se ztratí.")
+            .arg(name);
+    while (isUnsaved() && dialogs_.message({jmenoCalcu, question, Icon::Exclamation, Buttons::YesNo,
+                                            Answer::Yes}) == Answer::Yes) {
+    }
+}
+
+bool UnsavedWorkbooks::isUnsaved(int id) {
+    if (!calls_.alive()) return false;
+    for (const OpenWorkbook& workbook : workbooks_.all())
+        if (workbook.id == id) return workbook.modified;
+    return false;
 }
 
 bool UnsavedWorkbooks::savedInPlace(const OpenWorkbook& workbook) {

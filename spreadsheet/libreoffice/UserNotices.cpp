@@ -2,8 +2,10 @@
 
 namespace zvonika {
 
-UserNotices::UserNotices(std::function<bool()> held, std::function<void(const QString&)> opened)
-    : held_(std::move(held)), opened_(std::move(opened)), receiver_(std::make_unique<QObject>()) {}
+UserNotices::UserNotices(std::function<bool()> held, std::function<void(const QString&)> opened,
+                         std::function<void(const QString&)> closed)
+    : held_(std::move(held)), opened_(std::move(opened)), closed_(std::move(closed)),
+      receiver_(std::make_unique<QObject>()) {}
 
 void UserNotices::cursorMoved() {
     ++acts_;

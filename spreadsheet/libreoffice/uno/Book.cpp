@@ -1,5 +1,6 @@
 #include "spreadsheet/libreoffice/uno/Book.h"
 
+#include "spreadsheet/FileRefusals.h"
 #include "spreadsheet/libreoffice/uno/Failures.h"
 #include "spreadsheet/libreoffice/uno/Interaction.h"
 
@@ -19,7 +20,10 @@ namespace zvonika {
 
 namespace {
 const rtl::OUString xlsFilter("MS Excel 97");
-}
+const QString notWritten =
+    QStringLiteral("LibreOffice Calc ho nezapsal; sešit zůstává otevřen v jeho okně, kde "
+                   "ho můžete uložit pod jiným jménem");
+} // namespace
 
 std::unique_ptr<Book> Book::of(const Ref<css::lang::XComponent>& document, CalcObserver& observer,
                                const Ref<css::frame::XDispatchHelper>& dispatcher, Keeper& keeper) {
@@ -56,14 +60,29 @@ OpenWorkbook Book::description() const {
     result.path = nativePath(model_->getURL());
     result.name = result.path.isEmpty() ? title() : QFileInfo(result.path).fileName();
     result.modified = as<css::util::XModifiable>(model_)->isModified();
+    result.format = format();
+    result.encrypted = isEncrypted();
     return result;
 }
 
-bool Book::isXls() const {
+/// How the workbook was opened or last saved.
+css::uno::Any Book::argument(const char* name) const {
     const auto arguments = model_->getArgs();
     for (const auto& argument : arguments)
-        if (argument.Name.equalsAscii("FilterName")) return argument.Value == css::uno::Any(xlsFilter);
-    return false;
+        if (argument.Name.equalsAscii(name)) return argument.Value;
+    return {};
+}
+
+WorkbookFormat Book::format() const {
+    rtl::OUString filter;
+    argument("FilterName") >>= filter;
+    if (filter.isEmpty() || filter == xlsFilter) return WorkbookFormat::Xls;
+    const bool old = filter.match("MS Excel 5.0/95") || filter.match("MS Excel 95");
+    return old ? WorkbookFormat::OldXls : WorkbookFormat::Other;
+}
+
+bool Book::isEncrypted() const {
+    return argument("EncryptionData").hasValue() || argument("Password").hasValue();
 }
 
 // Calc holds more rows, columns and longer names than the format and drops what does not fit without a word.
@@ -96,24 +115,37 @@ void Book::commitEntry() {
     select(single(here));
 }
 
-void Book::saveAs(const QString& nativePath) {
-    commitEntry();
-    refuseWhatXlsLoses();
+void Book::store(const QString& nativePath, const std::function<void(const Properties&)>& steps) {
     const rtl::Reference<Interaction> interaction(new Interaction);
-    as<css::frame::XStorable>(model_)->storeAsURL(
-        fileUrl(nativePath),
-        properties(property("FilterName", xlsFilter),
-                   property("InteractionHandler", Ref<css::task::XInteractionHandler>(interaction.get()))));
+    try {
+        steps(properties(
+            property("FilterName", xlsFilter),
+            property("InteractionHandler", Ref<css::task::XInteractionHandler>(interaction.get()))));
+    } catch (const css::lang::DisposedException&) {
+        throw;
+    } catch (const css::uno::Exception& failure) {
+        logFailure(failure);
+        refuse(cannotSave(nativePath, interaction->reason().isEmpty() ? notWritten : interaction->reason()));
+    }
     observer_.fileOpened(nativePath);
 }
 
-void Book::save() {
-    if (!isXls()) return saveAs(nativePath(model_->getURL()));
+void Book::saveAs(const QString& nativePath) {
     commitEntry();
     refuseWhatXlsLoses();
-    const rtl::Reference<Interaction> interaction(new Interaction);
-    as<css::frame::XStorable2>(model_)->storeSelf(
-        properties(property("InteractionHandler", Ref<css::task::XInteractionHandler>(interaction.get()))));
+    store(nativePath, [&](const Properties& saving) {
+        as<css::frame::XStorable>(model_)->storeAsURL(fileUrl(nativePath), saving);
+    });
+}
+
+void Book::save() {
+    const QString path = nativePath(model_->getURL());
+    if (format() == WorkbookFormat::OldXls) return saveAs(path);
+    commitEntry();
+    if (format() == WorkbookFormat::Xls) refuseWhatXlsLoses();
+    store(path, [&](const Properties& saving) {
+        as<css::frame::XStorable2>(model_)->storeSelf(properties(saving[1])); // in its own format
+    });
 }
 
 void Book::close() {

@@ -10,8 +10,10 @@
 #include <com/sun/star/lang/XComponent.hpp>
 #include <com/sun/star/sheet/XSpreadsheetView.hpp>
 #include <com/sun/star/sheet/XSpreadsheets.hpp>
+#include <functional>
 #include <memory>
 #include <rtl/ref.hxx>
+#include <vector>
 
 namespace zvonika {
 
@@ -32,8 +34,7 @@ public:
     void markClosed() { events_->markClosed(); } ///< a call has met nothing any more
     bool is(const Ref<css::uno::XInterface>& document) const { return identity_ == document; }
     OpenWorkbook description() const;
-    /// A file in the format .xls, and in no other.
-    bool isXls() const;
+    WorkbookFormat format() const;
     void saveAs(const QString& nativePath);
     void save();
     void close();
@@ -42,7 +43,7 @@ public:
     void setVisible(bool visible);
     void toFront();
 
-    // --- sheets ---
+    // --- sheets: those that are not hidden ---
     int activeSheet() const;
     QStringList sheetNames() const;
     void rename(const QString& name);
@@ -64,6 +65,10 @@ private:
          CalcObserver& observer, const Ref<css::frame::XDispatchHelper>& dispatcher, Keeper& keeper);
     Ref<css::sheet::XSpreadsheet> sheet() const;
     void refuseWhatXlsLoses() const;
+    void store(const QString& nativePath, const std::function<void(const Properties& saving)>& steps);
+    css::uno::Any argument(const char* name) const;
+    bool isEncrypted() const;
+    std::vector<sal_Int32> visibleSheets() const;
     void awaitKeys();
     void commitEntry();
     QString title() const;

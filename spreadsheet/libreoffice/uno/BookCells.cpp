@@ -3,6 +3,8 @@
 #include "spreadsheet/libreoffice/uno/Book.h"
 #include "spreadsheet/libreoffice/uno/Failures.h"
 
+#include <algorithm>
+#include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/container/XNamed.hpp>
 #include <com/sun/star/sheet/CellFlags.hpp>
 #include <com/sun/star/sheet/XCellRangeAddressable.hpp>
@@ -34,15 +36,30 @@ Ref<css::sheet::XSpreadsheet> Book::sheet() const {
     return active;
 }
 
+/// Their indexes, from 0.
+std::vector<sal_Int32> Book::visibleSheets() const {
+    const auto all = as<css::container::XIndexAccess>(sheets_);
+    std::vector<sal_Int32> visible;
+    for (sal_Int32 i = 0; i < all->getCount(); ++i) {
+        const Ref<css::beans::XPropertySet> sheet(all->getByIndex(i), css::uno::UNO_QUERY_THROW);
+        bool shown = true;
+        keeper_.keep(sheet)->getPropertyValue(rtl::OUString("IsVisible")) >>= shown;
+        if (shown) visible.push_back(i);
+    }
+    return visible;
+}
+
 int Book::activeSheet() const {
-    return as<css::sheet::XCellRangeAddressable>(sheet())->getRangeAddress().Sheet + 1;
+    const auto sheets = visibleSheets();
+    const sal_Int32 active = as<css::sheet::XCellRangeAddressable>(sheet())->getRangeAddress().Sheet;
+    return static_cast<int>(std::ranges::find(sheets, active) - sheets.begin()) + 1;
 }
 
 QStringList Book::sheetNames() const {
     const auto names = as<css::container::XNameAccess>(sheets_)->getElementNames();
     QStringList result;
-    for (const auto& name : names)
-        result << fromUno(name);
+    for (const sal_Int32 index : visibleSheets())
+        if (index < names.getLength()) result << fromUno(names[index]);
     return result;
 }
 
@@ -54,10 +71,10 @@ void Book::rename(const QString& name) {
 }
 
 void Book::selectSheet(int sheet) {
-    const Ref<css::sheet::XSpreadsheet> wanted(
-        as<css::container::XIndexAccess>(sheets_)->getByIndex(sheet - 1), css::uno::UNO_QUERY_THROW);
+    const sal_Int32 index = visibleSheets().at(static_cast<std::size_t>(sheet - 1));
+    const Ref<css::sheet::XSpreadsheet> wanted(as<css::container::XIndexAccess>(sheets_)->getByIndex(index),
+                                               css::uno::UNO_QUERY_THROW);
     view_->setActiveSheet(keeper_.keep(wanted));
-    if (activeSheet() != sheet) refuse(QStringLiteral("List číslo %1 je skrytý.").arg(sheet));
 }
 
 CellPosition Book::cursor() const {

@@ -3,6 +3,7 @@
 #include "spreadsheet/libreoffice/uno/Book.h"
 #include "spreadsheet/libreoffice/uno/Connection.h"
 #include "spreadsheet/libreoffice/uno/Failures.h"
+#include "spreadsheet/libreoffice/uno/FileEvents.h"
 
 #include <memory>
 #include <vector>
@@ -31,6 +32,7 @@ public:
     void saveAs(const QString& nativePath) override;
     void save() override;
     void close() override;
+    QStringList otherUnsaved() override;
 
     int activeSheet() override;
     QStringList sheetNames() override;
@@ -49,6 +51,10 @@ public:
 
 private:
     Ref<css::lang::XComponent> load(const QString& url, const QString& nativePath);
+    void closeStartCenter();
+    std::vector<Ref<css::lang::XComponent>> documents();
+    std::vector<Ref<css::lang::XComponent>> otherDocuments();
+    bool isBook(const Ref<css::lang::XComponent>& document) const;
     void adopt(const Ref<css::lang::XComponent>& document);
     void adoptStrangers();
     void dropClosed();
@@ -62,6 +68,7 @@ private:
     std::unique_ptr<Connection> connection_;
     CalcObserver& observer_;
     Ref<css::frame::XDispatchHelper> dispatcher_;
+    rtl::Reference<FileEvents> files_;
     std::vector<std::unique_ptr<Book>> books_;
     int activeId_ = 0;
     int lastId_ = 0;

@@ -12,6 +12,9 @@ public:
     void willChoose(const std::optional<QString>& file) override {
         world_.dialogs.expectFile(QStringLiteral("Vyberte písničku"), file);
     }
+    void willAnswer(const QString& textPart, Answer answer) override {
+        world_.dialogs.expect(jmenoTabulky, textPart, answer);
+    }
     void willSaveChanges(bool save) override {
         world_.dialogs.expect(jmenoTabulky, QStringLiteral("má neuložené změny. Chcete ho uložit?"),
                               save ? Answer::Yes : Answer::No);

@@ -93,7 +93,8 @@ TEST(UnsavedWorkbooks, ARefusedSaveIsToldAndOfferedElsewhere) {
         MemorySettings settings;
         HomeDrive drive(folder.path(), {});
         const WorkbookPlaces places(drive, settings);
-        Workbooks workbooks(world.calls, seen, dialogs, places);
+        OpenFiles files({});
+        Workbooks workbooks(world.calls, seen, dialogs, places, files);
         world.calc->open_ = {one.workbook};
         if (one.refused)
             world.calc->first = [](const QString& call) {

@@ -30,6 +30,7 @@ public:
     void saveAs(const QString& path) override { note("saveAs " + path); }
     void save() override { note("save"); }
     void close() override { note("close"); }
+    QStringList otherUnsaved() override { return {}; }
     int activeSheet() override { return 1; }
     QStringList sheetNames() override { return {"List1"}; }
     void renameSheet(const QString& name) override { note("renameSheet " + name); }

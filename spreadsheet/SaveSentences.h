@@ -4,8 +4,8 @@
 
 namespace zvonika {
 
-/// Questions of a save, and what is told when the user says no to them. Czech, for boxes of the built-in
-/// application.
+/// Questions of a save, and what is told when the user says no to them. Czech, for boxes of every
+/// spreadsheet.
 
 /// Another program has changed the file since it was opened.
 QString overwriteQuestion(const QString& nativePath);
