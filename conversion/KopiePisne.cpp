@@ -20,7 +20,7 @@ bool KopiePisne::uloz(const QString& cilova) {
         const QString kopie = pisen.chopped(delkaPripony) + u' ' + cilova;
         misto_ = pracovniAdresar + u'\\' + kopie + QStringLiteral(".xls");
         if (!uvolniMisto()) return false;
-        excel.saveActiveWorkbook();
+        pisen_.ulozAktivni();
         excel.saveActiveWorkbookAs({kopie});
     }
     pisen_.aktualniPisen = excel.activeWorkbookName();

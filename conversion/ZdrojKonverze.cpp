@@ -39,7 +39,7 @@ void ZdrojKonverze::vrat() {
     excel.setVisible(true);
     if (nactena_) {
         excel.activateWindow(pisen_.aktualniPisen);
-        excel.saveActiveWorkbook();
+        pisen_.ulozAktivni();
     } else if (pisen_.AktivujPisen()) {
         ulozAZavri();
     }
@@ -49,7 +49,7 @@ void ZdrojKonverze::vrat() {
 void ZdrojKonverze::ulozAZavri() {
     pisen_.aktualniPisen = pisenPredTim_;
     pisen_.plneJmeno = plneJmenoPredTim_;
-    pisen_.excel().saveActiveWorkbook();
+    pisen_.ulozAktivni();
     pisen_.excel().closeActiveWorkbook();
 }
 

@@ -17,6 +17,9 @@ struct Pisen {
     SpreadsheetApplication& excel();
     /// Brings the song's window to the front; false, silently, when it is not open.
     bool AktivujPisen();
+    /// Saves the active workbook. Where the application refuses (1004) and no cell was changed, nothing is
+    /// lost and nothing is raised.
+    void ulozAktivni();
     bool otevrena() const { return !aktualniPisen.isEmpty(); }
 };
 

@@ -41,6 +41,7 @@ void ZapisHmatuZNot::ZapisHmatZNot(SmerMechu smer) {
     list.vyberRadek(radek);
     okoli_.poZapisu.naDalsiRadek();
     okoli_.poZapisu.obnovOkno();
+    okoli_.poZapisu.oznamZapis(radek, smer);
 }
 
 bool ZapisHmatuZNot::zapisTony(SongSheet& list, int radek, Grip& hmat) {

@@ -3,6 +3,7 @@
 #include "platform/Hlaseni.h"
 #include "playing/song/PisenVOkne.h"
 #include "playing/song/SlozkaPisni.h"
+#include "song/RadaPoChybe.h"
 
 namespace zvonika {
 
@@ -48,7 +49,8 @@ void ZalozeniPisne::zalozPisen(const QString& plneJmeno, const PuvodniPisne& puv
         const RuntimeError chyba = chybaSCislem(vyjimka);
         vOkne_.zahodRozdelanou();
         if (ulozena) drive_.deleteFile(plneJmeno); // nothing was recorded in it yet
-        okoli_.panel.vystraha = chyba.cause();
+        okoli_.panel.vystraha =
+            QStringList{chyba.cause(), radaPoChybe(okoli_.pisen, chyba.number())}.join(u' ').trimmed();
         vratPuvodni(puvodni);
         okoli_.panel.oznamZmenu();
         okoli_.dialogs.message(hlaseniZalozeni(chyba.number()));

@@ -97,7 +97,13 @@ TEST_F(ZivotPisneTest, AFailureAnywhereInANewSongLeavesNoSongAndTheOneItWasToRep
             zadejNazev("Polka");
             dialogs.expect("Tato skladba již existuje!", "", Answer::Yes);
             ocekavejKontakt(cislo);
+            panel.vystraha.clear();
+            dialogs.whileUp = [&] {
+                EXPECT_EQ(panel.vystraha.isEmpty(), cislo != 0 || dialogs.last.icon != Icon::Critical)
+                    << "the cause is told beside the box";
+            };
             zivot.cmdNovaSkladba();
+            dialogs.whileUp = [] {};
             EXPECT_EQ(dialogs.last.icon, Icon::Critical);
             ocekavejBezPisne();
             EXPECT_EQ(storedText(polka, "A1"), "stará");
@@ -213,13 +219,63 @@ TEST_F(ZivotPisneTest, EndSavesAndClosesTheSongAlsoFromBehind) {
 TEST_F(ZivotPisneTest, EndReportsASaveThatFailedAndForgetsTheSong) {
     for (const int cislo : {1004, 0}) {
         otevriPolku(3);
+        excel->put("A1", "změna");
         selze("saveActiveWorkbook", cislo);
         ocekavejKontakt(cislo);
+        const QString cekano = cislo ? "Písnička zůstala otevřená v okně tabulky" : "saveActiveWorkbook";
+        dialogs.whileUp = [&] {
+            EXPECT_TRUE(panel.vystraha.contains(cekano)) << panel.vystraha.toStdString();
+        };
         zivot.cmdEndEdit();
+        dialogs.whileUp = [] {};
+        EXPECT_TRUE(panel.vystraha.contains(cekano)) << "until the next command";
         EXPECT_EQ(dialogs.last.icon, Icon::Critical);
-        EXPECT_EQ(panel.upozorneni.contains("saveActiveWorkbook"), cislo == 0) << "for who is asked for help";
         ocekavejBezPisne(1);
         excel->app().closeActiveWorkbook();
+    }
+}
+
+TEST_F(ZivotPisneTest, ARefusedSaveOfASongThatWasOnlyReadIsNoError) {
+    CellBlock gDur(4, QVector<CellValue>(22));
+    gDur[0][8] = QStringLiteral("Tah");
+    for (const bool zmenena : {false, true}) {
+        drive.readOnly = zmenena ? "" : "Soubor „Polka.xls“ je jen pro čtení.";
+        otevriPolku(3, gDur);
+        EXPECT_EQ(panel.vystraha.startsWith("Soubor „Polka.xls“ je jen pro čtení. "), !zmenena)
+            << "said when it is opened";
+        if (zmenena) excel->put("A1", "změna");
+        log.fail("saveActiveWorkbook", 1004);
+        EXPECT_EQ(raised([this] { zivot.Combo1Click("G dur"); }), zmenena ? 1004 : 0);
+        log.fail("saveActiveWorkbook", 1004);
+        if (zmenena) ocekavejKontakt(1004);
+        zivot.cmdEndEdit();
+        EXPECT_FALSE(log.isOrdered("saveActiveWorkbook")) << "saving was tried: the row is kept where it can";
+        ocekavejBezPisne(zmenena ? 1 : 0);
+        panel.vystraha.clear();
+    }
+}
+
+TEST_F(ZivotPisneTest, OpeningRemindsOfAKeyThatIsNotTheOneChosen) {
+    const struct {
+        const char *radku, *zvolena, *veta;
+    } pripady[] = {
+        {"G dur", "Vyberte tóninu", "Hmat je v tónině G dur, pro zápis ale tónina zvolena není (Ctrl+T)."},
+        {"G dur", "", "Hmat je v tónině G dur, pro zápis ale tónina zvolena není (Ctrl+T)."},
+        {"G Dur", "C dur", "Hmat je v tónině G dur, pro zápis je zvolena C dur (Ctrl+T)."},
+        {"G Dur", "G dur", ""},
+        {"Vyberte tóninu", "C dur", ""},
+        {"", "C dur", ""},
+    };
+    for (const auto& [radku, zvolena, veta] : pripady) {
+        CellBlock radky(1, QVector<CellValue>(23));
+        radky[0][1] = QStringLiteral("c1,");
+        radky[0][8] = QStringLiteral("Tah");
+        radky[0][22] = QString::fromUtf8(radku);
+        store(polka, {{QStringLiteral("Tonavox XII"), radky, QStringLiteral("B1")}});
+        tonina.nastavStupnici(Key(QString::fromUtf8(zvolena)));
+        otevri(polka);
+        EXPECT_EQ(panel.upozorneni, veta) << radku << ' ' << zvolena;
+        zivot.cmdEndEdit();
     }
 }
 

@@ -106,6 +106,26 @@ TEST_F(ZobrazeniHmatuTest, TonesAreReadAcrossGapsAndWhatIsNotReadIsTold) {
     EXPECT_TRUE(panel.upozorneni.startsWith("Sloupec B je na tomto řádku prázdný"));
 }
 
+TEST_F(ZobrazeniHmatuTest, AGripShownOnTheOtherSideThanItWasRecordedOnSaysSo) {
+    const struct {
+        const char* smer;
+        bool tlak;
+        const char *strana, *veta;
+    } pripady[] = {{"Tah", false, "", ""},
+                   {"Tlak", false, "zapsáno na tlak", "Hmat je ukázán na tah, ale zapsán na tlak (Ctrl+→)."},
+                   {"Tlak", true, "", ""},
+                   {"Tah", true, "zapsáno na tah", "Hmat je ukázán na tlak, ale zapsán na tah (Ctrl+←)."},
+                   {"", true, "", ""}};
+    for (const auto& [smer, tlak, strana, veta] : pripady) {
+        excel->put("I1", QString(smer));
+        tlak ? zobrazeni.cmdReadTlak() : zobrazeni.cmdReadTah();
+        EXPECT_EQ(panel.lblStrana, strana);
+        EXPECT_EQ(panel.upozorneni, veta);
+        zobrazeni.odeberHmat();
+        EXPECT_EQ(panel.lblStrana, "");
+    }
+}
+
 TEST_F(ZobrazeniHmatuTest, TextPanelShowsTheRowAndItsNeighbours) {
     for (int radek = 1; radek <= 7; ++radek)
         excel->put(QStringLiteral("A%1").arg(radek), QStringLiteral("s%1").arg(radek));
