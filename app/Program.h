@@ -45,6 +45,7 @@ private:
 
     void cursorMoved() override;
     void cellsEdited() override { cursorMoved(); }
+    void troubleChanged() override { udalosti_.ukazStav(); }
 
     Prostredi prostredi_;
     Modely modely_;

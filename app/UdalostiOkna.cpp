@@ -46,6 +46,8 @@ void UdalostiOkna::ukazStav() {
     stav.upozorneni = modely_.panel.upozorneni;
     stav.zapsano = modely_.panel.zapsano;
     modely_.panel.stav = stavovyRadek(stav);
+    modely_.panel.nezajisteno =
+        modely_.pisen.aplikaceExcel ? modely_.pisen.aplikaceExcel->trouble() : QString();
     modely_.panel.oznamZmenu();
 }
 

@@ -16,6 +16,8 @@ QString changesInWords(int count);
 QString recoveryQuestion(const QString& workbook, const JournalContents& journal, bool changedSince);
 /// A journal that is damaged from its beginning, and where it lies. `workbook`: "" when it was never saved.
 QString unreadableJournal(const QString& workbook, const QString& place);
+/// A journal that the system does not give, and where it lies. `workbook`: as above.
+QString closedJournal(const QString& workbook, const QString& place, const std::error_code& error);
 /// Some changes could not be made.
 QString partlyRecovered(const QString& workbook, int refused);
 /// Why changes cannot be recorded for the case of a crash.

@@ -42,6 +42,7 @@ public:
     void quit() override { on("quit").quit(); }
     void setListener(SpreadsheetListener* l) override { on("setListener").setListener(l); }
     void showToUser() override { on("showToUser").showToUser(); }
+    QString trouble() const override { return app_->trouble(); }
 
     void addWorkbook() override { on("addWorkbook").addWorkbook(); }
     void openWorkbook(const QString& name) override { on("openWorkbook").openWorkbook(name); }
