@@ -57,7 +57,7 @@ int Program::aktualniRadek() const {
 }
 
 void Program::cursorMoved() {
-    udalosti_.proved([this] { konverzace_.pisen().navigace.sledujKurzor(); });
+    udalosti_.nasleduj([this] { konverzace_.pisen().navigace.sledujKurzor(); });
 }
 
 void Program::prejdiNaHlavniOkno() {

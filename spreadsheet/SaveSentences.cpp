@@ -7,6 +7,9 @@ namespace zvonika {
 
 namespace {
 
+const QString noTwin =
+    QStringLiteral(" Odpovíte-li Ne, otevření ani uložení se neprovede a Zvonika oznámí chybu.");
+
 QString fileName(const QString& nativePath) {
     return QFileInfo(nativePath).fileName();
 }
@@ -17,7 +20,8 @@ QString overwriteQuestion(const QString& nativePath) {
     const QString when = QFileInfo(nativePath).lastModified().toString(QStringLiteral("d. M. yyyy 'v' H:mm"));
     return QStringLiteral("Soubor „%1“ na disku mezitím změnil jiný program (%2).\n\n"
                           "Když ho teď uložíte, to, co v něm ten program změnil, zmizí. "
-                          "Chcete ho přesto přepsat?")
+                          "Chcete ho přesto přepsat?\n\nOdpovíte-li Ne, soubor zůstane, jak je teď na disku, "
+                          "a sešit zůstane neuložený v okně tabulky; kde ho ukládala Zvonika, oznámí chybu.")
         .arg(fileName(nativePath), when);
 }
 
@@ -35,7 +39,9 @@ QString conversionQuestion(const QString& workbook) {
                "oblastmi nebo jinými soubory, nahradí jejich výsledky; komentáře, obrázky, grafy, listy "
                "s grafy a makry a pojmenované oblasti se ztratí a programy z té doby sešit už neotevřou. "
                "Kdo chce mít i původní soubor, ať sešit uloží pod jiným "
-               "jménem.\n\nChcete ho převést a uložit?")
+               "jménem.\n\nChcete ho převést a uložit? Odpovíte-li Ne, zůstane neuložený v okně tabulky; kde "
+               "ho "
+               "ukládala Zvonika, oznámí chybu.")
         .arg(workbook);
 }
 
@@ -50,10 +56,12 @@ QString twinQuestion(const QString& workbook, bool modified) {
     if (!modified)
         return QStringLiteral("Sešit „%1“ je ještě otevřen v okně tabulky a dva sešity téhož jména najednou "
                               "otevřít nelze.\n\nChcete ho zavřít?")
-            .arg(workbook);
+                   .arg(workbook) +
+               noTwin;
     return QStringLiteral("Sešit „%1“ je ještě otevřen v okně tabulky, má neuložené změny a dva sešity téhož "
                           "jména najednou otevřít nelze.\n\nChcete ho uložit pod jiným jménem a zavřít?")
-        .arg(workbook);
+               .arg(workbook) +
+           noTwin;
 }
 
 } // namespace zvonika

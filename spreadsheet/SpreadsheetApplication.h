@@ -79,6 +79,8 @@ public:
     virtual void saveActiveWorkbookAs(const SaveAsArguments& arguments) = 0;
     virtual void saveActiveWorkbook() = 0;
     virtual void closeActiveWorkbook() = 0;
+    /// Cells or names of sheets have changed since it was opened or saved; the cursor does not count.
+    virtual bool activeWorkbookModified() const = 0;
     /// File name without folder; "" when the application has no workbook.
     virtual QString activeWorkbookName() const = 0;
     /// Brings a workbook to the front by its file name; 9 when it is not open or the name is empty.

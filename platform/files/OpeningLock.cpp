@@ -16,7 +16,7 @@ FileLock lockToOpen(Dialogs& dialogs, const QString& title, const QString& nativ
     const QString question =
         QStringLiteral("Soubor „%1“ má už otevřený někdo jiný:\n%2.\n\n"
                        "Kdybyste ho měnili oba, mohl by jeden z Vás o svou práci přijít. "
-                       "Chcete ho přesto otevřít?")
+                       "Chcete ho přesto otevřít? Odpovíte-li Ne, neotevře se nic a Zvonika oznámí chybu.")
             .arg(QFileInfo(nativePath).fileName(), whoHolds(*holder));
     const Answer answer = dialogs.message({title, question, Icon::Exclamation, Buttons::YesNo, Answer::No});
     if (answer != Answer::Yes)

@@ -30,8 +30,10 @@ public:
 
 private:
     void ukazList(const QString& list);
+    void oznamJenKeCteni();
 
     OkoliPisne okoli_;
+    const Drive& drive_;
     SongSheet list_;
     PisenVOkne vOkne_;
     ZalozeniPisne zalozeni_;

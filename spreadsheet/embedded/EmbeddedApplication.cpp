@@ -126,6 +126,10 @@ void EmbeddedApplication::closeActiveWorkbook() {
     session_.remove(closed);
 }
 
+bool EmbeddedApplication::activeWorkbookModified() const {
+    return document().file().isModified();
+}
+
 QString EmbeddedApplication::activeWorkbookName() const {
     requireRunning();
     return session_.active() ? session_.active()->file().name() : QString();

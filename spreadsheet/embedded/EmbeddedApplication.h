@@ -47,6 +47,7 @@ public:
     void saveActiveWorkbook() override;
     /// Without asking; unsaved changes are lost, but those that were recovered will be offered again.
     void closeActiveWorkbook() override;
+    bool activeWorkbookModified() const override;
     QString activeWorkbookName() const override;
     void activateWindow(const QString& name) override;
 

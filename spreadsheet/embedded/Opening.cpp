@@ -31,8 +31,6 @@ void Opening::recoverUnsaved() {
     }
 }
 
-}
-
 void Opening::offer(Document& document, PendingJournal pending) {
     if (!offers_.wanted(pending, document.file().name(), document.file().hash())) return;
     offers_.tellRefused(document.file().name(), document.recover(std::move(pending)));

@@ -98,6 +98,10 @@ void LibreOfficeApplication::closeActiveWorkbook() {
     parts_->workbooks.closeActive();
 }
 
+bool LibreOfficeApplication::activeWorkbookModified() const {
+    return parts_->workbooks.active().modified;
+}
+
 QString LibreOfficeApplication::activeWorkbookName() const {
     return parts_->workbooks.activeName();
 }

@@ -32,6 +32,7 @@ public:
     /// A workbook that was never saved goes into the default folder.
     void saveActiveWorkbook() override;
     void closeActiveWorkbook() override;
+    bool activeWorkbookModified() const override;
     QString activeWorkbookName() const override;
     void activateWindow(const QString& name) override;
 

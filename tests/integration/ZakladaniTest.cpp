@@ -21,7 +21,7 @@ protected:
                        "vytvořte nejprve ručně tento adresář !!!");
         klikni("cmdNovaSkladba");
         EXPECT_EQ(dialogs.last.icon, Icon::Critical);
-        EXPECT_TRUE(napis("lblStav").contains(pricina)) << napis("lblStav").toStdString();
+        EXPECT_TRUE(napis("lblVarovani").contains(pricina)) << napis("lblVarovani").toStdString();
         ocekavejStavBezPisne();
         EXPECT_EQ(soubory(), predtim);
     }

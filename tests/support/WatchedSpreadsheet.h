@@ -56,6 +56,9 @@ public:
     }
     void saveActiveWorkbook() override { on("saveActiveWorkbook").saveActiveWorkbook(); }
     void closeActiveWorkbook() override { on("closeActiveWorkbook").closeActiveWorkbook(); }
+    bool activeWorkbookModified() const override {
+        return on("activeWorkbookModified").activeWorkbookModified();
+    }
     QString activeWorkbookName() const override { return on("activeWorkbookName").activeWorkbookName(); }
     void activateWindow(const QString& name) override { on("activateWindow").activateWindow(name); }
 

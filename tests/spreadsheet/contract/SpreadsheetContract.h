@@ -68,6 +68,7 @@ inline const std::vector<NamedCall>& callsOnWorkbook() {
         {"saveActiveWorkbookAs", [](App& app) { app.saveActiveWorkbookAs({QStringLiteral("x")}); }},
         {"saveActiveWorkbook", [](App& app) { app.saveActiveWorkbook(); }},
         {"closeActiveWorkbook", [](App& app) { app.closeActiveWorkbook(); }},
+        {"activeWorkbookModified", [](App& app) { app.activeWorkbookModified(); }},
         {"activeSheetName", [](App& app) { app.activeSheetName(); }},
         {"renameActiveSheet", [](App& app) { app.renameActiveSheet(QStringLiteral("x")); }},
         {"activeSheetIndex", [](App& app) { app.activeSheetIndex(); }},
@@ -227,6 +228,24 @@ TEST_P(SpreadsheetContract, SavedWorkbooksOpenWithCellsSheetAndCursor) {
     EXPECT_EQ(app.activeAddress(), QStringLiteral("$B$2"));
     const CellBlock expected{{QStringLiteral("Koč"), 1.5, true}, {{}, QStringLiteral("fis,"), {}}};
     EXPECT_EQ(app.readBlock(QStringLiteral("A1:C2")), expected);
+}
+
+TEST_P(SpreadsheetContract, OnlyCellsAndNamesOfSheetsCountAsAChange) {
+    const QString path = sample("xlwt.xls", QStringLiteral("pisen.xls"));
+    app.openWorkbook(path);
+    const auto modified = [this] { return app.activeWorkbookModified(); };
+    EXPECT_FALSE(modified());
+    app.selectRange(QStringLiteral("C7"));
+    app.moveCursor(1, 0);
+    app.selectSheet(2);
+    app.selectSheet(1);
+    EXPECT_FALSE(modified()) << "where one was is no change";
+    put(QStringLiteral("B1"), QStringLiteral("změna"));
+    EXPECT_TRUE(modified());
+    app.saveActiveWorkbook();
+    EXPECT_FALSE(modified());
+    app.renameActiveSheet(QStringLiteral("jiné"));
+    EXPECT_TRUE(modified());
 }
 
 TEST_P(SpreadsheetContract, ClosingThrowsAwayWhatWasNotSaved) {
