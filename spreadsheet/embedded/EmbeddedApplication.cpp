@@ -2,8 +2,8 @@
 
 #include "spreadsheet/Refusals.h"
 #include "spreadsheet/SaveOffers.h"
+#include "spreadsheet/SaveSentences.h"
 #include "spreadsheet/embedded/Opening.h"
-#include "spreadsheet/embedded/SaveSentences.h"
 #include "spreadsheet/embedded/Saving.h"
 
 #include <QFileInfo>

@@ -1,8 +1,8 @@
 #include "spreadsheet/embedded/Saving.h"
 
 #include "spreadsheet/SaveOffers.h"
+#include "spreadsheet/SaveSentences.h"
 #include "spreadsheet/embedded/Failures.h"
-#include "spreadsheet/embedded/SaveSentences.h"
 #include "spreadsheet/embedded/Session.h"
 
 #include <QDir>

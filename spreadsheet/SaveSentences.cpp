@@ -1,4 +1,4 @@
-#include "spreadsheet/embedded/SaveSentences.h"
+#include "spreadsheet/SaveSentences.h"
 
 #include <QDateTime>
 #include <QFileInfo>
