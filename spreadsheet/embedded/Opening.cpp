@@ -37,13 +37,8 @@ void Opening::recoverUnsaved() {
 FileLock Opening::lock(const QString& nativePath) {
     const auto holder = FileLock::holder(nativePath);
     if (!holder || holder->isThisProcess()) return FileLock::acquire(nativePath);
-    const QString question =
-        QStringLiteral("Soubor „%1“ má už otevřený někdo jiný:\n%2.\n\n"
-                       "Kdybyste ho měnili oba, mohl by jeden z Vás o svou práci přijít. "
-                       "Chcete ho přesto otevřít?")
-            .arg(QFileInfo(nativePath).fileName(), whoHolds(*holder));
-    const Answer answer =
-        session_.dialogs().message({jmenoTabulky, question, Icon::Exclamation, Buttons::YesNo, Answer::No});
+    const Answer answer = session_.dialogs().message(
+        {jmenoTabulky, openAnyway(nativePath, *holder), Icon::Exclamation, Buttons::YesNo, Answer::No});
     if (answer != Answer::Yes) refuse(openElsewhere(nativePath, *holder));
     return FileLock::takeOver(nativePath);
 }

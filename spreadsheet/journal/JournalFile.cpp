@@ -1,5 +1,7 @@
 #include "spreadsheet/journal/JournalFile.h"
 
+#include "platform/files/RegularDescriptor.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -42,6 +44,12 @@ void flushFolder(const QString& path) {
     ::close(folder);
 }
 
+/// What another user has put here is no journal of this one.
+bool isOurs(int file) {
+    struct stat info {};
+    return ::fstat(file, &info) == 0 && info.st_uid == ::geteuid();
+}
+
 /// Otherwise it is ours from now on; on a file system without locks, everybody's.
 bool isLockedByOther(int file) {
     return ::flock(file, LOCK_EX | LOCK_NB) < 0 && errno == EWOULDBLOCK;
@@ -51,7 +59,7 @@ bool isLockedByOther(int file) {
 bool isStillThere(int file, const QString& path) {
     struct stat here {};
     struct stat there {};
-    return ::fstat(file, &here) == 0 && ::stat(QFile::encodeName(path), &there) == 0 &&
+    return ::fstat(file, &here) == 0 && ::lstat(QFile::encodeName(path), &there) == 0 &&
            here.st_ino == there.st_ino && here.st_dev == there.st_dev;
 }
 
@@ -74,10 +82,10 @@ JournalFile JournalFile::create(const QString& path, const QByteArray& contents)
 }
 
 std::optional<JournalFile> JournalFile::open(const QString& path) {
-    const int file = ::open(QFile::encodeName(path), O_RDWR | O_CLOEXEC);
+    const int file = openRegular(QFile::encodeName(path), Links::Refuse, largestJournal, O_RDWR);
     if (file < 0) return {};
     JournalFile result(path, file);
-    if (isLockedByOther(file) || !isStillThere(file, path)) return {};
+    if (!isOurs(file) || isLockedByOther(file) || !isStillThere(file, path)) return {};
     result.torn_ = true;
     return result;
 }
