@@ -5,10 +5,12 @@
 #include "platform/files/LockSentences.h"
 #include "platform/files/OfficeLock.h"
 #include "platform/files/ProcessStart.h"
+#include "platform/files/RegularFile.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QMessageAuthenticationCode>
 #include <QStringList>
 #include <QSysInfo>
 #include <QThread>
@@ -20,6 +22,7 @@ namespace zvonika {
 namespace {
 
 const QString formName = QStringLiteral("Tabulka Zvoniky 1");
+constexpr qint64 largestLock = 4096; ///< bytes
 constexpr int attempts = 40;
 constexpr unsigned long pauseBetween = 5; ///< ms; a lock is written in much less
 
@@ -29,14 +32,24 @@ QFileInfo lockedFile(const QString& nativePath) {
     return QFileInfo(canonical.isEmpty() ? nativePath : canonical);
 }
 
+/// Equal for equal identifiers, and tells nothing else of them: a lock lies where others read it.
+QString veiled(const QByteArray& identifier) {
+    if (identifier.isEmpty()) return {};
+    const QByteArray hash =
+        QMessageAuthenticationCode::hash(formName.toUtf8(), identifier, QCryptographicHash::Sha256);
+    return QString::fromLatin1(hash.toHex().left(32));
+}
+
 LockHolder ourselves() {
+    static const QString machine = veiled(QSysInfo::machineUniqueId());
+    static const QString boot = veiled(QSysInfo::bootUniqueId());
     const qint64 process = QCoreApplication::applicationPid();
     return {{},
             QSysInfo::machineHostName(),
             QCoreApplication::applicationName(),
             process,
-            QString::fromLatin1(QSysInfo::machineUniqueId()),
-            QString::fromLatin1(QSysInfo::bootUniqueId()),
+            machine,
+            boot,
             processStart(process).value_or(QString())};
 }
 
@@ -78,15 +91,24 @@ struct Found {
     bool counts() const { return state == State::Held || state == State::BeingWritten; }
 };
 
+/// What cannot be read is of somebody: a pipe or a folder, a link, too much of anything, a file of another
+/// user.
 Found look(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return QFileInfo::exists(path) ? Found{State::Held, {}, {}} : Found{};
-    const QByteArray text = file.read(4096);
-    if (text.isEmpty()) return {State::BeingWritten, {}, {}};
-    const auto holder = parsed(text);
-    if (!holder) return {State::Meaningless, text, {}};
-    return {isGone(*holder) ? State::Dead : State::Held, text, *holder};
+    const ReadBytes lock = readRegular(path, Links::Refuse, largestLock);
+    if (lock.trouble) {
+        const QFileInfo there(path);
+        return there.exists() || there.isSymLink() ? Found{State::Held, {}, {}} : Found{};
+    }
+    if (lock.bytes.isEmpty()) return {State::BeingWritten, {}, {}};
+    const auto holder = parsed(lock.bytes);
+    if (!holder) return {State::Meaningless, lock.bytes, {}};
+    return {isGone(*holder) ? State::Dead : State::Held, lock.bytes, *holder};
+}
+
+/// Of a link it would be the owner of what it leads to.
+QString ownerOf(const QString& path) {
+    const QFileInfo file(path);
+    return file.isSymLink() ? QString() : file.owner();
 }
 
 /// One that stays empty is of somebody all the same.
@@ -96,7 +118,7 @@ Found lookWhenWritten(const QString& path) {
         QThread::msleep(pauseBetween);
         found = look(path);
     }
-    if (found.counts()) found.holder.user = QFileInfo(path).owner();
+    if (found.counts()) found.holder.user = ownerOf(path);
     return found;
 }
 
@@ -110,6 +132,10 @@ bool isNoName(const QString& nativePath) {
 }
 
 } // namespace
+
+bool LockHolder::isReadable() const {
+    return process != 0 || !host.isEmpty() || !program.isEmpty();
+}
 
 bool LockHolder::isThisProcess() const {
     const LockHolder here = ourselves();

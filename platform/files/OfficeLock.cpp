@@ -1,5 +1,7 @@
 #include "platform/files/OfficeLock.h"
 
+#include "platform/files/RegularFile.h"
+
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
@@ -16,9 +18,7 @@ enum Field { FullName, Login, Host, Since, Profile, FieldCount };
 
 /// A link, a pipe or a device under the name is there, but says nothing.
 QByteArray contentsOf(const QFileInfo& lock) {
-    QFile file(lock.filePath());
-    if (lock.isSymLink() || !lock.isFile() || !file.open(QIODevice::ReadOnly)) return {};
-    return file.read(mostBytes);
+    return readRegular(lock.filePath(), Links::Refuse, mostBytes).bytes;
 }
 
 /// "name,login,host,time,profile;": a backslash stands before what is no separator.

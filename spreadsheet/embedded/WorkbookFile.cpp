@@ -2,12 +2,12 @@
 
 #include "platform/Log.h"
 #include "platform/RuntimeError.h"
+#include "platform/files/RegularFile.h"
 #include "spreadsheet/Refusals.h"
 #include "spreadsheet/embedded/FileSentences.h"
 #include "spreadsheet/journal/ContentHash.h"
 
 #include <QFile>
-#include <QFileInfo>
 
 #include <new>
 
@@ -18,19 +18,10 @@ namespace {
 /// Beyond what the format can hold; keeps a wrongly chosen film from filling the memory.
 constexpr qint64 largestFile = qint64{512} << 20;
 
-void refuseUnlessFile(const QString& path) {
-    const QFileInfo info(path);
-    if (path.contains(QChar(u'\0')) || !info.exists())
-        refuse(openRefused(path, std::errc::no_such_file_or_directory));
-    if (info.isDir()) refuse(openRefused(path, std::errc::is_a_directory));
-    if (!info.isFile()) refuse(openRefused(path, std::errc::no_such_device));
-    if (info.size() > largestFile) refuse(openRefused(path, std::errc::file_too_large));
-}
-
 xls::Bytes readBytes(const QString& path) {
-    refuseUnlessFile(path);
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) refuse(openRefused(path, std::errc::permission_denied));
+    QFile file;
+    if (const std::error_code reason = openRegular(file, path, Links::Follow, largestFile))
+        refuse(openRefused(path, std::errc(reason.default_error_condition().value())));
     xls::Bytes bytes(static_cast<std::size_t>(file.size()));
     const qint64 read = file.read(reinterpret_cast<char*>(bytes.data()), static_cast<qint64>(bytes.size()));
     if (read != static_cast<qint64>(bytes.size())) refuse(openRefused(path, std::errc::io_error));

@@ -1,13 +1,15 @@
 #include "spreadsheet/journal/ContentHash.h"
 
+#include "platform/files/RegularFile.h"
+
 #include <QCryptographicHash>
 #include <QFile>
-#include <QFileInfo>
 
 namespace zvonika {
 
 namespace {
 
+constexpr qint64 largestFile = qint64{1} << 30; ///< more than any workbook has
 constexpr auto algorithm = QCryptographicHash::Blake2b_256;
 
 } // namespace
@@ -19,8 +21,8 @@ QByteArray contentHash(std::span<const std::uint8_t> bytes) {
 }
 
 QByteArray contentHashOfFile(const QString& nativePath) {
-    QFile file(nativePath);
-    if (!QFileInfo(nativePath).isFile() || !file.open(QIODevice::ReadOnly)) return {};
+    QFile file;
+    if (openRegular(file, nativePath, Links::Follow, largestFile)) return {};
     QCryptographicHash hash(algorithm);
     return hash.addData(&file) ? hash.result() : QByteArray();
 }

@@ -1,5 +1,7 @@
 #include "spreadsheet/journal/JournalFile.h"
 
+#include "platform/files/RegularDescriptor.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -45,6 +47,12 @@ void flushFolder(const QString& path) {
         throw std::system_error(failure, std::generic_category());
 }
 
+/// What another user has put here is no journal of this one.
+bool isOurs(int file) {
+    struct stat info {};
+    return ::fstat(file, &info) == 0 && info.st_uid == ::geteuid();
+}
+
 /// Otherwise it is ours from now on; on a file system without locks, everybody's.
 bool isLockedByOther(int file) {
     return ::flock(file, LOCK_EX | LOCK_NB) < 0 && errno == EWOULDBLOCK;
@@ -54,7 +62,7 @@ bool isLockedByOther(int file) {
 bool isStillThere(int file, const QString& path) {
     struct stat here {};
     struct stat there {};
-    return ::fstat(file, &here) == 0 && ::stat(QFile::encodeName(path), &there) == 0 &&
+    return ::fstat(file, &here) == 0 && ::lstat(QFile::encodeName(path), &there) == 0 &&
            here.st_ino == there.st_ino && here.st_dev == there.st_dev;
 }
 
@@ -77,11 +85,11 @@ JournalFile JournalFile::create(const QString& path, const QByteArray& contents)
 }
 
 std::optional<JournalFile> JournalFile::open(const QString& path, std::error_code* failure) {
-    const int file = ::open(QFile::encodeName(path), O_RDWR | O_CLOEXEC);
+    const int file = openRegular(QFile::encodeName(path), Links::Refuse, largestJournal, O_RDWR);
     if (file < 0 && failure && errno != ENOENT) *failure = {errno, std::generic_category()};
     if (file < 0) return {};
     JournalFile result(path, file);
-    if (isLockedByOther(file) || !isStillThere(file, path)) return {};
+    if (!isOurs(file) || isLockedByOther(file) || !isStillThere(file, path)) return {};
     result.torn_ = true;
     return result;
 }

@@ -1,5 +1,6 @@
 #include "spreadsheet/journal/JournalFolder.h"
 
+#include "platform/files/PrivateFolder.h"
 #include "spreadsheet/journal/ContentHash.h"
 
 #include <QCryptographicHash>
@@ -64,7 +65,7 @@ bool isOlder(const PendingJournal& a, const PendingJournal& b) {
 
 JournalFile JournalFolder::begin(const QString& song, const QByteArray& contents) const {
     const QDir folder(path_);
-    if (!folder.exists() && !QDir().mkpath(path_))
+    if (!makePrivateFolder(path_))
         throw std::system_error(std::make_error_code(std::errc::no_such_file_or_directory));
     for (int number = 0; number < mostOfOneSong; ++number) {
         const QString path = folder.filePath(fileName(song, number));
