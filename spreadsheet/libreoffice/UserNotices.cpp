@@ -4,7 +4,7 @@ namespace zvonika {
 
 UserNotices::UserNotices(std::function<bool()> held, std::function<void(const QString&)> opened,
                          std::function<void(const QString&)> closed)
-    : held_(std::move(held)), opened_(std::move(opened)), closed_(std::move(closed)),
+    : held_(std::move(held)), opened_(std::move(opened)), fileClosed_(std::move(closed)),
       receiver_(std::make_unique<QObject>()) {}
 
 void UserNotices::cursorMoved() {

@@ -26,7 +26,7 @@ public:
     void workbookCloses() override { ++acts_; }
     void userCloses(int workbook) override;
     void fileOpened(const QString& nativePath) override { opened_(nativePath); }
-    void fileClosed(const QString& nativePath) override { closed_(nativePath); }
+    void fileClosed(const QString& nativePath) override { fileClosed_(nativePath); }
 
     /// How many acts have been heard of, those too that are not delivered. From any thread.
     unsigned acts() const { return acts_; }
@@ -49,7 +49,7 @@ private:
     QVector<int> takeClosed();
 
     std::function<bool()> held_;
-    std::function<void(const QString&)> opened_, closed_;
+    std::function<void(const QString&)> opened_, fileClosed_;
     std::atomic<unsigned> acts_ = 0;
     std::atomic<bool> edited_ = false;
     std::atomic<bool> moved_ = false;
