@@ -1,5 +1,6 @@
 #include "spreadsheet/libreoffice/OfficeProcess.h"
 
+#include "platform/Log.h"
 #include "platform/RuntimeError.h"
 #include "spreadsheet/libreoffice/Installation.h"
 
@@ -76,9 +77,11 @@ std::vector<char*> pointers(std::vector<std::string>& texts) {
 }
 
 [[noreturn]] void cannotStart(int reason) {
+    qCWarning(callsLog) << "LibreOffice:" << strerror(reason);
     throw RuntimeError(
         error::cannotCreateObject,
-        QStringLiteral("LibreOffice Calc nelze spustit: %1.").arg(QString::fromLocal8Bit(strerror(reason))));
+        QStringLiteral("LibreOffice Calc nelze spustit. Ukončete některé běžící programy a zkuste to "
+                       "znovu; nepomůže-li to, přeinstalujte Zvoniku."));
 }
 
 /// The connection writes into a pipe of the office's, which may end at any moment; a failed write tells

@@ -11,6 +11,10 @@ namespace {
 
 class CalcWindows : public ::testing::Test {
 protected:
+    CalcWindows() {
+        world.window = {900, 30, 400, 700}; // no room for a further one beside it
+        calc = world.launch();
+    }
     void makeSong(const char* name) const {
         calc->addWorkbook();
         calc->saveActiveWorkbookAs({world.path(name)});
@@ -42,7 +46,7 @@ protected:
     }
 
     CalcWorld world;
-    std::unique_ptr<LibreOfficeApplication> calc = world.launch();
+    std::unique_ptr<LibreOfficeApplication> calc;
 };
 
 } // namespace
