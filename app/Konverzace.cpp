@@ -25,6 +25,7 @@ Konverzace::Konverzace(Modely& modely, const Prostredi& prostredi, std::function
       zivotPisne_(
           okoliPisne(modely, prostredi.dialogs), prostredi.drive,
           {zobrazeniHmatu_, pasPisne_, navigace_, zvuk_, modely.tonina, [this] { uvolneni_.uvolniVse(); }}),
+      neulozenePisne_(prostredi.zaznamy, prostredi.dialogs, zivotPisne_),
       klikDiskantu_(modely.diskant, notyZapis_, modely.tonina, prostredi.dialogs,
                     {std::move(otevriVyberStupnice),
                      [&modely](const QString& veta) { modely.panel.upozorneni = veta; }}),

@@ -42,6 +42,7 @@ private:
     CastiProgramu casti();
     KrokAutomatu krokAutomatu();
     bool volnoProKrok() const;
+    void nabidniNeulozene();
 
     void cursorMoved() override;
     void cellsEdited() override { cursorMoved(); }

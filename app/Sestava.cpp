@@ -82,7 +82,7 @@ struct Sestava::Casti {
                       profilyLibreOffice(umisteni), zaznamy),
           program({dialogs, *nastaveniProgramu, drive, shell, tabulky(),
                    umisteni.hodiny ? *umisteni.hodiny : hodiny, *media, volbaProhlizece(pluginFolders()),
-                   nastrojZvonika()}) {
+                   nastrojZvonika(), zaznamy}) {
         dialogs.setMainWindow(&program.okno());
         const QScreen* obrazovka = QApplication::primaryScreen();
         okna = rozmistiOkna(obrazovka ? obrazovka->availableGeometry() : QRect(0, 0, 1366, 768));

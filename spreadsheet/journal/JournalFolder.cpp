@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <iterator>
 #include <system_error>
 
 namespace zvonika {
@@ -17,6 +18,7 @@ namespace {
 
 const QString ending = QStringLiteral(".journal");
 const QString asideName = QStringLiteral("odmitnute");
+const QString neverSaved = QStringLiteral("novy");
 constexpr int mostOfOneSong = 1000;
 
 /// Without links in it, also of a song that is not there.
@@ -29,7 +31,7 @@ QString canonical(const QString& song) {
 
 /// What the names of a song's journals begin with.
 QString key(const QString& song) {
-    if (song.isEmpty()) return QStringLiteral("novy");
+    if (song.isEmpty()) return neverSaved;
     const auto hash = QCryptographicHash::hash(canonical(song).toUtf8(), QCryptographicHash::Sha1);
     return QString::fromLatin1(hash.toHex().left(20));
 }
@@ -55,6 +57,28 @@ void pruneAside(QDir aside) {
     const auto files = aside.entryInfoList({QLatin1Char('*') + ending}, QDir::Files, QDir::Time);
     for (qsizetype i = JournalFolder::keptAside; i < files.size(); ++i)
         aside.remove(files[i].fileName());
+}
+
+/// Several crashes can have left several journals of one song.
+void addTo(std::vector<PendingSong>& songs, const JournalContents& contents) {
+    const JournalBase& base = contents.base;
+    const PendingSong song{base.path, base.name, contents.changeCount(), contents.lastChange(),
+                           QFileInfo::exists(base.path)};
+    const auto known = std::ranges::find(songs, song.path, &PendingSong::path);
+    if (known == songs.end()) return songs.push_back(song);
+    known->changes += song.changes;
+    known->lastChange = std::max(known->lastChange, song.lastChange);
+}
+
+/// Songs can be alike, new ones as a rule. Then the one of the same name is meant, if it is one.
+void keepThoseOfOneSong(std::vector<PendingJournal>& journals, const QString& name) {
+    const auto former = [](const PendingJournal& journal) { return journal.contents.base.path; };
+    const auto several = [&] {
+        return std::ranges::any_of(journals,
+                                   [&](const auto& one) { return former(one) != former(journals[0]); });
+    };
+    if (several()) std::erase_if(journals, [&](const auto& one) { return one.contents.base.name != name; });
+    if (several()) journals.clear();
 }
 
 bool isOlder(const PendingJournal& a, const PendingJournal& b) {
@@ -126,6 +150,7 @@ std::vector<PendingJournal> JournalFolder::ofThisName(const QString& song, Unusa
 // Where another song has taken the place, or the contents have changed, nothing is known of a move.
 void JournalFolder::lookForMoved(const QString& song, std::vector<PendingJournal>& found) const {
     const QString own = key(song) + QLatin1Char('-');
+    std::vector<PendingJournal> alike;
     QByteArray hash;
     for (const QString& name : names(QStringLiteral("*"))) {
         if (name.startsWith(own)) continue;
@@ -135,22 +160,22 @@ void JournalFolder::lookForMoved(const QString& song, std::vector<PendingJournal
         if (hash.isEmpty()) hash = contentHashOfFile(song);
         contents->dropSaved(contentHashOfFile);
         if (contents->base.hash == hash && !contents->groups.empty())
-            found.push_back({std::move(*file), std::move(*contents)});
+            alike.push_back({std::move(*file), std::move(*contents)});
     }
+    keepThoseOfOneSong(alike, QFileInfo(song).fileName());
+    std::ranges::move(alike, std::back_inserter(found));
 }
 
 std::vector<PendingSong> JournalFolder::songs(Unusable* unusable) const {
     std::vector<PendingSong> found;
     if (isOff()) return found;
     for (const QString& name : names(QStringLiteral("*"))) {
-        auto file = opened(name, unusable);
+        if (name.startsWith(neverSaved)) continue;
+        const auto file = opened(name, unusable);
         auto contents = file ? readJournal(readable(*file)) : std::nullopt;
-        if (!contents || contents->base.path.isEmpty()) continue;
+        if (!contents) continue;
         contents->dropSaved(contentHashOfFile);
-        if (contents->groups.empty()) continue;
-        const auto& base = contents->base;
-        found.push_back({base.path, base.name, contents->changeCount(), contents->lastChange(),
-                         QFileInfo::exists(base.path)});
+        if (!contents->groups.empty()) addTo(found, *contents);
     }
     std::ranges::stable_sort(found, std::greater(), &PendingSong::lastChange);
     return found;

@@ -42,16 +42,16 @@ QString readReason(const std::error_code& error) {
     return QStringLiteral("při čtení z disku nastala chyba %1").arg(error.value());
 }
 
-QString inWords(const QDateTime& when) {
-    return when.toLocalTime().toString(QStringLiteral("d. M. yyyy 'v' H:mm"));
-}
-
 } // namespace
 
 QString changesInWords(int count) {
     if (count == 1) return QStringLiteral("1 změna");
     if (isFew(count)) return QStringLiteral("%1 změny").arg(count);
     return QStringLiteral("%1 změn").arg(count);
+}
+
+QString momentInWords(const QDateTime& when) {
+    return when.toLocalTime().toString(QStringLiteral("d. M. yyyy 'v' H:mm"));
 }
 
 QString recoveryQuestion(const QString& workbook, const JournalContents& journal, bool changedSince) {
@@ -62,7 +62,7 @@ QString recoveryQuestion(const QString& workbook, const JournalContents& journal
     const bool renamed = !neverSaved && journal.base.name != workbook;
     const QString former = renamed ? QStringLiteral(" (dříve „%1“)").arg(journal.base.name) : QString();
     QString text = QStringLiteral("%1 „%2“%3 %4 (poslední %5).")
-                       .arg(kind, workbook, former, remained(count), inWords(journal.lastChange()));
+                       .arg(kind, workbook, former, remained(count), momentInWords(journal.lastChange()));
     if (changedSince)
         text += QStringLiteral("\n\nPozor: soubor se od té doby změnil. Změny patří k jeho dřívější podobě.");
     return text + QStringLiteral("\n\n") + (neverSaved ? openingOffered() : returnOffered(count));
@@ -79,6 +79,13 @@ QString closedJournal(const QString& workbook, const QString& place, const std::
     return QStringLiteral("Záznam neuložených změn %1 nelze otevřít: %2. Leží v souboru „%3“; až to půjde, "
                           "program změny nabídne.")
         .arg(whose(workbook), readReason(error), place);
+}
+
+QString closedJournal(const QString& place, const std::error_code& error) {
+    return QStringLiteral(
+               "Záznam neuložených změn jedné z písniček nelze otevřít: %1. Leží v souboru „%2“; až "
+               "to půjde, program změny nabídne.")
+        .arg(readReason(error), place);
 }
 
 QString partlyRecovered(const QString& workbook, int refused) {
