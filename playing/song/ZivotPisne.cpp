@@ -33,8 +33,9 @@ void ZivotPisne::oznamJenKeCteni() {
     const QString pricina = drive_.readOnlyBecause(okoli_.pisen.plneJmeno);
     if (pricina.isEmpty()) return;
     okoli_.panel.vystraha =
-        pricina + QStringLiteral(" Co v písničce změníte, do něj uložit nepůjde; uložte ji z okna tabulky "
-                                 "jinam (F6, Soubor, Uložit jako…).");
+        pricina +
+        QStringLiteral(" Změny do něj uložit nepůjde; písničku pak uložte z okna tabulky jinam (F6, "
+                       "Soubor, Uložit jako…).");
     okoli_.panel.oznamZmenu();
 }
 

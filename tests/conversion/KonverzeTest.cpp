@@ -118,7 +118,7 @@ TEST_F(KonverzeTest, AnErrorBeforeTheFirstRowGoesBackToTheSongAndTakesTheCopyAwa
     ocekavejHotovo();
     konverze.cmdGo(); // the same dialog, once the obstacle is gone
     EXPECT_EQ(pisen.plneJmeno, kopie);
-    EXPECT_EQ(radek(1), "B=g,|C=h,|I=Tah|W=G dur");
+    EXPECT_EQ(radek(1), "A=la|B=g,|C=h,|I=Tah|W=G dur");
 }
 
 TEST_F(KonverzeTest, ACopyWhoseSongCannotBeOpenedAgainStays) {

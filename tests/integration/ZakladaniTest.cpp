@@ -82,6 +82,15 @@ TEST_F(ZakladaniTest, AMissingWorkingFolderIsMade) {
     }
 }
 
+TEST_F(ZakladaniTest, ASongThatAKilledProgramHasSetAsideIsBackAfterTheStart) {
+    ASSERT_TRUE(QDir(pracovni()).mkdir(".~odlozeno-x"));
+    ulozSoubor(pisen(".~odlozeno-x/Polka.xls"), bajty(xls::Workbook::create(u"stará")));
+    spust();
+    EXPECT_EQ(soubory(), QStringList{"Polka.xls"});
+    EXPECT_TRUE(napis("lblStav").endsWith("na svém místě je zpátky: Polka.xls."));
+    EXPECT_EQ(sesit(pisen("Polka.xls")).sheetName(0), u"stará");
+}
+
 TEST_F(ZakladaniTest, FilesThatAreNoSongAreNamedAndLeftAlone) {
     const auto kniha = bajty(xls::Workbook::create(u"Tonavox XII"));
     ocekavejOdmitnutiSouboru("prázdný.xls", {}, "je prázdný");
