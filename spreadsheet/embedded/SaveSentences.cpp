@@ -32,7 +32,10 @@ QString conversionQuestion(const QString& workbook) {
                "Sešit „%1“ je ve starším formátu .xls (verze 5.0 nebo 95).\n\n"
                "Uložením se převede do dnešního formátu .xls. Texty, čísla, listy s buňkami, jejich vzhled a "
                "vzorce v rámci jednoho listu zůstanou. Vzorce, které počítají s jinými listy, pojmenovanými "
-               "oblastmi nebo jinými soubory, nahradí jejich výsledky; komentáře, obrázky, grafy, listy "
+               "oblastmi, jinými soubory nebo s hodnotami ve složených závorkách (maticové konstanty), "
+               "nahradí "
+               "jejich výsledky; písmo jednotlivých slov uvnitř buňky (například jedno slovo tučně) se změní "
+               "na písmo celé buňky; komentáře, obrázky, grafy, listy "
                "s grafy a makry a pojmenované oblasti se ztratí a programy z té doby sešit už neotevřou. "
                "Kdo chce mít i původní soubor, ať sešit uloží pod jiným "
                "jménem.\n\nChcete ho převést a uložit?")

@@ -9,13 +9,14 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <new>
 
 namespace zvonika {
 
 namespace {
 
-/// Beyond what the format can hold; keeps a wrongly chosen film from filling the memory.
+/// Beyond what the format can hold.
 constexpr qint64 largestFile = qint64{512} << 20;
 
 void refuseUnlessFile(const QString& path) {
@@ -24,16 +25,27 @@ void refuseUnlessFile(const QString& path) {
         refuse(openRefused(path, std::errc::no_such_file_or_directory));
     if (info.isDir()) refuse(openRefused(path, std::errc::is_a_directory));
     if (!info.isFile()) refuse(openRefused(path, std::errc::no_such_device));
-    if (info.size() > largestFile) refuse(openRefused(path, std::errc::file_too_large));
+}
+
+void readUpTo(qint64 size, QFile& file, xls::Bytes& bytes, const QString& path) {
+    const auto there = static_cast<qint64>(bytes.size());
+    bytes.resize(static_cast<std::size_t>(size));
+    if (file.read(reinterpret_cast<char*>(bytes.data()) + there, size - there) != size - there)
+        refuse(openRefused(path, std::errc::io_error));
 }
 
 xls::Bytes readBytes(const QString& path) {
     refuseUnlessFile(path);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) refuse(openRefused(path, std::errc::permission_denied));
-    xls::Bytes bytes(static_cast<std::size_t>(file.size()));
-    const qint64 read = file.read(reinterpret_cast<char*>(bytes.data()), static_cast<qint64>(bytes.size()));
-    if (read != static_cast<qint64>(bytes.size())) refuse(openRefused(path, std::errc::io_error));
+    const qint64 size = file.size();
+    xls::Bytes bytes;
+    readUpTo(std::min(size, qint64{xls::Workbook::headSize}), file, bytes, path);
+    // A film chosen by mistake is called by its name before it fills the memory.
+    xls::Workbook::checkHead(bytes, static_cast<std::size_t>(size));
+    if (size > largestFile) refuse(openRefused(path, std::errc::file_too_large));
+    bytes.reserve(static_cast<std::size_t>(size));
+    readUpTo(size, file, bytes, path);
     return bytes;
 }
 
