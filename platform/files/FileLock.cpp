@@ -1,6 +1,7 @@
 #include "platform/files/FileLock.h"
 
 #include "platform/RuntimeError.h"
+#include "platform/files/Checksum.h"
 #include "platform/files/ExclusiveFile.h"
 #include "platform/files/LockSentences.h"
 #include "platform/files/ProcessStart.h"
@@ -26,6 +27,19 @@ constexpr unsigned long pauseBetween = 5; ///< ms; a lock is written in much les
 QFileInfo lockedFile(const QString& nativePath) {
     const QString canonical = QFileInfo(nativePath).canonicalFilePath();
     return QFileInfo(canonical.isEmpty() ? nativePath : canonical);
+}
+
+/// A long name leaves no room for the rest: its end gives way to a checksum of the whole.
+QString nameOfLock(const QString& file) {
+    constexpr qsizetype longest = 255; // bytes, in every usual file system
+    const QString around = QStringLiteral(".~%1.zamek");
+    const auto isTooLong = [&](const QString& name) { return around.arg(name).toUtf8().size() > longest; };
+    if (!isTooLong(file)) return around.arg(file);
+    const QString checksum = QLatin1Char('~') + QString::number(crc32(file.toUtf8()), 16);
+    QString beginning = file;
+    while (isTooLong(beginning + checksum) || beginning.back().isHighSurrogate())
+        beginning.chop(1);
+    return around.arg(beginning + checksum);
 }
 
 LockHolder ourselves() {
@@ -117,7 +131,7 @@ bool LockHolder::isThisProcess() const {
 
 QString FileLock::lockName(const QString& nativePath) {
     const QFileInfo file = lockedFile(nativePath);
-    return file.absolutePath() + QStringLiteral("/.~%1.zamek").arg(file.fileName());
+    return file.absolutePath() + QLatin1Char('/') + nameOfLock(file.fileName());
 }
 
 std::optional<LockHolder> FileLock::holder(const QString& nativePath) {
