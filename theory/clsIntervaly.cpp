@@ -1,6 +1,6 @@
 #include "theory/clsIntervaly.h"
 
-#include "theory/Tonavox12.h"
+#include "theory/NazvyTonu.h"
 
 #include <algorithm>
 
@@ -36,7 +36,7 @@ void clsIntervaly::UrciInterval(const ToneName& ton, const Key& stupnice, std::i
         ohlasMimoTabulku();
     else if (kam < prvniVychozi)
         ohlasMimoRozsah(*nota, stupnice);
-    else if (!bezKontroly && !existuje(*nota))
+    else if (!bezKontroly && cisloTonu(*nota) == CisloTonu::neznamy())
         ohlasNeznamou(*nota);
     else
         vysledek = *nota;
@@ -60,12 +60,6 @@ std::optional<ToneName> clsIntervaly::stupen(int pozice, const QString& prvek) c
     if (pozice >= tabulka_.pocetStupnu()) return std::nullopt;
     const auto nazev = tabulka_.ton(pozice, prvek);
     return nazev ? std::optional(ToneName(*nazev)) : std::nullopt;
-}
-
-bool clsIntervaly::existuje(const ToneName& nota) const {
-    Tonavox12 tonavox;
-    tonavox.DejCisloTonu(nota);
-    return tonavox.cisloTonu() != CisloTonu::neznamy();
 }
 
 void clsIntervaly::ohlasMimoRozsah(const ToneName& nota, const Key& stupnice) const {

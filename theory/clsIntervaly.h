@@ -36,7 +36,6 @@ private:
     /// 0: not in the scale. Nothing: the table ends before that is known.
     std::optional<int> pozice(const ToneName& ton, const QString& prvek) const;
     std::optional<ToneName> stupen(int pozice, const QString& prvek) const;
-    bool existuje(const ToneName& nota) const;
     void ohlasMimoRozsah(const ToneName& nota, const Key& stupnice) const;
     void ohlasNeznamou(const ToneName& nota) const;
     void ohlasMimoTabulku() const;

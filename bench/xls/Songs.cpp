@@ -65,10 +65,12 @@ Bytes readFile(const std::string& path) {
     return bytes;
 }
 
-void writeFile(const std::string& path, const Bytes& bytes) {
+void writeFile(const std::string& path, const FileImage& image) {
     const File file = opened(path, "wb");
-    if (std::fwrite(bytes.data(), 1, bytes.size(), file.get()) != bytes.size())
-        throw std::runtime_error("cannot write " + path);
+    image.writeTo([&](std::span<const std::uint8_t> piece) {
+        if (std::fwrite(piece.data(), 1, piece.size(), file.get()) != piece.size())
+            throw std::runtime_error("cannot write " + path);
+    });
 }
 
 } // namespace zvonika::bench

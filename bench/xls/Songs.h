@@ -13,6 +13,6 @@ xls::Workbook makeSong(int rows);
 void changeTenCells(xls::Workbook& song);
 
 xls::Bytes readFile(const std::string& path);
-void writeFile(const std::string& path, const xls::Bytes& bytes);
+void writeFile(const std::string& path, const xls::FileImage& image);
 
 } // namespace zvonika::bench

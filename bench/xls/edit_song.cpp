@@ -31,11 +31,12 @@ int readAll(const char* path) {
 int main(int argc, char** argv) {
     const std::string_view what = argc > 1 ? argv[1] : "";
     if (what == "make" && argc == 4) {
-        writeFile(argv[3], makeSong(std::atoi(argv[2])).save());
+        const Workbook song = makeSong(std::atoi(argv[2]));
+        writeFile(argv[3], song.image());
     } else if (what == "edit" && argc == 4) {
         Workbook song = Workbook::open(readFile(argv[2]));
         changeTenCells(song);
-        writeFile(argv[3], song.save());
+        writeFile(argv[3], song.image());
     } else if (what == "read" && argc == 3) {
         return readAll(argv[2]);
     } else {

@@ -153,6 +153,9 @@ public:
             if (written == 0) fail(EIO);
             if (written > 0) bytes = bytes.subspan(static_cast<std::size_t>(written));
         }
+    }
+
+    void finish() {
         check(::fsync(file_.get()));
         file_.close();
     }
@@ -188,11 +191,16 @@ void flushFolder(const QByteArray& folder) {
 } // namespace
 
 void writeAtomically(const QString& nativePath, std::span<const std::uint8_t> bytes) {
+    writeAtomically(nativePath, [bytes](const auto& take) { take(bytes); });
+}
+
+void writeAtomically(const QString& nativePath, const BytePieces& contents) {
     const QByteArray target = behindLinks(encoded(nativePath));
     const auto before = existing(target);
     Temporary file(target, before ? before->st_mode & 0777 : 0666);
     if (before) file.keepRights(target, *before);
-    file.write(bytes);
+    contents([&](std::span<const std::uint8_t> piece) { file.write(piece); });
+    file.finish();
     file.place(target);
     flushFolder(folderOf(target));
 }

@@ -28,7 +28,6 @@ void writeAll(HANDLE file, std::span<const std::uint8_t> bytes) {
         if (!WriteFile(file, bytes.data(), portion, &written, nullptr)) fail(GetLastError());
         bytes = bytes.subspan(written);
     }
-    if (!FlushFileBuffers(file)) fail(GetLastError());
 }
 
 /// How the temporary files of a target begin; its own name could be too long with more around it.
@@ -67,8 +66,9 @@ public:
     Temporary(const Temporary&) = delete;
     Temporary& operator=(const Temporary&) = delete;
 
-    void write(std::span<const std::uint8_t> bytes) {
-        writeAll(file_, bytes);
+    void write(std::span<const std::uint8_t> bytes) { writeAll(file_, bytes); }
+    void finish() {
+        if (!FlushFileBuffers(file_)) fail(GetLastError());
         close();
     }
 
@@ -96,10 +96,15 @@ private:
 } // namespace
 
 void writeAtomically(const QString& nativePath, std::span<const std::uint8_t> bytes) {
+    writeAtomically(nativePath, [bytes](const auto& take) { take(bytes); });
+}
+
+void writeAtomically(const QString& nativePath, const BytePieces& contents) {
     const QString target = behindLinks(nativePath);
     if (QFileInfo(target).isDir()) fail(ERROR_DIRECTORY);
     Temporary file(target);
-    file.write(bytes);
+    contents([&](std::span<const std::uint8_t> piece) { file.write(piece); });
+    file.finish();
     file.place(target);
 }
 

@@ -23,7 +23,6 @@ public:
     /// cursor's row; redraws from the cursor when that row is outside.
     VyrezPisne ctiPoZmene() const;
     void obnov(const VyrezPisne& vyrez);
-    void obnov() { obnov(ctiPoZmene()); }
     /// No song: an empty, hidden strip.
     void vyprazdni();
 

@@ -72,7 +72,6 @@ public:
 
     /// Only the text panel and the counter of the current row.
     void ZobrazTexty(const VyrezPisne& vyrez);
-    void ZobrazTexty() { ZobrazTexty(list_.kolemKurzoru()); }
     /// Lets go what is shown of a grip: pictures, finger digits and staff. Does not read the sheet.
     void odeberHmat();
 

@@ -65,7 +65,7 @@ DocumentFile::Source Document::source() {
     return {[this] {
                 // The cursor alone is no reason to turn an older file into a newer one.
                 if (!file_.isOldFormat() || file_.isModified()) cursor_.storeIn(cells_.book());
-                return cells_.book().save();
+                return cells_.book().image();
             },
             [this](const QString& nativePath, const QByteArray& hash) { journal_.saving(nativePath, hash); }};
 }

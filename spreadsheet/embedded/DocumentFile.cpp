@@ -34,13 +34,14 @@ void DocumentFile::setModified(bool modified) {
 /// either changes that are still to be made, or a file that is known to hold them.
 void DocumentFile::store(const QString& nativePath, const Source& source) {
     refusingToSave(nativePath, [&] {
-        const xls::Bytes bytes = source.contents();
-        QByteArray hash = contentHash(bytes);
+        const xls::FileImage image = source.contents();
+        const auto pieces = [&](const auto& take) { image.writeTo(take); };
+        QByteArray hash = contentHash(pieces);
         source.announce(nativePath, hash);
         writingHash_ = hash;
-        writeAtomically(nativePath, bytes);
+        writeAtomically(nativePath, pieces);
         hash_ = std::move(hash);
-        qCInfo(savingLog).noquote() << nativePath << "uložen, bajtů" << bytes.size();
+        qCInfo(savingLog).noquote() << nativePath << "uložen, bajtů" << image.size();
     });
 }
 

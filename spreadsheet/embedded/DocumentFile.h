@@ -41,7 +41,7 @@ public:
     void markModified() { setModified(true); }
 
     struct Source {
-        std::function<xls::Bytes()> contents;
+        std::function<xls::FileImage()> contents;
         /// Told of what will be written, and where, before it is.
         std::function<void(const QString& nativePath, const QByteArray& hash)> announce;
     };

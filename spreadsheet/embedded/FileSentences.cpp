@@ -34,9 +34,14 @@ QString contentsReason(xls::Refusal refusal) {
     case xls::Refusal::OtherFormat:
         return QStringLiteral("podle obsahu je to jiný formát než .xls");
     case xls::Refusal::Encrypted:
-        return QStringLiteral("je chráněn heslem; zrušte ho v programu, který soubor vytvořil");
+        return QStringLiteral(
+            "je zašifrován: má heslo, nebo zamčenou strukturu sešitu, s níž ho některé "
+            "programy zašifrují samy; heslo nebo zámek zrušte v programu, který ho vytvořil");
     case xls::Refusal::OldFormat:
         return QStringLiteral("je v příliš starém formátu");
+    case xls::Refusal::CodePage:
+        return QStringLiteral("texty jsou v něm ve znakové sadě, kterou tabulka nezná; uložte ho v programu, "
+                              "který ho vytvořil, v dnešním formátu .xls");
     case xls::Refusal::Truncated:
         return QStringLiteral("není celý, jeho konec chybí");
     case xls::Refusal::Damaged:

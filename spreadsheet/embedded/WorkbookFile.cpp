@@ -9,22 +9,37 @@
 
 #include <QFile>
 
+#include <algorithm>
+#include <limits>
 #include <new>
 
 namespace zvonika {
 
 namespace {
 
-/// Beyond what the format can hold; keeps a wrongly chosen film from filling the memory.
+/// Beyond what the format can hold.
 constexpr qint64 largestFile = qint64{512} << 20;
+
+void readUpTo(qint64 size, QFile& file, xls::Bytes& bytes, const QString& path) {
+    const auto there = static_cast<qint64>(bytes.size());
+    bytes.resize(static_cast<std::size_t>(size));
+    if (file.read(reinterpret_cast<char*>(bytes.data()) + there, size - there) != size - there)
+        refuse(openRefused(path, std::errc::io_error));
+}
 
 xls::Bytes readBytes(const QString& path) {
     QFile file;
-    if (const std::error_code reason = openRegular(file, path, Links::Follow, largestFile))
+    if (const std::error_code reason =
+            openRegular(file, path, Links::Follow, std::numeric_limits<qint64>::max()))
         refuse(openRefused(path, std::errc(reason.default_error_condition().value())));
-    xls::Bytes bytes(static_cast<std::size_t>(file.size()));
-    const qint64 read = file.read(reinterpret_cast<char*>(bytes.data()), static_cast<qint64>(bytes.size()));
-    if (read != static_cast<qint64>(bytes.size())) refuse(openRefused(path, std::errc::io_error));
+    const qint64 size = file.size();
+    xls::Bytes bytes;
+    readUpTo(std::min(size, qint64{xls::Workbook::headSize}), file, bytes, path);
+    // A film chosen by mistake is called by its name before it fills the memory.
+    xls::Workbook::checkHead(bytes, static_cast<std::size_t>(size));
+    if (size > largestFile) refuse(openRefused(path, std::errc::file_too_large));
+    bytes.reserve(static_cast<std::size_t>(size));
+    readUpTo(size, file, bytes, path);
     return bytes;
 }
 

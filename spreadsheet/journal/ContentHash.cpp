@@ -20,6 +20,12 @@ QByteArray contentHash(std::span<const std::uint8_t> bytes) {
     return hash.result();
 }
 
+QByteArray contentHash(const BytePieces& contents) {
+    QCryptographicHash hash(algorithm);
+    contents([&](std::span<const std::uint8_t> piece) { hash.addData(QByteArrayView(piece)); });
+    return hash.result();
+}
+
 QByteArray contentHashOfFile(const QString& nativePath) {
     QFile file;
     if (openRegular(file, nativePath, Links::Follow, largestFile)) return {};

@@ -16,9 +16,10 @@ enum class Refusal {
     Xml2003,      ///< "XML Spreadsheet 2003"
     PlainText,    ///< CSV, tab-separated or any other text
     OtherFormat,  ///< another known format: PDF, RTF, a text document, a presentation, an archive ...
-    Encrypted,    ///< protected by a password
-    OldFormat,    ///< a BIFF version or code page that the engine does not read
-    Truncated,    ///< the file ends before its contents do
+    Encrypted,    ///< by a password, or by the one that programs use where only the sheets are locked
+    OldFormat,    ///< a BIFF version that the engine does not read
+    CodePage,     ///< of version 5.0/95, with texts in a character set that the engine does not read
+    Truncated,    ///< the file ends before what its own tables say is in it
     Damaged,      ///< contradictory or impossible structure
 };
 

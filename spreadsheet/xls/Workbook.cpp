@@ -9,6 +9,7 @@
 #include "spreadsheet/xls/book/Version.h"
 #include "spreadsheet/xls/book/WorkbookModel.h"
 #include "spreadsheet/xls/container/CompoundFile.h"
+#include "spreadsheet/xls/container/FileKind.h"
 #include "spreadsheet/xls/writer/SharedFormulas.h"
 #include "spreadsheet/xls/writer/WorkbookWriter.h"
 
@@ -123,7 +124,7 @@ struct Workbook::Impl {
 
     bool isFileFormula(std::size_t sheet, CellKey key) const {
         const CellSlot* slot = model.layouts[sheet].findCell(key);
-        return slot && recordAt(model.stream, slot->record).is(RecordType::Formula);
+        return slot && recordAt(model.stream, slot->record).isFormula();
     }
 
     std::uint32_t fileActiveSheet() const {
@@ -166,13 +167,20 @@ Workbook Workbook::open(Bytes file) {
     return Workbook(std::make_unique<Impl>(std::move(container), std::move(book), version, false));
 }
 
+void Workbook::checkHead(std::span<const std::uint8_t> head, std::size_t fileSize) {
+    requireCompoundFile(head, fileSize);
+}
+
 Bytes Workbook::save() const {
-    if (!isModified()) return impl_->container.bytes();
-    const Bytes stream = writeWorkbook(impl_->model, impl_->edits);
-    const std::uint32_t entry = impl_->stream.entry();
+    return image().bytes();
+}
+
+FileImage Workbook::image() const {
+    if (!isModified()) return FileImage(impl_->container.bytes());
+    auto stream = std::make_shared<PatchedStream>(writeWorkbook(impl_->model, impl_->edits));
     // Older programs look for their version under the older name, and some newer ones judge by it.
-    if (isOldFormat()) return impl_->container.withStreamNamed(entry, streamName, stream);
-    return impl_->container.withStream(entry, stream);
+    const char* name = isOldFormat() ? streamName : "";
+    return impl_->container.imageWith(impl_->stream.entry(), std::move(stream), name);
 }
 
 int Workbook::sheetCount() const {

@@ -2,6 +2,7 @@
 
 #include "spreadsheet/xls/FormatError.h"
 #include "spreadsheet/xls/Value.h"
+#include "spreadsheet/xls/container/FileImage.h"
 
 #include <cstdint>
 #include <functional>
@@ -44,6 +45,11 @@ public:
 
     /// Reads a file's bytes. Throws FormatError.
     static Workbook open(Bytes file);
+    /// The first bytes of a file that `checkHead` wants to see; all of a shorter one.
+    static constexpr std::size_t headSize = 4096;
+    /// Looks at the first bytes of a file of `fileSize` bytes: throws what `open` would throw for a file
+    /// that is none of ours at all, so that a large one need not be read.
+    static void checkHead(std::span<const std::uint8_t> head, std::size_t fileSize);
 
     Workbook(Workbook&&) noexcept;
     Workbook& operator=(Workbook&&) noexcept;
@@ -51,6 +57,9 @@ public:
 
     /// The file's bytes. Without a change since `open`, exactly the bytes that were read.
     Bytes save() const;
+    /// The same bytes piece by piece: nothing as large as the file is put into memory. Valid until the
+    /// workbook changes or goes.
+    FileImage image() const;
 
     int sheetCount() const;
     std::u16string sheetName(int sheet) const;
@@ -105,9 +114,9 @@ public:
     /// the first save with a change, which writes a BIFF8 workbook in its place. `save` without a change
     /// gives the bytes that were read, here too. Converted are: sheets, names of sheets, values, formulas
     /// within a sheet, number formats, fonts, colours, borders, column widths, row heights, page set-up. Lost
-    /// are: comments, drawings and charts, chart and macro sheets, defined names and links; formulas that
-    /// need these or another sheet become their results. Other streams of the file (author, title ...) stay
-    /// as they are.
+    /// are: comments, drawings and charts, chart and macro sheets, defined names and links, the fonts of
+    /// parts of a text; formulas that need names, links, another sheet or array constants become their
+    /// results. Other streams of the file (author, title ...) stay as they are.
     bool isOldFormat() const;
 
 private:

@@ -37,6 +37,7 @@ class Book:
             if depth == 0 and kind != BOF:
                 break
             data = stream[at + 4:at + 4 + size]
+            kind = FORMULA if kind in (0x206, 0x406) else kind  # numbers of older versions, kept by some writers
             self.records.append(Record(at, kind, data))
             if depth == 0:
                 self.sheets.append(Sheet())

@@ -12,7 +12,7 @@ namespace zvonika::xls {
 class CodePage {
 public:
     /// `number` as the CodePage record has it: 1250 (Central European), 852, 1252 ... `offset`: of that
-    /// record, for the FormatError (OldFormat) that is thrown for pages of more bytes a character.
+    /// record, for the FormatError (CodePage) that is thrown for pages of more bytes a character.
     explicit CodePage(std::uint16_t number, std::size_t offset = 0);
 
     std::u16string decode(ByteView text) const;

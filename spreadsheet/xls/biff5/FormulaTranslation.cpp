@@ -28,7 +28,7 @@ FormulaTranslation::FormulaTranslation(ByteView stream, std::uint32_t sheet, con
         record = recordAt(stream, record.end());
         if (record.is(RecordType::Bof)) ++depth;
         if (record.is(RecordType::Eof)) --depth;
-        if (record.is(RecordType::Formula)) {
+        if (record.isFormula()) {
             checkedColumns(record);
             holder = cellKey(record.u16(0), record.u16(2));
         }

@@ -76,6 +76,8 @@ private:
         case RecordType::RString:
             return putCell(record, textContent(longTextAt(record, 6, codePage_)));
         case RecordType::Formula:
+        case RecordType::Formula3:
+        case RecordType::Formula4:
             return takeFormula(record);
         default:
             put(record, Bytes(record.payload.begin(), record.payload.end()));

@@ -1,5 +1,6 @@
 #include "spreadsheet/xls/book/BlankWorkbook.h"
 
+#include "spreadsheet/xls/book/CellFormats.h"
 #include "spreadsheet/xls/records/Bof.h"
 #include "spreadsheet/xls/strings/UnicodeText.h"
 
@@ -63,7 +64,7 @@ void formats(Bytes& out) {
     format(out, true, 0);
     for (int i = 1; i < styleFormats; ++i)
         format(out, true, 0xF4);
-    format(out, false, 0);
+    appendPlainCellFormat(out);
     appendRecord(out, RecordType::Style, Bytes{0x00, 0x80, 0x00, 0xFF}); // "Normal"
 }
 
@@ -138,6 +139,10 @@ void sheet(Bytes& out) {
 }
 
 } // namespace
+
+void appendPlainCellFormat(Bytes& out) {
+    format(out, false, 0);
+}
 
 std::vector<std::uint8_t> blankWorkbookStream(const std::u16string& sheetName) {
     Bytes out;

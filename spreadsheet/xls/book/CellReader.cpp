@@ -70,6 +70,8 @@ void readCell(ByteView stream, const SharedStrings& strings, const CellSlot& slo
         value = boolOrError(record.u8(contentAt), record.u8(contentAt + 1) != 0);
         break;
     case RecordType::Formula:
+    case RecordType::Formula3:
+    case RecordType::Formula4:
         value = formulaResult(stream, record);
         break;
     default:

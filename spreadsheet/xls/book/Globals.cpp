@@ -8,8 +8,6 @@ namespace zvonika::xls {
 
 namespace {
 
-constexpr std::uint16_t usualDefaultFormat = 15;
-
 SheetEntry readSheetEntry(ByteView stream, const Record& record) {
     record.require(8);
     SheetEntry entry;
@@ -32,7 +30,6 @@ public:
             record = recordAt(stream_, record.end());
             take(record);
         }
-        if (!usualIsCellFormat_) globals_.defaultFormat = firstCellFormat_;
         return std::move(globals_);
     }
 
@@ -69,22 +66,13 @@ private:
 
     void takeFormat(const Record& record) {
         record.require(6);
-        const bool isStyle = record.u16(4) & 4;
-        // Some writers have a style more, and their first cell format is 16.
-        if (formats_ == usualDefaultFormat) usualIsCellFormat_ = !isStyle;
-        if (!isStyle && !sawCellFormat_) {
-            firstCellFormat_ = formats_;
-            sawCellFormat_ = true;
-        }
-        ++formats_;
+        constexpr std::uint16_t styleFlag = 4;
+        globals_.formats.add(record.u16(4) & styleFlag);
+        globals_.formatsEnd = record.end();
     }
 
     ByteView stream_;
     Globals globals_;
-    std::uint16_t formats_ = 0;
-    std::uint16_t firstCellFormat_ = 0;
-    bool sawCellFormat_ = false;
-    bool usualIsCellFormat_ = false;
 };
 
 } // namespace

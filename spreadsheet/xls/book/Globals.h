@@ -1,5 +1,6 @@
 #pragma once
 
+#include "spreadsheet/xls/book/CellFormats.h"
 #include "spreadsheet/xls/records/Endian.h"
 
 #include <cstdint>
@@ -33,7 +34,8 @@ struct Globals {
     std::uint32_t sst = absent;
     std::uint32_t extSst = absent;
     std::uint32_t eof = absent;
-    std::uint16_t defaultFormat = 15; ///< XF of cells that nothing else formats
+    CellFormats formats;
+    std::uint32_t formatsEnd = absent; ///< end of the last Xf record
 };
 
 /// Reads the globals at the beginning of a workbook stream. Throws FormatError.

@@ -40,8 +40,8 @@ const RowBlock* SheetLayout::blockAt(std::uint32_t offset) const {
     return block == blocks.end() || offset < block->start ? nullptr : &*block;
 }
 
-std::uint32_t SheetLayout::tablePosition(ByteView stream) const {
-    if (dimensions != absent) return recordAt(stream, dimensions).end();
+std::uint32_t SheetLayout::tablePosition() const {
+    if (settingsEnd != absent) return settingsEnd;
     return window2 != absent ? window2 : eof;
 }
 
@@ -88,6 +88,7 @@ private:
 
     void take(const Record& record) {
         if (isCellRecord(record.type())) return takeCells(record);
+        if (layout_.rows.empty() && layout_.cells.empty()) followSettings(record);
         switch (record.type()) {
         case RecordType::Row:
             takeRow(record);
@@ -133,6 +134,13 @@ private:
         }
     }
 
+    /// Some writers put the page settings behind Dimensions.
+    void followSettings(const Record& record) {
+        if (layout_.window2 != absent) return;
+        const bool goesOn = record.is(RecordType::Continue) && record.offset == layout_.settingsEnd;
+        if (goesOn || standsBeforeCells(record.type())) layout_.settingsEnd = record.end();
+    }
+
     static void keepFirst(std::uint32_t& place, const Record& record, std::size_t size) {
         record.require(size);
         if (place == absent) place = record.offset;
@@ -150,7 +158,7 @@ private:
                               "a shared string below " + std::to_string(sharedStrings_),
                               std::to_string(record.u32(6)));
         layout_.sharedTexts += record.is(RecordType::LabelSst);
-        layout_.formulas += record.is(RecordType::Formula);
+        layout_.formulas += record.isFormula();
         const std::uint32_t row = cellRow(record);
         for (std::uint32_t i = 0; i < run.count; ++i)
             layout_.cells.push_back({cellKey(row, run.first + i), record.offset});

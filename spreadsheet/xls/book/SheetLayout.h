@@ -54,6 +54,7 @@ public:
     std::uint32_t window2 = absent;
     std::uint32_t pane = absent;
     std::uint32_t scl = absent;
+    std::uint32_t settingsEnd = absent; ///< end of what has to stand before rows and cells
     std::vector<std::uint32_t> selections;
     std::vector<std::uint32_t> colInfos;
     std::vector<CellSlot> cells;          ///< sorted by key; of duplicates the later record comes last
@@ -74,7 +75,7 @@ public:
     /// The block that a record at this offset belongs to; null outside all blocks.
     const RowBlock* blockAt(std::uint32_t offset) const;
     /// Where the first Row or cell record of an empty sheet belongs.
-    std::uint32_t tablePosition(ByteView stream) const;
+    std::uint32_t tablePosition() const;
 };
 
 /// Reads the substream of `entry`. `sharedStrings`: how many there are. Throws FormatError.

@@ -3,7 +3,6 @@
 #include "spreadsheet/xls/FormatError.h"
 #include "spreadsheet/xls/container/CompoundFileWriter.h"
 #include "spreadsheet/xls/container/CompoundFormat.h"
-#include "spreadsheet/xls/container/DirectoryTree.h"
 #include "spreadsheet/xls/container/FileKind.h"
 
 #include <algorithm>
@@ -31,7 +30,7 @@ bool sameName(const std::string& a, const std::string& b) {
 } // namespace
 
 CompoundFile::CompoundFile(Bytes file) : file_(std::move(file)) {
-    requireCompoundFile(file_);
+    requireCompoundFile(file_, file_.size());
     readHeader();
     used_.resize(sectorsInFile());
     readFat();
@@ -41,17 +40,7 @@ CompoundFile::CompoundFile(Bytes file) : file_(std::move(file)) {
 
 void CompoundFile::readHeader() {
     sectorShift_ = load16(&file_[Header::sectorShift]);
-    if (sectorShift_ != 9 && sectorShift_ != 12)
-        refuse(Refusal::Damaged, "container header", Header::sectorShift, "sector shift 9 or 12",
-               std::to_string(sectorShift_));
-    const unsigned miniShift = load16(&file_[Header::miniSectorShift]);
-    if ((1U << (miniShift & 15)) != miniSectorSize)
-        refuse(Refusal::Damaged, "container header", Header::miniSectorShift, "mini sector shift 6",
-               std::to_string(miniShift));
     miniCutoff_ = load32(&file_[Header::miniStreamCutoff]);
-    if (miniCutoff_ != 4096)
-        refuse(Refusal::Damaged, "container header", Header::miniStreamCutoff, "mini stream cutoff 4096",
-               std::to_string(miniCutoff_));
 }
 
 std::uint32_t CompoundFile::sectorsInFile() const {
@@ -120,7 +109,9 @@ CompoundFile::Chain CompoundFile::follow(const std::vector<std::uint32_t>& table
             const std::size_t at = chain.empty() ? firstAt : linkOffset(table, chain.back());
             refuse(refusal, place, at, std::move(expected), "sector " + std::to_string(sector));
         };
-        if (sector >= used.size() && sector <= lastRegularSector)
+        // What was cut off is still in the table; a number that the table does not know either is a wrong
+        // one.
+        if (sector >= used.size() && sector < table.size() && table[sector] != freeSector)
             refuseSector(Refusal::Truncated, "a sector below " + std::to_string(used.size()));
         if (sector >= used.size() || sector >= table.size())
             refuseSector(Refusal::Damaged, "a chain of sectors");
@@ -208,7 +199,7 @@ std::optional<std::uint32_t> CompoundFile::findStream(const std::string& name) c
 CompoundFile::Bytes CompoundFile::gather(const Chain& chain, std::uint32_t entry, const char* place) const {
     const std::uint64_t size = streamSize(entry);
     if (size > (static_cast<std::uint64_t>(chain.size()) << sectorShift_))
-        refuse(Refusal::Truncated, place, entryOffset(entry) + Entry::size, std::to_string(size) + " bytes",
+        refuse(Refusal::Damaged, place, entryOffset(entry) + Entry::size, std::to_string(size) + " bytes",
                std::to_string(chain.size()) + " sectors");
     Bytes out;
     out.reserve(static_cast<std::size_t>(size));
@@ -246,7 +237,7 @@ CompoundFile::Bytes CompoundFile::readMini(std::uint32_t entry, std::uint64_t si
         out.insert(out.end(), from, from + static_cast<std::ptrdiff_t>(wanted));
     }
     if (out.size() != size)
-        refuse(Refusal::Truncated, "mini stream", entryOffset(entry) + Entry::size,
+        refuse(Refusal::Damaged, "mini stream", entryOffset(entry) + Entry::size,
                std::to_string(size) + " bytes", std::to_string(out.size()));
     return out;
 }
@@ -276,16 +267,15 @@ std::optional<ByteView> CompoundFile::viewStream(std::uint32_t entry) const {
 }
 
 CompoundFile::Bytes CompoundFile::withStream(std::uint32_t entry, ByteView contents) const {
-    return CompoundFileWriter(*this).replaceStream(entry, contents);
+    return imageWith(entry, std::make_shared<ByteViewSource>(contents)).bytes();
 }
 
-CompoundFile::Bytes CompoundFile::withStreamNamed(std::uint32_t entry, const std::string& name,
-                                                  ByteView contents) const {
-    Bytes file = withStream(entry, contents);
-    if (findStream(name)) return file;
-    const auto bytesOf = [&](std::uint32_t number) { return &file[entryOffset(number)]; };
-    DirectoryTree(rootMembers(), bytesOf).rename(entry, name);
-    return file;
+FileImage CompoundFile::imageWith(std::uint32_t entry, std::shared_ptr<const ByteSource> contents,
+                                  const std::string& name) const {
+    CompoundFileWriter writer(*this);
+    writer.replaceStream(entry, std::move(contents));
+    if (!name.empty() && !findStream(name)) writer.rename(entry, name);
+    return writer.take();
 }
 
 } // namespace zvonika::xls

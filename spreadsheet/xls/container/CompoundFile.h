@@ -1,8 +1,10 @@
 #pragma once
 
+#include "spreadsheet/xls/container/FileImage.h"
 #include "spreadsheet/xls/records/Endian.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -30,9 +32,10 @@ public:
     /// The whole container with this stream's contents replaced; every other stream stays where it is.
     /// Short contents are filled up with zeros so that they need not live in the mini stream.
     Bytes withStream(std::uint32_t entry, ByteView contents) const;
-    /// As `withStream`, and the stream gets another ASCII name of at most 31 characters; not where a stream
-    /// of that name exists.
-    Bytes withStreamNamed(std::uint32_t entry, const std::string& name, ByteView contents) const;
+    /// The same, put together when it is written. The stream gets this ASCII name of at most 31 characters;
+    /// not where "" is given or a stream of that name exists.
+    FileImage imageWith(std::uint32_t entry, std::shared_ptr<const ByteSource> contents,
+                        const std::string& name = {}) const;
 
 private:
     friend class CompoundFileWriter;

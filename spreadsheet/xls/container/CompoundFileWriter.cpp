@@ -1,6 +1,7 @@
 #include "spreadsheet/xls/container/CompoundFileWriter.h"
 
 #include "spreadsheet/xls/container/CompoundFormat.h"
+#include "spreadsheet/xls/container/DirectoryTree.h"
 
 #include <algorithm>
 
@@ -12,24 +13,44 @@ CompoundFileWriter::CompoundFileWriter(const CompoundFile& source)
     : source_(source), fat_(source.fat_), fatSectors_(source.fatSectors_),
       difatSectors_(source.difatSectors_), used_(source.used_), sectorCount_(source.sectorsInFile()) {}
 
-CompoundFile::Bytes CompoundFileWriter::replaceStream(std::uint32_t entry, ByteView contents) {
-    const std::size_t size = std::max<std::size_t>(contents.size(), source_.miniCutoff_);
+void CompoundFileWriter::replaceStream(std::uint32_t entry, std::shared_ptr<const ByteSource> contents) {
+    contents_ = std::move(contents);
+    const std::size_t size = std::max<std::size_t>(contents_->size(), source_.miniCutoff_);
     const std::size_t sectors = (size + sectorSize() - 1) / sectorSize();
-    out_.reserve(source_.file_.size() + (sectors + sectors / 64 + 8) * sectorSize() -
-                 std::min<std::size_t>(source_.streamSize(entry), sectors * sectorSize()));
-    out_ = source_.file_;
-    out_.resize(offsetOf(sectorCount_)); // the last sector may have been cut short
-
     endMiniStream();
     markOtherStreams(entry);
-    CompoundFile::Chain chain = releaseOldStream(entry);
-    resizeChain(chain, sectors);
-    writeContents(chain, contents);
-    std::uint8_t* directoryEntry = &out_[source_.entryOffset(entry)];
-    store32(directoryEntry + Entry::firstSector, chain.front());
+    chain_ = releaseOldStream(entry);
+    resizeChain(chain_, sectors);
+    std::uint8_t* directoryEntry = changing(source_.entryOffset(entry));
+    store32(directoryEntry + Entry::firstSector, chain_.front());
     store64(directoryEntry + Entry::size, size);
     writeTables();
-    return std::move(out_);
+}
+
+void CompoundFileWriter::rename(std::uint32_t entry, const std::string& name) {
+    const auto bytesOf = [this](std::uint32_t number) { return changing(source_.entryOffset(number)); };
+    DirectoryTree(source_.rootMembers(), bytesOf).rename(entry, name);
+}
+
+FileImage CompoundFileWriter::take() {
+    CompoundFile::Chain blocks(chain_);
+    for (std::uint32_t& block : blocks)
+        ++block;
+    return {source_.file_, source_.sectorShift_, std::size_t{sectorCount_} + 1, std::move(changed_),
+            blocks,        std::move(contents_)};
+}
+
+std::uint8_t* CompoundFileWriter::changing(std::size_t offset) {
+    const std::size_t block = offset / sectorSize();
+    const auto [place, isNew] = changed_.try_emplace(block);
+    if (isNew) {
+        const ByteView file = source_.file_;
+        const std::size_t begin = std::min(block * sectorSize(), file.size());
+        const ByteView old = file.subspan(begin, std::min<std::size_t>(sectorSize(), file.size() - begin));
+        place->second.assign(old.begin(), old.end());
+        place->second.resize(sectorSize());
+    }
+    return &place->second[offset % sectorSize()];
 }
 
 /// Where a writer let the mini stream run on into the next stream, two chains would go through the sectors
@@ -60,7 +81,7 @@ CompoundFile::Chain CompoundFileWriter::releaseOldStream(std::uint32_t entry) {
     const std::uint32_t perSector = sectorSize() / 4;
     for (const std::uint32_t sector : source_.miniChain(entry)) {
         const std::size_t table = offsetOf(source_.miniFatSectors_[sector / perSector]);
-        store32(&out_[table + 4 * (sector % perSector)], freeSector);
+        store32(changing(table + 4 * std::size_t{sector % perSector}), freeSector);
     }
     return {};
 }
@@ -102,18 +123,18 @@ void CompoundFileWriter::growTable(std::size_t sectors) {
 std::uint32_t CompoundFileWriter::allocate() {
     while (nextFree_ < covered() && !isFree(nextFree_))
         ++nextFree_;
-    return nextFree_ < covered() ? nextFree_ : appendSector(0);
+    return nextFree_ < covered() ? nextFree_ : sectorCount_++;
 }
 
-std::uint32_t CompoundFileWriter::appendSector(std::uint8_t fill) {
-    out_.resize(out_.size() + sectorSize(), fill);
+std::uint32_t CompoundFileWriter::appendTableSector() {
+    changed_[std::size_t{sectorCount_} + 1].assign(sectorSize(), 0xFF);
     return sectorCount_++;
 }
 
 void CompoundFileWriter::coverByFat(std::size_t more) {
     if (fat_.size() >= sectorCount_ + more) return;
     while (fat_.size() < sectorCount_ + more) {
-        const std::uint32_t sector = appendSector(0xFF);
+        const std::uint32_t sector = appendTableSector();
         fat_.resize(fat_.size() + sectorSize() / 4, freeSector);
         fatSectors_.push_back(sector);
         listFatSector(sector, fatSectors_.size() - 1);
@@ -127,8 +148,8 @@ void CompoundFileWriter::coverByFat(std::size_t more) {
 
 void CompoundFileWriter::listFatSector(std::uint32_t sector, std::size_t index) {
     const std::size_t slot = difatSlot(index);
-    store32(&out_[slot], sector);
-    store32(&out_[Header::fatSectors], static_cast<std::uint32_t>(fatSectors_.size()));
+    store32(changing(slot), sector);
+    store32(changing(Header::fatSectors), static_cast<std::uint32_t>(fatSectors_.size()));
 }
 
 std::size_t CompoundFileWriter::difatSlot(std::size_t index) {
@@ -136,32 +157,24 @@ std::size_t CompoundFileWriter::difatSlot(std::size_t index) {
     const std::size_t perSector = sectorSize() / 4 - 1;
     const std::size_t number = (index - headerDifatEntries) / perSector;
     if (number == difatSectors_.size()) {
-        const std::uint32_t sector = appendSector(0xFF);
-        store32(&out_[offsetOf(sector) + 4 * perSector], endOfChain);
+        const std::uint32_t sector = appendTableSector();
+        store32(changing(offsetOf(sector) + 4 * perSector), endOfChain);
         const std::size_t link = difatSectors_.empty() ? std::size_t{Header::firstDifatSector}
                                                        : offsetOf(difatSectors_.back()) + 4 * perSector;
-        store32(&out_[link], sector);
+        store32(changing(link), sector);
         difatSectors_.push_back(sector);
-        store32(&out_[Header::difatSectors], static_cast<std::uint32_t>(difatSectors_.size()));
+        store32(changing(Header::difatSectors), static_cast<std::uint32_t>(difatSectors_.size()));
     }
     return offsetOf(difatSectors_[number]) + 4 * ((index - headerDifatEntries) % perSector);
 }
 
-void CompoundFileWriter::writeContents(const CompoundFile::Chain& chain, ByteView contents) {
-    for (std::size_t i = 0; i < chain.size(); ++i) {
-        const std::size_t begin = std::min(i * sectorSize(), contents.size());
-        const ByteView part =
-            contents.subspan(begin, std::min<std::size_t>(sectorSize(), contents.size() - begin));
-        std::uint8_t* sector = &out_[offsetOf(chain[i])];
-        std::ranges::copy(part, sector);
-        std::fill(sector + part.size(), sector + sectorSize(), std::uint8_t{0});
-    }
-}
-
 void CompoundFileWriter::writeTables() {
     const std::size_t perSector = sectorSize() / 4;
-    for (std::size_t i = 0; i < fat_.size(); ++i)
-        store32(&out_[offsetOf(fatSectors_[i / perSector]) + 4 * (i % perSector)], fat_[i]);
+    for (std::size_t i = 0; i < fat_.size(); i += perSector) {
+        std::uint8_t* table = changing(offsetOf(fatSectors_[i / perSector]));
+        for (std::size_t j = 0; j < perSector; ++j)
+            store32(table + 4 * j, fat_[i + j]);
+    }
 }
 
 } // namespace zvonika::xls

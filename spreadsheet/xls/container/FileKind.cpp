@@ -9,6 +9,8 @@
 
 namespace zvonika::xls {
 
+using namespace CompoundFormat;
+
 namespace {
 
 /// What tells a format: bytes at the beginning, or words (in lower case) near it.
@@ -101,15 +103,29 @@ void refusePackage(std::string_view head) {
     refuse(Refusal::OtherFormat, "a zip archive");
 }
 
+[[noreturn]] void refuseHeader(std::size_t place, const char* expected, unsigned found) {
+    throw FormatError(Refusal::Damaged, "container header", place, expected, std::to_string(found));
+}
+
+void requireHeader(ByteView head) {
+    const unsigned shift = load16(&head[Header::sectorShift]);
+    if (shift != 9 && shift != 12) refuseHeader(Header::sectorShift, "sector shift 9 or 12", shift);
+    const unsigned mini = load16(&head[Header::miniSectorShift]);
+    if ((1U << (mini & 15)) != miniSectorSize)
+        refuseHeader(Header::miniSectorShift, "mini sector shift 6", mini);
+    const std::uint32_t cutoff = load32(&head[Header::miniStreamCutoff]);
+    if (cutoff != 4096) refuseHeader(Header::miniStreamCutoff, "mini stream cutoff 4096", cutoff);
+}
+
 } // namespace
 
-void requireCompoundFile(ByteView file) {
-    if (file.empty()) refuse(Refusal::Empty, "no bytes");
+void requireCompoundFile(ByteView file, std::size_t fileSize) {
+    if (fileSize == 0) refuse(Refusal::Empty, "no bytes");
     const std::string_view all(reinterpret_cast<const char*>(file.data()), file.size());
     const std::string_view head = all.substr(0, 4096);
     if (head.starts_with(compoundSignature)) {
-        if (file.size() < CompoundFormat::headerSize) refuse(Refusal::Truncated, "a part of its header");
-        return;
+        if (file.size() < headerSize) refuse(Refusal::Truncated, "a part of its header");
+        return requireHeader(file);
     }
     if (compoundSignature.starts_with(head)) refuse(Refusal::Truncated, "a part of its signature");
     refusePackage(head);

@@ -20,13 +20,15 @@ struct Shape {
 };
 
 constexpr Shape shapeOf(RecordType type) {
+    if (type == RecordType::LabelSst) return {10, 0}; // most of all that a song has
     switch (type) {
     case RecordType::Formula:
+    case RecordType::Formula3:
+    case RecordType::Formula4:
         return {22, 0};
     case RecordType::Number:
         return {14, 0};
     case RecordType::Rk:
-    case RecordType::LabelSst:
         return {10, 0};
     case RecordType::MulRk:
         return {12, 6};

@@ -1,6 +1,7 @@
 #include "spreadsheet/xls/records/PatchList.h"
 
 #include <algorithm>
+#include <cstring>
 #include <tuple>
 
 namespace zvonika::xls {
@@ -34,22 +35,29 @@ std::uint32_t PatchList::map(std::uint32_t offset) const {
     return static_cast<std::uint32_t>(offset + shift);
 }
 
-std::vector<std::uint8_t> PatchList::apply(ByteView original) const {
-    std::vector<std::uint8_t> out;
-    out.reserve(original.size() + bytes_.size());
-    std::size_t at = 0;
-    const auto copyUpTo = [&](std::size_t end) {
-        const ByteView kept = original.subspan(at, end - at);
-        out.insert(out.end(), kept.begin(), kept.end());
+std::size_t PatchList::size(ByteView original) const {
+    const std::int64_t shift = patches_.empty() ? 0 : patches_.back().shift;
+    return static_cast<std::size_t>(static_cast<std::int64_t>(original.size()) + shift);
+}
+
+void PatchList::read(ByteView original, std::size_t at, std::span<std::uint8_t> out) const {
+    const auto take = [&](ByteView bytes, std::size_t place) {
+        if (out.empty() || at < place || at - place >= bytes.size()) return;
+        const ByteView part = bytes.subspan(at - place, std::min(out.size(), bytes.size() - (at - place)));
+        std::memcpy(out.data(), part.data(), part.size()); // std::ranges::copy goes byte by byte here
+        out = out.subspan(part.size());
+        at += part.size();
     };
-    for (const Patch& patch : patches_) {
-        copyUpTo(patch.offset);
-        const ByteView fresh = ByteView(bytes_).subspan(patch.begin, patch.size);
-        out.insert(out.end(), fresh.begin(), fresh.end());
-        at = patch.end();
+    auto patch = std::ranges::upper_bound(patches_, at, {}, &Patch::place);
+    if (patch != patches_.begin()) --patch;
+    if (patch == patches_.begin())
+        take(original.first(patches_.empty() ? original.size() : patches_.front().offset), 0);
+    for (; patch != patches_.end() && !out.empty(); ++patch) {
+        take(freshOf(*patch), patch->place());
+        const auto next = std::next(patch);
+        const std::size_t keptEnd = next == patches_.end() ? original.size() : next->offset;
+        take(original.subspan(patch->end(), keptEnd - patch->end()), patch->place() + patch->size);
     }
-    copyUpTo(original.size());
-    return out;
 }
 
 } // namespace zvonika::xls

@@ -7,7 +7,7 @@ namespace zvonika::xls {
 void throwRecordCutOff(ByteView stream, std::uint32_t offset, std::size_t wanted) {
     const std::size_t left = offset < stream.size() ? stream.size() - offset : 0;
     const std::string place = left >= 2 ? recordName(load16(stream.data() + offset)) : "record header";
-    throw FormatError(Refusal::Truncated, place, offset, std::to_string(wanted) + " bytes",
+    throw FormatError(Refusal::Damaged, place, offset, std::to_string(wanted) + " bytes",
                       std::to_string(left) + " bytes to the end of the stream");
 }
 

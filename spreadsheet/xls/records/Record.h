@@ -19,6 +19,7 @@ struct Record {
 
     RecordType type() const { return static_cast<RecordType>(id); }
     bool is(RecordType wanted) const { return id == static_cast<std::uint16_t>(wanted); }
+    bool isFormula() const { return isFormulaRecord(type()); }
     std::uint32_t end() const {
         return static_cast<std::uint32_t>(offset + recordHeaderSize + payload.size());
     }
@@ -32,7 +33,7 @@ struct Record {
 
 [[noreturn]] void throwRecordCutOff(ByteView stream, std::uint32_t offset, std::size_t wanted);
 
-/// The record whose header stands at `offset`. Throws FormatError (Truncated) when the stream ends before the
+/// The record whose header stands at `offset`. Throws FormatError (Damaged) when the stream ends before the
 /// record.
 inline Record recordAt(ByteView stream, std::uint32_t offset) {
     if (stream.size() < recordHeaderSize || offset > stream.size() - recordHeaderSize)

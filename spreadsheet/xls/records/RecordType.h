@@ -74,6 +74,7 @@ namespace zvonika::xls {
     X(Number, 0x0203, true)                                                                                  \
     X(Label, 0x0204, false)                                                                                  \
     X(BoolErr, 0x0205, true)                                                                                 \
+    X(Formula3, 0x0206, false)                                                                               \
     X(String, 0x0207, false)                                                                                 \
     X(Row, 0x0208, true)                                                                                     \
     X(Index, 0x020B, false)                                                                                  \
@@ -83,6 +84,7 @@ namespace zvonika::xls {
     X(Window2, 0x023E, false)                                                                                \
     X(Rk, 0x027E, true)                                                                                      \
     X(Style, 0x0293, false)                                                                                  \
+    X(Formula4, 0x0406, false)                                                                               \
     X(Format, 0x041E, false)                                                                                 \
     X(ShrFmla, 0x04BC, false)                                                                                \
     X(Bof, 0x0809, false)
@@ -99,14 +101,20 @@ std::string recordName(std::uint16_t id);
 /// True for the records whose contents are the same in BIFF5.
 bool isSameInBiff5(RecordType type);
 
+/// True for the records of a sheet that stand before its rows and cells: calculation, page set-up,
+/// protection, columns, filters, size.
+bool standsBeforeCells(RecordType type);
+
 /// True for the records that place one cell or a run of cells in a row.
 constexpr bool isCellRecord(RecordType type) {
+    if (type == RecordType::LabelSst) return true; // most of all that a song has
     switch (type) {
     case RecordType::Formula:
+    case RecordType::Formula3:
+    case RecordType::Formula4:
     case RecordType::MulRk:
     case RecordType::MulBlank:
     case RecordType::RString:
-    case RecordType::LabelSst:
     case RecordType::Blank:
     case RecordType::Number:
     case RecordType::Label:
@@ -116,6 +124,11 @@ constexpr bool isCellRecord(RecordType type) {
     default:
         return false;
     }
+}
+
+/// Some writers keep the numbers that formulas had in versions 3 and 4, for records of the present form.
+constexpr bool isFormulaRecord(RecordType type) {
+    return type == RecordType::Formula || type == RecordType::Formula3 || type == RecordType::Formula4;
 }
 
 /// True for a record that holds no value, only a format.

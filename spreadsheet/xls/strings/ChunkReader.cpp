@@ -19,7 +19,7 @@ bool ChunkReader::atData() {
 
 void ChunkReader::needData() {
     if (!atData())
-        throw FormatError(Refusal::Truncated, recordName(static_cast<std::uint16_t>(of_)), position_,
+        throw FormatError(Refusal::Damaged, recordName(static_cast<std::uint16_t>(of_)), position_,
                           "more bytes of a text or a Continue record", "the end");
 }
 

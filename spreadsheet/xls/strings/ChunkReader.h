@@ -7,7 +7,7 @@
 
 namespace zvonika::xls {
 
-/// Reads on through a record and the Continue records behind it. Throws FormatError (Truncated) at their end.
+/// Reads on through a record and the Continue records behind it. Throws FormatError (Damaged) at their end.
 class ChunkReader {
 public:
     /// Starts at `position`, inside the payload that ends at `chunkEnd`.

@@ -53,6 +53,11 @@ std::uint32_t SharedStrings::chunkEnd(std::uint32_t position) const {
     return *std::ranges::upper_bound(chunkEnds_, position);
 }
 
+std::uint32_t SharedStrings::startInRecord(std::uint32_t index) const {
+    const auto chunk = std::ranges::upper_bound(chunkEnds_, starts_[index]);
+    return starts_[index] - (chunk == chunkEnds_.begin() ? recordOffset_ : *std::prev(chunk));
+}
+
 /// The characters of a text without formatting that lies in one record, as most do; else null.
 const std::uint8_t* SharedStrings::plainUnits(std::uint32_t index, std::size_t& units, bool& wide) const {
     const std::uint32_t start = starts_[index];

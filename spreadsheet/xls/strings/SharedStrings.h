@@ -26,6 +26,9 @@ public:
     /// none.
     std::vector<std::optional<std::uint32_t>> find(const TextPool& pool) const;
 
+    /// Where a text begins, in the stream and behind the start of its record's header.
+    std::uint32_t start(std::uint32_t index) const { return starts_[index]; }
+    std::uint32_t startInRecord(std::uint32_t index) const;
     /// Where the last text ends, and the record (Sst or Continue) it ends in.
     std::uint32_t textsEnd() const { return textsEnd_; }
     std::uint32_t lastRecordOffset() const { return lastRecordOffset_; }

@@ -58,7 +58,7 @@ void CellInsertion::insertIntoKnownRow(RowCells cells) {
 void CellInsertion::insertNewRow(RowCells cells) {
     const std::uint32_t row = rowOf(cells.front().key);
     const auto next = std::ranges::lower_bound(layout_.rows, row, {}, &RowSlot::row);
-    std::uint32_t position = layout_.tablePosition(patch_.stream);
+    std::uint32_t position = layout_.tablePosition();
     std::uint32_t floor = position;
     InsertOrder order = InsertOrder::Row;
     if (next != layout_.rows.begin()) {
@@ -114,7 +114,7 @@ std::uint32_t CellInsertion::cellPosition(CellKey key, std::uint32_t floor, std:
     std::uint32_t position = floor;
     if (hasPrevious && std::prev(next)->record < limit)
         position = std::max(position, endOfCell(patch_.stream, std::prev(next)->record));
-    if (next == cells.end()) return position != absent ? position : layout_.tablePosition(patch_.stream);
+    if (next == cells.end()) return position != absent ? position : layout_.tablePosition();
     if (position == absent) return next->record;
     // Row records out of order must not take the cells out of theirs.
     const bool isOrdered = !hasPrevious || std::prev(next)->record < next->record;
@@ -169,7 +169,7 @@ std::vector<std::uint8_t> CellInsertion::rowRecord(RowCells cells) const {
     append16(payload, height);
     append32(payload, 0);
     append16(payload, 0x0100);
-    append16(payload, patch_.defaultFormat);
+    append16(payload, patch_.formats.usual());
     std::vector<std::uint8_t> record;
     appendRecord(record, RecordType::Row, payload);
     return record;
@@ -179,12 +179,15 @@ SmallRecord CellInsertion::cellRecord(const CellChange& cell) const {
     return encodeCell(cell.key, formatFor(cell.key), cell.content);
 }
 
+/// Programs that find the format of a style in a cell take the file for damaged, whatever row or column say.
 std::uint16_t CellInsertion::formatFor(CellKey key) const {
     if (const RowSlot* slot = layout_.findRow(rowOf(key))) {
         const Record row = recordAt(patch_.stream, slot->record);
-        if (row.u16(12) & rowHasFormat) return row.u16(14) & formatMask;
+        const std::uint16_t format = row.u16(14) & formatMask;
+        if (row.u16(12) & rowHasFormat && patch_.formats.isOfCells(format)) return format;
     }
-    return columnFormat(patch_.stream, layout_, columnOf(key)).value_or(patch_.defaultFormat);
+    const auto format = columnFormat(patch_.stream, layout_, columnOf(key));
+    return format && patch_.formats.isOfCells(*format) ? *format : patch_.formats.usual();
 }
 
 bool CellInsertion::hasCells(std::uint32_t row) const {
@@ -231,7 +234,7 @@ void CellInsertion::insertNewBlock(std::span<const RowCells> rows) {
         }
     const auto dbCell = unfilledDbCell(rows.size());
     bytes.insert(bytes.end(), dbCell.begin(), dbCell.end());
-    std::uint32_t position = layout_.tablePosition(patch_.stream);
+    std::uint32_t position = layout_.tablePosition();
     if (const RowBlock* next = firstBlockBehind(rowOf(rows.front().front().key)))
         position = next->start;
     else if (!layout_.blocks.empty())

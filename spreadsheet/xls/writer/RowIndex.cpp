@@ -1,5 +1,7 @@
 #include "spreadsheet/xls/writer/RowIndex.h"
 
+#include "spreadsheet/xls/records/RecordWalk.h"
+
 #include <algorithm>
 
 namespace zvonika::xls {
@@ -82,15 +84,14 @@ void patchDimensions(SheetPatch& patch, std::span<const CellChange> fresh) {
 /// Walks a sheet's new bytes, block by block.
 class BlockIndexer {
 public:
-    explicit BlockIndexer(std::vector<std::uint8_t>& out) : out_(out) {}
+    explicit BlockIndexer(PatchedStream& out) : out_(out) {}
 
     std::vector<std::uint32_t> run(std::uint32_t sheet) {
-        std::uint32_t at = recordAt(out_, sheet).end();
+        RecordWalk record(out_, sheet);
         for (int depth = 1; depth > 0;) {
-            const Record record = recordAt(out_, at);
-            at = record.end();
-            if (record.is(RecordType::Bof)) ++depth;
-            if (record.is(RecordType::Eof)) --depth;
+            record.next();
+            if (record.type() == RecordType::Bof) ++depth;
+            if (record.type() == RecordType::Eof) --depth;
             if (depth == 1) take(record);
         }
         return std::move(dbCells_);
@@ -102,15 +103,17 @@ private:
         std::uint32_t firstCell;
     };
 
-    void take(const Record& record) {
-        const bool isRow = record.is(RecordType::Row);
+    void take(const RecordWalk& record) {
+        const bool isRow = record.type() == RecordType::Row;
         if (!isRow && !isCellRecord(record.type())) {
-            if (record.is(RecordType::DbCell)) takeDbCell(record);
+            if (record.type() == RecordType::DbCell) takeDbCell(record);
             return;
         }
-        if (blockStart_ == absent) blockStart_ = record.offset;
-        if (isRow) return takeRow(record.u16(0));
-        takeCell(cellRow(record), record.offset);
+        const auto offset = static_cast<std::uint32_t>(record.offset());
+        const std::uint32_t row = record.first32() & 0xFFFF;
+        if (blockStart_ == absent) blockStart_ = offset;
+        if (isRow) return takeRow(row);
+        takeCell(row, offset);
     }
 
     void takeRow(std::uint32_t number) {
@@ -124,27 +127,28 @@ private:
         if (rows_[slot].firstCell == absent) rows_[slot].firstCell = offset;
     }
 
-    void takeDbCell(const Record& record) {
-        dbCells_.push_back(record.offset);
-        if (record.u32(0) == unfilledBlock && blockStart_ != absent) fill(record);
+    void takeDbCell(const RecordWalk& record) {
+        dbCells_.push_back(static_cast<std::uint32_t>(record.offset()));
+        if (record.first32() == unfilledBlock && blockStart_ != absent) fill(record);
         blockStart_ = absent;
         rows_.clear();
     }
 
-    void fill(const Record& record) {
-        std::uint8_t* payload = &out_[record.offset + recordHeaderSize];
-        store32(payload, record.offset - blockStart_);
+    void fill(const RecordWalk& record) {
+        std::size_t entry = record.offset() + recordHeaderSize;
+        const std::size_t end = entry + record.payloadSize();
+        out_.set32(entry, static_cast<std::uint32_t>(record.offset()) - blockStart_);
+        entry += 4;
         auto reference = static_cast<std::uint32_t>(blockStart_ + rowRecordSize);
-        std::uint8_t* entry = payload + 4;
         for (const RowCells& row : rows_) {
-            if (row.firstCell == absent || entry + 2 > payload + record.payload.size()) continue;
-            store16(entry, row.firstCell - reference);
+            if (row.firstCell == absent || entry + 2 > end) continue;
+            out_.set16(entry, row.firstCell - reference);
             reference = row.firstCell;
             entry += 2;
         }
     }
 
-    std::vector<std::uint8_t>& out_;
+    PatchedStream& out_;
     std::vector<std::uint32_t> dbCells_;
     std::vector<RowCells> rows_;
     std::vector<std::uint32_t> slots_ = std::vector<std::uint32_t>(65536); ///< by row: its place in rows_
@@ -160,21 +164,21 @@ void patchRowIndex(SheetPatch& patch, std::span<const CellChange> fresh) {
     patchDimensions(patch, fresh);
 }
 
-void fixRowIndex(std::vector<std::uint8_t>& out, const PatchList& patches, const SheetLayout& layout,
-                 bool rebuild, bool newBlocks) {
+void fixRowIndex(PatchedStream& out, const SheetLayout& layout, bool rebuild, bool newBlocks) {
     std::vector<std::uint32_t> dbCells;
-    if (rebuild) dbCells = BlockIndexer(out).run(patches.map(layout.start));
+    if (rebuild) dbCells = BlockIndexer(out).run(out.map(layout.start));
     if (layout.index == absent) return;
-    const Record index = recordAt(out, patches.map(layout.index));
-    std::uint8_t* payload = &out[index.offset + recordHeaderSize];
-    if (const std::uint32_t columns = index.u32(12)) store32(payload + 12, patches.map(columns));
-    const std::size_t listed = (index.payload.size() - indexHead) / 4;
+    const std::uint32_t index = out.map(layout.index);
+    const std::vector<std::uint8_t> payload = out.payloadAt(index);
+    const std::size_t at = index + recordHeaderSize;
+    if (const std::uint32_t columns = load32(&payload[12])) out.set32(at + 12, out.map(columns));
+    const std::size_t listed = (payload.size() - indexHead) / 4;
     for (std::size_t i = 0; i < listed; ++i) {
-        std::uint8_t* entry = payload + indexHead + 4 * i;
+        const std::size_t entry = indexHead + 4 * i;
         if (!newBlocks)
-            store32(entry, patches.map(load32(entry)));
+            out.set32(at + entry, out.map(load32(&payload[entry])));
         else if (i < dbCells.size())
-            store32(entry, dbCells[i]);
+            out.set32(at + entry, dbCells[i]);
     }
 }
 

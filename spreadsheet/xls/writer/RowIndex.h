@@ -1,9 +1,9 @@
 #pragma once
 
+#include "spreadsheet/xls/records/PatchedStream.h"
 #include "spreadsheet/xls/writer/SheetPatch.h"
 
 #include <span>
-#include <vector>
 
 namespace zvonika::xls {
 
@@ -12,7 +12,6 @@ namespace zvonika::xls {
 void patchRowIndex(SheetPatch& patch, std::span<const CellChange> fresh);
 
 /// Fills in the offsets in the new stream. `rebuild`: blocks were changed or added, not only moved.
-void fixRowIndex(std::vector<std::uint8_t>& out, const PatchList& patches, const SheetLayout& layout,
-                 bool rebuild, bool newBlocks);
+void fixRowIndex(PatchedStream& out, const SheetLayout& layout, bool rebuild, bool newBlocks);
 
 } // namespace zvonika::xls

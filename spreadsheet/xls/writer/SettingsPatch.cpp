@@ -58,7 +58,7 @@ std::uint32_t newColInfoPosition(ByteView stream, const SheetLayout& layout, std
         position = info.end();
     }
     if (position != absent) return position;
-    return layout.dimensions != absent ? layout.dimensions : layout.tablePosition(stream);
+    return layout.dimensions != absent ? layout.dimensions : layout.tablePosition();
 }
 
 void insertColInfo(ByteView stream, const SheetLayout& layout, std::uint16_t format, std::uint32_t column,

@@ -36,13 +36,13 @@ std::map<CellKey, Members> orphans(const SheetPatch& patch, std::span<const Cell
     std::map<CellKey, Members> orphans;
     for (const CellChange& change : changes) {
         const CellSlot* slot = patch.layout.findCell(change.key);
-        if (!slot || !recordAt(patch.stream, slot->record).is(RecordType::Formula)) continue;
+        if (!slot || !recordAt(patch.stream, slot->record).isFormula()) continue;
         if (attached(patch.stream, slot->record, RecordType::ShrFmla) != absent) orphans[change.key];
     }
     if (orphans.empty()) return orphans;
     for (const CellSlot& slot : patch.layout.cells) {
         const Record record = recordAt(patch.stream, slot.record);
-        if (!record.is(RecordType::Formula) || isChanged(changes, slot.key)) continue;
+        if (!record.isFormula() || isChanged(changes, slot.key)) continue;
         const auto anchor = formulaAnchor(record);
         const auto orphan = anchor ? orphans.find(anchor->key) : orphans.end();
         if (orphan != orphans.end()) orphan->second.push_back(slot);
@@ -70,7 +70,7 @@ std::optional<ArrayCells> arrayAround(ByteView stream, const SheetLayout& layout
     const CellSlot* slot = layout.findCell(key);
     if (!slot) return std::nullopt;
     const Record record = recordAt(stream, slot->record);
-    const auto anchor = record.is(RecordType::Formula) ? formulaAnchor(record) : std::nullopt;
+    const auto anchor = record.isFormula() ? formulaAnchor(record) : std::nullopt;
     if (!anchor) return std::nullopt;
     const ArrayCells alone{key, key}; // damaged: a part of something whose extent is not known
     const CellSlot* holder = layout.findCell(anchor->key);

@@ -11,12 +11,20 @@ namespace {
 constexpr std::uint32_t countsSize = StringTableWriter::countsSize;
 constexpr std::size_t entrySize = 8;
 constexpr std::size_t maxEntries = (maxRecordPayload - 2) / entrySize;
+constexpr std::uint32_t fewestInBucket = 8;
 
 /// Payload bytes of the record that the table's last text ends in, up to there.
 std::uint32_t usedInLastRecord(const WorkbookModel& model) {
     if (model.globals.sst == absent) return countsSize;
     return static_cast<std::uint32_t>(model.strings.textsEnd() - model.strings.lastRecordOffset() -
                                       recordHeaderSize);
+}
+
+std::uint32_t endWithContinues(ByteView stream, const Record& record) {
+    std::uint32_t end = record.end();
+    while (isRecordAt(stream, end, RecordType::Continue))
+        end = recordAt(stream, end).end();
+    return end;
 }
 
 std::uint32_t oldReferences(const WorkbookModel& model) {
@@ -80,44 +88,39 @@ void SharedStringsPatch::appendTexts(PatchList& patches) const {
     patches.replace(strings.textsEnd(), strings.end() - strings.textsEnd(), writer_.bytes());
 }
 
+/// Made anew, for some writers leave off before their last text: entries added there would stand for others.
 void SharedStringsPatch::patchIndex(PatchList& patches) const {
     const Record old = recordAt(model_.stream, model_.globals.extSst);
-    const std::uint32_t perBucket = old.payload.size() < 2 ? 0 : old.u16(0);
-    if (perBucket == 0) return;
-    std::vector<std::uint8_t> entries(old.payload.begin() + 2, old.payload.end());
-    entries.resize(std::min<std::size_t>(entries.size() / entrySize,
-                                         (model_.strings.size() + perBucket - 1) / perBucket) *
-                   entrySize);
-    for (std::size_t i = 0; i < places_.size(); ++i) {
-        if ((model_.strings.size() + i) % perBucket != 0) continue;
-        append32(entries, places_[i].offset);
-        append32(entries, places_[i].inRecord);
-    }
-    std::uint32_t step = 1;
-    while (entries.size() / entrySize > maxEntries * step || perBucket * step < 8)
-        step *= 2;
+    std::uint32_t perBucket = old.payload.size() < 2 || old.u16(0) == 0 ? fewestInBucket : old.u16(0);
+    while (perBucket < fewestInBucket || (newSize() - 1) / perBucket >= maxEntries)
+        perBucket *= 2;
     std::vector<std::uint8_t> payload;
-    append16(payload, perBucket * step);
-    for (std::size_t i = 0; i * entrySize < entries.size(); i += step)
-        payload.insert(payload.end(), &entries[i * entrySize], &entries[i * entrySize] + entrySize);
+    append16(payload, perBucket);
+    const SharedStrings& strings = model_.strings;
+    for (std::uint32_t text = 0; text < newSize(); text += perBucket) {
+        const bool isFresh = text >= strings.size();
+        append32(payload, isFresh ? places_[text - strings.size()].offset : strings.start(text));
+        append32(payload, isFresh ? places_[text - strings.size()].inRecord : strings.startInRecord(text));
+    }
     std::vector<std::uint8_t> record;
     appendRecord(record, RecordType::ExtSst, payload);
-    patches.replace(old.offset, old.end() - old.offset, record);
+    patches.replace(old.offset, endWithContinues(model_.stream, old) - old.offset, record);
 }
 
-void SharedStringsPatch::fix(std::vector<std::uint8_t>& out, const PatchList& patches) const {
+void SharedStringsPatch::fix(PatchedStream& out) const {
     if (model_.globals.extSst == absent) return;
-    const Record index = recordAt(out, patches.map(model_.globals.extSst));
-    const std::uint32_t perBucket = index.payload.size() < 2 ? 0 : index.u16(0);
+    const std::uint32_t index = out.map(model_.globals.extSst);
+    const std::vector<std::uint8_t> payload = out.payloadAt(index);
+    const std::uint32_t perBucket = payload.size() < 2 ? 0 : load16(payload.data());
     const SharedStrings& strings = model_.strings;
     // An insertion at the very end of the table has moved what `map` answers behind itself.
     const bool inserted = strings.textsEnd() == strings.end() && !fresh_.empty();
     const std::uint32_t freshAt =
-        patches.map(strings.textsEnd()) - (inserted ? static_cast<std::uint32_t>(writer_.bytes().size()) : 0);
-    for (std::size_t i = 0; 2 + (i + 1) * entrySize <= index.payload.size(); ++i) {
-        std::uint8_t* entry = &out[index.offset + recordHeaderSize + 2 + i * entrySize];
-        const bool isFresh = i * perBucket >= strings.size();
-        store32(entry, isFresh && !fresh_.empty() ? freshAt + load32(entry) : patches.map(load32(entry)));
+        out.map(strings.textsEnd()) - (inserted ? static_cast<std::uint32_t>(writer_.bytes().size()) : 0);
+    for (std::size_t i = 0, at = 2; at + entrySize <= payload.size(); ++i, at += entrySize) {
+        const std::uint32_t old = load32(&payload[at]);
+        const bool isFresh = i * perBucket >= strings.size() && !fresh_.empty();
+        out.set32(index + recordHeaderSize + at, isFresh ? freshAt + old : out.map(old));
     }
 }
 

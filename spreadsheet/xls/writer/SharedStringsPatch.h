@@ -1,7 +1,7 @@
 #pragma once
 
 #include "spreadsheet/xls/book/WorkbookModel.h"
-#include "spreadsheet/xls/records/PatchList.h"
+#include "spreadsheet/xls/records/PatchedStream.h"
 #include "spreadsheet/xls/strings/StringTableWriter.h"
 
 #include <vector>
@@ -21,7 +21,7 @@ public:
     /// `references`: how many cells refer to the table now.
     void apply(std::uint32_t references, PatchList& patches);
     /// Fills in the offsets of the index in the new stream.
-    void fix(std::vector<std::uint8_t>& out, const PatchList& patches) const;
+    void fix(PatchedStream& out) const;
 
 private:
     void layOut();

@@ -32,7 +32,7 @@ struct SheetPatch {
     ByteView stream;
     const SheetLayout& layout;
     PatchList& patches;
-    std::uint16_t defaultFormat;
+    const CellFormats& formats;
     /// The rows with new cells in the blocks whose bytes change, by the offset of the block's DbCell record.
     std::map<std::uint32_t, std::set<std::uint32_t>> changedBlocks{};
     std::uint32_t newBlocks = 0;

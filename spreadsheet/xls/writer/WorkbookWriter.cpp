@@ -8,6 +8,7 @@
 #include "spreadsheet/xls/writer/SharedStringsPatch.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace zvonika::xls {
 
@@ -27,7 +28,7 @@ public:
             changes_.push_back(sorted(sheet));
     }
 
-    std::vector<std::uint8_t> write() {
+    PatchedStream write() {
         SharedStringsPatch texts(model_, edits_.texts, usedTexts());
         resolveTexts(texts);
         texts.apply(references(), patches_);
@@ -35,12 +36,14 @@ public:
             patchSheet(i);
         if (std::ranges::any_of(changes_, [](const Changes& changes) { return !changes.empty(); }))
             markFormulas();
+        addUsualFormat();
         if (edits_.activeSheet) patchActiveSheet(model_, *edits_.activeSheet, patches_);
         patches_.finish();
-        std::vector<std::uint8_t> out = patches_.apply(model_.stream);
-        texts.fix(out, patches_);
+        PatchedStream out(model_.stream, std::move(patches_));
+        texts.fix(out);
         for (std::size_t i = 0; i < model_.layouts.size(); ++i)
             fixSheet(out, i);
+        out.finish();
         return out;
     }
 
@@ -93,12 +96,12 @@ private:
         blocks_.push_back(patchCells(i));
         if (edits.name) patchSheetName(model_.stream, model_.globals.sheets[i], *edits.name, patches_);
         if (edits.activeCell) patchActiveCell(model_.stream, layout, *edits.activeCell, patches_);
-        patchColumnWidths(model_.stream, layout, model_.globals.defaultFormat, edits.widths, patches_);
+        patchColumnWidths(model_.stream, layout, model_.globals.formats.usual(), edits.widths, patches_);
     }
 
     BlockState patchCells(std::size_t i) {
         const SheetLayout& layout = model_.layouts[i];
-        SheetPatch patch{model_.stream, layout, patches_, model_.globals.defaultFormat};
+        SheetPatch patch{model_.stream, layout, patches_, model_.globals.formats};
         Changes existing;
         Changes fresh;
         for (const CellChange& change : changes_[i])
@@ -113,6 +116,14 @@ private:
         return {!patch.changedBlocks.empty() || patch.newBlocks > 0, patch.newBlocks > 0};
     }
 
+    /// Where all formats are of styles, new cells and columns have been given one that is not there yet.
+    void addUsualFormat() {
+        if (!model_.globals.formats.lackUsual()) return;
+        std::vector<std::uint8_t> format;
+        appendPlainCellFormat(format);
+        patches_.insert(model_.globals.formatsEnd, format);
+    }
+
     /// Stored results may be out of date now. A program that calculates does it anew on opening where a sheet
     /// says so; the formulas themselves keep every byte.
     void markFormulas() {
@@ -123,11 +134,11 @@ private:
                 patches_.insert(recordAt(model_.stream, layout.start).end(), mark);
     }
 
-    void fixSheet(std::vector<std::uint8_t>& out, std::size_t i) const {
+    void fixSheet(PatchedStream& out, std::size_t i) const {
         const SheetEntry& entry = model_.globals.sheets[i];
         if (!entry.hasSubstream()) return;
-        store32(&out[patches_.map(entry.record) + recordHeaderSize], patches_.map(entry.position));
-        fixRowIndex(out, patches_, model_.layouts[i], blocks_[i].rebuild, blocks_[i].newBlocks);
+        out.set32(out.map(entry.record) + recordHeaderSize, out.map(entry.position));
+        fixRowIndex(out, model_.layouts[i], blocks_[i].rebuild, blocks_[i].newBlocks);
     }
 
     const WorkbookModel& model_;
@@ -139,7 +150,7 @@ private:
 
 } // namespace
 
-std::vector<std::uint8_t> writeWorkbook(const WorkbookModel& model, const WorkbookEdits& edits) {
+PatchedStream writeWorkbook(const WorkbookModel& model, const WorkbookEdits& edits) {
     return WorkbookWriter(model, edits).write();
 }
 

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "spreadsheet/xls/book/WorkbookModel.h"
+#include "spreadsheet/xls/records/PatchedStream.h"
 
 namespace zvonika::xls {
 
-/// The workbook stream with the edits in it. Records that do not have to change keep their bytes.
-std::vector<std::uint8_t> writeWorkbook(const WorkbookModel& model, const WorkbookEdits& edits);
+/// The workbook stream with the edits in it, as long as the model lives. Records that do not have to change
+/// keep their bytes.
+PatchedStream writeWorkbook(const WorkbookModel& model, const WorkbookEdits& edits);
 
 } // namespace zvonika::xls

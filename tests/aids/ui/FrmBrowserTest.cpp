@@ -66,8 +66,13 @@ TEST_P(FrmBrowserTest, APageChangedOnTheDiskIsReadAgain) {
 /// A page that is being loaded for as long as the test wants.
 class RucniProhlizec : public QWidget, public Prohlizec {
 public:
-    using QWidget::QWidget;
+    explicit RucniProhlizec(const MistoProhlizece& misto) : QWidget(misto.rodic), okno_(misto.sledovani) {}
     QWidget* widget() override { return this; }
+    /// The user follows a link in the page.
+    void odkaz(const QUrl& kam, const QString& titulek) {
+        titulek_ = titulek;
+        okno_.prejito(kam);
+    }
     void prejdi(const QUrl&) override { nacita = true; }
     void zpet() override {}
     void vpred() override {}
@@ -76,16 +81,20 @@ public:
     void obnov() override { nacita = true; }
     void zastav() override { nacita = false; }
     bool zaneprazdnen() const override { return nacita; }
-    QString titulek() const override { return QStringLiteral("Stránka"); }
+    QString titulek() const override { return titulek_; }
     void najdi(const QString&, bool) override {}
 
     bool nacita = false;
+
+private:
+    SledovaniProhlizece& okno_;
+    QString titulek_ = QStringLiteral("Stránka");
 };
 
 TEST_F(Napoveda, TheCaptionTellsOfLoadingUntilThePageIsThere) {
     RucniProhlizec* prohlizec = nullptr;
     tvurce = [&](const MistoProhlizece& misto) {
-        prohlizec = new RucniProhlizec(misto.rodic);
+        prohlizec = new RucniProhlizec(misto);
         return VytvorenyProhlizec{prohlizec, {}};
     };
     ASSERT_TRUE(postav(Zobrazeni::Dane));
@@ -97,6 +106,8 @@ TEST_F(Napoveda, TheCaptionTellsOfLoadingUntilThePageIsThere) {
     cekejTitulek("Working...");
     stiskni("Stop");
     EXPECT_EQ(okno->windowTitle(), "Stránka");
+    prohlizec->odkaz(adresa("b.htm"), QStringLiteral("Druhá"));
+    cekejTitulek("Druhá");
 }
 
 TEST_P(FrmBrowserTest, AMissingPageEndsOnAnErrorPageAndTheWindowGoesOn) {

@@ -39,7 +39,7 @@ TEST_F(NavigaceTest, EveryMovementReleasesTheBoardAndShowsTheNewRow) {
         SCOPED_TRACE(pohyb.nazev);
         zobrazeni.cmdReadTah();
         excel->selectRange(QStringLiteral("F%1").arg(pohyb.z));
-        pasPisne.obnov();
+        pasPisne.obnov(pasPisne.ctiPoZmene());
         PovolZpet(prikazy);
         diskant.nastavZnacku(20, true);
         uvolneno = 0;
@@ -75,7 +75,7 @@ TEST_F(NavigaceTest, AMoveReadsOneBlockForBoardAndStrip) {
         SCOPED_TRACE(co);
         navigace.cmdPrvni();
         naRadek(z);
-        pasPisne.obnov();
+        pasPisne.obnov(pasPisne.ctiPoZmene());
         log.calls.clear();
         pohyb();
         EXPECT_EQ(log.count("readBlock"), 1);
@@ -91,7 +91,7 @@ TEST_F(NavigaceTest, EachCommandReportsAFaultyFingeringOnce) {
         for (int stisk = 1; stisk <= 2; ++stisk) {
             SCOPED_TRACE(QStringLiteral("%1, press %2").arg(pohyb.nazev).arg(stisk).toStdString());
             naRadek(pohyb.z);
-            pasPisne.obnov();
+            pasPisne.obnov(pasPisne.ctiPoZmene());
             dialogs.expect("Chyba !", "Neočekávaná hodnota ve značení prstokladu.");
             (navigace.*pohyb.povel)();
             EXPECT_EQ(diskant.popis(9), "1\r\n") << "what was read before the fault stays";

@@ -59,12 +59,12 @@ TEST_F(PasPisneTest, FollowsTheCursorAndTheCells) {
     otevriPolku(40);
     excel->put("A3", "nová");
     naRadek(16);
-    pasPisne.obnov();
+    pasPisne.obnov(pasPisne.ctiPoZmene());
     EXPECT_EQ(pas.poziceVPasu, 16);
     EXPECT_EQ(pas.prvniRadekPasu, 1);
     EXPECT_EQ(pas.pozice[2].slabika, "nová");
     naRadek(17);
-    pasPisne.obnov();
+    pasPisne.obnov(pasPisne.ctiPoZmene());
     EXPECT_EQ(pas.poziceVPasu, 1);
     EXPECT_EQ(pas.prvniRadekPasu, 17);
     pasPisne.vyprazdni();
@@ -72,7 +72,7 @@ TEST_F(PasPisneTest, FollowsTheCursorAndTheCells) {
     EXPECT_EQ(pas.pozice[0].slabika, "");
     EXPECT_EQ(pas.prvniRadekPasu, 1);
     naRadek(5);
-    pasPisne.obnov();
+    pasPisne.obnov(pasPisne.ctiPoZmene());
     EXPECT_EQ(pas.prvniRadekPasu, 5) << "an empty strip has no rows to keep";
 }
 

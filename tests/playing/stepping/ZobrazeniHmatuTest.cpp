@@ -146,7 +146,7 @@ TEST_F(ZobrazeniHmatuTest, TextPanelShowsTheRowAndItsNeighbours) {
     }
     naRadek(1);
     panel.popisyViditelne = false;
-    zobrazeni.ZobrazTexty();
+    zobrazeni.ZobrazTexty(SongReader(pisen).kolemKurzoru());
     EXPECT_TRUE(panel.popisyViditelne);
     EXPECT_EQ(panel.lblTony, "c1, e1,");
     EXPECT_EQ(panel.lblBasy, "C");

@@ -144,9 +144,10 @@ def format_of(book, sheet, cell, key):
     if cell:
         return cell.format
     row = sheet.rows.get(key[0])
-    if row and row[12] & 0x80:
-        return struct.unpack_from("<H", row, 14)[0] & 0xFFF
-    return sheet.columns.get(key[1], book.default_format())
+    candidates = [struct.unpack_from("<H", row, 14)[0] & 0xFFF] if row and row[12] & 0x80 else []
+    candidates.append(sheet.columns.get(key[1], book.default_format()))
+    # A cell with the format of a style is damage to some programs.
+    return next((xf for xf in candidates if xf < len(book.formats) and not book.formats[xf] & 4), book.default_format())
 
 
 def compare_rows(before, after, changes):

@@ -2,6 +2,7 @@
 #include "spreadsheet/embedded/FileSentences.h"
 #include "spreadsheet/embedded/WorkbookFile.h"
 #include "tests/spreadsheet/embedded/Rig.h"
+#include "tests/spreadsheet/embedded/SmallMemory.h"
 
 #include <functional>
 #include <stdexcept>
@@ -36,6 +37,9 @@ TEST_F(FileRefusalTest, OpeningSaysWhatIsWrong) {
     make("prázdný.xls", {});
     make("dopis.xls", "Milá babičko, posílám Ti písničku.");
     make("nový.xls", QByteArray("PK\x03\x04", 4) + QByteArray(26, '\0') + "[Content_Types].xml");
+    QByteArray old = contents(QStringLiteral(XLS_DATA "/biff5.xls"));
+    old.replace(QByteArray("\x42\0\2\0\xE2\x04", 6), QByteArray("\x42\0\2\0\xA4\x03", 6));
+    make("japonský.xls", old);
     make("useknutý.xls", saved.left(saved.size() / 2));
     make("rozbitý.xls", QByteArray(saved).replace(30, 2, QByteArray(2, '\x55')));
     ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("složka.xls")));
@@ -47,6 +51,8 @@ TEST_F(FileRefusalTest, OpeningSaysWhatIsWrong) {
          "podle obsahu je to prostý text (CSV); uložte ho v programu, který ho vytvořil, jako sešit .xls."},
         {"nový.xls", "podle obsahu je to sešit v novějším formátu .xlsx; uložte ho v programu, který ho "
                      "vytvořil, jako sešit .xls."},
+        {"japonský.xls", "texty jsou v něm ve znakové sadě, kterou tabulka nezná; uložte ho v programu, "
+                         "který ho vytvořil, v dnešním formátu .xls."},
         {"useknutý.xls", "není celý, jeho konec chybí."},
         {"rozbitý.xls", "je poškozený."},
     };
@@ -57,6 +63,21 @@ TEST_F(FileRefusalTest, OpeningSaysWhatIsWrong) {
     EXPECT_EQ(refusalOf([&] { Document::open(QStringLiteral("/dev/null")); }),
               QStringLiteral("1004 Soubor „null“ nelze otevřít: není to obyčejný soubor."));
     EXPECT_TRUE(files().filter(QStringLiteral(".zamek")).isEmpty());
+}
+
+TEST_F(FileRefusalTest, AHugeFileOfAnotherKindIsNotRead) {
+    const QByteArray container("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1", 8);
+    const std::pair<QByteArray, const char*> cases[] = {
+        {QByteArray(), "není to sešit ve formátu .xls."},
+        {QByteArray("%PDF-1.7"), "podle obsahu je to jiný formát než .xls."},
+        {container, "je poškozený."}};
+    for (const auto& [head, reason] : cases) {
+        store(good, head);
+        ASSERT_TRUE(QFile::resize(good, qint64{500} << 20)); // takes no room on the disk
+        const SmallMemory memory(64 << 20);
+        EXPECT_EQ(refusalOf([&] { readWorkbook(good); }),
+                  QStringLiteral("1004 Soubor „dobrá.xls“ nelze otevřít: %1").arg(QString::fromUtf8(reason)));
+    }
 }
 
 TEST_F(FileRefusalTest, AFileThatIsOpenInTheSameProcessIsNotOpenedTwice) {

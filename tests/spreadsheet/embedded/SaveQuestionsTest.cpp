@@ -83,7 +83,9 @@ TEST_F(SaveQuestionsTest, WhatASaveDoesToAnOlderFileIsSaidBefore) {
     EXPECT_TRUE(saving().contains(QStringLiteral("není: na disku ho mezitím změnil")));
     EXPECT_EQ(contents(old), foreign);
     store(old, before);
-    dialogs.expect(jmenoTabulky, conversion, Answer::Yes);
+    dialogs.expect(jmenoTabulky,
+                   QStringLiteral("maticové konstanty), nahradí jejich výsledky; písmo jednotlivých slov"),
+                   Answer::Yes);
     EXPECT_EQ(saving(), QStringLiteral("0"));
     EXPECT_NE(contents(old), before);
     app.setValue(QStringLiteral("B1"), QStringLiteral("d"));

@@ -99,6 +99,10 @@ TEST(CodePage, ReadsCzechInEveryPageThatHasIt) {
     EXPECT_EQ(CodePage(32769).decode(Bytes{0xE9, 0x80}), u"é€");
     EXPECT_EQ(CodePage(codePageOfCountry(420)).decode(Bytes{0xE8}), u"č");
     EXPECT_EQ(CodePage(codePageOfCountry(1)).decode(Bytes{0xE8}), u"è");
+    EXPECT_EQ(CodePage(1258).decode(Bytes{0xE3, 0xCC, 0xF5, 0xFD}), u"ă\u0300ơư");
+    EXPECT_EQ(CodePage(1255).decode(Bytes{0x80, 0xE0, 0xFA}), u"€\u05D0\u05EA");
+    EXPECT_EQ(CodePage(1256).decode(Bytes{0x81, 0xC7, 0xFF}), u"\u067E\u0627\u06D2");
+    EXPECT_EQ(CodePage(874).decode(Bytes{0x85, 0xA1, 0xFB}), u"…\u0E01\u0E5B");
     EXPECT_THROW(CodePage(932), FormatError);
 }
 
@@ -146,7 +150,7 @@ TEST(Biff5, AnotherCodePageIsFollowedOrRefused) {
         Workbook::open(file);
         ADD_FAILURE() << "a code page of two bytes a character was read";
     } catch (const FormatError& error) {
-        EXPECT_EQ(error.refusal(), Refusal::OldFormat);
+        EXPECT_EQ(error.refusal(), Refusal::CodePage);
         EXPECT_EQ(error.found(), "932");
     }
 }
@@ -161,7 +165,7 @@ TEST(BookStream, TheLaterVersionCountsWhateverItsName) {
         file = CompoundFile(file.withStream(*file.findStream("Workbook"), workbook));
         const std::uint32_t entry = *file.findStream("\x01"
                                                      "CompObj");
-        return file.withStreamNamed(entry, other, second);
+        return file.imageWith(entry, std::make_shared<ByteViewSource>(second), other).bytes();
     };
     EXPECT_EQ(Workbook::open(twoStreams("Book", biff5, biff8)).sheetName(0), u"Nová");
     EXPECT_EQ(Workbook::open(twoStreams("Book", Bytes(5000, 1), biff5)).sheetName(0), u"Píseň");

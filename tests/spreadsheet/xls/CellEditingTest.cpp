@@ -113,6 +113,26 @@ TEST(Formula, TakesItsStoredTextWithItWhenReplaced) {
     expectTable(edited(table, {{{0, 0}, 1.0}}), {table[0], rk(0, 0, 15, 1), table[3], table[4]});
 }
 
+TEST(Formula, IsOneUnderTheNumbersOfOlderVersionsToo) {
+    const Rec text{0x0207, le(2, {3}) + Bytes{0, 'a', 'b', 'c'}};
+    const Rec shared{0x04BC, le(2, {1, 2}) + Bytes{0, 0, 0, 2} + le(2, {3}) + Bytes{0x1E, 5, 0}};
+    for (const std::uint16_t number : {std::uint16_t{0x0206}, std::uint16_t{0x0406}}) {
+        SCOPED_TRACE(number);
+        const auto older = [&](const Rec& record) { return Rec{number, record.data}; };
+        const std::vector<Rec> table{row(0, 0, 1), row(1, 0, 1),
+                                     row(2, 0, 1), older(formula(0, 0, textResult, {0x17, 1, 0, 'x'})),
+                                     text,         older(formula(1, 0, Bytes(8), sharedWith(1, 0))),
+                                     shared,       older(formula(2, 0, Bytes(8), sharedWith(1, 0)))};
+        const Workbook book = Workbook::open(fileWithTable(table));
+        EXPECT_EQ(book.value(0, {0, 0}), Value(std::u16string(u"abc")));
+        EXPECT_TRUE(book.isFormula(0, {0, 0}));
+        EXPECT_EQ(book.usedRows(0), 3);
+        expectTable(saved(table, {{{0, 0}, 1.0}, {{1, 0}, 2.0}}),
+                    {table[0], table[1], table[2], rk(0, 0, 15, 1), rk(1, 0, 15, 2),
+                     older(formula(2, 0, Bytes(8), sharedWith(2, 0))), shared});
+    }
+}
+
 TEST(Formula, IsBackWhenItsCellIsRestored) {
     const Rec text{0x0207, le(2, {3}) + Bytes{0, 'a', 'b', 'c'}};
     const Bytes file = fileWithTable({row(0, 0, 2), formula(0, 0, textResult, {0x17, 1, 0, 'x'}), text});
@@ -180,21 +200,94 @@ TEST(ArrayFormula, OfOneCellIsReplacedAndADataTableIsNot) {
     EXPECT_THROW(book.setValue(0, {0, 0}, 1.0), std::invalid_argument);
 }
 
+Rec xf(bool isStyle) {
+    return {0x00E0,
+            le(2, {0, 0, isStyle ? 0xFFF5U : 1U}) + Bytes{0x20, 0, 0, 0} + le(4, {0, 0}) + le(2, {0x20C0})};
+}
+
+/// A new workbook's records with `added` formats behind the 15 styles and the one format of cells.
+std::vector<Rec> withFormats(const std::vector<Rec>& table, const std::vector<Rec>& added) {
+    std::vector<Rec> all = recordsOf(fileWithTable(table));
+    all.insert(std::ranges::find(all, 0x0293, &Rec::id), added.begin(), added.end());
+    return all;
+}
+
 TEST(NewCell, TakesTheFormatOfItsRowThenItsColumn) {
     const Rec formatted = row(0, 0, 4, 0x0180, 0x3019); // what is above twelve bits is no format
-    std::vector<Rec> all = recordsOf(fileWithTable({row(0, 0, 1, 0x0180, 0x3019), row(1, 0, 1, 0x0100, 26),
-                                                    numberCell(0, 0, 1.5), numberCell(1, 0, 1.5)}));
+    std::vector<Rec> all = withFormats({row(0, 0, 1, 0x0180, 0x3019), row(1, 0, 1, 0x0100, 26),
+                                        numberCell(0, 0, 1.5), numberCell(1, 0, 1.5)},
+                                       std::vector<Rec>(25, xf(false)));
     std::ranges::find(all, 0x0225, &Rec::id)->data = le(2, {0, 400});
     Rec fresh = row(2, 2, 4);
     std::ranges::copy(le(2, {400}), fresh.data.begin() + 6);
     all.insert(std::ranges::find(all, 0x0055, &Rec::id) + 1, {0x007D, le(2, {3, 3, 1000, 40, 0, 0})});
-    Workbook book = Workbook::open(fileAround(bytesOf(all)));
+    Workbook book = Workbook::open(moved(all));
     for (const CellRef& cell : {CellRef{0, 3}, CellRef{1, 3}, CellRef{1, 4}, CellRef{2, 3}, CellRef{2, 2}})
         book.setValue(0, cell, true);
     expectTable(tableOf(book.save()),
                 {formatted, row(1, 0, 5, 0x0100, 26), fresh, numberCell(0, 0, 1.5), boolean(0, 3, 25, true),
                  numberCell(1, 0, 1.5), boolean(1, 3, 40, true), boolean(1, 4, 15, true),
                  boolean(2, 2, 15, true), boolean(2, 3, 40, true)});
+}
+
+TEST(NewCell, NeverTakesTheFormatOfAStyle) {
+    const struct {
+        const char* what;
+        int row, column, taken; ///< formats; 15 is a cell's, 16 a style's, 17 a cell's, 99 nobody's
+    } table[] = {{"of its row", 16, 17, 17},
+                 {"of its column", 16, 16, 15},
+                 {"that there is not", 99, 99, 15},
+                 {"but that of a cell", 17, 16, 17}};
+    for (const auto& [what, rowFormat, column, taken] : table) {
+        SCOPED_TRACE(what);
+        std::vector<Rec> all =
+            withFormats({row(0, 0, 1, 0x0180, rowFormat), numberCell(0, 0, 1.5)}, {xf(true), xf(false)});
+        all.insert(std::ranges::find(all, 0x0055, &Rec::id) + 1,
+                   {0x007D, le(2, {3, 3, 1000, u(column), 0, 0})});
+        Workbook book = Workbook::open(moved(all));
+        book.setValue(0, {0, 3}, true);
+        EXPECT_EQ(tableOf(book.save()).back(), boolean(0, 3, taken, true));
+    }
+}
+
+TEST(NewCell, GetsAFormatWhereAllAreOfStyles) {
+    std::vector<Rec> all = recordsOf(fileWithTable({}));
+    for (Rec& record : all)
+        if (record.id == 0x00E0) record = xf(true);
+    Workbook book = Workbook::open(fileAround(bytesOf(all)));
+    book.setColumnWidth(0, 1, 999);
+    book.setValue(0, {0, 3}, true);
+    const Bytes file = book.save();
+    const std::vector<Rec> saved = recordsOf(file);
+    EXPECT_EQ(std::ranges::count(saved, 0x00E0, &Rec::id), 17);
+    EXPECT_EQ(*(std::ranges::find(saved, 0x0293, &Rec::id) - 1), xf(false));
+    EXPECT_EQ(find(saved, 0x0205)->u16(4), 16);
+    EXPECT_EQ(find(saved, 0x007D)->u16(6), 16);
+    EXPECT_EQ(find(saved, 0x0208)->u16(14), 16);
+    book = Workbook::open(file);
+    book.setValue(0, {1, 3}, true);
+    EXPECT_EQ(std::ranges::count(recordsOf(book.save()), 0x00E0, &Rec::id), 17) << "once is enough";
+}
+
+TEST(NewCell, StandsBehindPageSettingsThatStandBehindDimensions) {
+    const Rec margin{0x0026, Bytes(8)}, printer{0x004D, Bytes(4)}, more{0x003C, Bytes(6)},
+        drawing{0x00EC, Bytes(8)};
+    for (const bool blocks : {true, false}) {
+        std::vector<Rec> all = recordsOf(fileWithTable({margin, printer, more, drawing}));
+        if (!blocks) std::erase_if(all, [](const Rec& record) { return record.id == 0x020B; });
+        Workbook book = Workbook::open(moved(all));
+        book.setValue(0, {2, 1}, true);
+        book.setValue(0, {90, 1}, true);
+        const Bytes file = book.save();
+        EXPECT_EQ(offsetFaults(file), "");
+        const std::vector<Rec> saved = recordsOf(file);
+        const auto place = [&](const Rec& record) {
+            return std::ranges::find(saved, record) - saved.begin();
+        };
+        EXPECT_LT(place(more), place(row(2, 1, 2)));
+        EXPECT_LT(place(boolean(90, 1, 15, true)), place(drawing));
+        EXPECT_EQ(Workbook::open(file).value(0, {2, 1}), Value(true));
+    }
 }
 
 TEST(NewCell, StandsInOrderWhereverTheRowsAre) {

@@ -1,4 +1,5 @@
 #include "spreadsheet/xls/container/CompoundFile.h"
+#include "spreadsheet/xls/records/PatchedStream.h"
 #include "tests/spreadsheet/xls/XlsFiles.h"
 
 #include <algorithm>
@@ -80,9 +81,47 @@ TEST(Container, KeepsStreamsInSectorsOfBothSizesAndThoseWhoseLastTheTableCallsFr
         container = CompoundFile(container.withStream(1, pattern(4200, 1)));
         container = CompoundFile(container.withStream(1, fresh));
         EXPECT_EQ(container.readStream(2), other);
+        // The other one goes on in sectors before its own.
+        container = CompoundFile(container.withStream(1, pattern(4200, 2)));
+        container = CompoundFile(container.withStream(2, pattern(4097 + size, 7)));
+        EXPECT_EQ(container.readStream(1), pattern(4200, 2));
+        EXPECT_EQ(container.readStream(2), pattern(4097 + size, 7));
         EXPECT_LE(container.bytes().size(), file.size() + size + 4 * sector)
             << "freed sectors are used again";
     }
+}
+
+TEST(PatchedStream, IsTheSameHoweverItIsRead) {
+    const Bytes original = pattern(40, 1), fresh = pattern(9, 100);
+    PatchList patches;
+    patches.insert(0, ByteView(fresh).first(3));
+    patches.replace(10, 4, {}); // in no order
+    patches.replace(5, 2, fresh);
+    patches.insert(20, ByteView(fresh).first(1), InsertOrder::Cell);
+    patches.insert(20, ByteView(fresh).last(2), InsertOrder::Row);
+    patches.replace(38, 2, ByteView(fresh).first(5));
+    patches.finish();
+    PatchedStream stream(original, std::move(patches));
+    const auto part = [&](std::size_t begin, std::size_t end) {
+        return Bytes(original.begin() + std::ptrdiff_t(begin), original.begin() + std::ptrdiff_t(end));
+    };
+    Bytes whole = Bytes(fresh.begin(), fresh.begin() + 3) + part(0, 5) + fresh + part(7, 10) + part(14, 20) +
+                  Bytes(fresh.end() - 2, fresh.end()) + Bytes{fresh[0]} + part(20, 38) +
+                  Bytes(fresh.begin(), fresh.begin() + 5);
+    stream.set32(30, 0x44332211);
+    stream.set16(6, 0x6655);
+    stream.finish();
+    std::ranges::copy(Bytes{0x11, 0x22, 0x33, 0x44}, whole.begin() + 30);
+    std::ranges::copy(Bytes{0x55, 0x66}, whole.begin() + 6);
+    ASSERT_EQ(stream.size(), whole.size());
+    EXPECT_EQ(stream.map(20), 29U) << "behind what is inserted there";
+    for (std::size_t begin = 0; begin <= whole.size(); ++begin)
+        for (std::size_t end = begin; end <= whole.size(); ++end) {
+            Bytes read(end - begin);
+            stream.read(begin, read);
+            ASSERT_TRUE(std::ranges::equal(read, std::span(whole).subspan(begin, end - begin)))
+                << begin << " to " << end;
+        }
 }
 
 struct Damage {
@@ -94,21 +133,23 @@ struct Damage {
 };
 
 TEST(Container, DamageIsNamed) {
-    const Bytes good = fileAround(pattern(9000, 3)); // header, FAT, directory, 18 sectors of stream
+    Bytes good = fileAround(pattern(9000, 3)); // header, FAT, directory, 18 sectors of stream
+    std::ranges::copy(le(4, {0xFFFFFFFE}), good.begin() + 512 + 4 * 20); // and one that is cut off
     const Damage table[] = {
         {"sector size", 30, {11}, Refusal::Damaged},
         {"mini sector size", 32, {9}, Refusal::Damaged},
         {"more FAT sectors than the file", 44, le(4, {1000}), Refusal::Truncated},
         {"FAT outside the file", 76, le(4, {5000}), Refusal::Truncated, false},
         {"directory chain without end", 512 + 4, le(4, {1}), Refusal::Damaged},
-        {"directory outside the file", 48, le(4, {7777}), Refusal::Truncated},
+        {"directory nowhere", 48, le(4, {7777}), Refusal::Damaged},
         {"no root", 1024 + 66, {2}, Refusal::Damaged, false},
         {"stream in a circle", 512 + 4 * 10, le(4, {3}), Refusal::Damaged},
         {"stream through the directory", 512 + 4 * 10, le(4, {1}), Refusal::Damaged},
         {"stream into a free sector", 512 + 4 * 10, le(4, {0xFFFFFFFF}), Refusal::Damaged},
-        {"stream outside the file", 512 + 4 * 10, le(4, {60}), Refusal::Truncated},
-        {"stream shorter than its size", 1024 + 128 + 120, le(4, {99999}), Refusal::Truncated},
-        {"stream of no mini stream", 1024 + 128 + 120, le(4, {64}), Refusal::Truncated, false},
+        {"stream into what never was", 512 + 4 * 10, le(4, {60}), Refusal::Damaged},
+        {"stream into what is cut off", 512 + 4 * 10, le(4, {20}), Refusal::Truncated},
+        {"stream shorter than its size", 1024 + 128 + 120, le(4, {99999}), Refusal::Damaged},
+        {"stream of no mini stream", 1024 + 128 + 120, le(4, {64}), Refusal::Damaged, false},
     };
     for (const Damage& damage : table) {
         Bytes file = good;

@@ -51,6 +51,69 @@ TEST(SharedStrings, RecordsStayWithinTheLimit) {
     }
 }
 
+/// Five characters; each text begins with the letter behind that of the one before.
+std::u16string numberedText(int i) {
+    std::u16string text = u"A0000";
+    text[0] = static_cast<char16_t>(u'A' + i % 26);
+    for (std::size_t place = 5; --place > 0; i /= 10)
+        text[place] = static_cast<char16_t>(u'0' + i % 10);
+    return text;
+}
+
+/// What is wrong with the index of a table of numbered texts; "" for nothing.
+std::string indexFaults(const Bytes& file) {
+    const std::vector<Rec> all = recordsOf(file);
+    const auto index = std::ranges::find(all, 0x00FF, &Rec::id);
+    if ((index + 1)->id == 0x003C) return "goes on";
+    const unsigned perBucket = index->u16(0), texts = find(all, 0x00FC)->u32(4);
+    const std::size_t entries = (index->data.size() - 2) / 8;
+    if (perBucket < 8 || entries != (texts + perBucket - 1) / perBucket) return "entries";
+    const Bytes stream = streamOf(file);
+    for (std::size_t i = 0; i < entries; ++i) {
+        const std::uint32_t at = index->u32(2 + 8 * i), inRecord = index->u32(6 + 8 * i);
+        const auto record = std::ranges::find(all, at - inRecord, &Rec::offset);
+        if (record == all.end() || (record->id != 0x00FC && record->id != 0x003C)) return "record";
+        if (stream.at(at) != 5 || stream.at(at + 3) != 'A' + i * perBucket % 26)
+            return "text " + std::to_string(i);
+    }
+    return "";
+}
+
+TEST(SharedStrings, AnIndexThatIsShortOrWrongIsMadeAnew) {
+    Workbook book = Workbook::create(u"List");
+    for (int row = 0; row < 3000; ++row)
+        book.setValue(0, {row, 0}, numberedText(row));
+    const std::vector<Rec> good = recordsOf(book.save());
+    ASSERT_EQ(indexFaults(book.save()), "");
+    const Bytes whole = find(good, 0x00FF)->data;
+    const auto firstOf = [&](std::size_t size) {
+        return Bytes(whole.begin(), whole.begin() + std::ptrdiff_t(size));
+    };
+    const struct {
+        const char* what;
+        std::vector<Bytes> payloads; ///< of ExtSst and of a Continue record
+    } table[] = {{"as it is", {whole}},
+                 {"short", {firstOf(2 + 8 * 40)}},
+                 {"without entries", {firstOf(2)}},
+                 {"empty", {{}}},
+                 {"without a number", {le(2, {0}) + firstOf(90)}},
+                 {"too long", {whole + Bytes(80)}},
+                 {"of too many", {le(2, {1}) + Bytes(8200)}},
+                 {"going on", {firstOf(2 + 8 * 40), firstOf(80)}}};
+    for (const auto& [what, payloads] : table) {
+        SCOPED_TRACE(what);
+        std::vector<Rec> all = good;
+        std::erase_if(all, [](const Rec& record) { return record.id == 0x00D7 || record.id == 0x020B; });
+        const auto index = std::ranges::find(all, 0x00FF, &Rec::id);
+        index->data = payloads[0];
+        if (payloads.size() > 1) all.insert(index + 1, {0x003C, payloads[1]});
+        Workbook changed = Workbook::open(moved(all));
+        for (int row = 3000; row < 3100; ++row)
+            changed.setValue(0, {row, 0}, numberedText(row));
+        EXPECT_EQ(indexFaults(changed.save()), "");
+    }
+}
+
 TEST(SharedStrings, ASurrogatePairStaysWhole) {
     // Pairs at every distance from the end of the record.
     for (std::size_t lead = 4096; lead < 4112; ++lead) {

@@ -15,8 +15,8 @@ using zvonika::xls::CompoundFile;
 
 namespace {
 
-const std::set<std::uint16_t> cellIds{0x0006, 0x00BD, 0x00BE, 0x00D6, 0x00FD,
-                                      0x0201, 0x0203, 0x0204, 0x0205, 0x027E};
+const std::set<std::uint16_t> cellIds{0x0206, 0x0406, 0x0006, 0x00BD, 0x00BE, 0x00D6,
+                                      0x00FD, 0x0201, 0x0203, 0x0204, 0x0205, 0x027E};
 const std::set<std::uint16_t> tableIds{0x0208, 0x00D7, 0x0207, 0x04BC, 0x0221};
 
 bool isTable(const Rec& record) {
@@ -86,6 +86,14 @@ std::vector<Rec> tableOf(const Bytes& file) {
 const Rec* find(const std::vector<Rec>& records, std::uint16_t id) {
     const auto found = std::ranges::find(records, id, &Rec::id);
     return found == records.end() ? nullptr : &*found;
+}
+
+Bytes moved(std::vector<Rec> records) {
+    const auto sheet = std::find_if(records.begin() + 1, records.end(),
+                                    [](const Rec& record) { return record.id == 0x0809; });
+    const Bytes position = le(4, {bytesOf({records.begin(), sheet}).size()});
+    std::ranges::copy(position, std::ranges::find(records, 0x0085, &Rec::id)->data.begin());
+    return fileAround(bytesOf(records));
 }
 
 Bytes fileWithTable(const std::vector<Rec>& table) {

@@ -42,6 +42,10 @@ Bytes bytesOf(const std::vector<Rec>& records);
 std::vector<Rec> tableOf(const Bytes& file);
 const Rec* find(const std::vector<Rec>& records, std::uint16_t id);
 
+/// The file of a workbook with one sheet whose records have been added or taken away: what says where the
+/// sheet begins is put right.
+Bytes moved(std::vector<Rec> records);
+
 /// A new workbook's file with these records where its cells belong.
 Bytes fileWithTable(const std::vector<Rec>& records);
 Rec numberCell(int row, int column, double number, int format = 15);
