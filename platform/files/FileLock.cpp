@@ -39,112 +39,111 @@ QString veiled(const QByteArray& identifier) {
     const QByteArray hash =
         QMessageAuthenticationCode::hash(formName.toUtf8(), identifier, QCryptographicHash::Sha256);
     return QString::fromLatin1(hash.toHex().left(32));
+}
 
-    /// A long name leaves no room for the rest: its end gives way to a checksum of the whole.
-    QString nameOfLock(const QString& file) {
-        constexpr qsizetype longest = 255; // bytes, in every usual file system
-        const QString around = QStringLiteral(".~%1.zamek");
-        const auto isTooLong = [&](const QString& name) {
-            return around.arg(name).toUtf8().size() > longest;
-        };
-        if (!isTooLong(file)) return around.arg(file);
-        const QString checksum = QLatin1Char('~') + QString::number(crc32(file.toUtf8()), 16);
-        QString beginning = file;
-        while (isTooLong(beginning + checksum) || beginning.back().isHighSurrogate())
-            beginning.chop(1);
-        return around.arg(beginning + checksum);
+/// A long name leaves no room for the rest: its end gives way to a checksum of the whole.
+QString nameOfLock(const QString& file) {
+    constexpr qsizetype longest = 255; // bytes, in every usual file system
+    const QString around = QStringLiteral(".~%1.zamek");
+    const auto isTooLong = [&](const QString& name) { return around.arg(name).toUtf8().size() > longest; };
+    if (!isTooLong(file)) return around.arg(file);
+    const QString checksum = QLatin1Char('~') + QString::number(crc32(file.toUtf8()), 16);
+    QString beginning = file;
+    while (isTooLong(beginning + checksum) || beginning.back().isHighSurrogate())
+        beginning.chop(1);
+    return around.arg(beginning + checksum);
+}
+
+LockHolder ourselves() {
+    static const QString machine = veiled(QSysInfo::machineUniqueId());
+    static const QString boot = veiled(QSysInfo::bootUniqueId());
+    const qint64 process = QCoreApplication::applicationPid();
+    return {{},
+            QSysInfo::machineHostName(),
+            QCoreApplication::applicationName(),
+            process,
+            machine,
+            boot,
+            processStart(process).value_or(QString())};
+}
+
+/// One line each, so that a text that is not whole shows.
+QByteArray textOf(const LockHolder& holder) {
+    const QStringList lines{formName,     holder.host, holder.program, QString::number(holder.process),
+                            holder.start, holder.boot, holder.machine, QString()};
+    return lines.join(QLatin1Char('\n')).toUtf8();
+}
+
+/// Something else under a lock's name says nothing and counts for nothing.
+std::optional<LockHolder> parsed(const QByteArray& text) {
+    const QStringList lines = QString::fromUtf8(text).split(QLatin1Char('\n'));
+    if (lines.size() < 8 || lines[0] != formName) return {};
+    return LockHolder{{}, lines[1], lines[2], lines[3].toLongLong(), lines[6], lines[5], lines[4]};
+}
+
+/// Copies of one installation have one identifier on many computers.
+bool isSameMachine(const LockHolder& a, const LockHolder& b) {
+    return a.host == b.host && (a.machine.isEmpty() || b.machine.isEmpty() || a.machine == b.machine);
+}
+
+/// Of a process on another computer nothing can be known.
+bool isGone(const LockHolder& holder) {
+    const LockHolder here = ourselves();
+    if (!isSameMachine(holder, here)) return false;
+    if (holder.boot != here.boot) return true;
+    const auto start = processStart(holder.process);
+    return !start || (!holder.start.isEmpty() && !start->isEmpty() && *start != holder.start);
+}
+
+enum class State { Free, Held, Dead, Meaningless, BeingWritten };
+
+struct Found {
+    State state = State::Free;
+    QByteArray text;
+    LockHolder holder; ///< of a lock that cannot be read, the user at most
+
+    bool counts() const { return state == State::Held || state == State::BeingWritten; }
+};
+
+/// What cannot be read is of somebody: a pipe or a folder, a link, too much of anything, a file of
+/// another user.
+Found look(const QString& path) {
+    const ReadBytes lock = readRegular(path, Links::Refuse, largestLock);
+    if (lock.trouble) {
+        const QFileInfo there(path);
+        return there.exists() || there.isSymLink() ? Found{State::Held, {}, {}} : Found{};
     }
+    if (lock.bytes.isEmpty()) return {State::BeingWritten, {}, {}};
+    const auto holder = parsed(lock.bytes);
+    if (!holder) return {State::Meaningless, lock.bytes, {}};
+    return {isGone(*holder) ? State::Dead : State::Held, lock.bytes, *holder};
+}
 
-    LockHolder ourselves() {
-        static const QString machine = veiled(QSysInfo::machineUniqueId());
-        static const QString boot = veiled(QSysInfo::bootUniqueId());
-        const qint64 process = QCoreApplication::applicationPid();
-        return {{},
-                QSysInfo::machineHostName(),
-                QCoreApplication::applicationName(),
-                process,
-                machine,
-                boot,
-                processStart(process).value_or(QString())};
+/// Of a link it would be the owner of what it leads to.
+QString ownerOf(const QString& path) {
+    const QFileInfo file(path);
+    return file.isSymLink() ? QString() : file.owner();
+}
+
+/// One that stays empty is of somebody all the same.
+Found lookWhenWritten(const QString& path) {
+    Found found = look(path);
+    for (int i = 1; i < attempts && found.state == State::BeingWritten; ++i) {
+        QThread::msleep(pauseBetween);
+        found = look(path);
     }
+    if (found.counts()) found.holder.user = ownerOf(path);
+    return found;
+}
 
-    /// One line each, so that a text that is not whole shows.
-    QByteArray textOf(const LockHolder& holder) {
-        const QStringList lines{formName,     holder.host, holder.program, QString::number(holder.process),
-                                holder.start, holder.boot, holder.machine, QString()};
-        return lines.join(QLatin1Char('\n')).toUtf8();
-    }
+// A name with NUL is no file's.
+bool isNoName(const QString& nativePath) {
+    return nativePath.contains(QChar(u'\0'));
+}
 
-    /// Something else under a lock's name says nothing and counts for nothing.
-    std::optional<LockHolder> parsed(const QByteArray& text) {
-        const QStringList lines = QString::fromUtf8(text).split(QLatin1Char('\n'));
-        if (lines.size() < 8 || lines[0] != formName) return {};
-        return LockHolder{{}, lines[1], lines[2], lines[3].toLongLong(), lines[6], lines[5], lines[4]};
-    }
-
-    /// Copies of one installation have one identifier on many computers.
-    bool isSameMachine(const LockHolder& a, const LockHolder& b) {
-        return a.host == b.host && (a.machine.isEmpty() || b.machine.isEmpty() || a.machine == b.machine);
-    }
-
-    /// Of a process on another computer nothing can be known.
-    bool isGone(const LockHolder& holder) {
-        const LockHolder here = ourselves();
-        if (!isSameMachine(holder, here)) return false;
-        if (holder.boot != here.boot) return true;
-        const auto start = processStart(holder.process);
-        return !start || (!holder.start.isEmpty() && !start->isEmpty() && *start != holder.start);
-    }
-
-    enum class State { Free, Held, Dead, Meaningless, BeingWritten };
-
-    struct Found {
-        State state = State::Free;
-        QByteArray text;
-        LockHolder holder; ///< of a lock that cannot be read, the user at most
-
-        bool counts() const { return state == State::Held || state == State::BeingWritten; }
-    };
-
-    /// What cannot be read is of somebody: a pipe or a folder, a link, too much of anything, a file of
-    /// another user.
-    Found look(const QString& path) {
-        const ReadBytes lock = readRegular(path, Links::Refuse, largestLock);
-        if (lock.trouble) {
-            const QFileInfo there(path);
-            return there.exists() || there.isSymLink() ? Found{State::Held, {}, {}} : Found{};
-        }
-        if (lock.bytes.isEmpty()) return {State::BeingWritten, {}, {}};
-        const auto holder = parsed(lock.bytes);
-        if (!holder) return {State::Meaningless, lock.bytes, {}};
-        return {isGone(*holder) ? State::Dead : State::Held, lock.bytes, *holder};
-    }
-
-    /// Of a link it would be the owner of what it leads to.
-    QString ownerOf(const QString& path) {
-        const QFileInfo file(path);
-        return file.isSymLink() ? QString() : file.owner();
-    }
-
-    /// One that stays empty is of somebody all the same.
-    Found lookWhenWritten(const QString& path) {
-        Found found = look(path);
-        for (int i = 1; i < attempts && found.state == State::BeingWritten; ++i) {
-            QThread::msleep(pauseBetween);
-            found = look(path);
-        }
-        if (found.counts()) found.holder.user = ownerOf(path);
-        return found;
-    }
-
-    // A name with NUL is no file's.
-    bool isNoName(const QString& nativePath) {
-        return nativePath.contains(QChar(u'\0'));
-    }
-
-    [[noreturn]] void refuse(const QString& nativePath, const LockHolder& holder) {
-        throw RuntimeError(error::applicationDefined, openElsewhere(nativePath, holder));
-    }
+[[noreturn]] void refuse(const QString& nativePath, const LockHolder& holder) {
+    throw RuntimeError(error::applicationDefined, openElsewhere(nativePath, holder));
+}
 
 } // namespace
 
