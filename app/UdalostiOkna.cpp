@@ -31,8 +31,7 @@ bool UdalostiOkna::nasleduj(const std::function<void()>& procedura) {
 }
 
 void UdalostiOkna::ukazPricinu(const RuntimeError& chyba) {
-    modely_.panel.vystraha =
-        QStringList{chyba.cause(), radaPoChybe(modely_.pisen, chyba.number())}.join(u' ').trimmed();
+    modely_.panel.vystraha = radaPoChybe(modely_.pisen, chyba);
     modely_.panel.oznamZmenu();
 }
 

@@ -15,17 +15,14 @@ std::optional<QString> vPopredi(const Pisen& pisen) {
 
 } // namespace
 
-QString radaPoChybe(const Pisen& pisen, int cislo) {
-    if (cislo != error::subscriptOutOfRange && cislo != error::objectNotSet) return {};
+QString radaPoChybe(const Pisen& pisen, const AutomationError& chyba) {
+    if (chyba.number() != error::subscriptOutOfRange && chyba.number() != error::objectNotSet)
+        return chyba.cause();
     const auto sesit = vPopredi(pisen);
-    if (!sesit)
-        return QStringLiteral(
-            "Tabulka byla ukončena a znovu se spustí až s programem: ukončete Zvoniku (Ctrl+Q) "
-            "a spusťte ji znovu.");
-    if (!pisen.otevrena() || *sesit == pisen.aktualniPisen) return {};
-    return QStringLiteral("Písnička „%1“ je v tabulce zavřená: stiskněte Konec písničky (Ctrl+E) a pak ji "
-                          "znovu otevřete.")
-        .arg(pisen.aktualniPisen);
+    if (!sesit) return QStringLiteral("Tabulka byla ukončena: ukončete Zvoniku (Ctrl+Q) a spusťte ji znovu.");
+    if (!pisen.otevrena() || *sesit == pisen.aktualniPisen) return chyba.cause();
+    return QStringLiteral(
+        "Písnička je v tabulce zavřená: stiskněte Konec písničky (Ctrl+E) a znovu ji otevřete.");
 }
 
 } // namespace zvonika

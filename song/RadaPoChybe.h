@@ -4,8 +4,8 @@
 
 namespace zvonika {
 
-/// What to do after an error of this number (9 or 91) when the user has closed the song in the spreadsheet or
-/// quit the spreadsheet: one Czech sentence or two; "" when neither is the case.
-QString radaPoChybe(const Pisen& pisen, int cislo);
+/// What the status line says of an error: what to do when the user has closed the song in the spreadsheet or
+/// quit the spreadsheet (9 and 91), otherwise its cause.
+QString radaPoChybe(const Pisen& pisen, const AutomationError& chyba);
 
 } // namespace zvonika

@@ -32,14 +32,12 @@ QString vystraha(const RuntimeError& chyba, const Pisen& pisen) {
     switch (chyba.number()) {
     case error::subscriptOutOfRange:
         return QStringLiteral(
-                   "Písnička „%1“ byla v tabulce zavřena dřív, než ji Zvonika uložila. Otevřete ji "
-                   "znovu tlačítkem Otevřít.")
+                   "Písnička „%1“ byla v tabulce zavřena, než ji Zvonika uložila. Otevřete ji znovu.")
             .arg(pisen.aktualniPisen);
     case error::applicationDefined:
-        return chyba.cause() + QStringLiteral(" Písnička zůstala otevřená v okně tabulky, odkud ji můžete "
-                                              "uložit jinam (F6, Soubor, Uložit jako…).");
+        return chyba.cause() + QStringLiteral(" Zůstala otevřená v tabulce, uložte ji tam jinam (F6).");
     default:
-        return QStringList{chyba.cause(), radaPoChybe(pisen, chyba.number())}.join(u' ').trimmed();
+        return radaPoChybe(pisen, chyba);
     }
 }
 

@@ -40,10 +40,8 @@ void PisenVOkne::pripomenToninu() {
     const DurovaTonina* zvolena = najdiToninu(s_.tonina.stupnice());
     if (!radku || radku == zvolena) return;
     const QString veta =
-        zvolena ? QStringLiteral("Hmat je v tónině %1, pro zápis je zvolena %2 (Ctrl+T).")
-                      .arg(radku->nazev, zvolena->nazev)
-                : QStringLiteral("Hmat je v tónině %1, pro zápis ale tónina zvolena není (Ctrl+T).")
-                      .arg(radku->nazev);
+        zvolena ? QStringLiteral("Hmat je v %1, pro zápis je zvolena %2.").arg(radku->nazev, zvolena->nazev)
+                : QStringLiteral("Hmat je v %1, tónina pro zápis zvolena není.").arg(radku->nazev);
     okoli_.panel.upozorneni = (okoli_.panel.upozorneni + u' ' + veta).trimmed();
 }
 

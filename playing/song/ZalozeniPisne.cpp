@@ -49,8 +49,7 @@ void ZalozeniPisne::zalozPisen(const QString& plneJmeno, const PuvodniPisne& puv
         const RuntimeError chyba = chybaSCislem(vyjimka);
         vOkne_.zahodRozdelanou();
         if (ulozena) drive_.deleteFile(plneJmeno); // nothing was recorded in it yet
-        okoli_.panel.vystraha =
-            QStringList{chyba.cause(), radaPoChybe(okoli_.pisen, chyba.number())}.join(u' ').trimmed();
+        okoli_.panel.vystraha = radaPoChybe(okoli_.pisen, chyba);
         vratPuvodni(puvodni);
         okoli_.panel.oznamZmenu();
         okoli_.dialogs.message(hlaseniZalozeni(chyba.number()));

@@ -33,9 +33,7 @@ void ZivotPisne::oznamJenKeCteni() {
     const QString pricina = drive_.readOnlyBecause(okoli_.pisen.plneJmeno);
     if (pricina.isEmpty()) return;
     okoli_.panel.vystraha =
-        pricina +
-        QStringLiteral(" Změny do něj uložit nepůjde; písničku pak uložte z okna tabulky jinam (F6, "
-                       "Soubor, Uložit jako…).");
+        pricina + QStringLiteral(" Změny uložte z okna tabulky jinam (F6, Uložit jako…).");
     okoli_.panel.oznamZmenu();
 }
 

@@ -125,8 +125,8 @@ QString ZobrazeniHmatu::upozorneni(const Grip& hmat, const QStringList& ciziTony
                                    const QStringList& ciziBasy) const {
     QStringList vety;
     if (!plochy_.panel.lblStrana.isEmpty())
-        vety.append(zobrazenTlak_ ? QStringLiteral("Hmat je ukázán na tlak, ale zapsán na tah (Ctrl+←).")
-                                  : QStringLiteral("Hmat je ukázán na tah, ale zapsán na tlak (Ctrl+→)."));
+        vety.append(zobrazenTlak_ ? QStringLiteral("Ukázáno na tlak, zapsáno na tah (Ctrl+←).")
+                                  : QStringLiteral("Ukázáno na tah, zapsáno na tlak (Ctrl+→)."));
     if (!ciziTony.isEmpty())
         vety.append(QStringLiteral("Neznámý tón v tabulce: %1.").arg(ciziTony.join(u' ')));
     if (!ciziBasy.isEmpty()) {

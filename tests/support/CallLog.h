@@ -4,6 +4,7 @@
 
 #include <QStringList>
 
+#include <cstdlib>
 #include <functional>
 #include <map>
 
@@ -23,6 +24,10 @@ public:
     /// The next call of this name fails with an exception that has no number.
     void failWithoutNumber(const QString& call) {
         orders_[call] = {1, [=] { throw std::out_of_range(call.toStdString()); }};
+    }
+    /// The process ends at the next call of this name, as if it were killed.
+    void endProcess(const QString& call) {
+        orders_[call] = {1, [] { std::_Exit(9); }};
     }
     bool isOrdered(const QString& call) const { return orders_.count(call) > 0; } ///< a failure is to come
 

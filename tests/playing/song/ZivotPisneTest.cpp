@@ -1,6 +1,9 @@
 #include "platform/Contact.h"
 #include "tests/playing/SongFixture.h"
 
+#include <sys/wait.h>
+#include <unistd.h>
+
 namespace zvonika::testing {
 
 namespace {
@@ -109,6 +112,30 @@ TEST_F(ZivotPisneTest, AFailureAnywhereInANewSongLeavesNoSongAndTheOneItWasToRep
             EXPECT_EQ(storedText(polka, "A1"), "stará");
             EXPECT_EQ(drive.files(pracovniAdresar), QStringList{"Polka.xls"});
         }
+}
+
+TEST_F(ZivotPisneTest, AKillAnywhereInANewSongLeavesTheOneItWasToReplaceForTheNextStart) {
+    for (const char* krok : {"addWorkbook", "saveActiveWorkbookAs", "activeWorkbookName", "renameActiveSheet",
+                             "activeSheetName", "readBlock"}) {
+        SCOPED_TRACE(krok);
+        store(polka, {{QStringLiteral("L"), {{QStringLiteral("stará")}}}});
+        const pid_t program = ::fork();
+        if (program == 0) {
+            log.endProcess(krok);
+            zadejNazev("Polka");
+            dialogs.expect("Tato skladba již existuje!", "", Answer::Yes);
+            zivot.cmdNovaSkladba();
+            std::_Exit(0);
+        }
+        int konec = 0;
+        ::waitpid(program, &konec, 0);
+        ASSERT_EQ(WEXITSTATUS(konec), 9) << "it came that far";
+        const QStringList vracene = drive.bringBackSetAside(pracovniAdresar);
+        ASSERT_EQ(vracene.size(), 1);
+        EXPECT_EQ(storedText(slozkaPisni + vracene.first(), "A1"), "stará");
+        for (const QString& soubor : drive.files(pracovniAdresar))
+            drive.deleteFile(slozkaPisni + soubor);
+    }
 }
 
 TEST_F(ZivotPisneTest, OpeningShowsTheRowAtWhichTheSongWasSaved) {
@@ -222,7 +249,7 @@ TEST_F(ZivotPisneTest, EndReportsASaveThatFailedAndForgetsTheSong) {
         excel->put("A1", "změna");
         selze("saveActiveWorkbook", cislo);
         ocekavejKontakt(cislo);
-        const QString cekano = cislo ? "Písnička zůstala otevřená v okně tabulky" : "saveActiveWorkbook";
+        const QString cekano = cislo ? "Zůstala otevřená v tabulce" : "saveActiveWorkbook";
         dialogs.whileUp = [&] {
             EXPECT_TRUE(panel.vystraha.contains(cekano)) << panel.vystraha.toStdString();
         };
@@ -259,9 +286,9 @@ TEST_F(ZivotPisneTest, OpeningRemindsOfAKeyThatIsNotTheOneChosen) {
     const struct {
         const char *radku, *zvolena, *veta;
     } pripady[] = {
-        {"G dur", "Vyberte tóninu", "Hmat je v tónině G dur, pro zápis ale tónina zvolena není (Ctrl+T)."},
-        {"G dur", "", "Hmat je v tónině G dur, pro zápis ale tónina zvolena není (Ctrl+T)."},
-        {"G Dur", "C dur", "Hmat je v tónině G dur, pro zápis je zvolena C dur (Ctrl+T)."},
+        {"G dur", "Vyberte tóninu", "Hmat je v G dur, tónina pro zápis zvolena není."},
+        {"G dur", "", "Hmat je v G dur, tónina pro zápis zvolena není."},
+        {"G Dur", "C dur", "Hmat je v G dur, pro zápis je zvolena C dur."},
         {"G Dur", "G dur", ""},
         {"Vyberte tóninu", "C dur", ""},
         {"", "C dur", ""},

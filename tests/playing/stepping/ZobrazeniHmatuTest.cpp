@@ -112,9 +112,9 @@ TEST_F(ZobrazeniHmatuTest, AGripShownOnTheOtherSideThanItWasRecordedOnSaysSo) {
         bool tlak;
         const char *strana, *veta;
     } pripady[] = {{"Tah", false, "", ""},
-                   {"Tlak", false, "zapsáno na tlak", "Hmat je ukázán na tah, ale zapsán na tlak (Ctrl+→)."},
+                   {"Tlak", false, "zapsáno na tlak", "Ukázáno na tah, zapsáno na tlak (Ctrl+→)."},
                    {"Tlak", true, "", ""},
-                   {"Tah", true, "zapsáno na tah", "Hmat je ukázán na tlak, ale zapsán na tah (Ctrl+←)."},
+                   {"Tah", true, "zapsáno na tah", "Ukázáno na tlak, zapsáno na tah (Ctrl+←)."},
                    {"", true, "", ""}};
     for (const auto& [smer, tlak, strana, veta] : pripady) {
         excel->put("I1", QString(smer));
