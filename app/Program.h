@@ -42,6 +42,7 @@ private:
     CastiProgramu casti();
     KrokAutomatu krokAutomatu();
     bool volnoProKrok() const;
+    bool hracPise() const;
 
     void cursorMoved() override;
     void cellsEdited() override { cursorMoved(); }

@@ -193,4 +193,14 @@ void LibreOfficeApplication::writeBlock(const QString& address, const CellBlock&
     parts_->cells.write(address, block);
 }
 
+// --- writing and the user ---
+
+void LibreOfficeApplication::finishWriting() {
+    parts_->cells.finishWriting();
+}
+
+bool LibreOfficeApplication::userIsTyping() const {
+    return parts_->calls.askAside([](CalcEngine& calc) { return calc.typing(); });
+}
+
 } // namespace zvonika

@@ -59,6 +59,9 @@ public:
     CellBlock readBlock(const QString& address) const override;
     void writeBlock(const QString& address, const CellBlock& block) override;
 
+    void finishWriting() override;
+    bool userIsTyping() const override;
+
 private:
     struct Parts;
     std::unique_ptr<Parts> parts_;

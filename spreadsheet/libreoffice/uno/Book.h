@@ -1,6 +1,7 @@
 #pragma once
 
 #include "spreadsheet/libreoffice/CalcEngine.h"
+#include "spreadsheet/libreoffice/uno/Entry.h"
 #include "spreadsheet/libreoffice/uno/UserEvents.h"
 #include "spreadsheet/libreoffice/uno/Values.h"
 
@@ -56,15 +57,19 @@ public:
     CellPosition used() const;
     CellBlock read(const CellRange& range) { return values_.read(sheet(), range); }
     QVector<QStringList> formulas(const CellRange& range) const;
-    void write(CellPosition first, const CellBlock& block) { values_.write(sheet(), first, block); }
+    void write(CellPosition first, const CellBlock& block);
     void clear(const CellRange& range);
+    bool holdSheet();
+    void writeHeld(const QVector<PlacedBlock>& blocks);
+
+    // --- what the user is typing ---
+    bool typing();
 
 private:
     Book(const Ref<css::frame::XModel>& model, const Ref<css::sheet::XSpreadsheets>& sheets,
          CalcObserver& observer, const Ref<css::frame::XDispatchHelper>& dispatcher, Keeper& keeper);
     Ref<css::sheet::XSpreadsheet> sheet() const;
     void refuseWhatXlsLoses() const;
-    void awaitKeys();
     void commitEntry();
     QString title() const;
 
@@ -77,7 +82,9 @@ private:
     Ref<css::frame::XController> controller_;
     Ref<css::sheet::XSpreadsheetView> view_;
     Ref<css::frame::XFrame> frame_;
+    Ref<css::sheet::XSpreadsheet> held_;
     Values values_;
+    Entry entry_;
     rtl::Reference<UserEvents> events_;
 };
 

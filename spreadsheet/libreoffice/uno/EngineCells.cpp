@@ -55,4 +55,16 @@ void Engine::clear(const CellRange& range) {
     onBook([&](Book& book) { book.clear(range); });
 }
 
+bool Engine::holdSheet() {
+    return onBook([](Book& book) { return book.holdSheet(); });
+}
+
+void Engine::writeHeld(const QVector<PlacedBlock>& blocks) {
+    onBook([&](Book& book) { book.writeHeld(blocks); });
+}
+
+bool Engine::typing() {
+    return onBook([](Book& book) { return book.typing(); });
+}
+
 } // namespace zvonika

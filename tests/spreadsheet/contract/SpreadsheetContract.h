@@ -31,6 +31,8 @@ public:
     virtual void willChoose(const std::optional<QString>& file) = 0;
     /// The user's answer when `quit` asks about the next workbook with unsaved changes.
     virtual void willSaveChanges(bool save) = 0;
+    /// Types a text into the active cell, without ending it by Enter.
+    virtual void userTypes(SpreadsheetApplication& application, const QString& text) = 0;
     virtual void userClosesWorkbook(SpreadsheetApplication& application) = 0;
     virtual void userQuits(SpreadsheetApplication& application) = 0;
 };
@@ -304,6 +306,24 @@ TEST_P(SpreadsheetContract, TheActiveCellIsReadWrittenAndMoved) {
     app.selectRange(QStringLiteral("IV65536"));
     EXPECT_EQ(raised([&] { app.moveCursor(1, 0); }), 1004);
     EXPECT_EQ(raised([&] { app.moveCursor(0, 1); }), 1004);
+}
+
+TEST_P(SpreadsheetContract, WhatTheUserIsTypingIsTakenOverBeforeTheProgramWrites) {
+    app.setVisible(true);
+    addSaved(QStringLiteral("pisen.xls"));
+    for (const char* typedInto : {"B3", "A3"}) {
+        app.selectRange(QString::fromLatin1(typedInto));
+        EXPECT_FALSE(app.userIsTyping()) << typedInto;
+        rig->userTypes(app, QStringLiteral("le-"));
+        EXPECT_TRUE(app.userIsTyping()) << typedInto;
+        put(QStringLiteral("B3"), QStringLiteral("c,"));
+        app.finishWriting();
+        EXPECT_FALSE(app.userIsTyping()) << typedInto;
+        app.moveCursor(1, 0);
+        app.saveActiveWorkbook();
+        EXPECT_EQ(text(QStringLiteral("B3")), QStringLiteral("c,")) << typedInto;
+    }
+    EXPECT_EQ(text(QStringLiteral("A3")), QStringLiteral("le-"));
 }
 
 TEST_P(SpreadsheetContract, AddressesThatAreNoneRaise1004) {

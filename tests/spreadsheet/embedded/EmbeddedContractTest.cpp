@@ -1,3 +1,4 @@
+#include "spreadsheet/Address.h"
 #include "tests/spreadsheet/contract/SpreadsheetContract.h"
 #include "tests/spreadsheet/embedded/Rig.h"
 
@@ -16,12 +17,21 @@ public:
         world_.dialogs.expect(jmenoTabulky, QStringLiteral("má neuložené změny. Chcete ho uložit?"),
                               save ? Answer::Yes : Answer::No);
     }
+    void userTypes(SpreadsheetApplication& application, const QString& text) override {
+        SheetCommands& sheet = commandsOf(application);
+        world_.typing = [&sheet, cell = parseAddress(application.activeAddress())->first, text] {
+            sheet.type(cell, text);
+        };
+    }
     void userClosesWorkbook(SpreadsheetApplication& application) override { commands(application).close(); }
     void userQuits(SpreadsheetApplication& application) override { commands(application).quit(); }
 
 private:
+    static SheetCommands& commandsOf(SpreadsheetApplication& application) {
+        return dynamic_cast<EmbeddedApplication&>(application).commands();
+    }
     static FileCommands& commands(SpreadsheetApplication& application) {
-        return dynamic_cast<EmbeddedApplication&>(application).commands().files();
+        return commandsOf(application).files();
     }
 
     World world_;

@@ -18,6 +18,9 @@ public:
         world_.dialogs.expect(jmenoCalcu, QStringLiteral("má neuložené změny. Chcete ho uložit?"),
                               save ? Answer::Yes : Answer::No);
     }
+    void userTypes(SpreadsheetApplication& application, const QString& text) override {
+        EXPECT_TRUE(VirtualScreen::type(application.activeWorkbookName(), text));
+    }
     void userClosesWorkbook(SpreadsheetApplication& application) override {
         EXPECT_TRUE(VirtualScreen::press(application.activeWorkbookName(), {"ctrl+w"}));
         EXPECT_TRUE(QTest::qWaitFor([&] { return application.activeWorkbookName().isEmpty(); }, 30000));
