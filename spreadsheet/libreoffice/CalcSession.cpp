@@ -43,7 +43,8 @@ CalcSession::CalcSession(const LibreOfficeSurroundings& surroundings, const QStr
     process_ = started(surroundings_, folder, pipe);
     notices_ = std::make_shared<UserNotices>(
         [this] { return calls_.busy(); },
-        [process = process_](const QString& path) { process->tellDocument(path); });
+        [process = process_](const QString& path) { process->tellDocument(path); },
+        [process = process_](int count) { process->tellUsersDocuments(count); });
     connectTo(pipe);
     process_->tellStarted();
 }
@@ -98,7 +99,7 @@ bool CalcSession::quits() {
     try {
         return calls_.alive() &&
                calls_.ask(surroundings_.patience.file, [](CalcEngine& calc) { return calc.quit(); });
-    } catch (const std::exception&) { // it has gone in between
+    } catch (...) { // it has gone in between
         return false;
     }
 }

@@ -38,9 +38,18 @@ bool ReadAhead::isActive(const QString& workbook, unsigned acts) const {
     return fresh(acts) && !workbook_.isEmpty() && workbook_ == workbook;
 }
 
+std::optional<bool> ReadAhead::takesBlocks(unsigned acts) const {
+    return fresh(acts) ? takesBlocks_ : std::nullopt;
+}
+
 void ReadAhead::learnActive(const QString& workbook, unsigned acts) {
     begin(acts);
     workbook_ = workbook;
+}
+
+void ReadAhead::learnTakesBlocks(bool takes, unsigned acts) {
+    begin(acts);
+    takesBlocks_ = takes;
 }
 
 void ReadAhead::learnCursor(CellPosition cursor, unsigned acts) {
@@ -48,10 +57,10 @@ void ReadAhead::learnCursor(CellPosition cursor, unsigned acts) {
     cursor_ = cursor;
 }
 
-void ReadAhead::write(CellPosition cell, const QString& text, unsigned acts) {
+void ReadAhead::write(CellPosition cell, const CellValue& value, unsigned acts) {
     if (!plain_ || !fresh(acts)) return forgetCells();
     if (!cells_.isEmpty() && piece_.contains(cell))
-        cells_[cell.row - piece_.first.row][cell.column - piece_.first.column] = text;
+        cells_[cell.row - piece_.first.row][cell.column - piece_.first.column] = value;
 }
 
 void ReadAhead::learnCells(const CellRange& piece, CellBlock cells, bool plain, unsigned acts) {
@@ -65,6 +74,7 @@ void ReadAhead::forget() {
     forgetCursor();
     forgetCells();
     workbook_.clear();
+    takesBlocks_.reset();
     age_.invalidate();
 }
 

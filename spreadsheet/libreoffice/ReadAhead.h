@@ -24,14 +24,16 @@ public:
     std::optional<CellPosition> cursor(unsigned acts) const;
     std::optional<CellValue> value(CellPosition cell, unsigned acts) const;
     bool isActive(const QString& workbook, unsigned acts) const; ///< false when that is not known
+    std::optional<bool> takesBlocks(unsigned acts) const;        ///< as `CalcEngine::holdSheet` has told
 
     /// `acts` is the number before the reading.
     void learnCursor(CellPosition cursor, unsigned acts);
     /// `plain`: no cell of the sheet depends on another.
     void learnCells(const CellRange& piece, CellBlock cells, bool plain, unsigned acts);
-    /// The program writes a text that is kept letter by letter.
-    void write(CellPosition cell, const QString& text, unsigned acts);
+    /// The program writes a text that is kept letter by letter, or empties the cell.
+    void write(CellPosition cell, const CellValue& value, unsigned acts);
     void learnActive(const QString& workbook, unsigned acts);
+    void learnTakesBlocks(bool takes, unsigned acts);
 
     void forgetCursor() { cursor_.reset(); }
     void forgetCells() { cells_.clear(); }
@@ -44,6 +46,7 @@ private:
     std::chrono::milliseconds moment_;
     std::optional<CellPosition> cursor_;
     QString workbook_;
+    std::optional<bool> takesBlocks_;
     CellRange piece_;
     CellBlock cells_; ///< of `piece_`; empty when nothing is known
     bool plain_ = false;

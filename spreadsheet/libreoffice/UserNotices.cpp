@@ -2,8 +2,10 @@
 
 namespace zvonika {
 
-UserNotices::UserNotices(std::function<bool()> held, std::function<void(const QString&)> opened)
-    : held_(std::move(held)), opened_(std::move(opened)), receiver_(std::make_unique<QObject>()) {}
+UserNotices::UserNotices(std::function<bool()> held, std::function<void(const QString&)> opened,
+                         std::function<void(int)> users)
+    : held_(std::move(held)), opened_(std::move(opened)), users_(std::move(users)),
+      receiver_(std::make_unique<QObject>()) {}
 
 void UserNotices::cursorMoved() {
     ++acts_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "spreadsheet/libreoffice/CalcEngine.h"
+#include "spreadsheet/libreoffice/uno/Entry.h"
 #include "spreadsheet/libreoffice/uno/UserEvents.h"
 #include "spreadsheet/libreoffice/uno/Values.h"
 
@@ -58,8 +59,13 @@ public:
     CellPosition used() const;
     CellBlock read(const CellRange& range) { return values_.read(sheet(), range); }
     QVector<QStringList> formulas(const CellRange& range) const;
-    void write(CellPosition first, const CellBlock& block) { values_.write(sheet(), first, block); }
+    void write(CellPosition first, const CellBlock& block);
     void clear(const CellRange& range);
+    bool holdSheet();
+    void writeHeld(const QVector<PlacedBlock>& blocks);
+
+    // --- what the user is typing ---
+    bool typing();
 
 private:
     SheetImage imageOf(const Ref<css::sheet::XSpreadsheet>& sheet);
@@ -67,7 +73,6 @@ private:
          CalcObserver& observer, const Ref<css::frame::XDispatchHelper>& dispatcher, Keeper& keeper);
     Ref<css::sheet::XSpreadsheet> sheet() const;
     void refuseWhatXlsLoses() const;
-    void awaitKeys();
     void commitEntry();
     QString title() const;
 
@@ -81,7 +86,9 @@ private:
     Ref<css::frame::XController> controller_;
     Ref<css::sheet::XSpreadsheetView> view_;
     Ref<css::frame::XFrame> frame_;
+    Ref<css::sheet::XSpreadsheet> held_;
     Values values_;
+    Entry entry_;
     rtl::Reference<UserEvents> events_;
 };
 

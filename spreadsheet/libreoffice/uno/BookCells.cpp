@@ -8,8 +8,10 @@
 #include <com/sun/star/sheet/XCellRangeAddressable.hpp>
 #include <com/sun/star/sheet/XCellRangeFormula.hpp>
 #include <com/sun/star/sheet/XCellRangesQuery.hpp>
+#include <com/sun/star/sheet/XSheetAnnotationsSupplier.hpp>
 #include <com/sun/star/sheet/XSheetOperation.hpp>
 #include <com/sun/star/sheet/XUsedAreaCursor.hpp>
+#include <com/sun/star/util/XProtectable.hpp>
 
 namespace zvonika {
 
@@ -93,6 +95,7 @@ CellRange Book::selection() const {
 }
 
 void Book::select(const CellRange& range) {
+    const UserEvents::Doing doing(*events_, UserEvents::Doing::Of::EntryTyped);
     dispatcher_->executeDispatch(as<css::frame::XDispatchProvider>(frame_), rtl::OUString(".uno:GoToCell"),
                                  rtl::OUString(), 0,
                                  properties(property("ToPoint", toUno(absoluteAddress(range)))));
@@ -110,7 +113,41 @@ QVector<QStringList> Book::formulas(const CellRange& range) const {
     return formulasIn(cellsOf(sheet(), range, keeper_));
 }
 
+bool Book::typing() {
+    const UserEvents::Doing doing(*events_, UserEvents::Doing::Of::WaitingUser);
+    return entry_.isOpen();
+}
+
+// What is being typed in a cell is taken over when the cursor leaves it.
+void Book::commitEntry() {
+    if (!typing()) return;
+    const CellPosition here = cursor();
+    select(single({here.row > 1 ? here.row - 1 : here.row + 1, here.column}));
+    select(single(here));
+}
+
+void Book::write(CellPosition first, const CellBlock& block) {
+    commitEntry();
+    values_.write(sheet(), first, block);
+}
+
+// A block write drops comments, and it fails as a whole where one of its cells may not be written.
+bool Book::holdSheet() {
+    held_ = sheet();
+    const auto comments = as<css::sheet::XSheetAnnotationsSupplier>(held_)->getAnnotations();
+    return !as<css::container::XIndexAccess>(keeper_.keep(comments))->hasElements() &&
+           !as<css::util::XProtectable>(held_)->isProtected() && !hasFormulas();
+}
+
+void Book::writeHeld(const QVector<PlacedBlock>& blocks) {
+    commitEntry();
+    const auto target = held_.is() ? held_ : sheet();
+    for (const PlacedBlock& block : blocks)
+        values_.write(target, block.first, block.cells);
+}
+
 void Book::clear(const CellRange& range) {
+    commitEntry();
     namespace flags = css::sheet::CellFlags;
     as<css::sheet::XSheetOperation>(cellsOf(sheet(), range, keeper_))
         ->clearContents(flags::VALUE | flags::DATETIME | flags::STRING | flags::FORMULA);

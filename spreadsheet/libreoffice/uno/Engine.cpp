@@ -29,9 +29,14 @@ Properties loading(bool hidden, const rtl::Reference<Interaction>& interaction) 
 
 Engine::Engine(std::unique_ptr<Connection> connection, CalcObserver& observer)
     : connection_(std::move(connection)), observer_(observer),
-      dispatcher_(css::frame::DispatchHelper::create(connection_->context())) {}
+      dispatcher_(css::frame::DispatchHelper::create(connection_->context())),
+      usersDocuments_(new UsersDocuments(observer, keeper_)) {
+    usersDocuments_->listenTo(connection_->context());
+}
 
-Engine::~Engine() = default;
+Engine::~Engine() {
+    usersDocuments_->stop();
+}
 
 Ref<css::lang::XComponent> Engine::load(const QString& url, const QString& nativePath) {
     const rtl::Reference<Interaction> interaction(new Interaction);

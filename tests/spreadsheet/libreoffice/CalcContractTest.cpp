@@ -27,6 +27,9 @@ public:
         world_.dialogs.expect(jmenoCalcu, QStringLiteral("má neuložené změny. Chcete ho uložit?"),
                               save ? Answer::Yes : Answer::No);
     }
+    void userTypes(SpreadsheetApplication& application, const QString& text) override {
+        EXPECT_TRUE(VirtualScreen::type(application.activeWorkbookName(), text));
+    }
     void userClosesWorkbook(SpreadsheetApplication& application) override {
         EXPECT_TRUE(VirtualScreen::press(application.activeWorkbookName(), {"ctrl+w"}));
         EXPECT_TRUE(QTest::qWaitFor([&] { return application.activeWorkbookName().isEmpty(); }, 30000));
@@ -36,7 +39,7 @@ public:
         EXPECT_TRUE(
             QTest::qWaitFor([&] { return raised([&] { application.activeWorkbookName(); }) == 91; }, 30000));
     }
-    void userTypes(SpreadsheetApplication& application, const QString& cell, const QString& text) override {
+    void userEnters(SpreadsheetApplication& application, const QString& cell, const QString& text) override {
         application.selectRange(cell);
         const int before = listener_.edited;
         EXPECT_TRUE(VirtualScreen::type(application.activeWorkbookName(), text));
