@@ -111,12 +111,15 @@ bool Book::typing() {
     return entry_.isOpen();
 }
 
-// What is being typed in a cell is taken over when the cursor leaves it.
+// What is being typed in a cell is taken over when the cursor leaves it. By steps: the user may go on with the
+// keyboard in between.
 void Book::commitEntry() {
     if (!typing()) return;
-    const CellPosition here = cursor();
-    select(single({here.row > 1 ? here.row - 1 : here.row + 1, here.column}));
-    select(single(here));
+    const UserEvents::Doing doing(*events_, UserEvents::Doing::Of::EntryTyped);
+    for (const char* step : {".uno:GoDown", ".uno:GoUp"})
+        dispatcher_->executeDispatch(as<css::frame::XDispatchProvider>(frame_),
+                                     rtl::OUString::createFromAscii(step), rtl::OUString(), 0,
+                                     properties(property("By", sal_Int16(1))));
 }
 
 void Book::write(CellPosition first, const CellBlock& block) {
