@@ -35,7 +35,7 @@ def steps(results):
     context = results["context"]
     print(f"From the click to the painted frames of both windows, ms "
           f"({context['platform']}, main window {context['main_window']})")
-    print(f"{"command":<14}{'grips':>6}{'median':>9}{'p99':>9}{'max':>9}{'logic':>9}{'paint':>9}"
+    print(f"{'command':<14}{'grips':>6}{'median':>9}{'p99':>9}{'max':>9}{'logic':>9}{'paint':>9}"
           f"{'display':>9}{'cpu p99':>9}  aim")
     for result in results["benchmarks"]:
         command, grips = result["name"].split("/")[:2]
@@ -106,7 +106,7 @@ def side_by_side(folder):
     if not rows:
         return
     print("The built-in spreadsheet and LibreOffice Calc, ms")
-    print(f"{'':<12}{'grips':>6}{'built-in':>10}{'Calc':>10}{'Calc max':>10}  aim")
+    print(f"{'':<14}{'grips':>6}{'built-in':>10}{'Calc':>10}{'Calc max':>10}  aim")
     for name, grips, own, calc in rows:
         print(f"{name:<14}{grips:>6}{own[0] if own else float('nan'):10.1f}{calc[0]:10.1f}{calc[1]:10.1f}  "
               + verdict((calc[0],), (AIMS_CALC.get(name),)))
