@@ -72,7 +72,7 @@ CellValue Cells::at(CellPosition cell) {
     calls_.requireRunning();
     const unsigned acts = calls_.acts();
     if (const auto seen = seen_.value(cell, acts)) return *seen;
-    const CellRange piece = ReadAhead::pieceWith(cell);
+    const CellRange piece = seen_.pieceWith(cell);
     const auto [found, plain] = calls_.askAside(
         [piece](CalcEngine& calc) { return std::pair(calc.read(piece), !calc.hasFormulas()); });
     seen_.learnCells(piece, found, plain, acts);

@@ -6,12 +6,15 @@ namespace zvonika {
 
 namespace {
 constexpr int rowsAhead = 8;    ///< a song is mostly read from row to row
+constexpr int mostRows = 128;   ///< by who reads all of it
 constexpr int songColumns = 23; ///< A to W
 } // namespace
 
-CellRange ReadAhead::pieceWith(CellPosition cell) {
+CellRange ReadAhead::pieceWith(CellPosition cell) const {
     if (cell.column > songColumns) return single(cell);
-    return {{cell.row, 1}, {std::min(cell.row + rowsAhead - 1, lastRow), songColumns}};
+    const bool goesOn = cell.row > piece_.first.row && cell.row <= piece_.last.row + 1;
+    const int rows = goesOn ? std::clamp(4 * piece_.rows(), rowsAhead, mostRows) : rowsAhead;
+    return {{cell.row, 1}, {std::min(cell.row + rows - 1, lastRow), songColumns}};
 }
 
 bool ReadAhead::fresh(unsigned acts) const {

@@ -16,8 +16,9 @@ class ReadAhead {
 public:
     explicit ReadAhead(std::chrono::milliseconds moment = std::chrono::milliseconds(100)) : moment_(moment) {}
 
-    /// The piece of a sheet to read when this cell is asked for.
-    static CellRange pieceWith(CellPosition cell);
+    /// The piece of a sheet to read when this cell is asked for: a few rows, and more where the last piece is
+    /// gone on with.
+    CellRange pieceWith(CellPosition cell) const;
 
     /// `acts`: how many acts of the user have been heard of. An answer is there only if it is the same number
     /// as at the time of reading.

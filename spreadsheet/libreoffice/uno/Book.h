@@ -5,6 +5,7 @@
 #include "spreadsheet/libreoffice/uno/UserEvents.h"
 #include "spreadsheet/libreoffice/uno/Values.h"
 
+#include <chrono>
 #include <com/sun/star/awt/XWindow.hpp>
 #include <com/sun/star/frame/XDispatchHelper.hpp>
 #include <com/sun/star/frame/XFrame.hpp>
@@ -74,6 +75,7 @@ private:
     Ref<css::sheet::XSpreadsheet> sheet() const;
     void refuseWhatXlsLoses() const;
     void commitEntry();
+    void commitEntryBeforeWriting();
     QString title() const;
 
     int id_ = 0;
@@ -89,6 +91,7 @@ private:
     Ref<css::sheet::XSpreadsheet> held_;
     Values values_;
     Entry entry_;
+    std::chrono::steady_clock::time_point noEntry_; ///< when the user was last seen not typing
     rtl::Reference<UserEvents> events_;
 };
 

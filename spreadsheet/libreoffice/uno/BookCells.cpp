@@ -115,19 +115,30 @@ QVector<QStringList> Book::formulas(const CellRange& range) const {
 
 bool Book::typing() {
     const UserEvents::Doing doing(*events_, UserEvents::Doing::Of::WaitingUser);
-    return entry_.isOpen();
+    const bool open = entry_.isOpen();
+    noEntry_ = open ? std::chrono::steady_clock::time_point() : std::chrono::steady_clock::now();
+    return open;
 }
 
-// What is being typed in a cell is taken over when the cursor leaves it.
+// What is being typed in a cell is taken over when the cursor leaves it. By steps: the user may go on with
+// the keyboard in between.
 void Book::commitEntry() {
     if (!typing()) return;
-    const CellPosition here = cursor();
-    select(single({here.row > 1 ? here.row - 1 : here.row + 1, here.column}));
-    select(single(here));
+    const UserEvents::Doing doing(*events_, UserEvents::Doing::Of::EntryTyped);
+    for (const char* step : {".uno:GoDown", ".uno:GoUp"})
+        dispatcher_->executeDispatch(as<css::frame::XDispatchProvider>(frame_),
+                                     rtl::OUString::createFromAscii(step), rtl::OUString(), 0,
+                                     properties(property("By", sal_Int16(1))));
+}
+
+// To look, Calc has to come to rest and to paint. Nobody begins to type while a run writes.
+void Book::commitEntryBeforeWriting() {
+    constexpr std::chrono::milliseconds moment{100};
+    if (std::chrono::steady_clock::now() - noEntry_ > moment) commitEntry();
 }
 
 void Book::write(CellPosition first, const CellBlock& block) {
-    commitEntry();
+    commitEntryBeforeWriting();
     values_.write(sheet(), first, block);
 }
 
@@ -140,14 +151,14 @@ bool Book::holdSheet() {
 }
 
 void Book::writeHeld(const QVector<PlacedBlock>& blocks) {
-    commitEntry();
+    commitEntryBeforeWriting();
     const auto target = held_.is() ? held_ : sheet();
     for (const PlacedBlock& block : blocks)
         values_.write(target, block.first, block.cells);
 }
 
 void Book::clear(const CellRange& range) {
-    commitEntry();
+    commitEntryBeforeWriting();
     namespace flags = css::sheet::CellFlags;
     as<css::sheet::XSheetOperation>(cellsOf(sheet(), range, keeper_))
         ->clearContents(flags::VALUE | flags::DATETIME | flags::STRING | flags::FORMULA);

@@ -48,7 +48,10 @@ Ref<css::lang::XComponent> Engine::load(const QString& url, const QString& nativ
         throw;
     } catch (const css::uno::Exception&) { // the reason is known from what was asked
     }
-    if (document.is()) return document;
+    if (document.is()) {
+        usersDocuments_->addPrograms(as<css::uno::XInterface>(document));
+        return document;
+    }
     refuseToOpen(nativePath, interaction->reason().isEmpty() ? QStringLiteral("LibreOffice Calc ho odmítl")
                                                              : interaction->reason());
 }

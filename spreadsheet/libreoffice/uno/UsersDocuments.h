@@ -6,17 +6,19 @@
 #include <com/sun/star/document/XDocumentEventListener.hpp>
 #include <com/sun/star/uno/XComponentContext.hpp>
 #include <cppuhelper/implbase1.hxx>
-#include <thread>
 #include <vector>
 
 namespace zvonika {
 
-/// Counts the documents that the user has opened in the office himself. What the program opens is told of
-/// within its own call, on the thread of the engine.
+/// Counts the documents that the user has opened in the office himself. The office tells of the program's too,
+/// now before and now after it has handed them over.
 class UsersDocuments : public cppu::WeakImplHelper1<css::document::XDocumentEventListener> {
 public:
     UsersDocuments(CalcObserver& observer, Keeper& keeper)
-        : observer_(observer), keeper_(keeper), engineThread_(std::this_thread::get_id()) {}
+        : observer_(observer), keeper_(keeper) {}
+
+    /// The program has opened this document.
+    void addPrograms(const Ref<css::uno::XInterface>& document);
 
     void listenTo(const Ref<css::uno::XComponentContext>& office);
     /// Nothing more reaches the observer.
@@ -26,14 +28,16 @@ public:
     void SAL_CALL disposing(const css::lang::EventObject&) override {}
 
 private:
-    void note(const Ref<css::uno::XInterface>& document, bool opened);
+    void opened(const Ref<css::uno::XInterface>& document);
+    void closed(const Ref<css::uno::XInterface>& document);
+    void tell();
 
     CalcObserver& observer_;
     Keeper& keeper_;
-    std::thread::id engineThread_;
     std::mutex mutex_;
     bool stopped_ = false;
-    std::vector<Ref<css::uno::XInterface>> open_;
+    std::vector<Ref<css::uno::XInterface>> users_, programs_;
+    std::size_t told_ = 0;
 };
 
 } // namespace zvonika
