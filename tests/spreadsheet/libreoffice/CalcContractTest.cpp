@@ -82,6 +82,7 @@ TEST(CalcRecovery, WhatTheUserGaveUpInCalcIsNotOffered) {
         app->addWorkbook();
         app->saveActiveWorkbookAs({song});
         app->setValue("B1", QString("c,"));
+        app->finishWriting();
         ASSERT_TRUE(VirtualScreen::press("Kočka.xls", {keys}));
         ASSERT_TRUE(QTest::qWaitFor([] { return VirtualScreen::hasWindow("Save Document"); }, 30000));
         ASSERT_TRUE(VirtualScreen::press("Save Document", {"alt+n"}));
