@@ -43,7 +43,15 @@ bool Program::volnoProKrok() const {
     if (udalosti_.bezi() || QApplication::activeModalWidget()) return false;
     // A step while the player writes would spread his text over the rows; one behind another window goes
     // unseen.
-    return okno_.isVisible() && !qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    return okno_.isVisible() && !qobject_cast<QLineEdit*>(QApplication::focusWidget()) && !hracPise();
+}
+
+bool Program::hracPise() const {
+    try {
+        return modely_.pisen.aplikaceExcel && modely_.pisen.excel().userIsTyping();
+    } catch (const RuntimeError&) {
+        return false; // the step itself reports it
+    }
 }
 
 KrokAutomatu Program::krokAutomatu() {
@@ -63,6 +71,7 @@ int Program::aktualniRadek() const {
 }
 
 void Program::cursorMoved() {
+    automat_.odpocin();
     udalosti_.nasleduj([this] { konverzace_.pisen().navigace.sledujKurzor(); });
 }
 

@@ -43,6 +43,7 @@ private:
     KrokAutomatu krokAutomatu();
     bool volnoProKrok() const;
     void nabidniNeulozene();
+    bool hracPise() const;
 
     void cursorMoved() override;
     void cellsEdited() override { cursorMoved(); }

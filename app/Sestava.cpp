@@ -1,5 +1,7 @@
 #include "app/Sestava.h"
 
+#include "app/DialogyPoZapisu.h"
+#include "app/Modely.h"
 #include "app/Program.h"
 #include "app/RozmisteniOken.h"
 #include "app/TabulkaLibreOffice.h"
@@ -80,10 +82,13 @@ struct Sestava::Casti {
           media(systemMedia(drive, pluginFolders())),
           libreOffice(drive, dialogs, nastaveni(QStringLiteral("Calc Zvoniky"), umisteni),
                       profilyLibreOffice(umisteni), zaznamy),
-          program({dialogs, *nastaveniProgramu, drive, shell, tabulky(),
+          program({dialogyPoZapisu, *nastaveniProgramu, drive, shell, tabulky(),
                    umisteni.hodiny ? *umisteni.hodiny : hodiny, *media, volbaProhlizece(pluginFolders()),
                    nastrojZvonika(), zaznamy}) {
         dialogs.setMainWindow(&program.okno());
+        dialogyPoZapisu.dopis = [this] {
+            if (const auto& excel = program.modely().pisen.aplikaceExcel) excel->finishWriting();
+        };
         const QScreen* obrazovka = QApplication::primaryScreen();
         okna = rozmistiOkna(obrazovka ? obrazovka->availableGeometry() : QRect(0, 0, 1366, 768));
         libreOffice.nastavMisto(bezRamu(okna.tabulka));
@@ -131,6 +136,7 @@ struct Sestava::Casti {
     HomeDrive drive;
     std::unique_ptr<Media> media;
     QtDialogs dialogs;
+    DialogyPoZapisu dialogyPoZapisu{dialogs};
     DesktopShell shell;
     QtWakeUpClock hodiny;
     RozmisteniOken okna;

@@ -5,6 +5,7 @@
 #include "bench/Kvantily.h"
 
 #include <QApplication>
+#include <QTest>
 
 #include <cstdio>
 #include <exception>
@@ -14,6 +15,8 @@ namespace {
 
 constexpr int kroku = 500;
 constexpr int zapisu = 200;
+constexpr int krokuHrace = 60;
+constexpr int tempoHraceMs = 250;
 constexpr int otevreni = 30;
 
 /// Collects the times of one benchmark and hands them over at its end.
@@ -60,7 +63,9 @@ QString dalsiNazev() {
     return QStringLiteral("Měřená %1").arg(++poradi);
 }
 
-void krok(benchmark::State& stav, BeziciProgram& program, const QString& prikaz) {
+/// `prodleva`: ms from one click to the next, in which the player plays; what was read ahead is old by then,
+/// and both programs have gone to sleep.
+void krok(benchmark::State& stav, BeziciProgram& program, const QString& prikaz, int prodleva = 0) {
     const int hmatu = int(stav.range(0));
     program.zalozPisen(dalsiNazev(), hmatu);
     {
@@ -71,6 +76,7 @@ void krok(benchmark::State& stav, BeziciProgram& program, const QString& prikaz)
                 program.klikni(QStringLiteral("cmdPrvni"));
                 radek = 2;
             }
+            if (prodleva > 0) QTest::qWait(prodleva);
             vzorky.pridej(program.klikni(prikaz));
         }
     }
@@ -159,6 +165,9 @@ void zaregistrujVse(BeziciProgram& program) {
         zaregistruj(prikaz, kroku, [&program, prikaz](benchmark::State& stav) {
             krok(stav, program, QString::fromLatin1(prikaz));
         });
+    zaregistruj("cmdJakDal 250", krokuHrace, [&program](benchmark::State& stav) {
+        krok(stav, program, QStringLiteral("cmdJakDal"), tempoHraceMs);
+    });
     zaregistruj("Timer1", kroku, [&program](benchmark::State& stav) { automat(stav, program); });
     zaregistruj("cmdTah", zapisu, [&program](benchmark::State& stav) { zapis(stav, program); });
     zaregistruj("cmdEdit", otevreni, [&program](benchmark::State& stav) { otevreniPisne(stav, program); });

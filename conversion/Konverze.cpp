@@ -150,7 +150,9 @@ void Konverze::pokracuj(const QString& cilova) {
 void Konverze::proved(const QString& cilova, KonecBehu (BehKonverze::*odkud)()) {
     stav_.selhala = true;
     BehKonverze rozbehnuty = beh(cilova);
-    poBehu((rozbehnuty.*odkud)());
+    const KonecBehu konec = (rozbehnuty.*odkud)();
+    pisen_.excel().finishWriting();
+    poBehu(konec);
     stav_.selhala = false;
 }
 

@@ -116,6 +116,15 @@ public:
     // --- blocks: one call for a whole range of the active sheet ---
     virtual CellBlock readBlock(const QString& address) const = 0;
     virtual void writeBlock(const QString& address, const CellBlock& block) = 0;
+
+    // --- writing and the user ---
+    /// The application may take what is written a moment later, and all of it at once; whatever else it is
+    /// asked for finds the cells written, and after this call so does everybody. Raises what a write that was
+    /// put off has met.
+    virtual void finishWriting() = 0;
+    /// Whether the user is typing a text into a cell that is not taken over yet. The program's own writing
+    /// takes it over first, as if by Enter, and so does what ends or leaves the sheet.
+    virtual bool userIsTyping() const = 0;
 };
 
 /// Creates application objects ("excel.application"): each call a new instance, invisible and without a

@@ -19,7 +19,7 @@ void ZivotPisne::otevri(const QString& soubor) {
     excel.openWorkbook(soubor);
     try {
         okoli_.pisen.aktualniPisen = excel.activeWorkbookName();
-        okoli_.pisen.plneJmeno = *soubor;
+        okoli_.pisen.plneJmeno = soubor;
         vOkne_.ukazOtevrenou();
         oznamJenKeCteni();
     } catch (...) {

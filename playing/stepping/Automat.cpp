@@ -9,6 +9,8 @@ namespace {
 
 /// The program was stopped, or the computer cannot keep up: a rush of steps would help nobody.
 constexpr std::chrono::seconds nejvetsiZpozdeni{1};
+/// From a click into a cell to the first key, and from one syllable to the next.
+constexpr std::chrono::seconds klidPoZasahu{2};
 
 } // namespace
 
@@ -43,6 +45,10 @@ void Automat::zastav() {
     timer1_.zapni(false);
 }
 
+void Automat::odpocin() {
+    klidDo_ = hodiny_.now() + klidPoZasahu;
+}
+
 void Automat::naplanujDalsi() {
     const WakeUpClock::Time ted = hodiny_.now();
     if (ted - termin_ > nejvetsiZpozdeni) termin_ = ted;
@@ -52,7 +58,7 @@ void Automat::naplanujDalsi() {
 
 void Automat::Timer1Tick() {
     naplanujDalsi(); // before the step: ticks that fall into a box which the step shows are rests, not debts
-    if (!krok_.volno()) return;
+    if (hodiny_.now() < klidDo_ || !krok_.volno()) return;
     if (prikazy_.povolen(QStringLiteral("cmdTimer")))
         krok();
     else

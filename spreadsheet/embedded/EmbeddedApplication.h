@@ -75,6 +75,9 @@ public:
     CellBlock readBlock(const QString& address) const override;
     void writeBlock(const QString& address, const CellBlock& block) override;
 
+    void finishWriting() override {}
+    bool userIsTyping() const override { return session_.userIsTyping(); }
+
 private:
     void requireRunning() const;
     Document& document() const;

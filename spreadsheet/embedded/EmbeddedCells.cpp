@@ -87,6 +87,7 @@ CellValue EmbeddedApplication::value(const QString& address) const {
 }
 
 void EmbeddedApplication::setValue(const QString& address, const CellValue& value) {
+    const Session::ProgramCall call(session_);
     Document& active = document();
     active.editing().fill(active.cursor().activeSheet(), cellsAt(address), value);
 }
@@ -97,6 +98,7 @@ CellValue EmbeddedApplication::activeCellValue() const {
 }
 
 void EmbeddedApplication::setActiveCellValue(const CellValue& value) {
+    const Session::ProgramCall call(session_);
     Document& active = document();
     active.editing().fill(active.cursor().activeSheet(), single(active.cursor().selection().active), value);
 }
@@ -131,6 +133,7 @@ void EmbeddedApplication::copyRange(const QString& address) {
 }
 
 void EmbeddedApplication::paste() {
+    const Session::ProgramCall call(session_);
     Document& active = document();
     requireCopied(clipboard_);
     const CellRange selected = active.cursor().selection().range;
@@ -145,6 +148,7 @@ CellBlock EmbeddedApplication::readBlock(const QString& address) const {
 }
 
 void EmbeddedApplication::writeBlock(const QString& address, const CellBlock& block) {
+    const Session::ProgramCall call(session_);
     Document& active = document();
     active.editing().write(active.cursor().activeSheet(), cellsAt(address).first, block);
 }

@@ -69,7 +69,7 @@ void Session::refuseTwin(const QString& name, const Document* self) const {
 
 QString Session::trouble() const {
     for (const auto& document : documents_)
-        if (const QString trouble = document->journal().trouble(); !trouble.isEmpty()) return trouble;
+        if (QString trouble = document->journal().trouble(); !trouble.isEmpty()) return trouble;
     return {};
 }
 

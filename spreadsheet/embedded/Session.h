@@ -57,6 +57,7 @@ public:
     void setVisible(bool visible);
     /// To the front, also the empty window that was hidden with its last workbook.
     void raise();
+    bool userIsTyping() const { return view_ && view_->isTyping(); }
     /// Hides the window until a workbook is shown again or the user is sent to it.
     void hideUntilNeeded();
 
@@ -66,8 +67,8 @@ public:
     /// Tells the listener what the user has done: at once, or after the program's call if one is under way.
     void report(bool edited, bool moved);
 
-    /// A call of the program that leaves what is shown, or reads all of it: begins by taking what the user is
-    /// just typing. The listener hears of that when the call is over.
+    /// A call of the program that leaves what is shown, writes to it or reads all of it: begins by taking
+    /// what the user is just typing. The listener hears of that when the call is over.
     class ProgramCall {
     public:
         explicit ProgramCall(Session& session);

@@ -17,6 +17,8 @@ public:
     virtual void setVisible(bool visible) = 0;
     /// To the front, with the keyboard.
     virtual void raise() = 0;
+    /// Whether the user is typing, in a cell or above the cells, what is not handed over yet.
+    virtual bool isTyping() const = 0;
     /// Hands what is being typed, in a cell or above the cells, to the document shown, as if by Enter.
     virtual void commitPending() = 0;
     /// Shows this document from now on, nullptr for none; what is being typed is dropped. The

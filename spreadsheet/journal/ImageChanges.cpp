@@ -69,11 +69,11 @@ private:
 
 std::vector<JournalChange> differences(const WorkbookImage& before, const WorkbookImage& after) {
     std::vector<JournalChange> changes;
-    for (int sheet = 1; sheet <= after.sheets.size(); ++sheet) {
+    int sheet = 0;
+    for (const SheetImage& now : after.sheets) {
         const SheetImage none;
-        const bool known = before.hasSheet(sheet);
+        const bool known = before.hasSheet(++sheet);
         const SheetImage& old = known ? before.sheets.at(sheet - 1) : none;
-        const SheetImage& now = after.sheets.at(sheet - 1);
         if (known && old.name != now.name) changes.emplace_back(SheetRenamed{sheet, now.name});
         addDifferences(old, now, sheet, changes);
     }

@@ -39,7 +39,7 @@ void JournalledSpreadsheet::quit() {
 
 QString JournalledSpreadsheet::trouble() const {
     for (const auto& workbook : workbooks_)
-        if (const QString trouble = workbook->journal().trouble(); !trouble.isEmpty()) return trouble;
+        if (QString trouble = workbook->journal().trouble(); !trouble.isEmpty()) return trouble;
     return {};
 }
 

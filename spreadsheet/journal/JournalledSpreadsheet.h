@@ -68,6 +68,9 @@ public:
     CellBlock readBlock(const QString& address) const override { return live_->readBlock(address); }
     void writeBlock(const QString& address, const CellBlock& block) override;
 
+    void finishWriting() override { live_->finishWriting(); }
+    bool userIsTyping() const override { return live_->userIsTyping(); }
+
 private:
     void cursorMoved() override;
     void cellsEdited() override;

@@ -9,12 +9,25 @@
 
 namespace zvonika {
 
+struct CalcCalls::Sign {
+    void show() {
+        felt = true;
+        if (wait) wait();
+    }
+    void end() {
+        if (std::exchange(felt, false) && over) over();
+    }
+
+    std::function<void()> wait, over;
+    bool felt = false;
+};
+
 CalcCalls::CalcCalls(const WaitingCustoms& customs, std::function<void()> waitOver, const Patience& patience)
-    : waitOver_(std::move(waitOver)), patience_(patience), calls_({[this, sign = customs.sign] {
-                                                                       felt_ = true;
-                                                                       if (sign) sign();
-                                                                   },
-                                                                   customs.waitOn, customs.breakOff}) {}
+    : sign_(std::make_shared<Sign>()), patience_(patience),
+      calls_({[sign = sign_] { sign->show(); }, customs.waitOn, customs.breakOff}) {
+    sign_->wait = customs.sign;
+    sign_->over = std::move(waitOver);
+}
 
 void CalcCalls::attach(std::shared_ptr<CalcEngine> engine, std::shared_ptr<UserNotices> notices,
                        std::function<bool()> running) {
@@ -26,7 +39,7 @@ void CalcCalls::attach(std::shared_ptr<CalcEngine> engine, std::shared_ptr<UserN
 void CalcCalls::detach() {
     try {
         carryOut(patience_.cell, [engine = std::exchange(engine_, nullptr)] {});
-    } catch (const std::exception&) { // a call that never came back holds the engine, which goes with it
+    } catch (...) { // a call that never came back holds the engine, which goes with it
     }
 }
 
@@ -40,9 +53,7 @@ void CalcCalls::requireRunning() const {
 }
 
 void CalcCalls::carryOut(std::chrono::milliseconds patience, const std::function<void()>& work, Where where) {
-    const auto over = qScopeGuard([this] {
-        if (std::exchange(felt_, false) && waitOver_) waitOver_();
-    });
+    const auto over = qScopeGuard([sign = sign_] { sign->end(); });
     QElapsedTimer clock;
     clock.start();
     try {

@@ -32,6 +32,8 @@ public:
     void detach();
     /// `settle` comes before each call that may be about other cells than those dealt with so far.
     void settleWith(std::function<void()> settle) { settle_ = std::move(settle); }
+    /// `deliver` comes before every call but those of `askNow`: what has been kept back reaches Calc first.
+    void deliverWith(std::function<void()> deliver) { deliver_ = std::move(deliver); }
 
     const Patience& patience() const { return patience_; }
     bool busy() const { return calls_.busy(); }
@@ -55,15 +57,25 @@ public:
     }
     /// The same for calls which leave what has been seen of the sheet as it is.
     template <typename Calls>
-    auto askAside(std::chrono::milliseconds patience, Calls calls, Where where = Where::current());
+    auto askAside(std::chrono::milliseconds patience, Calls calls, Where where = Where::current()) {
+        requireRunning();
+        if (deliver_) deliver_();
+        return askNow(patience, std::move(calls), where);
+    }
     template <typename Calls>
     auto askAside(Calls calls, Where where = Where::current()) {
         return askAside(patience_.cell, std::move(calls), where);
     }
+    /// The same, whatever else there may be to do before.
+    template <typename Calls>
+    auto askNow(std::chrono::milliseconds patience, Calls calls, Where where = Where::current());
 
 private:
-    bool felt_ = false; ///< the user has been shown that Calc takes its time
-    std::function<void()> waitOver_, settle_;
+    /// Whether the user has been shown that Calc takes its time, and what to do when that is over. A wait
+    /// that ends this object goes on with it.
+    struct Sign;
+    std::shared_ptr<Sign> sign_;
+    std::function<void()> settle_, deliver_;
     Patience patience_;
     std::function<bool()> running_;
     std::shared_ptr<UserNotices> notices_;
@@ -72,7 +84,7 @@ private:
 };
 
 template <typename Calls>
-auto CalcCalls::askAside(std::chrono::milliseconds patience, Calls calls, Where where) {
+auto CalcCalls::askNow(std::chrono::milliseconds patience, Calls calls, Where where) {
     using Result = std::invoke_result_t<Calls, CalcEngine&>;
     requireRunning();
     // What the user did meanwhile has been held back; a call that fails holds it back no longer than others.

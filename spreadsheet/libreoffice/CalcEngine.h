@@ -27,6 +27,8 @@ public:
     /// Calc has opened or saved a file, whoever asked it to: it has it open, as it is on the disk now.
     virtual void fileOpened(const QString& nativePath) = 0;
     virtual void fileClosed(const QString& nativePath) = 0;
+    /// So many documents of all kinds are open now that the user, not the program, has opened in this office.
+    virtual void usersDocuments(int count) = 0;
 };
 
 /// What the file of a workbook is, by the filter that has read or written it.
@@ -34,6 +36,13 @@ enum class WorkbookFormat {
     Xls,    ///< of today; also a workbook without a file
     OldXls, ///< version 5.0 or 95
     Other
+};
+
+/// Cells for one place of a sheet.
+struct PlacedBlock {
+    CellPosition first;
+    CellBlock cells; ///< rows of equal length, not empty
+    friend bool operator==(const PlacedBlock&, const PlacedBlock&) = default;
 };
 
 /// A workbook that is open in Calc.
@@ -91,6 +100,15 @@ public:
     virtual QVector<QStringList> formulas(const CellRange& range) = 0;  ///< "" where a cell has none
     virtual void write(CellPosition first, const CellBlock& block) = 0; ///< rows of equal length, not empty
     virtual void clear(const CellRange& range) = 0;
+
+    /// The sheet that is active now is from now on the one that `writeHeld` writes to. True when writing a
+    /// block of it does what writing its cells one by one does, and no cell depends on another.
+    virtual bool holdSheet() = 0;
+    virtual void writeHeld(const QVector<PlacedBlock>& blocks) = 0;
+
+    /// Whether the user is typing in the active workbook. What he types is taken over, as if by Enter, before
+    /// anything is written or cleared and when the cursor is moved.
+    virtual bool typing() = 0;
 };
 
 /// How to reach a Calc that is starting.
@@ -101,7 +119,7 @@ struct CalcAddress {
 };
 
 /// Raised with every change of the classes above: a plug-in built for others is not used.
-constexpr int calcPluginVersion = 3;
+constexpr int calcPluginVersion = 4;
 
 /// What a plug-in exports: "zvonikaCalcPluginVersion" and "zvonikaConnectToCalc". The latter returns when
 /// Calc has answered, or nullptr when `keepTrying` gave up; AutomationError 429 when the connection cannot be

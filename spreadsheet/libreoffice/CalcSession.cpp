@@ -42,12 +42,14 @@ CalcSession::CalcSession(const LibreOfficeSurroundings& surroundings, const QStr
     const QString pipe = freshPipe();
     process_ = started(surroundings_, folder, pipe);
     files_ = std::make_shared<OpenFiles>(process_->profileUrl());
-    notices_ = std::make_shared<UserNotices>([this] { return calls_.busy(); },
-                                             [process = process_, files = files_](const QString& path) {
-                                                 process->tellDocument(path);
-                                                 files->learn(path);
-                                             },
-                                             [files = files_](const QString& path) { files->close(path); });
+    notices_ = std::make_shared<UserNotices>(
+        [this] { return calls_.busy(); },
+        [process = process_, files = files_](const QString& path) {
+            process->tellDocument(path);
+            files->learn(path);
+        },
+        [files = files_](const QString& path) { files->close(path); },
+        [process = process_](int count) { process->tellUsersDocuments(count); });
     connectTo(pipe);
     process_->tellStarted();
 }
@@ -103,7 +105,7 @@ bool CalcSession::quits() {
     try {
         return calls_.alive() &&
                calls_.ask(surroundings_.patience.file, [](CalcEngine& calc) { return calc.quit(); });
-    } catch (const std::exception&) { // it has gone in between
+    } catch (...) { // it has gone in between
         return false;
     }
 }

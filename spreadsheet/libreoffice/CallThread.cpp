@@ -67,9 +67,12 @@ bool CallThread::waitFor(std::chrono::milliseconds time) const {
 }
 
 void CallThread::giveUp() {
-    const std::scoped_lock lock(state_->mutex);
-    state_->ending = true;
-    state_->thread.detach();
+    {
+        const std::scoped_lock lock(state_->mutex);
+        state_->ending = true;
+        state_->thread.detach();
+    }
+    state_->begun.notify_all();
 }
 
 } // namespace zvonika

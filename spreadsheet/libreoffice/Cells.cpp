@@ -39,8 +39,14 @@ bool isControl(QChar c) {
 }
 
 /// Calc keeps it letter by letter.
-bool isKeptAsItIs(const QString& text) {
-    return !text.isEmpty() && std::none_of(text.begin(), text.end(), isControl);
+bool isKeptAsItIs(const CellValue& value) {
+    if (isEmpty(value)) return true;
+    const auto* text = std::get_if<QString>(&value);
+    return text && std::none_of(text->begin(), text->end(), isControl);
+}
+
+CellValue plain(const CellValue& value) {
+    return isEmpty(value) ? CellValue() : value;
 }
 
 /// The sheet as a search needs it, read in a few calls.
@@ -66,19 +72,24 @@ CellValue Cells::at(CellPosition cell) {
     calls_.requireRunning();
     const unsigned acts = calls_.acts();
     if (const auto seen = seen_.value(cell, acts)) return *seen;
-    const CellRange piece = ReadAhead::pieceWith(cell);
+    const CellRange piece = seen_.pieceWith(cell);
     const auto [found, plain] = calls_.askAside(
         [piece](CalcEngine& calc) { return std::pair(calc.read(piece), !calc.hasFormulas()); });
     seen_.learnCells(piece, found, plain, acts);
     return found.at(cell.row - piece.first.row).at(cell.column - piece.first.column);
 }
 
-void Cells::noteWrite(const CellRange& range, const CellValue& value) {
-    const auto* text = std::get_if<QString>(&value);
-    if (range == single(range.first) && text && isKeptAsItIs(*text))
-        seen_.write(range.first, *text, calls_.acts());
-    else
-        seen_.forgetCells();
+/// Takes a row of texts behind the program's back; false when it has to be written at once.
+bool Cells::keep(CellPosition first, const CellBlock& block) {
+    const auto& row = block.first();
+    if (block.size() > 1 || !std::all_of(row.begin(), row.end(), isKeptAsItIs)) return false;
+    CellPosition cell = first;
+    for (const CellValue& value : row) {
+        if (!behind_.keep(cell, plain(value))) return false;
+        seen_.write(cell, plain(value), calls_.acts());
+        ++cell.column;
+    }
+    return true;
 }
 
 CellValue Cells::value(const QString& address) {
@@ -87,19 +98,21 @@ CellValue Cells::value(const QString& address) {
 
 void Cells::setValue(const QString& address, const CellValue& value) {
     refuseLongText(value);
-    const CellRange range = cellsAt(address);
-    if (isEmpty(value)) return clear(address);
-    noteWrite(range, value);
-    calls_.askAside([range = handedOver(range), value](CalcEngine& calc) {
-        calc.write(range.first, filled(range, value));
-    });
+    writeSame(cellsAt(address), value);
 }
 
 void Cells::setActiveValue(const CellValue& value) {
     refuseLongText(value);
-    const CellPosition cell = cursor_.position();
-    noteWrite(single(cell), value);
-    calls_.askAside([cell, value](CalcEngine& calc) { calc.write(cell, {{value}}); });
+    writeSame(single(cursor_.position()), value);
+}
+
+void Cells::writeSame(const CellRange& range, const CellValue& value) {
+    if (range == single(range.first) && keep(range.first, {{value}})) return;
+    if (isEmpty(value)) return clear(range);
+    seen_.forgetCells();
+    calls_.askAside([range = handedOver(range), value](CalcEngine& calc) {
+        calc.write(range.first, filled(range, value));
+    });
 }
 
 void Cells::moveCursor(int rows, int columns) {
@@ -107,7 +120,11 @@ void Cells::moveCursor(int rows, int columns) {
 }
 
 void Cells::clear(const QString& address) {
-    calls_.ask([range = cellsAt(address)](CalcEngine& calc) { calc.clear(range); });
+    clear(cellsAt(address));
+}
+
+void Cells::clear(const CellRange& range) {
+    calls_.ask([range](CalcEngine& calc) { calc.clear(range); });
 }
 
 void Cells::findAndActivate(const FindArguments& arguments) {
@@ -129,6 +146,7 @@ void Cells::write(const QString& address, const CellBlock& block) {
     if (block.isEmpty() || block.first().isEmpty()) return;
     refuseOverEdge(first, block);
     refuseLongTexts(block);
+    if (keep(first, block)) return;
     calls_.ask([first, block](CalcEngine& calc) { calc.write(first, block); });
 }
 

@@ -2,6 +2,7 @@
 
 #include "spreadsheet/SpreadsheetApplication.h"
 #include "spreadsheet/libreoffice/PacedCursor.h"
+#include "spreadsheet/libreoffice/WriteBehind.h"
 
 namespace zvonika {
 
@@ -9,7 +10,7 @@ namespace zvonika {
 class Cells {
 public:
     Cells(CalcCalls& calls, PacedCursor& cursor, ReadAhead& seen)
-        : calls_(calls), cursor_(cursor), seen_(seen) {}
+        : calls_(calls), cursor_(cursor), seen_(seen), behind_(calls, seen) {}
 
     CellValue value(const QString& address);                       ///< of a range, its first cell
     void setValue(const QString& address, const CellValue& value); ///< of a range, all its cells
@@ -23,14 +24,19 @@ public:
     void write(const QString& address, const CellBlock& block);
     /// A block as it was read; a single cell fills the selection.
     void writeAtSelection(const CellBlock& block);
+    /// What was written is in Calc afterwards; raises what a write has met since.
+    void finishWriting() { behind_.deliver(); }
 
 private:
     CellValue at(CellPosition cell);
-    void noteWrite(const CellRange& range, const CellValue& value);
+    bool keep(CellPosition first, const CellBlock& block);
+    void writeSame(const CellRange& range, const CellValue& value);
+    void clear(const CellRange& range);
 
     CalcCalls& calls_;
     PacedCursor& cursor_;
     ReadAhead& seen_;
+    WriteBehind behind_;
 };
 
 } // namespace zvonika

@@ -223,4 +223,14 @@ void LibreOfficeApplication::setWatcher(WorkbookWatcher* watcher) {
     parts_->session.notices().setWatcher(watcher);
 }
 
+// --- writing and the user ---
+
+void LibreOfficeApplication::finishWriting() {
+    parts_->cells.finishWriting();
+}
+
+bool LibreOfficeApplication::userIsTyping() const {
+    return parts_->calls.askAside([](CalcEngine& calc) { return calc.typing(); });
+}
+
 } // namespace zvonika

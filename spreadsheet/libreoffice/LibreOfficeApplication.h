@@ -60,6 +60,9 @@ public:
     CellBlock readBlock(const QString& address) const override;
     void writeBlock(const QString& address, const CellBlock& block) override;
 
+    void finishWriting() override;
+    bool userIsTyping() const override;
+
     Place place() const override;
     unsigned acts() const override;
     std::optional<WorkbookImage> image(int workbook) override;

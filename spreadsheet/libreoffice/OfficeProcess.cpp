@@ -151,6 +151,7 @@ OfficeProcess::~OfficeProcess() {
 }
 
 void OfficeProcess::end() {
+    tell("end\n");
     {
         const std::scoped_lock lock(mutex_);
         if (line_ >= 0) close(line_);
@@ -165,6 +166,10 @@ void OfficeProcess::tellStarted() {
 
 void OfficeProcess::tellDocument(const QString& nativePath) {
     tell("file:" + QFile::encodeName(nativePath) + '\n');
+}
+
+void OfficeProcess::tellUsersDocuments(int count) {
+    tell("users:" + QByteArray::number(count) + '\n');
 }
 
 void OfficeProcess::tell(const QByteArray& line) {

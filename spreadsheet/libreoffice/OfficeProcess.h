@@ -14,7 +14,8 @@ namespace zvonika {
 struct Installation;
 
 /// One running office of our own, with its guardian process, which ends it with this program, however that
-/// ends, and clears away what a killed office leaves behind.
+/// ends, and clears away what a killed office leaves behind. An office in which the user has documents of his
+/// own outlives a program that was killed; the guardian clears up when it has ended.
 class OfficeProcess {
 public:
     /// Starts it; it accepts connections on the pipe of that name a little later. AutomationError 429 when
@@ -35,6 +36,8 @@ public:
     void tellStarted();
     /// The office has a document open. From any thread.
     void tellDocument(const QString& nativePath);
+    /// So many documents has the user opened in the office himself. From any thread.
+    void tellUsersDocuments(int count);
 
 private:
     void tell(const QByteArray& line);

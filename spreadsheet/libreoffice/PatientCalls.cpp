@@ -1,6 +1,8 @@
 #include "spreadsheet/libreoffice/PatientCalls.h"
 
 #include "platform/RuntimeError.h"
+#include "spreadsheet/libreoffice/CallThread.h"
+#include "spreadsheet/libreoffice/HeldEvents.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -19,20 +21,6 @@ using std::chrono::milliseconds;
 constexpr milliseconds unfelt{80};      ///< a wait this long needs no window
 constexpr milliseconds signPeriod{100}; ///< between signs of a longer one
 constexpr milliseconds untilBroken{3000};
-
-/// Holds back the timers of the whole program, its own pulse excepted. A timer whose event is eaten comes
-/// again after its interval, a single-shot one too.
-class HeldTimers : public QObject {
-public:
-    HeldTimers() {
-        QCoreApplication::instance()->installEventFilter(this);
-        startTimer(signPeriod); // wakes the loop that waits
-    }
-
-    bool eventFilter(QObject* target, QEvent* event) override {
-        return event->type() == QEvent::Timer && target != this;
-    }
-};
 
 void wakeEventLoop() {
     if (auto* application = QCoreApplication::instance())
@@ -57,48 +45,89 @@ std::function<void()> keepingFailure(std::function<void()> call,
 
 } // namespace
 
+struct PatientCalls::State {
+    explicit State(WaitingCustoms with) : customs(std::move(with)) {}
+
+    void run(milliseconds patience, std::function<void()> call);
+    bool waitWithWindow(milliseconds patience);
+    void await(milliseconds patience);
+    void breakOff();
+    void leaveBehind();
+
+    WaitingCustoms customs;
+    CallThread thread;
+    bool busy = false;
+    bool lost = false;      ///< the thread never came back
+    bool abandoned = false; ///< the object that waited has gone, and with it what `customs` speak of
+};
+
+PatientCalls::PatientCalls(WaitingCustoms customs) : state_(std::make_shared<State>(std::move(customs))) {}
+
+PatientCalls::~PatientCalls() {
+    state_->abandoned = true;
+}
+
+bool PatientCalls::busy() const {
+    return state_->busy;
+}
+
 void PatientCalls::run(milliseconds patience, std::function<void()> call) {
-    if (busy_) fail(error::applicationDefined, QStringLiteral("Tabulka ještě dokončuje předchozí příkaz."));
-    if (lost_) fail(error::objectNotSet, QStringLiteral("Tabulka neodpovídá."));
-    const QScopedValueRollback waiting(busy_, true);
+    const auto state = state_;
+    state->run(patience, std::move(call));
+}
+
+void PatientCalls::State::run(milliseconds patience, std::function<void()> call) {
+    if (busy) fail(error::applicationDefined, QStringLiteral("Tabulka ještě dokončuje předchozí příkaz."));
+    if (lost) fail(error::objectNotSet, QStringLiteral("Tabulka neodpovídá."));
+    const QScopedValueRollback waiting(busy, true);
     const auto failure = std::make_shared<std::exception_ptr>();
-    thread_.begin(keepingFailure(std::move(call), failure), wakeEventLoop);
-    if (!thread_.waitFor(unfelt)) await(patience);
+    thread.begin(keepingFailure(std::move(call), failure), wakeEventLoop);
+    if (!thread.waitFor(unfelt)) await(patience);
     if (*failure) std::rethrow_exception(*failure);
 }
 
-void PatientCalls::await(milliseconds patience) {
+void PatientCalls::State::await(milliseconds patience) {
     while (!waitWithWindow(patience)) {
-        const bool on = customs_.waitOn();
-        if (thread_.waitFor(milliseconds(0))) return;
+        const bool on = !abandoned && customs.waitOn();
+        if (abandoned) return leaveBehind();
+        if (thread.waitFor(milliseconds(0))) return;
         if (!on) return breakOff();
     }
 }
 
-bool PatientCalls::waitWithWindow(milliseconds patience) {
-    if (!QCoreApplication::instance()) return thread_.waitFor(patience);
-    const HeldTimers held;
+/// False when the patience is over, or who waited is gone.
+bool PatientCalls::State::waitWithWindow(milliseconds patience) {
+    if (!QCoreApplication::instance()) return thread.waitFor(patience);
+    const HeldEvents held(signPeriod);
     QElapsedTimer clock;
     clock.start();
-    for (milliseconds nextSign{0}; !thread_.waitFor(milliseconds(0));) {
+    for (milliseconds nextSign{0}; !thread.waitFor(milliseconds(0));) {
         const milliseconds waited(clock.elapsed());
-        if (waited > patience) return false;
+        if (waited > patience) break;
         if (waited >= nextSign) {
-            customs_.sign();
+            customs.sign();
             nextSign = waited + signPeriod;
         }
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        if (abandoned) return false;
     }
-    return true;
+    QCoreApplication::processEvents(); // what came at the last moment is of the wait too
+    return !abandoned && thread.waitFor(milliseconds(0));
 }
 
-void PatientCalls::breakOff() {
-    customs_.breakOff();
-    if (!thread_.waitFor(untilBroken)) {
-        thread_.giveUp();
-        lost_ = true;
+void PatientCalls::State::breakOff() {
+    customs.breakOff();
+    if (!thread.waitFor(untilBroken)) {
+        thread.giveUp();
+        lost = true;
     }
     fail(error::objectNotSet, QStringLiteral("Tabulka byla ukončena, protože neodpovídala."));
+}
+
+void PatientCalls::State::leaveBehind() {
+    thread.giveUp();
+    lost = true;
+    fail(error::objectNotSet, QStringLiteral("Tabulka byla mezitím ukončena."));
 }
 
 } // namespace zvonika

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "spreadsheet/libreoffice/CallThread.h"
-
+#include <chrono>
 #include <functional>
+#include <memory>
 
 namespace zvonika {
 
@@ -15,28 +15,28 @@ struct WaitingCustoms {
 };
 
 /// Carries calls out on a thread of their own while the user-interface thread waits, so that a program which
-/// does not answer cannot stop the window. A wait that can be felt keeps the window painted; clicks, keys and
-/// timers are held back until it is over, so that nothing is entered twice.
+/// does not answer cannot stop the window. A wait that can be felt keeps the window painted; timers are held
+/// back until it is over, and clicks and keys that come meanwhile are dropped: they were meant for what was
+/// on the screen then, and nothing is entered twice.
 class PatientCalls {
 public:
-    explicit PatientCalls(WaitingCustoms customs) : customs_(std::move(customs)) {}
+    explicit PatientCalls(WaitingCustoms customs);
+    /// What a wait lets happen may end this object too: the call that is waited for is left behind then, and
+    /// its `run` raises AutomationError 91.
+    ~PatientCalls();
+    PatientCalls(const PatientCalls&) = delete;
+    PatientCalls& operator=(const PatientCalls&) = delete;
 
     /// Throws what the call throws. AutomationError 91 when it was broken off and 1004 when another call is
     /// under way. What the call holds must outlive this object: a call that cannot be broken off is left
     /// behind with it.
     void run(std::chrono::milliseconds patience, std::function<void()> call);
 
-    bool busy() const { return busy_; }
+    bool busy() const;
 
 private:
-    bool waitWithWindow(std::chrono::milliseconds patience);
-    void await(std::chrono::milliseconds patience);
-    void breakOff();
-
-    WaitingCustoms customs_;
-    CallThread thread_;
-    bool busy_ = false;
-    bool lost_ = false; ///< the thread never came back
+    struct State;
+    std::shared_ptr<State> state_; ///< what a wait goes on with when this object has gone
 };
 
 } // namespace zvonika

@@ -6,12 +6,15 @@ namespace zvonika {
 
 namespace {
 constexpr int rowsAhead = 8;    ///< a song is mostly read from row to row
+constexpr int mostRows = 128;   ///< by who reads all of it
 constexpr int songColumns = 23; ///< A to W
 } // namespace
 
-CellRange ReadAhead::pieceWith(CellPosition cell) {
+CellRange ReadAhead::pieceWith(CellPosition cell) const {
     if (cell.column > songColumns) return single(cell);
-    return {{cell.row, 1}, {std::min(cell.row + rowsAhead - 1, lastRow), songColumns}};
+    const bool goesOn = cell.row > piece_.first.row && cell.row <= piece_.last.row + 1;
+    const int rows = goesOn ? std::clamp(4 * piece_.rows(), rowsAhead, mostRows) : rowsAhead;
+    return {{cell.row, 1}, {std::min(cell.row + rows - 1, lastRow), songColumns}};
 }
 
 bool ReadAhead::fresh(unsigned acts) const {
@@ -38,9 +41,18 @@ bool ReadAhead::isActive(const QString& workbook, unsigned acts) const {
     return fresh(acts) && !workbook_.isEmpty() && workbook_ == workbook;
 }
 
+std::optional<bool> ReadAhead::takesBlocks(unsigned acts) const {
+    return fresh(acts) ? takesBlocks_ : std::nullopt;
+}
+
 void ReadAhead::learnActive(const QString& workbook, unsigned acts) {
     begin(acts);
     workbook_ = workbook;
+}
+
+void ReadAhead::learnTakesBlocks(bool takes, unsigned acts) {
+    begin(acts);
+    takesBlocks_ = takes;
 }
 
 void ReadAhead::learnCursor(CellPosition cursor, unsigned acts) {
@@ -48,10 +60,10 @@ void ReadAhead::learnCursor(CellPosition cursor, unsigned acts) {
     cursor_ = cursor;
 }
 
-void ReadAhead::write(CellPosition cell, const QString& text, unsigned acts) {
+void ReadAhead::write(CellPosition cell, const CellValue& value, unsigned acts) {
     if (!plain_ || !fresh(acts)) return forgetCells();
     if (!cells_.isEmpty() && piece_.contains(cell))
-        cells_[cell.row - piece_.first.row][cell.column - piece_.first.column] = text;
+        cells_[cell.row - piece_.first.row][cell.column - piece_.first.column] = value;
 }
 
 void ReadAhead::learnCells(const CellRange& piece, CellBlock cells, bool plain, unsigned acts) {
@@ -65,6 +77,7 @@ void ReadAhead::forget() {
     forgetCursor();
     forgetCells();
     workbook_.clear();
+    takesBlocks_.reset();
     age_.invalidate();
 }
 

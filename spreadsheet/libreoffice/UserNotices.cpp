@@ -3,9 +3,9 @@
 namespace zvonika {
 
 UserNotices::UserNotices(std::function<bool()> held, std::function<void(const QString&)> opened,
-                         std::function<void(const QString&)> closed)
+                         std::function<void(const QString&)> closed, std::function<void(int)> users)
     : held_(std::move(held)), opened_(std::move(opened)), fileClosed_(std::move(closed)),
-      receiver_(std::make_unique<QObject>()) {}
+      users_(std::move(users)), receiver_(std::make_unique<QObject>()) {}
 
 void UserNotices::cursorMoved() {
     ++acts_;

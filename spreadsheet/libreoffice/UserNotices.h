@@ -16,17 +16,21 @@ namespace zvonika {
 class UserNotices : public CalcObserver, public std::enable_shared_from_this<UserNotices> {
 public:
     /// Made on the user-interface thread. `held`: asked there whether the listener has to wait; who held it
-    /// back calls `deliverAgain`. `opened` and `closed` are called on any thread.
-    UserNotices(
-        std::function<bool()> held, std::function<void(const QString&)> opened,
-        std::function<void(const QString&)> closed = [](const QString&) {});
+    /// back calls `deliverAgain`. `opened`, `closed` and `users` are called on any thread.
+    UserNotices(std::function<bool()> held, std::function<void(const QString&)> opened,
+                std::function<void(const QString&)> closed = {}, std::function<void(int)> users = {});
 
     void cursorMoved() override;
     void cellsEdited() override;
     void workbookCloses() override { ++acts_; }
     void userCloses(int workbook) override;
     void fileOpened(const QString& nativePath) override { opened_(nativePath); }
-    void fileClosed(const QString& nativePath) override { fileClosed_(nativePath); }
+    void fileClosed(const QString& nativePath) override {
+        if (fileClosed_) fileClosed_(nativePath);
+    }
+    void usersDocuments(int count) override {
+        if (users_) users_(count);
+    }
 
     /// How many acts have been heard of, those too that are not delivered. From any thread.
     unsigned acts() const { return acts_; }
@@ -50,6 +54,7 @@ private:
 
     std::function<bool()> held_;
     std::function<void(const QString&)> opened_, fileClosed_;
+    std::function<void(int)> users_;
     std::atomic<unsigned> acts_ = 0;
     std::atomic<bool> edited_ = false;
     std::atomic<bool> moved_ = false;

@@ -86,6 +86,16 @@ TEST_F(AutomatOkna, ATextBeingTypedIsARest) {
     EXPECT_EQ(program->aktualniRadek(), 2);
 }
 
+TEST_F(AutomatOkna, AClickIntoTheSheetIsARest) {
+    klikni("cmdTimer");
+    hodiny.uplyn(Ms(1900));
+    excel->userSelects("A7");
+    hodiny.uplyn(Ms(1900));
+    EXPECT_EQ(excel->activeAddress(), "$A$7") << "a syllable could have been begun";
+    hodiny.uplyn(Ms(300));
+    EXPECT_EQ(program->aktualniRadek(), 8);
+}
+
 TEST_F(AutomatOkna, AFailingStepIsOneBoxAndTheEnd) {
     klikni("cmdTimer");
     log.fail("moveCursor", 91);

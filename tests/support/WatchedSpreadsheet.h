@@ -90,6 +90,9 @@ public:
         on("writeBlock").writeBlock(address, block);
     }
 
+    void finishWriting() override { on("finishWriting").finishWriting(); }
+    bool userIsTyping() const override { return on("userIsTyping").userIsTyping(); }
+
 private:
     EmbeddedApplication& on(const char* call) const {
         log_.note(call);

@@ -37,8 +37,12 @@ void EditLine::showCell(CellPosition cell, const QString& contents) {
     contents_->setModified(false);
 }
 
+bool EditLine::isTyping() const {
+    return contents_->isModified();
+}
+
 void EditLine::commitPending() {
-    if (contents_->isModified()) commit();
+    if (isTyping()) commit();
 }
 
 void EditLine::clear() {

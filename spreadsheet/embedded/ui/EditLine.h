@@ -18,6 +18,7 @@ public:
 
     /// Shows a cell, unless the user is just typing into another one.
     void showCell(CellPosition cell, const QString& contents);
+    bool isTyping() const;
     /// Commits what was typed and not yet committed.
     void commitPending();
     /// Drops what was typed and shows nothing.

@@ -22,6 +22,7 @@ public:
     /// Shows a selection and scrolls its active cell into sight. While a cell is being edited this waits for
     /// the end of the editing.
     void follow(const Selection& selection);
+    bool isTyping() const { return state() == EditingState; }
     /// Ends the editing of a cell, keeping what was typed; the active cell stays.
     void commitPending();
     /// The user goes on to a cell, from outside of the table.

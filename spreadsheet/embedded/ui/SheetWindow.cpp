@@ -157,6 +157,10 @@ void SheetWindow::setDocument(Document* document) {
     showSelection();
 }
 
+bool SheetWindow::isTyping() const {
+    return table_->isTyping() || line_->isTyping();
+}
+
 // A refusal shows a box, and in the meantime the program may ask for the same.
 void SheetWindow::commitPending() {
     if (committing_) return;

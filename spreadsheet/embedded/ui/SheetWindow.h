@@ -29,6 +29,7 @@ public:
     void setVisible(bool visible) override;
     void raise() override;
     void setDocument(Document* document) override;
+    bool isTyping() const override;
     void commitPending() override;
 
 Q_SIGNALS:

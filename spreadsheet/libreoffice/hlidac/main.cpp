@@ -1,8 +1,10 @@
 // zvonika-hlidac PROFILE_URL LOG PROGRAM ARGUMENT...: runs an office for Zvonika and sees to it that nothing
 // of it stays behind. LOG lies in the folder of the profile.
 //
-// Standard input is the line from Zvonika: "file:PATH" names a document that the office has open, anything
-// else only wakes. When the line breaks, Zvonika has ended, however it did, and the office is ended too.
+// Standard input is the line from Zvonika: "file:PATH" names a document that the office has open, "users:N"
+// tells how many documents the user has opened in it himself, "end" orders its end, anything else only wakes.
+// When the line breaks, Zvonika has ended, however it did, and the office is ended too; but not without that
+// order while it has documents of the user's own: then its end is waited for.
 // Descriptor 3 holds the lock of the office's profile for as long as this process lives. The exit code is the
 // office's.
 #include "spreadsheet/libreoffice/hlidac/Leftovers.h"
@@ -24,13 +26,11 @@ constexpr int profileLock = 3;
 constexpr int restartWanted = 81; // what the office ends with after it has set up a fresh profile
 constexpr int mostStarts = 4;
 
-volatile std::sig_atomic_t toEnd = 0;
+// The session that ends tells everybody, the office too, which then ends by itself; what it holds is not for
+// the guardian to throw away.
+void onSignal(int) {}
 
-void onSignal(int number) {
-    if (number != SIGCHLD) toEnd = 1;
-}
-
-/// Signals interrupt nothing but the wait. Returns the mask to wait with.
+/// Signals interrupt nothing but the wait, and end nothing. Returns the mask to wait with.
 sigset_t catchSignals() {
     struct sigaction action = {};
     action.sa_handler = onSignal;
@@ -67,39 +67,61 @@ pid_t start(char** command, const char* log, const sigset_t& mask) {
     return office;
 }
 
-/// Takes what the line has to say; false when it is broken.
-bool listen(std::string& pending, zvonika::Leftovers& leftovers, pid_t office) {
-    char bytes[4096];
-    const ssize_t count = read(STDIN_FILENO, bytes, sizeof bytes);
-    if (count < 0) return errno == EINTR || errno == EAGAIN;
-    if (count == 0) return false;
-    pending.append(bytes, static_cast<std::size_t>(count));
-    for (std::size_t end; (end = pending.find('\n')) != std::string::npos; pending.erase(0, end + 1))
-        if (pending.starts_with("file:")) leftovers.addDocument(pending.substr(5, end - 5));
-    leftovers.lookAt(office);
-    return true;
-}
+/// What Zvonika has said so far.
+class Line {
+public:
+    explicit Line(zvonika::Leftovers& leftovers) : leftovers_(leftovers) {}
+
+    bool open() const { return open_; }
+    bool wantsEnd() const { return !open_ && (ordered_ || users_ == 0); }
+    void listen() {
+        char bytes[4096];
+        const ssize_t count = read(STDIN_FILENO, bytes, sizeof bytes);
+        if (count < 0 && (errno == EINTR || errno == EAGAIN)) return;
+        if (count <= 0) {
+            open_ = false;
+            return;
+        }
+        pending_.append(bytes, static_cast<std::size_t>(count));
+        for (std::size_t end; (end = pending_.find('\n')) != std::string::npos; pending_.erase(0, end + 1))
+            take(pending_.substr(0, end));
+    }
+
+private:
+    void take(const std::string& word) {
+        if (word.starts_with("file:")) leftovers_.addDocument(word.substr(5));
+        if (word.starts_with("users:")) users_ = std::atoi(word.c_str() + 6);
+        if (word == "end") ordered_ = true;
+    }
+
+    zvonika::Leftovers& leftovers_;
+    std::string pending_;
+    bool open_ = true, ordered_ = false;
+    int users_ = 0;
+};
 
 /// Waits until the office has ended or has to; its exit code in the first case, -1 in the second.
-int watch(pid_t office, zvonika::Leftovers& leftovers, const sigset_t& mask) {
-    std::string pending;
-    while (!toEnd) {
+int watch(pid_t office, Line& line, zvonika::Leftovers& leftovers, const sigset_t& mask) {
+    while (!line.wantsEnd()) {
         int status = 0;
         if (waitpid(office, &status, WNOHANG) == office)
             return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
-        pollfd line = {STDIN_FILENO, POLLIN, 0};
-        if (ppoll(&line, 1, nullptr, &mask) > 0 && !listen(pending, leftovers, office)) break;
+        pollfd input = {STDIN_FILENO, POLLIN, 0};
+        if (ppoll(&input, line.open() ? 1 : 0, nullptr, &mask) <= 0) continue;
+        line.listen();
+        leftovers.lookAt(office);
     }
     return -1;
 }
 
 int run(char** command, const char* log, zvonika::Leftovers& leftovers) {
     const sigset_t mask = catchSignals();
+    Line line(leftovers);
     int result = restartWanted;
     for (int i = 0; i < mostStarts && result == restartWanted; ++i) {
         const pid_t office = start(command, log, mask);
         if (office < 0) return 127;
-        result = watch(office, leftovers, mask);
+        result = watch(office, line, leftovers, mask);
         leftovers.lookAt(office);
         kill(-office, SIGKILL); // with what it has started itself
         if (result < 0) waitpid(office, nullptr, 0);

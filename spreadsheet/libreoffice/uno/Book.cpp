@@ -7,9 +7,7 @@
 #include <QFileInfo>
 
 #include <com/sun/star/awt/PosSize.hpp>
-#include <com/sun/star/awt/XToolkitExperimental.hpp>
 #include <com/sun/star/awt/XTopWindow.hpp>
-#include <com/sun/star/awt/XWindowPeer.hpp>
 #include <com/sun/star/frame/XStorable2.hpp>
 #include <com/sun/star/frame/XTitle.hpp>
 #include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
@@ -41,7 +39,7 @@ Book::Book(const Ref<css::frame::XModel>& model, const Ref<css::sheet::XSpreadsh
     : observer_(observer), keeper_(keeper), dispatcher_(dispatcher), model_(model),
       identity_(model, css::uno::UNO_QUERY), sheets_(sheets), controller_(model->getCurrentController()),
       view_(controller_, css::uno::UNO_QUERY_THROW), frame_(controller_->getFrame()),
-      values_(as<css::util::XNumberFormatsSupplier>(model)->getNumberFormats(), keeper),
+      values_(as<css::util::XNumberFormatsSupplier>(model)->getNumberFormats(), keeper), entry_(frame_),
       events_(new UserEvents(observer, keeper)) {
     events_->listenTo(model_, controller_);
 }
@@ -103,22 +101,6 @@ void Book::refuseWhatXlsLoses() const {
                        .arg(lastRow)
                        .arg(columnLetters(lastColumn)));
     }
-}
-
-// Keys that Calc has not come to yet belong to what is being typed.
-void Book::awaitKeys() {
-    const Ref<css::awt::XWindowPeer> window(frame_->getContainerWindow(), css::uno::UNO_QUERY);
-    if (!window.is()) return;
-    const Ref<css::awt::XToolkitExperimental> toolkit(window->getToolkit(), css::uno::UNO_QUERY);
-    if (toolkit.is()) toolkit->processEventsToIdle();
-}
-
-// What is being typed in a cell is taken over when the cursor leaves it.
-void Book::commitEntry() {
-    awaitKeys();
-    const CellPosition here = cursor();
-    select(single({here.row > 1 ? here.row - 1 : here.row + 1, here.column}));
-    select(single(here));
 }
 
 void Book::store(const QString& nativePath, const std::function<void(const Properties&)>& steps) {

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "spreadsheet/libreoffice/CalcEngine.h"
+#include "spreadsheet/libreoffice/uno/Entry.h"
 #include "spreadsheet/libreoffice/uno/UserEvents.h"
 #include "spreadsheet/libreoffice/uno/Values.h"
 
+#include <chrono>
 #include <com/sun/star/awt/XWindow.hpp>
 #include <com/sun/star/frame/XDispatchHelper.hpp>
 #include <com/sun/star/frame/XFrame.hpp>
@@ -61,8 +63,13 @@ public:
     CellPosition used() const;
     CellBlock read(const CellRange& range) { return values_.read(sheet(), range); }
     QVector<QStringList> formulas(const CellRange& range) const;
-    void write(CellPosition first, const CellBlock& block) { values_.write(sheet(), first, block); }
+    void write(CellPosition first, const CellBlock& block);
     void clear(const CellRange& range);
+    bool holdSheet();
+    void writeHeld(const QVector<PlacedBlock>& blocks);
+
+    // --- what the user is typing ---
+    bool typing();
 
 private:
     SheetImage imageOf(const Ref<css::sheet::XSpreadsheet>& sheet);
@@ -74,8 +81,8 @@ private:
     css::uno::Any argument(const char* name) const;
     bool isEncrypted() const;
     std::vector<sal_Int32> visibleSheets() const;
-    void awaitKeys();
     void commitEntry();
+    void commitEntryBeforeWriting();
     QString title() const;
 
     int id_ = 0;
@@ -88,7 +95,10 @@ private:
     Ref<css::frame::XController> controller_;
     Ref<css::sheet::XSpreadsheetView> view_;
     Ref<css::frame::XFrame> frame_;
+    Ref<css::sheet::XSpreadsheet> held_;
     Values values_;
+    Entry entry_;
+    std::chrono::steady_clock::time_point noEntry_; ///< when the user was last seen not typing
     rtl::Reference<UserEvents> events_;
 };
 

@@ -10,8 +10,10 @@
 #include <com/sun/star/sheet/XCellRangeAddressable.hpp>
 #include <com/sun/star/sheet/XCellRangeFormula.hpp>
 #include <com/sun/star/sheet/XCellRangesQuery.hpp>
+#include <com/sun/star/sheet/XSheetAnnotationsSupplier.hpp>
 #include <com/sun/star/sheet/XSheetOperation.hpp>
 #include <com/sun/star/sheet/XUsedAreaCursor.hpp>
+#include <com/sun/star/util/XProtectable.hpp>
 
 namespace zvonika {
 
@@ -110,6 +112,7 @@ CellRange Book::selection() const {
 }
 
 void Book::select(const CellRange& range) {
+    const UserEvents::Doing doing(*events_, UserEvents::Doing::Of::EntryTyped);
     dispatcher_->executeDispatch(as<css::frame::XDispatchProvider>(frame_), rtl::OUString(".uno:GoToCell"),
                                  rtl::OUString(), 0,
                                  properties(property("ToPoint", toUno(absoluteAddress(range)))));
@@ -127,7 +130,52 @@ QVector<QStringList> Book::formulas(const CellRange& range) const {
     return formulasIn(cellsOf(sheet(), range, keeper_));
 }
 
+bool Book::typing() {
+    const UserEvents::Doing doing(*events_, UserEvents::Doing::Of::WaitingUser);
+    const bool open = entry_.isOpen();
+    noEntry_ = open ? std::chrono::steady_clock::time_point() : std::chrono::steady_clock::now();
+    return open;
+}
+
+// What is being typed in a cell is taken over when the cursor leaves it. By steps: the user may go on with
+// the keyboard in between.
+void Book::commitEntry() {
+    if (!typing()) return;
+    const UserEvents::Doing doing(*events_, UserEvents::Doing::Of::EntryTyped);
+    for (const char* step : {".uno:GoDown", ".uno:GoUp"})
+        dispatcher_->executeDispatch(as<css::frame::XDispatchProvider>(frame_),
+                                     rtl::OUString::createFromAscii(step), rtl::OUString(), 0,
+                                     properties(property("By", sal_Int16(1))));
+}
+
+// To look, Calc has to come to rest and to paint. Nobody begins to type while a run writes.
+void Book::commitEntryBeforeWriting() {
+    constexpr std::chrono::milliseconds moment{100};
+    if (std::chrono::steady_clock::now() - noEntry_ > moment) commitEntry();
+}
+
+void Book::write(CellPosition first, const CellBlock& block) {
+    commitEntryBeforeWriting();
+    values_.write(sheet(), first, block);
+}
+
+// A block write drops comments, and it fails as a whole where one of its cells may not be written.
+bool Book::holdSheet() {
+    held_ = sheet();
+    const auto comments = as<css::sheet::XSheetAnnotationsSupplier>(held_)->getAnnotations();
+    return !as<css::container::XIndexAccess>(keeper_.keep(comments))->hasElements() &&
+           !as<css::util::XProtectable>(held_)->isProtected() && !hasFormulas();
+}
+
+void Book::writeHeld(const QVector<PlacedBlock>& blocks) {
+    commitEntryBeforeWriting();
+    const auto target = held_.is() ? held_ : sheet();
+    for (const PlacedBlock& block : blocks)
+        values_.write(target, block.first, block.cells);
+}
+
 void Book::clear(const CellRange& range) {
+    commitEntryBeforeWriting();
     namespace flags = css::sheet::CellFlags;
     as<css::sheet::XSheetOperation>(cellsOf(sheet(), range, keeper_))
         ->clearContents(flags::VALUE | flags::DATETIME | flags::STRING | flags::FORMULA);

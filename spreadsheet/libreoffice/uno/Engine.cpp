@@ -34,13 +34,15 @@ Properties loading(bool hidden, const rtl::Reference<Interaction>& interaction) 
 Engine::Engine(std::unique_ptr<Connection> connection, CalcObserver& observer)
     : connection_(std::move(connection)), observer_(observer),
       dispatcher_(css::frame::DispatchHelper::create(connection_->context())),
-      files_(new FileEvents(observer, keeper_)) {
+      files_(new FileEvents(observer, keeper_)), usersDocuments_(new UsersDocuments(observer, keeper_)) {
     css::frame::theGlobalEventBroadcaster::get(connection_->context())
         ->addDocumentEventListener(files_.get());
+    usersDocuments_->listenTo(connection_->context());
 }
 
 Engine::~Engine() {
     files_->stop();
+    usersDocuments_->stop();
 }
 
 // The window that Calc shows when its last workbook has been closed would keep the place of the next one.
@@ -66,7 +68,10 @@ Ref<css::lang::XComponent> Engine::load(const QString& url, const QString& nativ
         throw;
     } catch (const css::uno::Exception&) { // the reason is known from what was asked
     }
-    if (document.is()) return document;
+    if (document.is()) {
+        usersDocuments_->addPrograms(as<css::uno::XInterface>(document));
+        return document;
+    }
     refuseToOpen(nativePath, interaction->reason().isEmpty() ? QStringLiteral("LibreOffice Calc ho odmítl")
                                                              : interaction->reason());
 }

@@ -4,6 +4,7 @@
 #include "spreadsheet/libreoffice/uno/Connection.h"
 #include "spreadsheet/libreoffice/uno/Failures.h"
 #include "spreadsheet/libreoffice/uno/FileEvents.h"
+#include "spreadsheet/libreoffice/uno/UsersDocuments.h"
 
 #include <memory>
 #include <vector>
@@ -49,6 +50,9 @@ public:
     QVector<QStringList> formulas(const CellRange& range) override;
     void write(CellPosition first, const CellBlock& block) override;
     void clear(const CellRange& range) override;
+    bool holdSheet() override;
+    void writeHeld(const QVector<PlacedBlock>& blocks) override;
+    bool typing() override;
 
 private:
     Ref<css::lang::XComponent> load(const QString& url, const QString& nativePath);
@@ -71,6 +75,7 @@ private:
     CalcObserver& observer_;
     Ref<css::frame::XDispatchHelper> dispatcher_;
     rtl::Reference<FileEvents> files_;
+    rtl::Reference<UsersDocuments> usersDocuments_;
     std::vector<std::unique_ptr<Book>> books_;
     int activeId_ = 0;
     int lastId_ = 0;

@@ -65,4 +65,16 @@ std::optional<WorkbookImage> Engine::image(int id) {
     });
 }
 
+bool Engine::holdSheet() {
+    return onBook([](Book& book) { return book.holdSheet(); });
+}
+
+void Engine::writeHeld(const QVector<PlacedBlock>& blocks) {
+    onBook([&](Book& book) { book.writeHeld(blocks); });
+}
+
+bool Engine::typing() {
+    return onBook([](Book& book) { return book.typing(); });
+}
+
 } // namespace zvonika

@@ -18,24 +18,28 @@ void UserEvents::listenTo(const Ref<css::frame::XModel>& model, const Ref<css::f
         sheets->addActivationEventListener(this);
 }
 
+bool UserEvents::users(Doing::Of atLeast) const {
+    return !stopped_ && (std::this_thread::get_id() != engineThread_ || doing_ >= atLeast);
+}
+
 void UserEvents::activeSpreadsheetChanged(const css::sheet::ActivationEvent& event) {
     keeper_.keep(event.ActiveSheet);
     moved();
 }
 
 void UserEvents::modified(const css::lang::EventObject&) {
-    if (users()) observer_.cellsEdited();
+    if (users(Doing::Of::EntryTyped)) observer_.cellsEdited();
 }
 
 void UserEvents::notifyClosing(const css::lang::EventObject&) {
     closed_ = true;
     if (stopped_) return;
     observer_.workbookCloses();
-    if (users()) observer_.userCloses(workbook_);
+    if (users(Doing::Of::WaitingUser)) observer_.userCloses(workbook_);
 }
 
 void UserEvents::moved() {
-    if (users()) observer_.cursorMoved();
+    if (users(Doing::Of::WaitingUser)) observer_.cursorMoved();
 }
 
 } // namespace zvonika

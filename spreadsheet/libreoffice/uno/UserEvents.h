@@ -25,6 +25,26 @@ public:
         : observer_(observer), keeper_(keeper), engineThread_(std::this_thread::get_id()) {}
 
     void listenTo(const Ref<css::frame::XModel>& model, const Ref<css::frame::XController>& view);
+    /// Whose doing the events are that a call of the program's brings about, as long as this lives.
+    class Doing {
+    public:
+        enum class Of {
+            Program,     ///< nobody else's: the observer does not hear of them; so without any `Doing`
+            EntryTyped,  ///< cells change only because what the user was typing is taken over
+            WaitingUser, ///< Calc comes to what the user has done before
+        };
+        Doing(UserEvents& events, Of whose) : events_(events), before_(events.doing_) {
+            events_.doing_ = whose;
+        }
+        ~Doing() { events_.doing_ = before_; }
+        Doing(const Doing&) = delete;
+        Doing& operator=(const Doing&) = delete;
+
+    private:
+        UserEvents& events_;
+        Of before_;
+    };
+
     /// Nothing more reaches the observer.
     void stop() { stopped_ = true; }
     void setWorkbook(int id) { workbook_ = id; } ///< by which the observer knows it
@@ -39,13 +59,14 @@ public:
     void SAL_CALL disposing(const css::lang::EventObject&) override {}
 
 private:
-    bool users() const { return !stopped_ && std::this_thread::get_id() != engineThread_; }
+    bool users(Doing::Of atLeast) const;
     void moved();
 
     CalcObserver& observer_;
     Keeper& keeper_;
     std::thread::id engineThread_;
     std::atomic<int> workbook_ = 0;
+    Doing::Of doing_ = Doing::Of::Program; ///< of the engine's thread alone
     std::atomic<bool> stopped_ = false;
     std::atomic<bool> closed_ = false;
 };

@@ -107,6 +107,16 @@ TEST_F(AutomatTest, ATickIntoABoxIsARest) {
     EXPECT_EQ(kroky, QVector<qint64>({100, 200, 700, 800}));
 }
 
+TEST_F(AutomatTest, AnActInTheSheetIsARestUntilItIsLeftAlone) {
+    spust(5, 30);
+    hodiny.uplyn(Ms(150));
+    automat.odpocin(); // a click into a cell
+    hodiny.uplyn(Ms(1500));
+    automat.odpocin(); // and a syllable
+    hodiny.uplyn(Ms(2200));
+    EXPECT_EQ(kroky, QVector<qint64>({100, 3700, 3800}));
+}
+
 TEST_F(AutomatTest, TheEndOfTheGripsStopsIt) {
     spust(5, 3);
     hodiny.uplyn(Ms(250));

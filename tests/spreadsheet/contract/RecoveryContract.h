@@ -47,7 +47,7 @@ TEST_P(RecoveryContract, EveryWayToWriteComesBack) {
     app->copyRange(QStringLiteral("B2:C2"));
     app->selectRange(QStringLiteral("B5"));
     app->paste();
-    rig->userTypes(*app, QStringLiteral("A2"), QStringLiteral("leze"));
+    rig->userEnters(*app, QStringLiteral("A2"), QStringLiteral("leze"));
     const CellBlock before = app->readBlock(QStringLiteral("A1:W6"));
     killed();
     comesAgain(true);

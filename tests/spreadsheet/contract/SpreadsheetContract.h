@@ -37,10 +37,13 @@ public:
     virtual void willSaveChanges(bool save) = 0;
     /// The user's answer to the next box; `textPart` occurs in its text.
     virtual void willAnswer(const QString& textPart, Answer answer) = 0;
+    /// Types a text into the active cell, without ending it by Enter.
+    virtual void userTypes(SpreadsheetApplication& application, const QString& text) = 0;
     virtual void userClosesWorkbook(SpreadsheetApplication& application) = 0;
     virtual void userQuits(SpreadsheetApplication& application) = 0;
     /// Into a cell of the active workbook, as if by its window; returns when the program has heard of it.
-    virtual void userTypes(SpreadsheetApplication& application, const QString& cell, const QString& text) = 0;
+    virtual void userEnters(SpreadsheetApplication& application, const QString& cell,
+                            const QString& text) = 0;
     /// The application ends without any closing step, or this program does, and the application with it.
     virtual void kill(std::unique_ptr<SpreadsheetApplication> application) = 0;
     /// The user's answer to the next offer of what a crash has left, which must contain these words.
@@ -487,6 +490,24 @@ TEST_P(SpreadsheetContract, TheActiveCellIsReadWrittenAndMoved) {
     app.selectRange(QStringLiteral("IV65536"));
     EXPECT_EQ(raised([&] { app.moveCursor(1, 0); }), 1004);
     EXPECT_EQ(raised([&] { app.moveCursor(0, 1); }), 1004);
+}
+
+TEST_P(SpreadsheetContract, WhatTheUserIsTypingIsTakenOverBeforeTheProgramWrites) {
+    app.setVisible(true);
+    addSaved(QStringLiteral("pisen.xls"));
+    for (const char* typedInto : {"B3", "A3"}) {
+        app.selectRange(QString::fromLatin1(typedInto));
+        EXPECT_FALSE(app.userIsTyping()) << typedInto;
+        rig->userTypes(app, QStringLiteral("le-"));
+        EXPECT_TRUE(app.userIsTyping()) << typedInto;
+        put(QStringLiteral("B3"), QStringLiteral("c,"));
+        app.finishWriting();
+        EXPECT_FALSE(app.userIsTyping()) << typedInto;
+        app.moveCursor(1, 0);
+        app.saveActiveWorkbook();
+        EXPECT_EQ(text(QStringLiteral("B3")), QStringLiteral("c,")) << typedInto;
+    }
+    EXPECT_EQ(text(QStringLiteral("A3")), QStringLiteral("le-"));
 }
 
 TEST_P(SpreadsheetContract, AddressesThatAreNoneRaise1004) {

@@ -1,3 +1,4 @@
+#include "spreadsheet/Address.h"
 #include "tests/spreadsheet/contract/RecoveryContract.h"
 #include "tests/spreadsheet/embedded/Rig.h"
 
@@ -19,9 +20,15 @@ public:
         world_.dialogs.expect(jmenoTabulky, QStringLiteral("má neuložené změny. Chcete ho uložit?"),
                               save ? Answer::Yes : Answer::No);
     }
+    void userTypes(SpreadsheetApplication& application, const QString& text) override {
+        SheetCommands& sheet = commandsOf(application);
+        world_.typing = [&sheet, cell = parseAddress(application.activeAddress())->first, text] {
+            sheet.type(cell, text);
+        };
+    }
     void userClosesWorkbook(SpreadsheetApplication& application) override { commands(application).close(); }
     void userQuits(SpreadsheetApplication& application) override { commands(application).quit(); }
-    void userTypes(SpreadsheetApplication& application, const QString& cell, const QString& text) override {
+    void userEnters(SpreadsheetApplication& application, const QString& cell, const QString& text) override {
         dynamic_cast<EmbeddedApplication&>(application)
             .commands()
             .type(parseAddress(cell).value().first, text);
@@ -32,8 +39,11 @@ public:
     }
 
 private:
+    static SheetCommands& commandsOf(SpreadsheetApplication& application) {
+        return dynamic_cast<EmbeddedApplication&>(application).commands();
+    }
     static FileCommands& commands(SpreadsheetApplication& application) {
-        return dynamic_cast<EmbeddedApplication&>(application).commands().files();
+        return commandsOf(application).files();
     }
 
     World world_;

@@ -32,6 +32,7 @@ public:
     explicit BlindView(std::function<void()>& typing) : typing_(typing) {}
     void setVisible(bool) override {}
     void raise() override {}
+    bool isTyping() const override { return typing_ != nullptr; }
     void commitPending() override {
         if (typing_) std::exchange(typing_, nullptr)();
     }

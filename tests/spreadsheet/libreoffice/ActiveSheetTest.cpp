@@ -4,8 +4,10 @@
 #include "spreadsheet/libreoffice/UnsavedWorkbooks.h"
 #include "tests/spreadsheet/libreoffice/FakeCalc.h"
 #include "tests/support/MemorySettings.h"
+#include "tests/support/Raised.h"
 #include "tests/support/ScriptedDialogs.h"
 
+#include <QCoreApplication>
 #include <QTemporaryDir>
 
 namespace zvonika::testing {
@@ -52,6 +54,73 @@ TEST_F(ActiveSheet, AnActOfTheUserVoidsWhatIsKnown) {
     cells.clear("A1");
     EXPECT_EQ(calc.cursor_, (CellPosition{7, 7})) << "where the user has put it";
     EXPECT_EQ(cells.value("B1"), CellValue(2.0)) << "another cell may depend on what was cleared";
+}
+
+TEST_F(ActiveSheet, TextsGoInBlocksBeforeAnythingElseIsAsked) {
+    const auto converted = [&] {
+        calc.asked.clear();
+        for (int row = 1; row <= 3; ++row) {
+            for (const char* column : {"B", "C", "D"})
+                cells.setValue(QString::fromLatin1(column) + QString::number(row), QString("c,"));
+            cells.setValue(QStringLiteral("W%1").arg(row), QString("G dur"));
+        }
+        cells.setValue("C3", CellValue());
+    };
+    const QString blocks = "writeHeld $B$1:$D$3 $W$1:$W$3";
+    const struct {
+        const char* name;
+        std::function<void()> then;
+        QStringList asked;
+    } cases[] = {
+        {"nothing", [] {}, {}},
+        {"a box, a stop", [&] { cells.finishWriting(); }, {blocks}},
+        {"the event loop", [] { QCoreApplication::processEvents(); }, {blocks}},
+        {"a reading", [&] { cells.read("A1:B2"); }, {blocks}},
+        {"another call", [&] { cells.clear("A1:A2"); }, {blocks, "clear $A$1:$A$2"}},
+        {"the cursor",
+         [&] {
+             cursor.select(single({9, 2}));
+         },
+         {blocks, "select $B$9"}},
+        {"an act of the user",
+         [&] {
+             world.notices->cursorMoved();
+             cells.setValue("E1", QString("d,"));
+         },
+         {blocks}},
+    };
+    for (const auto& [name, then, asked] : cases) {
+        converted();
+        then();
+        EXPECT_EQ(calc.asked, asked) << name;
+        cells.finishWriting();
+    }
+    calc.takesBlocks = false;
+    seen.forget();
+    cells.setValue("B1", QString("c,"));
+    EXPECT_EQ(calc.asked.last(), "write $B$1") << "a sheet with formulas, comments or protection";
+}
+
+TEST_F(ActiveSheet, AWriteThatFailsIsToldOnceByTheNextCall) {
+    calc.first = [](const QString& call) {
+        if (call.startsWith("writeHeld")) throw RuntimeError(91);
+    };
+    cells.setValue("B1", QString("c,"));
+    QCoreApplication::processEvents(); // no one to tell
+    EXPECT_EQ(raised([&] { cells.read("A1"); }), 91);
+    EXPECT_EQ(raised([&] { cells.read("A1"); }), 0);
+    EXPECT_TRUE(calc.asked.isEmpty());
+}
+
+TEST(KeptCells, AreGatheredIntoRectanglesOfTheirOwn) {
+    KeptCells kept;
+    for (const CellPosition cell :
+         {CellPosition{1, 2}, {1, 3}, {2, 2}, {2, 3}, {3, 2}, {1, 9}, {5, 2}, {6, 2}})
+        kept.add(cell, 1.0);
+    kept.add({1, 2}, 2.0);
+    const QVector<PlacedBlock> expected{
+        {{1, 2}, {{2.0, 1.0}, {1.0, 1.0}}}, {{1, 9}, {{1.0}}}, {{3, 2}, {{1.0}}}, {{5, 2}, {{1.0}, {1.0}}}};
+    EXPECT_EQ(kept.blocks(), expected);
 }
 
 TEST_F(ActiveSheet, ATextThatCalcMayChangeIsReadBack) {

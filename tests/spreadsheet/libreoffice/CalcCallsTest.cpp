@@ -70,6 +70,62 @@ TEST(PatientCalls, NothingIsEnteredTwiceAndFailuresComeThrough) {
     EXPECT_EQ(raised([&] { calls.run(seconds(10), [] {}); }), 0);
 }
 
+/// Notes the events that reach it.
+class Pressed : public QObject {
+public:
+    bool event(QEvent* event) override {
+        reached << event->type();
+        return true;
+    }
+    QVector<int> reached;
+};
+
+TEST(PatientCalls, WhatIsEnteredDuringAWaitIsDroppedAndNoButtonStaysDown) {
+    const QEvent::Type press = QEvent::MouseButtonPress, release = QEvent::MouseButtonRelease;
+    const struct {
+        const char* name;
+        QVector<QEvent::Type> entered;
+        QVector<int> reached;
+    } cases[] = {
+        {"clicks", {press, release, QEvent::MouseButtonDblClick, release}, {}},
+        {"pressed before", {release, press, release}, {release}},
+        {"keys", {QEvent::ShortcutOverride, QEvent::KeyPress, QEvent::KeyRelease, QEvent::Shortcut}, {}},
+        {"other", {QEvent::Wheel, QEvent::InputMethod, QEvent::Close, QEvent::User}, {QEvent::User}},
+    };
+    for (const auto& [name, entered, reached] : cases) {
+        FeltWait wait;
+        PatientCalls calls(wait.customs);
+        Pressed button;
+        calls.run(seconds(10), [&, &entered = entered] {
+            for (const QEvent::Type type : entered)
+                QCoreApplication::postEvent(&button, new QEvent(type));
+            wait.last();
+        });
+        QCoreApplication::postEvent(&button, new QEvent(press));
+        QCoreApplication::processEvents();
+        EXPECT_EQ(button.reached, reached + QVector<int>{press}) << name;
+    }
+}
+
+TEST(PatientCalls, AWaitThatEndsItsOwnObjectRaises91) {
+    const auto ended = std::make_shared<std::atomic<bool>>(false);
+    auto calls = std::make_unique<PatientCalls>(WaitingCustoms{[] {}, [] { return true; }, [] {}});
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(),
+        [&] {
+            calls.reset();
+            *ended = true;
+        },
+        Qt::QueuedConnection);
+    // It lasts longer than the object that waits for it.
+    const auto call = [ended] {
+        while (!*ended)
+            std::this_thread::yield();
+    };
+    EXPECT_EQ(raised([&] { calls->run(seconds(10), call); }), 91);
+    EXPECT_EQ(calls, nullptr);
+}
+
 TEST(PatientCalls, WhatACallHoldsGoesOnItsThreadBeforeTheCallerGoesOn) {
     PatientCalls calls({[] {}, [] { return true; }, [] {}});
     std::thread::id ended;

@@ -30,6 +30,9 @@ public:
         world_.dialogs.expect(jmenoCalcu, QStringLiteral("má neuložené změny. Chcete ho uložit?"),
                               save ? Answer::Yes : Answer::No);
     }
+    void userTypes(SpreadsheetApplication& application, const QString& text) override {
+        EXPECT_TRUE(VirtualScreen::type(application.activeWorkbookName(), text));
+    }
     void userClosesWorkbook(SpreadsheetApplication& application) override {
         EXPECT_TRUE(VirtualScreen::press(application.activeWorkbookName(), {"ctrl+w"}));
         EXPECT_TRUE(QTest::qWaitFor([&] { return application.activeWorkbookName().isEmpty(); }, 30000));
@@ -39,7 +42,7 @@ public:
         EXPECT_TRUE(
             QTest::qWaitFor([&] { return raised([&] { application.activeWorkbookName(); }) == 91; }, 30000));
     }
-    void userTypes(SpreadsheetApplication& application, const QString& cell, const QString& text) override {
+    void userEnters(SpreadsheetApplication& application, const QString& cell, const QString& text) override {
         application.selectRange(cell);
         const int before = listener_.edited;
         EXPECT_TRUE(VirtualScreen::type(application.activeWorkbookName(), text));
@@ -82,11 +85,12 @@ TEST(CalcRecovery, WhatTheUserGaveUpInCalcIsNotOffered) {
         app->addWorkbook();
         app->saveActiveWorkbookAs({song});
         app->setValue("B1", QString("c,"));
+        app->finishWriting();
         ASSERT_TRUE(VirtualScreen::press("Kočka.xls", {keys}));
         ASSERT_TRUE(QTest::qWaitFor([] { return VirtualScreen::hasWindow("Save Document"); }, 30000));
         ASSERT_TRUE(VirtualScreen::press("Save Document", {"alt+n"}));
-        EXPECT_TRUE(QTest::qWaitFor(
-            [&] { return raised([&] { app->activateWindow("Kočka.xls"); }) != 0; }, 30000));
+        EXPECT_TRUE(
+            QTest::qWaitFor([&] { return raised([&] { app->activateWindow("Kočka.xls"); }) != 0; }, 30000));
         rig.kill(std::move(app));
         app = rig.launch();
         app->openWorkbook(song);

@@ -127,8 +127,20 @@ TEST_F(CalcUser, TextThatIsStillBeingTypedIsSaved) {
     EXPECT_EQ(text("A1"), "le-");
 }
 
+TEST_F(CalcUser, ASyllableIsToldOfWhenAStepTakesItOver) {
+    calc->selectRange("A2");
+    ASSERT_TRUE(VirtualScreen::type(pisen, "le-"));
+    EXPECT_EQ(text("A2"), QString());
+    calc->selectRange("B2");
+    calc->moveCursor(1, 0);
+    EXPECT_EQ(calc->activeAddress(), "$B$3");
+    EXPECT_EQ(text("A2"), "le-");
+    EXPECT_TRUE(comes([&] { return heard.edited == 1; }));
+}
+
 TEST_F(CalcUser, AWorkbookClosedInCalcIsGoneWhenTheUserHasAnswered) {
     calc->setValue("B1", QString("c"));
+    calc->finishWriting();
     ASSERT_TRUE(press({"ctrl+w"}));
     ASSERT_TRUE(comes([] { return VirtualScreen::hasWindow("Save Document"); }));
     EXPECT_EQ(calc->activeWorkbookName(), pisen);

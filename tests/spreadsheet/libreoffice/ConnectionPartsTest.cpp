@@ -93,7 +93,7 @@ TEST(Profile, IsTakenOnceAndKeepsTheUsersSettings) {
 
 TEST(ReadAhead, KnowsThePieceItHasReadUntilTheUserActs) {
     ReadAhead seen;
-    const CellRange piece = ReadAhead::pieceWith({7, 2});
+    const CellRange piece = seen.pieceWith({7, 2});
     CellBlock cells(piece.rows(), QVector<CellValue>(piece.columns()));
     cells[1][22] = QString("C dur");
     seen.learnCells(piece, cells, true, 5);
@@ -110,8 +110,11 @@ TEST(ReadAhead, KnowsThePieceItHasReadUntilTheUserActs) {
     EXPECT_FALSE(seen.isActive("pisen.xls", 7) || seen.isActive("jina.xls", 6) || seen.isActive("", 6));
     seen.forget();
     EXPECT_FALSE(seen.cursor(6));
-    EXPECT_EQ(ReadAhead::pieceWith({lastRow, 30}), single({lastRow, 30}));
-    EXPECT_EQ(ReadAhead::pieceWith({lastRow, 3}).last.row, lastRow);
+    EXPECT_EQ(seen.pieceWith({lastRow, 30}), single({lastRow, 30}));
+    EXPECT_EQ(seen.pieceWith({lastRow, 3}).last.row, lastRow);
+    EXPECT_EQ(piece.rows(), 8);
+    for (const auto& [row, rows] : {std::pair(15, 32), {7, 8}, {8, 32}, {16, 8}})
+        EXPECT_EQ(seen.pieceWith({row, 2}).rows(), rows) << row;
 }
 
 TEST(ReadAhead, KnowsNothingForLong) {

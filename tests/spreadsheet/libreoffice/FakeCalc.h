@@ -15,6 +15,7 @@ public:
     QStringList others;          ///< documents with unsaved changes that are no workbooks
     CellPosition cursor_{1, 1};  ///< as Calc has it
     CellValue everywhere;        ///< what each cell holds
+    bool takesBlocks = true;     ///< of the sheet
     std::function<void(const QString&)> first = [](const QString&) {};
 
     bool connected() const override { return true; }
@@ -51,6 +52,15 @@ public:
     QVector<QStringList> formulas(const CellRange&) override { return {{QString()}}; }
     void write(CellPosition first, const CellBlock&) override { note("write " + absoluteAddress(first)); }
     void clear(const CellRange& range) override { note("clear " + absoluteAddress(range)); }
+    bool holdSheet() override { return takesBlocks; }
+    void writeHeld(const QVector<PlacedBlock>& blocks) override {
+        QStringList places;
+        for (const auto& [first, cells] : blocks)
+            places << absoluteAddress(
+                sized(first, static_cast<int>(cells.size()), static_cast<int>(cells.first().size())));
+        note("writeHeld " + places.join(' '));
+    }
+    bool typing() override { return false; }
 
 private:
     void note(const QString& call) {

@@ -11,8 +11,10 @@
 
 #include <csignal>
 #include <gtest/gtest.h>
+#include <poll.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/un.h>
 #include <unistd.h>
 
@@ -55,6 +57,21 @@ private:
     QString told() const { return folder_.filePath("told"); }
     QTemporaryDir folder_;
 };
+
+pid_t parentOf(pid_t process) {
+    QFile file(QStringLiteral("/proc/%1/stat").arg(process));
+    return file.open(QIODevice::ReadOnly) ? file.readAll().split(' ').value(3).toInt() : -1;
+}
+
+/// Whether a process that is no child of this one ends within this time.
+bool ends(pid_t process, int milliseconds) {
+    const int handle = static_cast<int>(syscall(SYS_pidfd_open, process, 0));
+    if (handle < 0) return true;
+    pollfd end = {handle, POLLIN, 0};
+    const bool ended = poll(&end, 1, milliseconds) == 1;
+    close(handle);
+    return ended;
+}
 
 } // namespace
 
@@ -103,6 +120,38 @@ TEST(OfficeProcess, RunsUnderItsGuardianAndEndsWithIt) {
     EXPECT_FALSE(QFile::exists(profiles.filePath(".~lock.moje.xls#")));
     EXPECT_EQ(Profile(profiles.path()).path(), path);
     EXPECT_NO_THROW(process.tellStarted());
+}
+
+TEST(OfficeProcess, OutlivesAKilledProgramOnlyWithDocumentsOfTheUsers) {
+    for (const int documents : {0, 2}) {
+        const FakeOffice office;
+        QTemporaryDir profiles;
+        int told[2];
+        ASSERT_EQ(pipe(told), 0);
+        const pid_t program = fork();
+        if (program == 0) {
+            const Profile profile(profiles.path());
+            OfficeProcess process(office.installation(), profile, "roura");
+            process.tellUsersDocuments(documents);
+            close(told[1]);
+            pause();
+        }
+        close(told[1]);
+        char nothing = 0;
+        EXPECT_EQ(read(told[0], &nothing, 1), 0);
+        close(told[0]);
+        const pid_t id = office.wordsOfOffice().value(0).toInt();
+        const pid_t guardian = parentOf(id);
+        ChildProcess(program).kill();
+        if (documents > 0) {
+            for (const int number : {SIGTERM, SIGHUP, SIGINT}) // the session ends
+                signalOne(guardian, number);
+            EXPECT_FALSE(ends(guardian, 300));
+            EXPECT_TRUE(signalOne(id, SIGKILL)) << "by itself, for the guardian";
+        }
+        EXPECT_TRUE(ends(guardian, 60000)) << documents;
+        EXPECT_FALSE(signalOne(id, 0)) << documents;
+    }
 }
 
 TEST(Leftovers, AreRemovedAndThoseOfOthersStay) {
