@@ -9,14 +9,25 @@ UserNotices::UserNotices(std::function<bool()> held, std::function<void(const QS
 
 void UserNotices::cursorMoved() {
     ++acts_;
+    ++moves_;
     moved_ = true;
     post();
 }
 
 void UserNotices::cellsEdited() {
+    ++moves_;
+    entryTaken();
+}
+
+void UserNotices::entryTaken() {
     ++acts_;
     edited_ = true;
     post();
+}
+
+void UserNotices::workbookCloses() {
+    ++acts_;
+    ++moves_;
 }
 
 void UserNotices::deliverAgain() {
