@@ -40,6 +40,7 @@ public:
     bool alive() const;
     void requireRunning() const;
     unsigned acts() const { return notices_->acts(); } ///< of the user, as far as they are known
+    unsigned moves() const { return notices_->moves(); }
 
     /// Runs `work` on the thread of the engine, be there one or not.
     void carryOut(std::chrono::milliseconds patience, const std::function<void()>& work,

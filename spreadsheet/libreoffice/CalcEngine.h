@@ -20,6 +20,9 @@ public:
     virtual ~CalcObserver() = default;
     virtual void cursorMoved() = 0;
     virtual void cellsEdited() = 0;
+    /// What the user was typing has been taken over by a call of the program's; the cursor is where that has
+    /// put it.
+    virtual void entryTaken() = 0;
     /// A workbook is being closed, by whomever.
     virtual void workbookCloses() = 0;
     /// ... by the user, who has been asked about its changes.

@@ -22,25 +22,25 @@ PacedCursor::~PacedCursor() {
 
 void PacedCursor::select(const CellRange& range) {
     calls_.requireRunning();
-    const unsigned acts = calls_.acts();
-    owed_ = Owed{range, acts};
-    if (followsSoon(acts)) {
+    const unsigned moves = calls_.moves();
+    owed_ = Owed{range, moves};
+    if (followsSoon(moves)) {
         if (!untilShown_.isActive()) untilShown_.start(frame);
         return;
     }
     show();
-    shownAfter_ = acts;
+    shownAfter_ = moves;
     sinceShown_.start();
 }
 
-bool PacedCursor::followsSoon(unsigned acts) const {
-    return sinceShown_.isValid() && !sinceShown_.hasExpired(frame) && acts == shownAfter_;
+bool PacedCursor::followsSoon(unsigned moves) const {
+    return sinceShown_.isValid() && !sinceShown_.hasExpired(frame) && moves == shownAfter_;
 }
 
 CellPosition PacedCursor::position() {
     calls_.requireRunning();
+    if (owed_ && owed_->moves == calls_.moves()) return owed_->range.first;
     const unsigned acts = calls_.acts();
-    if (owed_ && owed_->acts == acts) return owed_->range.first;
     if (const auto seen = seen_.cursor(acts)) return *seen;
     const CellPosition found = calls_.askAside([](CalcEngine& calc) { return calc.cursor(); });
     seen_.learnCursor(found, acts);
@@ -49,7 +49,7 @@ CellPosition PacedCursor::position() {
 
 void PacedCursor::show() {
     const auto due = std::exchange(owed_, std::nullopt);
-    if (!due || due->acts != calls_.acts()) return;
+    if (!due || due->moves != calls_.moves()) return;
     seen_.forgetCursor();
     calls_.askAside([range = due->range](CalcEngine& calc) { calc.select(range); });
 }

@@ -25,9 +25,9 @@ private:
     /// A selection that Calc has not been given yet; void when the user has acted since.
     struct Owed {
         CellRange range;
-        unsigned acts;
+        unsigned moves;
     };
-    bool followsSoon(unsigned acts) const;
+    bool followsSoon(unsigned moves) const;
     void show();
     void showLater();
     void settle();
@@ -36,7 +36,7 @@ private:
     ReadAhead& seen_;
     std::optional<Owed> owed_;
     QElapsedTimer sinceShown_; ///< invalid: what follows is another matter than moving
-    unsigned shownAfter_ = 0;  ///< how many acts of the user
+    unsigned shownAfter_ = 0;  ///< how many moves of the user
     QTimer untilShown_;
 };
 

@@ -9,11 +9,17 @@ UserNotices::UserNotices(std::function<bool()> held, std::function<void(const QS
 
 void UserNotices::cursorMoved() {
     ++acts_;
+    ++moves_;
     moved_ = true;
     post();
 }
 
 void UserNotices::cellsEdited() {
+    ++moves_;
+    entryTaken();
+}
+
+void UserNotices::entryTaken() {
     ++acts_;
     edited_ = true;
     post();
@@ -30,6 +36,11 @@ void UserNotices::userCloses(int workbook) {
 QVector<int> UserNotices::takeClosed() {
     const std::scoped_lock lock(mutex_);
     return std::exchange(closed_, {});
+}
+
+void UserNotices::workbookCloses() {
+    ++acts_;
+    ++moves_;
 }
 
 void UserNotices::deliverAgain() {

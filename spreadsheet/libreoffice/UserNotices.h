@@ -22,7 +22,8 @@ public:
 
     void cursorMoved() override;
     void cellsEdited() override;
-    void workbookCloses() override { ++acts_; }
+    void entryTaken() override;
+    void workbookCloses() override;
     void userCloses(int workbook) override;
     void fileOpened(const QString& nativePath) override { opened_(nativePath); }
     void fileClosed(const QString& nativePath) override {
@@ -34,6 +35,8 @@ public:
 
     /// How many acts have been heard of, those too that are not delivered. From any thread.
     unsigned acts() const { return acts_; }
+    /// Those of them after which the cursor may be elsewhere.
+    unsigned moves() const { return moves_; }
 
     // --- on the user-interface thread ---
     void setListener(SpreadsheetListener* listener) { listener_ = listener; }
@@ -55,7 +58,7 @@ private:
     std::function<bool()> held_;
     std::function<void(const QString&)> opened_, fileClosed_;
     std::function<void(int)> users_;
-    std::atomic<unsigned> acts_ = 0;
+    std::atomic<unsigned> acts_ = 0, moves_ = 0;
     std::atomic<bool> edited_ = false;
     std::atomic<bool> moved_ = false;
     std::atomic<bool> posted_ = false;

@@ -28,7 +28,10 @@ void UserEvents::activeSpreadsheetChanged(const css::sheet::ActivationEvent& eve
 }
 
 void UserEvents::modified(const css::lang::EventObject&) {
-    if (users(Doing::Of::EntryTyped)) observer_.cellsEdited();
+    if (users(Doing::Of::WaitingUser))
+        observer_.cellsEdited();
+    else if (users(Doing::Of::EntryTyped))
+        observer_.entryTaken();
 }
 
 void UserEvents::notifyClosing(const css::lang::EventObject&) {

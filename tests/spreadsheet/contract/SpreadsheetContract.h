@@ -501,9 +501,11 @@ TEST_P(SpreadsheetContract, WhatTheUserIsTypingIsTakenOverBeforeTheProgramWrites
         rig->userTypes(app, QStringLiteral("le-"));
         EXPECT_TRUE(app.userIsTyping()) << typedInto;
         put(QStringLiteral("B3"), QStringLiteral("c,"));
-        app.finishWriting();
-        EXPECT_FALSE(app.userIsTyping()) << typedInto;
+        app.selectRange(QStringLiteral("B3"));
         app.moveCursor(1, 0);
+        EXPECT_EQ(text(QStringLiteral("I4")), QString());
+        EXPECT_EQ(app.activeAddress(), QStringLiteral("$B$4")) << typedInto;
+        EXPECT_FALSE(app.userIsTyping()) << typedInto;
         app.saveActiveWorkbook();
         EXPECT_EQ(text(QStringLiteral("B3")), QStringLiteral("c,")) << typedInto;
     }

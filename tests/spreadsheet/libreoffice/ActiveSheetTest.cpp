@@ -45,6 +45,8 @@ TEST_F(ActiveSheet, AnActOfTheUserVoidsWhatIsKnown) {
     cells.setActiveValue(QString("d"));
     EXPECT_EQ(cells.activeValue(), CellValue(QString("d"))) << "known without asking";
     cursor.select(single({2, 2}));
+    world.notices->entryTaken();
+    EXPECT_EQ(cursor.position(), (CellPosition{2, 2})) << "a text taken over leaves the cursor alone";
     world.notices->cursorMoved();
     calc.cursor_ = {7, 7};
     calc.everywhere = 1.0;

@@ -130,6 +130,7 @@ TEST_F(CalcUser, TextThatIsStillBeingTypedIsSaved) {
 TEST_F(CalcUser, ASyllableIsToldOfWhenAStepTakesItOver) {
     calc->selectRange("A2");
     ASSERT_TRUE(VirtualScreen::type(pisen, "le-"));
+    ASSERT_TRUE(calc->userIsTyping()); // all of it
     EXPECT_EQ(text("A2"), QString());
     calc->selectRange("B2");
     calc->moveCursor(1, 0);
