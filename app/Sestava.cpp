@@ -42,7 +42,7 @@ std::unique_ptr<SettingsStore> nastaveni(const QString& aplikace, const Umisteni
                                               QStringLiteral(".ini"));
 }
 
-/// Where the built-in spreadsheet keeps its recovery journals.
+/// Where recovery journals are kept, whichever spreadsheet has the song open.
 QString slozkaZaznamu(const Umisteni& umisteni) {
     if (umisteni.nastaveni.isEmpty()) return userStateFolder(nastaveniTabulky);
     return umisteni.nastaveni + QStringLiteral("/zaznamy");
@@ -79,10 +79,10 @@ struct Sestava::Casti {
           drive(umisteni.domov.isEmpty() ? QDir::homePath() : umisteni.domov, slozkaProgramu()),
           media(systemMedia(drive, pluginFolders())),
           libreOffice(drive, dialogs, nastaveni(QStringLiteral("Calc Zvoniky"), umisteni),
-                      profilyLibreOffice(umisteni)),
+                      profilyLibreOffice(umisteni), zaznamy),
           program({dialogs, *nastaveniProgramu, drive, shell, tabulky(),
                    umisteni.hodiny ? *umisteni.hodiny : hodiny, *media, volbaProhlizece(pluginFolders()),
-                   nastrojZvonika()}) {
+                   nastrojZvonika(), zaznamy}) {
         dialogs.setMainWindow(&program.okno());
         const QScreen* obrazovka = QApplication::primaryScreen();
         okna = rozmistiOkna(obrazovka ? obrazovka->availableGeometry() : QRect(0, 0, 1366, 768));

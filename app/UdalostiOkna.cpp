@@ -17,6 +17,7 @@ bool neniCoZapsat(const Modely& modely) {
 bool UdalostiOkna::proved(const std::function<void()>& procedura) {
     if (bezi()) return false;
     modely_.panel.upozorneni.clear();
+    modely_.panel.vystraha.clear();
     const bool provedeno = obsluha_.proved(procedura);
     ukazStav();
     return provedeno;
@@ -31,6 +32,8 @@ void UdalostiOkna::ukazStav() {
     stav.radekPrazdny = modely_.panel.lblTony.isEmpty() && modely_.panel.lblBasy.isEmpty();
     stav.upozorneni = modely_.panel.upozorneni;
     modely_.panel.stav = stavovyRadek(stav);
+    modely_.panel.nezajisteno =
+        modely_.pisen.aplikaceExcel ? modely_.pisen.aplikaceExcel->trouble() : QString();
     modely_.panel.oznamZmenu();
 }
 

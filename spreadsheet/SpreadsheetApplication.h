@@ -22,8 +22,9 @@ using AutomationError = RuntimeError;
 class SpreadsheetListener {
 public:
     virtual ~SpreadsheetListener() = default;
-    virtual void cursorMoved() = 0; ///< another active cell or sheet
-    virtual void cellsEdited() = 0; ///< cells, or the name of a sheet, have changed
+    virtual void cursorMoved() = 0;  ///< another active cell or sheet
+    virtual void cellsEdited() = 0;  ///< cells, or the name of a sheet, have changed
+    virtual void troubleChanged() {} ///< `SpreadsheetApplication::trouble` says something else than before
 };
 
 /// The fixed arguments of a save under a new name: normal format, no passwords, no backup.
@@ -66,6 +67,9 @@ public:
     virtual void setListener(SpreadsheetListener* listener) = 0;
     /// Brings the application's window to the front and gives it the keyboard.
     virtual void showToUser() = 0;
+    /// Why unsaved changes would not outlive a crash at the moment: one sentence for the user; "" as a rule.
+    /// Throws nothing.
+    virtual QString trouble() const { return {}; }
 
     // --- workbooks ---
     virtual void addWorkbook() = 0;

@@ -11,8 +11,12 @@ void ZivotPisne::cmdEdit() {
     SpreadsheetApplication& excel = okoli_.pisen.excel();
     const auto soubor = excel.getOpenFilename(QStringLiteral("Excel Files,*.xls"),
                                               QStringLiteral("Vyberte písničku, kterou chcete zkoušet !"));
-    if (!soubor) return;
-    excel.openWorkbook(*soubor);
+    if (soubor) otevri(*soubor);
+}
+
+void ZivotPisne::otevri(const QString& soubor) {
+    SpreadsheetApplication& excel = okoli_.pisen.excel();
+    excel.openWorkbook(soubor);
     try {
         okoli_.pisen.aktualniPisen = excel.activeWorkbookName();
         vOkne_.ukazOtevrenou();

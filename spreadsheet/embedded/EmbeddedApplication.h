@@ -34,6 +34,7 @@ public:
     void quit() override;
     void setListener(SpreadsheetListener* listener) override;
     void showToUser() override;
+    QString trouble() const override { return session_.trouble(); }
 
     void addWorkbook() override;
     /// Offers what a crash has left. A file that is open here already comes to the front as it is.

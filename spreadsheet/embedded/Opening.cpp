@@ -1,9 +1,7 @@
 #include "spreadsheet/embedded/Opening.h"
 
-#include "platform/Log.h"
 #include "platform/files/OpeningLock.h"
 #include "spreadsheet/embedded/FileSentences.h"
-#include "spreadsheet/embedded/RecoverySentences.h"
 #include "spreadsheet/embedded/Session.h"
 
 #include <QDir>
@@ -12,18 +10,19 @@
 namespace zvonika {
 
 Opening::Opening(Session& session, JournalFolder journals)
-    : session_(session), journals_(std::move(journals)) {}
+    : session_(session), journals_(std::move(journals)), offers_(session.dialogs(), jmenoTabulky, journals_) {
+}
 
 std::unique_ptr<Document> Opening::open(const QString& nativePath) {
     auto document =
         Document::open(nativePath, journals_, lockToOpen(session_.dialogs(), jmenoTabulky, nativePath));
-    for (auto& pending : pending(nativePath))
+    for (auto& pending : offers_.pending(nativePath))
         offer(*document, std::move(pending));
     return document;
 }
 
 void Opening::recoverUnsaved() {
-    for (auto& pending : pending({})) {
+    for (auto& pending : offers_.pending({})) {
         const QString name = pending.contents.base.name;
         auto document =
             std::make_unique<Document>(session_.find(name) ? session_.nextName() : name, journals_);
@@ -32,41 +31,9 @@ void Opening::recoverUnsaved() {
     }
 }
 
-std::vector<PendingJournal> Opening::pending(const QString& nativePath) {
-    QStringList unreadable;
-    auto found = journals_.pending(nativePath, &unreadable);
-    for (const QString& place : unreadable) {
-        qCInfo(recoveryLog).noquote() << place << "je nečitelný záznam k" << nativePath;
-        session_.dialogs().message(
-            {jmenoTabulky,
-             unreadableJournal(QFileInfo(nativePath).fileName(), QDir::toNativeSeparators(place)),
-             Icon::Exclamation});
-    }
-    return found;
-}
-
 void Opening::offer(Document& document, PendingJournal pending) {
-    const bool taken = wanted(document, pending);
-    qCInfo(recoveryLog).noquote() << document.file().name() << "změn" << pending.contents.changeCount()
-                                  << (taken ? "přijato" : "odloženo");
-    if (taken)
-        recover(document, std::move(pending));
-    else
-        journals_.setAside(std::move(pending.file));
-}
-
-bool Opening::wanted(const Document& document, const PendingJournal& pending) {
-    const bool changedSince = pending.contents.base.hash != document.file().hash();
-    const QString question = recoveryQuestion(document.file().name(), pending.contents, changedSince);
-    return session_.dialogs().message({jmenoTabulky, question, Icon::Question, Buttons::YesNo}) ==
-           Answer::Yes;
-}
-
-void Opening::recover(Document& document, PendingJournal pending) {
-    const int refused = document.recover(std::move(pending));
-    if (refused == 0) return;
-    session_.dialogs().message(
-        {jmenoTabulky, partlyRecovered(document.file().name(), refused), Icon::Exclamation});
+    if (!offers_.wanted(pending, document.file().name(), document.file().hash())) return;
+    offers_.tellRefused(document.file().name(), document.recover(std::move(pending)));
 }
 
 } // namespace zvonika

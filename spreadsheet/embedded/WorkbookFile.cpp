@@ -4,7 +4,7 @@
 #include "platform/RuntimeError.h"
 #include "spreadsheet/Refusals.h"
 #include "spreadsheet/embedded/FileSentences.h"
-#include "spreadsheet/embedded/journal/ContentHash.h"
+#include "spreadsheet/journal/ContentHash.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -2,12 +2,14 @@
 
 #include "spreadsheet/Address.h"
 #include "spreadsheet/CellValue.h"
+#include "spreadsheet/WorkbookImage.h"
 
 #include <QString>
 #include <QStringList>
 #include <QVector>
 
 #include <functional>
+#include <optional>
 
 namespace zvonika {
 
@@ -20,6 +22,8 @@ public:
     virtual void cellsEdited() = 0;
     /// A workbook is being closed, by whomever.
     virtual void workbookCloses() = 0;
+    /// ... by the user, who has been asked about its changes.
+    virtual void userCloses(int workbook) = 0;
     /// Calc has opened or saved a file, whoever asked it to: it has it open, as it is on the disk now.
     virtual void fileOpened(const QString& nativePath) = 0;
     virtual void fileClosed(const QString& nativePath) = 0;
@@ -63,6 +67,7 @@ public:
     virtual void open(const QString& nativePath) = 0; ///< .xls of today or older
     virtual QVector<OpenWorkbook> workbooks() = 0;    ///< also those that the user has opened; oldest first
     virtual OpenWorkbook active() = 0;                ///< id 0 when there is none
+    virtual std::optional<WorkbookImage> image(int id) = 0; ///< nothing when it is not open any more
     virtual void activate(int id) = 0;
     virtual void saveAs(const QString& nativePath) = 0; ///< .xls; replaces an existing file
     /// Of a workbook that has a file, in the file's own format and with its password; an older .xls becomes
@@ -72,7 +77,9 @@ public:
     /// Titles of documents with unsaved changes that are no workbooks.
     virtual QStringList otherUnsaved() = 0;
 
+    // --- sheets: those that are not hidden ---
     virtual int activeSheet() = 0;
+    virtual int activePlace() = 0; ///< of the active sheet in its workbook, hidden sheets counted too
     virtual QStringList sheetNames() = 0;
     virtual void renameSheet(const QString& name) = 0; ///< the active one
     virtual void selectSheet(int sheet) = 0;           ///< 1..number of sheets
@@ -96,7 +103,7 @@ struct CalcAddress {
 };
 
 /// Raised with every change of the classes above: a plug-in built for others is not used.
-constexpr int calcPluginVersion = 3;
+constexpr int calcPluginVersion = 4;
 
 /// What a plug-in exports: "zvonikaCalcPluginVersion" and "zvonikaConnectToCalc". The latter returns when
 /// Calc has answered, or nullptr when `keepTrying` gave up; AutomationError 429 when the connection cannot be

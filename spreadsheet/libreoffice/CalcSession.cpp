@@ -84,7 +84,8 @@ bool CalcSession::wantsToWait() const {
     const Answer answer = surroundings_.dialogs.message(
         {jmenoCalcu,
          QStringLiteral("LibreOffice Calc neodpovídá.\nChcete na něj ještě počkat?\n\n"
-                        "Ne: Calc bude ukončen a změny, které v něm nejsou uloženy, se ztratí."),
+                        "Ne: Calc bude ukončen. Změny písničky, které v něm nejsou uloženy, nabídne program "
+                        "po novém spuštění vrátit."),
          Icon::Exclamation, Buttons::YesNo, Answer::Yes});
     return answer == Answer::Yes;
 }

@@ -65,7 +65,9 @@ void LibreOfficeApplication::quit() {
         parts_->calls.requireRunning();
     }
     parts_->folder.keep();
-    UnsavedWorkbooks(parts_->calls, parts_->workbooks, parts_->dialogs, parts_->places).offer();
+    UnsavedWorkbooks(parts_->calls, parts_->workbooks, parts_->dialogs, parts_->places,
+                     [&session](int workbook) { session.notices().settle(workbook); })
+        .offer();
     session.end();
 }
 
@@ -193,6 +195,28 @@ CellBlock LibreOfficeApplication::readBlock(const QString& address) const {
 
 void LibreOfficeApplication::writeBlock(const QString& address, const CellBlock& block) {
     parts_->cells.write(address, block);
+}
+
+// --- for a record of the workbooks ---
+
+LiveSpreadsheet::Place LibreOfficeApplication::place() const {
+    return parts_->calls.askAside([](CalcEngine& calc) {
+        const int workbook = calc.active().id;
+        return Place{workbook, workbook == 0 ? 1 : calc.activePlace()};
+    });
+}
+
+unsigned LibreOfficeApplication::acts() const {
+    return parts_->calls.acts();
+}
+
+std::optional<WorkbookImage> LibreOfficeApplication::image(int workbook) {
+    return parts_->calls.ask(parts_->calls.patience().file,
+                             [workbook](CalcEngine& calc) { return calc.image(workbook); });
+}
+
+void LibreOfficeApplication::setWatcher(WorkbookWatcher* watcher) {
+    parts_->session.notices().setWatcher(watcher);
 }
 
 } // namespace zvonika

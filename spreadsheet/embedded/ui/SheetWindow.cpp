@@ -231,7 +231,7 @@ void SheetWindow::showDue() {
     const CellPosition cell = document_->cursor().selection().active;
     line_->showCell(cell, document_->cells().editText(document_->cursor().activeSheet(), cell));
     const QVariant label = model_->headerData(cell.column - 1, Qt::Horizontal, SheetModel::LabelRole);
-    footer_->setStatus(statusText(*document_, label.toString()));
+    footer_->setStatus(statusSentences(*document_, label.toString()));
 }
 
 bool SheetWindow::renameSheet(int sheet, const QString& name) {

@@ -50,6 +50,11 @@ Book::~Book() {
     events_->stop();
 }
 
+void Book::setId(int id) {
+    id_ = id;
+    events_->setWorkbook(id);
+}
+
 QString Book::title() const {
     const auto titled = as<css::frame::XTitle>(model_);
     return titled.is() ? fromUno(titled->getTitle()) : QString();
@@ -57,7 +62,7 @@ QString Book::title() const {
 
 OpenWorkbook Book::description() const {
     OpenWorkbook result;
-    result.id = id;
+    result.id = id_;
     result.path = nativePath(model_->getURL());
     result.name = result.path.isEmpty() ? title() : QFileInfo(result.path).fileName();
     result.modified = as<css::util::XModifiable>(model_)->isModified();

@@ -27,13 +27,15 @@ public:
     Book(const Book&) = delete;
     Book& operator=(const Book&) = delete;
 
-    int id = 0;
+    int id() const { return id_; }
+    void setId(int id);
 
     // --- the file ---
     bool closed() const { return events_->closed(); }
     void markClosed() { events_->markClosed(); } ///< a call has met nothing any more
     bool is(const Ref<css::uno::XInterface>& document) const { return identity_ == document; }
     OpenWorkbook description() const;
+    WorkbookImage image();
     WorkbookFormat format() const;
     void saveAs(const QString& nativePath);
     void save();
@@ -47,6 +49,7 @@ public:
 
     // --- sheets: those that are not hidden ---
     int activeSheet() const;
+    int activePlace() const; ///< hidden sheets counted too
     QStringList sheetNames() const;
     void rename(const QString& name);
     void selectSheet(int sheet);
@@ -63,6 +66,7 @@ public:
     void clear(const CellRange& range);
 
 private:
+    SheetImage imageOf(const Ref<css::sheet::XSpreadsheet>& sheet);
     Book(const Ref<css::frame::XModel>& model, const Ref<css::sheet::XSpreadsheets>& sheets,
          CalcObserver& observer, const Ref<css::frame::XDispatchHelper>& dispatcher, Keeper& keeper);
     Ref<css::sheet::XSpreadsheet> sheet() const;
@@ -75,6 +79,7 @@ private:
     void commitEntry();
     QString title() const;
 
+    int id_ = 0;
     CalcObserver& observer_;
     Keeper& keeper_;
     Ref<css::frame::XDispatchHelper> dispatcher_;
@@ -90,5 +95,8 @@ private:
 
 /// The last row and column that a sheet uses, counted from 1.
 CellPosition usedEnd(const Ref<css::sheet::XSpreadsheet>& sheet, Keeper& keeper);
+bool containsFormulas(const Ref<css::sheet::XSpreadsheet>& sheet, Keeper& keeper);
+/// "" where a cell has none.
+QVector<QStringList> formulasIn(const Ref<css::table::XCellRange>& cells);
 
 } // namespace zvonika

@@ -29,6 +29,24 @@ CellPosition usedEnd(const Ref<css::sheet::XSpreadsheet>& sheet, Keeper& keeper)
     return rangeOf(as<css::sheet::XCellRangeAddressable>(cursor)->getRangeAddress()).last;
 }
 
+bool containsFormulas(const Ref<css::sheet::XSpreadsheet>& sheet, Keeper& keeper) {
+    const auto found = keeper.keep(as<css::sheet::XCellRangesQuery>(sheet)->queryContentCells(
+        static_cast<sal_Int16>(css::sheet::CellFlags::FORMULA)));
+    return found->getRangeAddresses().hasElements();
+}
+
+QVector<QStringList> formulasIn(const Ref<css::table::XCellRange>& cells) {
+    const auto rows = as<css::sheet::XCellRangeFormula>(cells)->getFormulaArray();
+    QVector<QStringList> result;
+    for (const auto& row : rows) {
+        QStringList texts;
+        for (const auto& text : row)
+            texts << (text.startsWith("=") ? fromUno(text) : QString());
+        result << texts;
+    }
+    return result;
+}
+
 Ref<css::sheet::XSpreadsheet> Book::sheet() const {
     const auto active = keeper_.keep(view_->getActiveSheet());
     // The view of a workbook that is being closed answers, but has nothing to show any more.
@@ -49,9 +67,13 @@ std::vector<sal_Int32> Book::visibleSheets() const {
     return visible;
 }
 
+int Book::activePlace() const {
+    return as<css::sheet::XCellRangeAddressable>(sheet())->getRangeAddress().Sheet + 1;
+}
+
 int Book::activeSheet() const {
     const auto sheets = visibleSheets();
-    const sal_Int32 active = as<css::sheet::XCellRangeAddressable>(sheet())->getRangeAddress().Sheet;
+    const sal_Int32 active = activePlace() - 1;
     return static_cast<int>(std::ranges::find(sheets, active) - sheets.begin()) + 1;
 }
 
@@ -98,10 +120,7 @@ void Book::select(const CellRange& range) {
 }
 
 bool Book::hasFormulas() const {
-    const auto query = as<css::sheet::XCellRangesQuery>(sheet());
-    const auto found =
-        keeper_.keep(query->queryContentCells(static_cast<sal_Int16>(css::sheet::CellFlags::FORMULA)));
-    return found->getRangeAddresses().hasElements();
+    return containsFormulas(sheet(), keeper_);
 }
 
 CellPosition Book::used() const {
@@ -109,15 +128,7 @@ CellPosition Book::used() const {
 }
 
 QVector<QStringList> Book::formulas(const CellRange& range) const {
-    const auto rows = as<css::sheet::XCellRangeFormula>(cellsOf(sheet(), range, keeper_))->getFormulaArray();
-    QVector<QStringList> result;
-    for (const auto& row : rows) {
-        QStringList texts;
-        for (const auto& text : row)
-            texts << (text.startsWith("=") ? fromUno(text) : QString());
-        result << texts;
-    }
-    return result;
+    return formulasIn(cellsOf(sheet(), range, keeper_));
 }
 
 void Book::clear(const CellRange& range) {

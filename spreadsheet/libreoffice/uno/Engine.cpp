@@ -74,7 +74,7 @@ Ref<css::lang::XComponent> Engine::load(const QString& url, const QString& nativ
 void Engine::adopt(const Ref<css::lang::XComponent>& document) {
     auto book = Book::of(document, observer_, dispatcher_, keeper_);
     if (!book) return;
-    book->id = ++lastId_;
+    book->setId(++lastId_);
     books_.push_back(std::move(book));
 }
 
@@ -121,11 +121,11 @@ QStringList Engine::otherUnsaved() {
 
 void Engine::dropClosed() {
     std::erase_if(books_, [](const auto& book) { return book->closed(); });
-    if (!find(activeId_)) activeId_ = books_.empty() ? 0 : books_.back()->id;
+    if (!find(activeId_)) activeId_ = books_.empty() ? 0 : books_.back()->id();
 }
 
 Book* Engine::find(int id) {
-    const auto found = std::ranges::find_if(books_, [&](const auto& book) { return book->id == id; });
+    const auto found = std::ranges::find_if(books_, [&](const auto& book) { return book->id() == id; });
     return found == books_.end() ? nullptr : found->get();
 }
 

@@ -28,6 +28,7 @@ public:
     void open(const QString& nativePath) override;
     QVector<OpenWorkbook> workbooks() override;
     OpenWorkbook active() override;
+    std::optional<WorkbookImage> image(int id) override;
     void activate(int id) override;
     void saveAs(const QString& nativePath) override;
     void save() override;
@@ -35,6 +36,7 @@ public:
     QStringList otherUnsaved() override;
 
     int activeSheet() override;
+    int activePlace() override;
     QStringList sheetNames() override;
     void renameSheet(const QString& name) override;
     void selectSheet(int sheet) override;

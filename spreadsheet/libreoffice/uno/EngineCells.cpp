@@ -7,6 +7,10 @@ int Engine::activeSheet() {
     return onBook([&](Book& book) { return book.activeSheet(); });
 }
 
+int Engine::activePlace() {
+    return onBook([&](Book& book) { return book.activePlace(); });
+}
+
 QStringList Engine::sheetNames() {
     return onBook([&](Book& book) { return book.sheetNames(); });
 }
@@ -53,6 +57,16 @@ void Engine::write(CellPosition first, const CellBlock& block) {
 
 void Engine::clear(const CellRange& range) {
     onBook([&](Book& book) { book.clear(range); });
+}
+
+std::optional<WorkbookImage> Engine::image(int id) {
+    return guarded([&]() -> std::optional<WorkbookImage> {
+        if (!connected()) throw css::lang::DisposedException();
+        dropClosed();
+        Book* book = find(id);
+        if (!book) return std::nullopt;
+        return book->image();
+    });
 }
 
 } // namespace zvonika

@@ -39,6 +39,12 @@ public:
     virtual void willAnswer(const QString& textPart, Answer answer) = 0;
     virtual void userClosesWorkbook(SpreadsheetApplication& application) = 0;
     virtual void userQuits(SpreadsheetApplication& application) = 0;
+    /// Into a cell of the active workbook, as if by its window; returns when the program has heard of it.
+    virtual void userTypes(SpreadsheetApplication& application, const QString& cell, const QString& text) = 0;
+    /// The application ends without any closing step, or this program does, and the application with it.
+    virtual void kill(std::unique_ptr<SpreadsheetApplication> application) = 0;
+    /// The user's answer to the next offer of what a crash has left, which must contain these words.
+    virtual void willBeOffered(const QString& words, bool takesBack) = 0;
 };
 
 /// A back end under test, by its name.

@@ -103,8 +103,10 @@ TEST(UnsavedWorkbooks, ARefusedSaveIsToldAndOfferedElsewhere) {
         dialogs.expect(jmeno, "má neuložené změny", Answer::Yes);
         if (one.refused) dialogs.expect(jmeno, "Nejde to.");
         dialogs.expectFile("Uložit jako", one.chosen);
-        UnsavedWorkbooks(world.calls, workbooks, dialogs, places).offer();
+        QVector<int> settled;
+        UnsavedWorkbooks(world.calls, workbooks, dialogs, places, [&](int id) { settled << id; }).offer();
         EXPECT_EQ(world.calc->asked, one.asked);
+        EXPECT_EQ(settled, one.chosen ? QVector<int>{one.workbook.id} : QVector<int>());
     }
 }
 
@@ -130,7 +132,7 @@ TEST(UnsavedWorkbooks, WhatWouldLoseItsFormatOrPasswordIsLeftToItsOwner) {
         dialogs.expect(jmeno, "má neuložené změny", Answer::Yes).expect(jmeno, "Nejde to.");
         dialogs.expect(jmeno, question, Answer::Yes).expect(jmeno, question, Answer::No);
         dialogs.expect(jmeno, "„Dopis“ má v LibreOffice neuložené změny", Answer::No);
-        UnsavedWorkbooks(world.calls, workbooks, dialogs, places).offer();
+        UnsavedWorkbooks(world.calls, workbooks, dialogs, places, [](int) {}).offer();
         EXPECT_EQ(world.calc->asked, QStringList{"activate 1"});
     }
 }

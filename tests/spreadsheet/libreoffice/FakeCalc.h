@@ -27,12 +27,14 @@ public:
     void open(const QString& path) override { note("open " + path); }
     QVector<OpenWorkbook> workbooks() override { return open_; }
     OpenWorkbook active() override { return open_.value(0); }
+    std::optional<WorkbookImage> image(int) override { return {}; }
     void activate(int id) override { note("activate " + QString::number(id)); }
     void saveAs(const QString& path) override { note("saveAs " + path); }
     void save() override { note("save"); }
     void close() override { note("close"); }
     QStringList otherUnsaved() override { return others; }
     int activeSheet() override { return 1; }
+    int activePlace() override { return 1; }
     QStringList sheetNames() override { return {"List1"}; }
     void renameSheet(const QString& name) override { note("renameSheet " + name); }
     void selectSheet(int) override { note("selectSheet"); }

@@ -1,4 +1,4 @@
-#include "spreadsheet/embedded/journal/JournalFile.h"
+#include "spreadsheet/journal/JournalFile.h"
 
 #include <QDir>
 
@@ -50,8 +50,12 @@ JournalFile JournalFile::create(const QString& path, const QByteArray& contents)
     return result;
 }
 
-std::optional<JournalFile> JournalFile::open(const QString& path) {
+std::optional<JournalFile> JournalFile::open(const QString& path, std::error_code* failure) {
     const HANDLE file = openFile(path, OPEN_EXISTING);
+    const DWORD reason = file == INVALID_HANDLE_VALUE ? GetLastError() : ERROR_SUCCESS;
+    const bool absent = reason == ERROR_FILE_NOT_FOUND || reason == ERROR_SHARING_VIOLATION;
+    if (reason != ERROR_SUCCESS && !absent && failure)
+        *failure = {static_cast<int>(reason), std::system_category()};
     if (file == INVALID_HANDLE_VALUE) return {};
     return JournalFile(path, file);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "spreadsheet/embedded/journal/JournalFolder.h"
+#include "spreadsheet/journal/JournalFolder.h"
 
 #include <optional>
 
@@ -42,9 +42,10 @@ private:
     JournalBase base_;
     std::optional<JournalFile> file_;
     quint32 nextNumber_ = 0;
-    qint64 safeSize_ = 0;   ///< bytes of the file that are on the disk
-    QByteArray unsafe_;     ///< what comes behind them
-    qsizetype written_ = 0; ///< how much of that is in the file
+    qint64 safeSize_ = 0;      ///< bytes of the file that are on the disk
+    QByteArray unsafe_;        ///< what comes behind them
+    qsizetype written_ = 0;    ///< how much of that is in the file
+    bool flushFailed_ = false; ///< what is written may still not be on the disk
     std::error_code trouble_;
 };
 

@@ -1,6 +1,6 @@
-#include "spreadsheet/embedded/journal/Journal.h"
+#include "spreadsheet/journal/Journal.h"
 
-#include "spreadsheet/embedded/journal/JournalFormat.h"
+#include "spreadsheet/journal/JournalFormat.h"
 
 namespace zvonika {
 
@@ -45,6 +45,7 @@ void Journal::startAfresh(JournalBase base) {
     safeSize_ = 0;
     unsafe_.clear();
     written_ = 0;
+    flushFailed_ = false;
     trouble_.clear();
 }
 
@@ -55,7 +56,7 @@ void Journal::write() {
         else
             file_ = folder_.begin(base_.path, unsafe_);
         written_ = unsafe_.size();
-        trouble_.clear();
+        if (!flushFailed_) trouble_.clear();
     } catch (const std::system_error& failure) {
         trouble_ = failure.code();
     }
@@ -68,8 +69,11 @@ void Journal::flush() {
         file_->flush();
         safeSize_ += written_;
         unsafe_.remove(0, written_);
+        flushFailed_ = false;
+        if (unsafe_.isEmpty()) trouble_.clear();
     } catch (const std::system_error& failure) {
         trouble_ = failure.code();
+        flushFailed_ = true;
     }
     written_ = 0;
 }

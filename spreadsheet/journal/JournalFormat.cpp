@@ -1,4 +1,4 @@
-#include "spreadsheet/embedded/journal/JournalFormat.h"
+#include "spreadsheet/journal/JournalFormat.h"
 
 #include "platform/files/Checksum.h"
 

@@ -1,7 +1,7 @@
-#include "spreadsheet/embedded/journal/Journal.h"
+#include "spreadsheet/journal/Journal.h"
 
-#include "spreadsheet/embedded/journal/ContentHash.h"
-#include "spreadsheet/embedded/journal/JournalFormat.h"
+#include "spreadsheet/journal/ContentHash.h"
+#include "spreadsheet/journal/JournalFormat.h"
 #include "tests/spreadsheet/embedded/Rig.h"
 #include "tests/spreadsheet/embedded/SmallDisk.h"
 
@@ -27,6 +27,12 @@ protected:
         for (int row = 1; row <= rows; ++row)
             journal.record(written(row));
     }
+    /// So does one at this minute, with one change.
+    void left(const JournalBase& of, int minute) const {
+        const QDateTime when(QDate(2020, 1, 1), QTime(12, minute));
+        journals.begin(of.path, journalformat::signature() + journalformat::encoded(0, of) +
+                                    journalformat::encoded(1, JournalGroup{when, written(minute)}));
+    }
 
     const QString song = path(QStringLiteral("píseň.xls"));
 };
@@ -47,11 +53,8 @@ TEST_F(JournalTest, IsFoundByItsSongOnceItsOwnerIsGone) {
 }
 
 TEST_F(JournalTest, SeveralOfOneSongComeOldestFirst) {
-    for (const int minute : {2, 1, 3}) {
-        const QDateTime when(QDate(2020, 1, 1), QTime(12, minute));
-        journals.begin(song, journalformat::signature() + journalformat::encoded(0, base()) +
-                                 journalformat::encoded(1, JournalGroup{when, written(minute)}));
-    }
+    for (const int minute : {2, 1, 3})
+        left(base(), minute);
     const auto pending = journals.pending(song);
     ASSERT_EQ(pending.size(), 3U);
     for (int minute = 1; minute <= 3; ++minute)
@@ -76,6 +79,62 @@ TEST_F(JournalTest, TakenOverGoesOnBehindItsLastWholeEntry) {
     for (auto& journal : pending)
         both.takeOver(std::move(journal));
     EXPECT_EQ(kept().size(), 1);
+}
+
+TEST_F(JournalTest, OneThatIsNotGivenIsToldAndOneThatIsGoneOrInUseIsNot) {
+    const std::pair<QString, int> cases[] = {{state.path(), EISDIR}, {path(QStringLiteral("není")), 0}};
+    for (const auto& [file, number] : cases) {
+        std::error_code failure;
+        EXPECT_FALSE(JournalFile::open(file, &failure));
+        EXPECT_EQ(failure.value(), number) << file.toStdString();
+    }
+}
+
+TEST_F(JournalTest, SongsAreListedOnceTheLastOneFirst) {
+    const JournalBase gone{path(QStringLiteral("pryč.xls")), QStringLiteral("pryč.xls"), "otisk"};
+    left(base(), 1);
+    left(gone, 2);
+    left({{}, QStringLiteral("Sešit1"), {}}, 3);
+    left(base(), 4);
+    const auto songs = journals.songs();
+    ASSERT_EQ(songs.size(), 2U);
+    EXPECT_EQ(songs[0].path, song);
+    EXPECT_EQ(songs[0].changes, 2);
+    EXPECT_TRUE(songs[0].there);
+    EXPECT_EQ(songs[1].name, QStringLiteral("pryč.xls"));
+    EXPECT_FALSE(songs[1].there);
+    EXPECT_EQ(journals.pending(song).size(), 2U) << "looking takes nothing away";
+}
+
+TEST_F(JournalTest, ASongThatHasMovedIsKnownByItsContentsAlone) {
+    const QString moved = path(QStringLiteral("jinde.xls"));
+    const QString former = path(QStringLiteral("dřív.xls")),
+                  namesake = path(QStringLiteral("předtím/jinde.xls"));
+    const struct {
+        const char* contents;
+        bool copied;
+        QStringList others; ///< songs of the same contents that are gone too
+        std::size_t found;
+    } cases[] = {
+        {"obsah", false, {}, 1},
+        {"obsah", true, {}, 0},
+        {"jiný", false, {}, 0},
+        {"obsah", false, {former}, 0},
+        {"obsah", false, {former, namesake}, 1},
+    };
+    for (const auto& [contents, copied, others, found] : cases) {
+        crash(1, base());
+        for (const QString& other : others)
+            left({other, QFileInfo(other).fileName(), base().hash}, 1);
+        store(moved, contents);
+        if (!copied) QFile::remove(song);
+        auto pending = journals.pending(moved);
+        EXPECT_EQ(pending.size(), found) << contents << copied << others.size();
+        pending.clear();
+        store(song, "obsah");
+        for (const QString& file : kept())
+            QFile::remove(state.filePath(QStringLiteral("zaznamy/")) + file);
+    }
 }
 
 TEST_F(JournalTest, WhatIsSavedIsNotOffered) {

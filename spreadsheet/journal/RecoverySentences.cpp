@@ -1,4 +1,6 @@
-#include "spreadsheet/embedded/RecoverySentences.h"
+#include "spreadsheet/journal/RecoverySentences.h"
+
+#include "spreadsheet/FileRefusals.h"
 
 namespace zvonika {
 
@@ -28,8 +30,16 @@ QString returnOffered(int count) {
         "program je už nenabídne.");
 }
 
-QString inWords(const QDateTime& when) {
-    return when.toLocalTime().toString(QStringLiteral("d. M. yyyy 'v' H:mm"));
+QString whose(const QString& workbook) {
+    return workbook.isEmpty() ? QStringLiteral("sešitu, který ještě nebyl uložen,")
+                              : QStringLiteral("sešitu „%1“").arg(workbook);
+}
+
+QString readReason(const std::error_code& error) {
+    if (error == std::errc::permission_denied || error == std::errc::operation_not_permitted)
+        return QStringLiteral("nemáte oprávnění ho číst a měnit");
+    if (error == std::errc::read_only_file_system) return QString::fromUtf16(reason::readOnlyDisk);
+    return QStringLiteral("při čtení z disku nastala chyba %1").arg(error.value());
 }
 
 } // namespace
@@ -40,31 +50,55 @@ QString changesInWords(int count) {
     return QStringLiteral("%1 změn").arg(count);
 }
 
+QString momentInWords(const QDateTime& when) {
+    return when.toLocalTime().toString(QStringLiteral("d. M. yyyy 'v' H:mm"));
+}
+
 QString recoveryQuestion(const QString& workbook, const JournalContents& journal, bool changedSince) {
     const int count = journal.changeCount();
     const bool neverSaved = journal.base.path.isEmpty();
     const QString kind =
         neverSaved ? QStringLiteral("V dosud neuloženém sešitu") : QStringLiteral("V sešitu");
-    QString text = QStringLiteral("%1 „%2“ %3 (poslední %4).")
-                       .arg(kind, workbook, remained(count), inWords(journal.lastChange()));
+    const bool renamed = !neverSaved && journal.base.name != workbook;
+    const QString former = renamed ? QStringLiteral(" (dříve „%1“)").arg(journal.base.name) : QString();
+    QString text = QStringLiteral("%1 „%2“%3 %4 (poslední %5).")
+                       .arg(kind, workbook, former, remained(count), momentInWords(journal.lastChange()));
     if (changedSince)
         text += QStringLiteral("\n\nPozor: soubor se od té doby změnil. Změny patří k jeho dřívější podobě.");
     return text + QStringLiteral("\n\n") + (neverSaved ? openingOffered() : returnOffered(count));
 }
 
 QString unreadableJournal(const QString& workbook, const QString& place) {
-    const QString whose = workbook.isEmpty() ? QStringLiteral("sešitu, který ještě nebyl uložen,")
-                                             : QStringLiteral("sešitu „%1“").arg(workbook);
     return QStringLiteral(
                "Záznam neuložených změn %1 je poškozený a nic z něj vrátit nejde; leží odložen v souboru "
                "„%2“.")
-        .arg(whose, place);
+        .arg(whose(workbook), place);
+}
+
+QString closedJournal(const QString& workbook, const QString& place, const std::error_code& error) {
+    return QStringLiteral("Záznam neuložených změn %1 nelze otevřít: %2. Leží v souboru „%3“; až to půjde, "
+                          "program změny nabídne.")
+        .arg(whose(workbook), readReason(error), place);
+}
+
+QString closedJournal(const QString& place, const std::error_code& error) {
+    return QStringLiteral(
+               "Záznam neuložených změn jedné z písniček nelze otevřít: %1. Leží v souboru „%2“; až "
+               "to půjde, program změny nabídne.")
+        .arg(readReason(error), place);
 }
 
 QString partlyRecovered(const QString& workbook, int refused) {
     return QStringLiteral("V sešitu „%1“ se nepodařilo vrátit %2 z těch, které po programu zůstaly. "
                           "Zkontrolujte ho prosím, než ho uložíte.")
         .arg(workbook, refused == 1 ? QStringLiteral("1 změnu") : changesInWords(refused));
+}
+
+QString journalRefused(const std::error_code& error) {
+    const QString why = error == std::errc::no_such_file_or_directory
+                            ? QStringLiteral("složku pro jejich záznam nelze vytvořit")
+                            : reason::ofDisk(error);
+    return QStringLiteral("Změny nejsou zajištěny proti výpadku: %1.").arg(why);
 }
 
 } // namespace zvonika

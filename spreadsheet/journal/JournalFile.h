@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <optional>
+#include <system_error>
 
 namespace zvonika {
 
@@ -14,8 +15,9 @@ class JournalFile {
 public:
     /// A new file with these contents. Fails with EEXIST (Windows: ERROR_FILE_EXISTS) when there is one.
     static JournalFile create(const QString& path, const QByteArray& contents);
-    /// A file that is there; nothing when another one has it open, or when it is gone or cannot be read.
-    static std::optional<JournalFile> open(const QString& path);
+    /// A file that is there; nothing when another one has it open, or when it is gone. `failure`: set when
+    /// the system does not give it.
+    static std::optional<JournalFile> open(const QString& path, std::error_code* failure = nullptr);
 
     JournalFile(JournalFile&& other) noexcept;
     JournalFile& operator=(JournalFile&& other) noexcept;

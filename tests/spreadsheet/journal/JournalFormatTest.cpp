@@ -1,6 +1,6 @@
-#include "spreadsheet/embedded/journal/JournalFormat.h"
+#include "spreadsheet/journal/JournalFormat.h"
 
-#include "spreadsheet/embedded/journal/JournalContents.h"
+#include "spreadsheet/journal/JournalContents.h"
 
 #include <gtest/gtest.h>
 #include <limits>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "spreadsheet/embedded/journal/Journal.h"
+#include "spreadsheet/journal/Journal.h"
 
 #include <QObject>
 
@@ -9,12 +9,12 @@ namespace zvonika {
 /// What a crash would leave of one open workbook. A process that dies loses no change; a power cut, none that
 /// was shown: they are flushed to the disk before the event loop goes on, and with it the painting. Leaves
 /// the unsaved changes behind when it is destroyed unless they were given up.
-class DocumentJournal : public QObject {
+class WorkbookJournal : public QObject {
     Q_OBJECT
 
 public:
-    DocumentJournal(JournalFolder folder, JournalBase base) : journal_(std::move(folder), std::move(base)) {}
-    ~DocumentJournal() override;
+    WorkbookJournal(JournalFolder folder, JournalBase base) : journal_(std::move(folder), std::move(base)) {}
+    ~WorkbookJournal() override;
 
     void note(std::vector<JournalChange> changes);
     /// The workbook has made the changes of this journal, which goes on as its own.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "spreadsheet/embedded/journal/JournalEntry.h"
+#include "spreadsheet/journal/JournalEntry.h"
 
 #include <QByteArray>
 

@@ -1,4 +1,4 @@
-#include "spreadsheet/embedded/journal/JournalFile.h"
+#include "spreadsheet/journal/JournalFile.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -33,13 +33,16 @@ void writeAll(int file, qint64 offset, const QByteArray& bytes) {
     }
 }
 
-/// The name of a new file is on the disk only when the folder is. Not every file system can do that.
+/// The name of a new file is on the disk only when the folder is. A file system that cannot flush folders
+/// says so and is taken as it is.
 void flushFolder(const QString& path) {
     const int folder =
         ::open(QFile::encodeName(QFileInfo(path).absolutePath()), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (folder < 0) return;
-    ::fsync(folder);
+    check(folder);
+    const int failure = ::fsync(folder) < 0 ? errno : 0;
     ::close(folder);
+    if (failure != 0 && failure != EINVAL && failure != ENOTSUP)
+        throw std::system_error(failure, std::generic_category());
 }
 
 /// Otherwise it is ours from now on; on a file system without locks, everybody's.
@@ -73,8 +76,9 @@ JournalFile JournalFile::create(const QString& path, const QByteArray& contents)
     return result;
 }
 
-std::optional<JournalFile> JournalFile::open(const QString& path) {
+std::optional<JournalFile> JournalFile::open(const QString& path, std::error_code* failure) {
     const int file = ::open(QFile::encodeName(path), O_RDWR | O_CLOEXEC);
+    if (file < 0 && failure && errno != ENOENT) *failure = {errno, std::generic_category()};
     if (file < 0) return {};
     JournalFile result(path, file);
     if (isLockedByOther(file) || !isStillThere(file, path)) return {};
@@ -125,7 +129,8 @@ void JournalFile::flush() {
     torn_ = true;
     check(named_ ? ::fdatasync(handle_) : ::fsync(handle_));
     torn_ = false;
-    if (!std::exchange(named_, true)) flushFolder(path_);
+    if (!named_) flushFolder(path_);
+    named_ = true;
 }
 
 void JournalFile::remove() {

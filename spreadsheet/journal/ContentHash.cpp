@@ -1,4 +1,4 @@
-#include "spreadsheet/embedded/journal/ContentHash.h"
+#include "spreadsheet/journal/ContentHash.h"
 
 #include <QCryptographicHash>
 #include <QFile>
