@@ -25,12 +25,12 @@ QByteArray contentsOf(const QFileInfo& lock) {
 QStringList fieldsOf(const QString& text) {
     QStringList fields(QString{});
     for (qsizetype i = 0; i < text.size() && text[i] != u';'; ++i) {
-        if (text[i] == u',')
+        if (text[i] == u',') {
             fields << QString();
-        else if (text[i] != u'\\')
-            fields.back() += text[i];
-        else if (++i < text.size())
-            fields.back() += text[i];
+            continue;
+        }
+        if (text[i] == u'\\') ++i;
+        if (i < text.size()) fields.back() += text[i];
     }
     while (fields.size() < FieldCount)
         fields << QString();

@@ -89,7 +89,9 @@ public:
     /// Titles of documents with unsaved changes that are no workbooks.
     virtual QStringList otherUnsaved() = 0;
 
+    // --- sheets: those that are not hidden ---
     virtual int activeSheet() = 0;
+    virtual int activePlace() = 0; ///< of the active sheet in its workbook, hidden sheets counted too
     virtual QStringList sheetNames() = 0;
     virtual void renameSheet(const QString& name) = 0; ///< the active one
     virtual void selectSheet(int sheet) = 0;           ///< 1..number of sheets

@@ -206,7 +206,7 @@ void LibreOfficeApplication::writeBlock(const QString& address, const CellBlock&
 LiveSpreadsheet::Place LibreOfficeApplication::place() const {
     return parts_->calls.askAside([](CalcEngine& calc) {
         const int workbook = calc.active().id;
-        return Place{workbook, workbook == 0 ? 1 : calc.activeSheet()};
+        return Place{workbook, workbook == 0 ? 1 : calc.activePlace()};
     });
 }
 

@@ -51,6 +51,7 @@ public:
 
     // --- sheets: those that are not hidden ---
     int activeSheet() const;
+    int activePlace() const; ///< hidden sheets counted too
     QStringList sheetNames() const;
     void rename(const QString& name);
     void selectSheet(int sheet);

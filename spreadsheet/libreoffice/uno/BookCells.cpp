@@ -69,9 +69,13 @@ std::vector<sal_Int32> Book::visibleSheets() const {
     return visible;
 }
 
+int Book::activePlace() const {
+    return as<css::sheet::XCellRangeAddressable>(sheet())->getRangeAddress().Sheet + 1;
+}
+
 int Book::activeSheet() const {
     const auto sheets = visibleSheets();
-    const sal_Int32 active = as<css::sheet::XCellRangeAddressable>(sheet())->getRangeAddress().Sheet;
+    const sal_Int32 active = activePlace() - 1;
     return static_cast<int>(std::ranges::find(sheets, active) - sheets.begin()) + 1;
 }
 

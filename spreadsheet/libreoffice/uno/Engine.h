@@ -37,6 +37,7 @@ public:
     QStringList otherUnsaved() override;
 
     int activeSheet() override;
+    int activePlace() override;
     QStringList sheetNames() override;
     void renameSheet(const QString& name) override;
     void selectSheet(int sheet) override;

@@ -7,6 +7,10 @@ int Engine::activeSheet() {
     return onBook([&](Book& book) { return book.activeSheet(); });
 }
 
+int Engine::activePlace() {
+    return onBook([&](Book& book) { return book.activePlace(); });
+}
+
 QStringList Engine::sheetNames() {
     return onBook([&](Book& book) { return book.sheetNames(); });
 }

@@ -203,7 +203,7 @@ TEST(UnsavedWorkbooks, WhatWouldLoseItsFormatOrPasswordIsLeftToItsOwner) {
         dialogs.expect(jmeno, "má neuložené změny", Answer::Yes).expect(jmeno, "Nejde to.");
         dialogs.expect(jmeno, question, Answer::Yes).expect(jmeno, question, Answer::No);
         dialogs.expect(jmeno, "„Dopis“ má v LibreOffice neuložené změny", Answer::No);
-        UnsavedWorkbooks(world.calls, workbooks, dialogs, places).offer();
+        UnsavedWorkbooks(world.calls, workbooks, dialogs, places, [](int) {}).offer();
         EXPECT_EQ(world.calc->asked, QStringList{"activate 1"});
     }
 }

@@ -39,6 +39,8 @@ protected:
     static void setClients(const QStringList& windows) {
         setProperty({"-root"}, "_NET_CLIENT_LIST", "32x", windows.join(','));
     }
+    /// The next Calc may have windows of the same numbers.
+    static void forgetClients() { output("xprop", {"-root", "-remove", "_NET_CLIENT_LIST"}); }
     QString openFormatCells() const {
         EXPECT_TRUE(VirtualScreen::press("pisen.xls", {"ctrl+1"}));
         EXPECT_TRUE(comes([] { return VirtualScreen::hasWindow("Format Cells"); }));
@@ -77,6 +79,7 @@ TEST_F(CalcWindows, BoxesAreRaisedAboveWhatIsKeptOnTop) {
     EXPECT_FALSE(output("xprop", {"-id", windowOf("pisen.xls"), "_NET_WM_STATE"}).contains("ABOVE"));
     manager.kill();
     manager.waitForFinished();
+    forgetClients();
 }
 
 // Calc's own window stands for one of the program that is kept on top; nobody heeds what is asked.
@@ -104,7 +107,7 @@ TEST_F(CalcWindows, WhereABoxCannotBeRaisedTheTopIsGivenUpUntilItHasGone) {
     heard.clear();
     setClients({own});
     EXPECT_TRUE(comes(isAskedAbout)) << "and taken back";
-    output("xprop", {"-root", "-remove", "_NET_CLIENT_LIST"});
+    forgetClients();
     asked.kill();
     asked.waitForFinished();
 }

@@ -35,6 +35,7 @@ public:
     void close() override { note("close"); }
     QStringList otherUnsaved() override { return others; }
     int activeSheet() override { return 1; }
+    int activePlace() override { return 1; }
     QStringList sheetNames() override { return {"List1"}; }
     void renameSheet(const QString& name) override { note("renameSheet " + name); }
     void selectSheet(int) override { note("selectSheet"); }
