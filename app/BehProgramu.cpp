@@ -9,12 +9,29 @@
 
 namespace zvonika {
 
+namespace {
+
+QString vetaOVracenych(const QStringList& pisne) {
+    if (pisne.isEmpty()) return {};
+    return QStringLiteral("Nahrazení novou písničkou se minule nedokončilo, na svém místě je zpátky: %1.")
+        .arg(pisne.join(QStringLiteral(", ")));
+}
+
+} // namespace
+
 bool BehProgramu::spust() {
     const TabulkoveProgramy& tabulky = c_.prostredi.tabulky;
+    const QStringList vracene = c_.prostredi.drive.bringBackSetAside(pracovniAdresar);
+    tabulka_ = tabulky.spoustena();
     bool cele = Form_Load(tabulky.spoustec());
-    if (!c_.modely.pisen.aplikaceExcel && chceNahradniTabulku()) cele = Form_Load(tabulky.nahradni());
+    if (!c_.modely.pisen.aplikaceExcel && chceNahradniTabulku()) {
+        tabulka_ = tabulky.nahradniVolba();
+        cele = Form_Load(tabulky.nahradni());
+    }
     c_.modely.panel.upozorneni =
-        QStringList{tabulky.veta(), c_.modely.tabulkaBasu.chyba()}.join(u' ').trimmed();
+        QStringList{vetaOVracenych(vracene), tabulky.veta(), c_.modely.tabulkaBasu.chyba()}
+            .join(u' ')
+            .trimmed();
     return cele;
 }
 
@@ -32,7 +49,8 @@ bool BehProgramu::chceNahradniTabulku() const {
          QStringLiteral(
              "Zvolený tabulkový program se nepodařilo spustit. Bez něho nelze písničky otevírat ani "
              "zapisovat.\n\nChcete teď pracovat s vestavěnou tabulkou Zvoniky? Volba programu se tím nemění; "
-             "změnit ji můžete v nabídce Doplňky."),
+             "změnit ji můžete v nabídce Doplňky. Odpovíte-li Ne, okno zůstane otevřené, ale písničky v něm "
+             "otevřít nepůjdou."),
          Icon::Question, Buttons::YesNo});
     return odpoved == Answer::Yes;
 }
@@ -43,7 +61,7 @@ KrokySpusteni BehProgramu::krokySpusteni(const SpreadsheetLauncher& spoustec) {
     return {
         [this] { c_.okno.nastavVzdyNahore(); },
         [this, &modely, spoustec] {
-            SpustExcel(spoustec, modely.pisen);
+            SpustExcel(spoustec, modely.pisen, puvodniCesta());
             modely.pisen.excel().setListener(&posluchac_);
         },
         [&modely](bool obracene) { modely.diskant.nastavObraceneCislovani(obracene); },
@@ -55,8 +73,13 @@ KrokySpusteni BehProgramu::krokySpusteni(const SpreadsheetLauncher& spoustec) {
     };
 }
 
+PuvodniCesta BehProgramu::puvodniCesta() const {
+    return {c_.prostredi.nastaveni, static_cast<int>(tabulka_)};
+}
+
 void BehProgramu::Form_Unload() {
     c_.automat.zastav();
+    if (c_.modely.pisen.aplikaceExcel) puvodniCesta().zapamatuj(c_.modely.pisen.puvodniCestaExcelu);
     if (c_.modely.pisen.aplikaceExcel) c_.modely.pisen.aplikaceExcel->setListener(nullptr);
     c_.konverzace.pisen().ukonceniExcelu.UkonciExcel();
 }

@@ -2,6 +2,8 @@
 
 #include "app/CastiProgramu.h"
 #include "app/Spusteni.h"
+#include "app/VolbaTabulky.h"
+#include "playing/song/PuvodniCesta.h"
 #include "spreadsheet/SpreadsheetApplication.h"
 
 namespace zvonika {
@@ -21,11 +23,13 @@ public:
 
 private:
     bool Form_Load(const SpreadsheetLauncher& spoustec);
+    PuvodniCesta puvodniCesta() const;
     bool chceNahradniTabulku() const;
     KrokySpusteni krokySpusteni(const SpreadsheetLauncher& spoustec);
 
     CastiProgramu c_;
     SpreadsheetListener& posluchac_;
+    Tabulka tabulka_ = Tabulka::Vestavena; ///< the spreadsheet program that was started last
 };
 
 } // namespace zvonika

@@ -22,8 +22,10 @@ Konverzace::Konverzace(Modely& modely, const Prostredi& prostredi, std::function
       navigace_(okoliPisne(modely, prostredi.dialogs), zobrazeniHmatu_, pasPisne_, modely.diskant,
                 [this] { uvolneni_.uvolniVse(); }),
       zvuk_(okoliPisne(modely, prostredi.dialogs), prostredi.drive, prostredi.media),
-      zivotPisne_(okoliPisne(modely, prostredi.dialogs), prostredi.drive,
-                  {zobrazeniHmatu_, pasPisne_, navigace_, zvuk_, [this] { uvolneni_.uvolniVse(); }}),
+      zivotPisne_(
+          okoliPisne(modely, prostredi.dialogs), prostredi.drive,
+          {zobrazeniHmatu_, pasPisne_, navigace_, zvuk_, modely.tonina, [this] { uvolneni_.uvolniVse(); }}),
+      neulozenePisne_(prostredi.zaznamy, prostredi.dialogs, zivotPisne_),
       klikDiskantu_(modely.diskant, notyZapis_, modely.tonina, prostredi.dialogs,
                     {std::move(otevriVyberStupnice),
                      [&modely](const QString& veta) { modely.panel.upozorneni = veta; }}),

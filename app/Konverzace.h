@@ -9,6 +9,7 @@
 #include "playing/recording/ZapisHmatu.h"
 #include "playing/recording/ZapisHmatuZNot.h"
 #include "playing/recording/ZapisNoty.h"
+#include "playing/song/NeulozenePisne.h"
 #include "playing/song/UkonceniExcelu.h"
 #include "playing/song/ZivotPisne.h"
 #include "playing/stepping/Navigace.h"
@@ -26,6 +27,7 @@ struct KonverzacePisne {
     Zvuk& zvuk;
     ZivotPisne& zivotPisne;
     UkonceniExcelu& ukonceniExcelu;
+    NeulozenePisne& neulozenePisne;
 };
 
 /// What a grip is put together and recorded by.
@@ -53,7 +55,7 @@ public:
     /// when it is closed.
     Konverzace(Modely& modely, const Prostredi& prostredi, std::function<void()> otevriVyberStupnice);
 
-    KonverzacePisne pisen() { return {navigace_, zvuk_, zivotPisne_, ukonceniExcelu_}; }
+    KonverzacePisne pisen() { return {navigace_, zvuk_, zivotPisne_, ukonceniExcelu_, neulozenePisne_}; }
     KonverzaceZapisu zapis() {
         return {notyZapis_, prstoklad_, uvolneni_, klikDiskantu_, zapisNoty_, zapisHmatu_, zapisHmatuZNot_};
     }
@@ -73,6 +75,7 @@ private:
     Navigace navigace_;
     Zvuk zvuk_;
     ZivotPisne zivotPisne_;
+    NeulozenePisne neulozenePisne_;
     KlikDiskantu klikDiskantu_;
     ZapisNoty zapisNoty_;
     ZapisBasu zapisBasu_;

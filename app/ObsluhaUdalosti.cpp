@@ -21,6 +21,7 @@ bool ObsluhaUdalosti::proved(const std::function<void()>& procedura) {
 }
 
 void ObsluhaUdalosti::ohlas(const RuntimeError& chyba) {
+    predHlasenim_(chyba);
     Message zprava = neocekavanaChyba(chyba.number());
     if (!chyba.cause().isEmpty()) zprava.text += QLatin1Char('\n') + chyba.cause();
     dialogs_.message(zprava);

@@ -5,13 +5,18 @@
 #include "platform/Shell.h"
 
 #include <functional>
+#include <utility>
 
 namespace zvonika {
 
 /// Runs the main window's event procedures and reports what they do not trap themselves.
 class ObsluhaUdalosti {
 public:
-    ObsluhaUdalosti(Dialogs& dialogs, Shell& shell) : dialogs_(dialogs), shell_(shell) {}
+    /// `predHlasenim` hears of a failure before its box is shown.
+    ObsluhaUdalosti(
+        Dialogs& dialogs, Shell& shell,
+        std::function<void(const RuntimeError&)> predHlasenim = [](const RuntimeError&) {})
+        : dialogs_(dialogs), shell_(shell), predHlasenim_(std::move(predHlasenim)) {}
 
     /// Runs a procedure; a failure ends it in one box "Neočekávaná chyba !" whose last line is the cause.
     /// While a procedure runs (a box may be up) no other is started. False when the procedure failed or was
@@ -28,6 +33,7 @@ private:
 
     Dialogs& dialogs_;
     Shell& shell_;
+    std::function<void(const RuntimeError&)> predHlasenim_;
     bool bezi_ = false;
 };
 

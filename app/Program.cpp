@@ -29,8 +29,14 @@ bool Program::Main() {
     const bool cele = beh_.spust();
     udalosti_.ukazStav();
     okno_.show();
+    nabidniNeulozene();
     prejdiNaHlavniOkno(); // the sheet's window came up first
     return cele;
+}
+
+void Program::nabidniNeulozene() {
+    NeulozenePisne& neulozene = konverzace_.pisen().neulozenePisne;
+    if (modely_.pisen.aplikaceExcel && neulozene.nejake()) udalosti_.proved([&] { neulozene.nabidni(); });
 }
 
 bool Program::volnoProKrok() const {
@@ -57,7 +63,7 @@ int Program::aktualniRadek() const {
 }
 
 void Program::cursorMoved() {
-    udalosti_.proved([this] { konverzace_.pisen().navigace.sledujKurzor(); });
+    udalosti_.nasleduj([this] { konverzace_.pisen().navigace.sledujKurzor(); });
 }
 
 void Program::prejdiNaHlavniOkno() {

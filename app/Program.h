@@ -42,9 +42,11 @@ private:
     CastiProgramu casti();
     KrokAutomatu krokAutomatu();
     bool volnoProKrok() const;
+    void nabidniNeulozene();
 
     void cursorMoved() override;
     void cellsEdited() override { cursorMoved(); }
+    void troubleChanged() override { udalosti_.ukazStav(); }
 
     Prostredi prostredi_;
     Modely modely_;

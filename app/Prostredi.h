@@ -9,6 +9,7 @@
 #include "platform/SettingsStore.h"
 #include "platform/Shell.h"
 #include "platform/WakeUpClock.h"
+#include "spreadsheet/journal/JournalFolder.h"
 
 namespace zvonika {
 
@@ -24,6 +25,7 @@ struct Prostredi {
     Media& media;
     TvurceProhlizece tvurceProhlizece = jednoduchyProhlizec();
     Nastroj nastroj = nastrojZvonika();
+    JournalFolder zaznamy = {}; ///< recovery journals of songs
 };
 
 } // namespace zvonika

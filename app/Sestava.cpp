@@ -42,7 +42,7 @@ std::unique_ptr<SettingsStore> nastaveni(const QString& aplikace, const Umisteni
                                               QStringLiteral(".ini"));
 }
 
-/// Where the built-in spreadsheet keeps its recovery journals.
+/// Where recovery journals are kept, whichever spreadsheet has the song open.
 QString slozkaZaznamu(const Umisteni& umisteni) {
     if (umisteni.nastaveni.isEmpty()) return userStateFolder(nastaveniTabulky);
     return umisteni.nastaveni + QStringLiteral("/zaznamy");
@@ -79,14 +79,14 @@ struct Sestava::Casti {
           drive(umisteni.domov.isEmpty() ? QDir::homePath() : umisteni.domov, slozkaProgramu()),
           media(systemMedia(drive, pluginFolders())),
           libreOffice(drive, dialogs, nastaveni(QStringLiteral("Calc Zvoniky"), umisteni),
-                      profilyLibreOffice(umisteni)),
+                      profilyLibreOffice(umisteni), zaznamy),
           program({dialogs, *nastaveniProgramu, drive, shell, tabulky(),
                    umisteni.hodiny ? *umisteni.hodiny : hodiny, *media, volbaProhlizece(pluginFolders()),
-                   nastrojZvonika()}) {
+                   nastrojZvonika(), zaznamy}) {
         dialogs.setMainWindow(&program.okno());
         const QScreen* obrazovka = QApplication::primaryScreen();
         okna = rozmistiOkna(obrazovka ? obrazovka->availableGeometry() : QRect(0, 0, 1366, 768));
-        libreOffice.nastavMisto(okna.tabulka);
+        libreOffice.nastavMisto(bezRamu(okna.tabulka));
     }
 
     TabulkoveProgramy tabulky() {
@@ -115,11 +115,14 @@ struct Sestava::Casti {
     }
 
     /// `misto` includes the frame, whose size is not known before the window stands on the screen.
-    static void umisti(QWidget& okno, const QRect& misto) {
+    static QRect bezRamu(const QRect& misto) {
         constexpr int lista = 30;
         constexpr int ram = 2;
+        return misto.adjusted(ram, lista, -ram, -ram);
+    }
+    static void umisti(QWidget& okno, const QRect& misto) {
         okno.move(misto.topLeft());
-        okno.resize(misto.width() - 2 * ram, misto.height() - lista - ram);
+        okno.resize(bezRamu(misto).size());
     }
 
     std::unique_ptr<SettingsStore> nastaveniProgramu;

@@ -1,6 +1,7 @@
 #include "app/TabulkaLibreOffice.h"
 
 #include "app/ui/PrubehSpusteni.h"
+#include "spreadsheet/journal/JournalledSpreadsheet.h"
 #include "spreadsheet/libreoffice/LibreOfficeApplication.h"
 
 #include <QElapsedTimer>
@@ -30,9 +31,10 @@ struct TabulkaLibreOffice::Prubeh {
 };
 
 TabulkaLibreOffice::TabulkaLibreOffice(Drive& drive, Dialogs& dialogs,
-                                       std::unique_ptr<SettingsStore> nastaveni, const QString& profily)
+                                       std::unique_ptr<SettingsStore> nastaveni, const QString& profily,
+                                       JournalFolder zaznamy)
     : drive_(drive), dialogs_(dialogs), nastaveni_(std::move(nastaveni)), profily_(profily),
-      prubeh_(std::make_unique<Prubeh>()) {}
+      zaznamy_(std::move(zaznamy)), prubeh_(std::make_unique<Prubeh>()) {}
 
 TabulkaLibreOffice::~TabulkaLibreOffice() {
     konecCekani();
@@ -48,7 +50,8 @@ std::unique_ptr<SpreadsheetApplication> TabulkaLibreOffice::spust() {
                                       {},          {}};
         okoli.sign = [this] { posun(); };
         okoli.signOver = [this] { konecCekani(); };
-        return std::make_unique<LibreOfficeApplication>(okoli);
+        return std::make_unique<JournalledSpreadsheet>(std::make_unique<LibreOfficeApplication>(okoli),
+                                                       dialogs_, jmenoCalcu, zaznamy_);
     } catch (...) {
         spusteno(); // the failure is told in a box, which nothing may cover
         throw;

@@ -6,8 +6,10 @@ namespace zvonika {
 struct TabulkaLibreOffice::Prubeh {};
 
 TabulkaLibreOffice::TabulkaLibreOffice(Drive& drive, Dialogs& dialogs,
-                                       std::unique_ptr<SettingsStore> nastaveni, const QString& profily)
-    : drive_(drive), dialogs_(dialogs), nastaveni_(std::move(nastaveni)), profily_(profily) {}
+                                       std::unique_ptr<SettingsStore> nastaveni, const QString& profily,
+                                       JournalFolder zaznamy)
+    : drive_(drive), dialogs_(dialogs), nastaveni_(std::move(nastaveni)), profily_(profily),
+      zaznamy_(std::move(zaznamy)) {}
 
 TabulkaLibreOffice::~TabulkaLibreOffice() = default;
 

@@ -19,7 +19,7 @@ QVector<NabidkaTabulky> TabulkoveProgramy::nabidka() const {
 }
 
 SpreadsheetLauncher TabulkoveProgramy::nahradni() const {
-    const Tabulka nahrada = radek(spoustena_).nahrada;
+    const Tabulka nahrada = nahradniVolba();
     return nahrada == spoustena_ ? SpreadsheetLauncher() : radek(nahrada).spust;
 }
 

@@ -32,6 +32,9 @@ public:
 
     /// What the user can choose from, in the order of the rows.
     QVector<NabidkaTabulky> nabidka() const;
+    /// The one that `spoustec` starts, and what is used when it has failed; itself: nothing is.
+    Tabulka spoustena() const { return spoustena_; }
+    Tabulka nahradniVolba() const { return radek(spoustena_).nahrada; }
     /// Starts the chosen program or, where it has no launcher, what stands in for it.
     const SpreadsheetLauncher& spoustec() const { return radek(spoustena_).spust; }
     /// Why another program than the chosen one is started: one sentence; "" when it is the chosen one.

@@ -2,6 +2,7 @@
 
 #include "app/Modely.h"
 #include "playing/stepping/StavovyRadek.h"
+#include "song/RadaPoChybe.h"
 
 namespace zvonika {
 
@@ -16,10 +17,23 @@ bool neniCoZapsat(const Modely& modely) {
 
 bool UdalostiOkna::proved(const std::function<void()>& procedura) {
     if (bezi()) return false;
+    modely_.panel.vystraha.clear();
+    return nasleduj(procedura);
+}
+
+bool UdalostiOkna::nasleduj(const std::function<void()>& procedura) {
+    if (bezi()) return false;
     modely_.panel.upozorneni.clear();
+    modely_.panel.zapsano.clear();
     const bool provedeno = obsluha_.proved(procedura);
     ukazStav();
     return provedeno;
+}
+
+void UdalostiOkna::ukazPricinu(const RuntimeError& chyba) {
+    modely_.panel.vystraha =
+        QStringList{chyba.cause(), radaPoChybe(modely_.pisen, chyba.number())}.join(u' ').trimmed();
+    modely_.panel.oznamZmenu();
 }
 
 void UdalostiOkna::ukazStav() {
@@ -30,7 +44,10 @@ void UdalostiOkna::ukazStav() {
     stav.neniCoZapsat = neniCoZapsat(modely_);
     stav.radekPrazdny = modely_.panel.lblTony.isEmpty() && modely_.panel.lblBasy.isEmpty();
     stav.upozorneni = modely_.panel.upozorneni;
+    stav.zapsano = modely_.panel.zapsano;
     modely_.panel.stav = stavovyRadek(stav);
+    modely_.panel.nezajisteno =
+        modely_.pisen.aplikaceExcel ? modely_.pisen.aplikaceExcel->trouble() : QString();
     modely_.panel.oznamZmenu();
 }
 

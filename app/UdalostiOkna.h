@@ -11,10 +11,13 @@ struct Modely;
 class UdalostiOkna {
 public:
     UdalostiOkna(Modely& modely, Dialogs& dialogs, Shell& shell)
-        : modely_(modely), obsluha_(dialogs, shell) {}
+        : modely_(modely),
+          obsluha_(dialogs, shell, [this](const RuntimeError& chyba) { ukazPricinu(chyba); }) {}
 
-    /// Runs a procedure, see `ObsluhaUdalosti::proved`.
+    /// Runs a command's procedure, see `ObsluhaUdalosti::proved`.
     bool proved(const std::function<void()>& procedura);
+    /// Runs what only follows the user's doings elsewhere: the warning of the last command stays.
+    bool nasleduj(const std::function<void()>& procedura);
     /// Runs one without an error trap, see `ObsluhaUdalosti::provedBezZachyceni`.
     void provedBezZachyceni(const std::function<void()>& procedura) {
         obsluha_.provedBezZachyceni(procedura);
@@ -25,6 +28,8 @@ public:
     void ukazStav();
 
 private:
+    void ukazPricinu(const RuntimeError& chyba);
+
     Modely& modely_;
     ObsluhaUdalosti obsluha_;
 };

@@ -134,7 +134,7 @@ function(zvonika_library name)
   target_link_libraries(${name} PUBLIC ${ARG_LIBS})
   if(name MATCHES "_ui$|^app_sestava$")
     zvonika_precompile(${name} widgets)
-  elseif(NOT name STREQUAL "xls")
+  elseif(NOT name MATCHES "^(xls|regular_descriptor)$") # these know no Qt
     zvonika_precompile(${name} core)
   endif()
 endfunction()

@@ -2,6 +2,9 @@
 
 #include "spreadsheet/Address.h"
 #include "theory/NazvyTonu.h"
+#include "theory/Toniny.h"
+
+#include <algorithm>
 
 namespace zvonika {
 
@@ -10,6 +13,13 @@ namespace {
 bool jeSmer(const CellValue& hodnota) {
     const QString text = cellText(hodnota);
     return text == u"Tah" || text == u"Tlak";
+}
+
+/// As the lookup of a tone takes it: "C Dur" is one too.
+bool jeTonina(QString text) {
+    text.replace(QStringLiteral("Dur"), QStringLiteral("dur"), Qt::CaseInsensitive);
+    return std::any_of(toniny.begin(), toniny.end(),
+                       [&](const DurovaTonina& tonina) { return tonina.nazev == text; });
 }
 
 bool jeTonNastroje(const QString& ton) {
@@ -80,9 +90,20 @@ void BehKonverze::zaznamenejZtratu(const CellValue& puvodni, const QString& novy
     o_.ztraty.nastavChybuTabulky(o_.konverze.chybaTabulky());
     if (isEmpty(puvodni)) return;
     if (novy.isEmpty())
-        o_.ztraty.pridejBezProtejsku(excel().activeRow());
+        zaznamenejPrazdnou();
     else if (!jeTonNastroje(novy))
         o_.ztraty.pridejMimoNastroj(excel().activeRow());
+}
+
+void BehKonverze::zaznamenejPrazdnou() {
+    const int radek = excel().activeRow();
+    const QString& zdrojova = o_.stav.lblStupnice;
+    const auto misto = parseAddress(adresa_);
+    if (misto && misto->first.column == sloupce::tony.prvni) o_.ztraty.pridejNejnizsi(radek);
+    if (jeTonina(zdrojova))
+        o_.ztraty.pridejBezProtejsku(radek);
+    else
+        o_.ztraty.pridejBezToniny(radek, zdrojova);
 }
 
 /// On the direction the row is done: it gets its new key and the next one follows.

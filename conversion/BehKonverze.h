@@ -44,6 +44,7 @@ private:
     std::optional<KonecBehu> overStupnici();
     std::optional<KonecBehu> posunVpravo();
     bool lzePreskocit() const;
+    void zaznamenejPrazdnou();
     void zaznamenejZtratu(const CellValue& puvodni, const QString& novy);
     SpreadsheetApplication& excel() { return o_.pisen.excel(); }
     const SpreadsheetApplication& excel() const { return std::as_const(o_.pisen).excel(); }

@@ -101,21 +101,16 @@ bool Konverze::lzeZacit(const std::optional<QString>& cilova) {
 }
 
 bool Konverze::pripravKopii(const QString& cilova) {
-    SpreadsheetApplication& excel = pisen_.excel();
-    if (!KopiePisne(pisen_, dialogs_, drive_).uloz(cilova)) {
+    KopiePisne kopie(pisen_, dialogs_, drive_);
+    if (!kopie.uloz(cilova)) {
         odmitni(QStringLiteral("Storno převodu."), QStringLiteral("Zpracování zrušeno uživatelem."),
                 Icon::Information);
         zavri();
         return false;
     }
+    pripravList(kopie, cilova);
     kopie_ = pisen_.aktualniPisen;
-    ztraty_ = {};
-    odmitnuteJmeno_.clear();
-    puvodniList_ = excel.activeSheetName();
-    rozdelanyList_ = cilova + QStringLiteral(" Nedokončeno");
-    excel.renameActiveSheet(rozdelanyList_);
-    excel.selectRange(adresa(sloupce::tony.prvni, 1));
-    if (!isEmpty(excel.activeCellValue())) return true;
+    if (!isEmpty(pisen_.excel().activeCellValue())) return true;
     odmitni(
         QStringLiteral("Přerušeno na začátku."),
         QStringLiteral("Program nemá k dispozici očekávaná data. Konverze nebude provedena. Smažte soubor ") +
@@ -124,6 +119,24 @@ bool Konverze::pripravKopii(const QString& cilova) {
                            "ladění."));
     zavri();
     return false;
+}
+
+/// As long as no row was converted, a failure leaves nothing behind.
+void Konverze::pripravList(KopiePisne& kopie, const QString& cilova) {
+    SpreadsheetApplication& excel = pisen_.excel();
+    ztraty_ = {};
+    odmitnuteJmeno_.clear();
+    try {
+        puvodniList_ = excel.activeSheetName();
+        rozdelanyList_ = cilova + QStringLiteral(" Nedokončeno");
+        excel.renameActiveSheet(rozdelanyList_);
+        excel.selectRange(adresa(sloupce::tony.prvni, 1));
+        kopie.potvrd();
+    } catch (...) {
+        stav_.selhala = !kopie.vezmiZpet();
+        if (stav_.selhala) kopie_ = pisen_.aktualniPisen;
+        throw;
+    }
 }
 
 /// The copy is looked for by its name: another workbook may have come to the front while the run waited.
@@ -172,6 +185,7 @@ void Konverze::poBehu(KonecBehu konec) {
 
 void Konverze::dokonci() {
     SpreadsheetApplication& excel = pisen_.excel();
+    najdiNeprevedene();
     const int posledni = std::min(excel.activeRow() + radkuPodPisni, lastRow);
     excel.clearContents(adresaSloupce(sloupce::prstoklad, posledni));
     excel.selectRange(adresa(sloupce::slabika, 1)); // the run has scrolled the syllables out of sight
@@ -183,6 +197,14 @@ void Konverze::dokonci() {
                                      "požadavků a uložena do souboru \n") +
                           kopie_ + u'.',
                       Icon::Information});
+}
+
+/// What stands below the end of the run, and in the row of it where no cell of it was converted.
+void Konverze::najdiNeprevedene() {
+    const auto konec = parseAddress(pisen_.excel().activeAddress());
+    if (!konec) return;
+    const int od = konec->first.row + (konec->first.column > sloupce::tony.prvni ? 1 : 0);
+    ztraty_.nastavKonec(adresa(konec->first.column, konec->first.row), SongReader(pisen_).radkySHmaty(od));
 }
 
 /// Another sheet of the song may have that name; the song is converted nonetheless.

@@ -5,6 +5,8 @@
 
 namespace zvonika {
 
+class KopiePisne;
+
 /// The conversation of `frmKonverze`, one object for each time the dialog is opened: the song on the active
 /// sheet is saved as a copy, and the copy is rewritten into another key. Every procedure may throw
 /// AutomationError; while one runs, another does nothing.
@@ -36,11 +38,13 @@ private:
     void zacni();
     bool lzeZacit(const std::optional<QString>& cilova);
     bool pripravKopii(const QString& cilova);
+    void pripravList(KopiePisne& kopie, const QString& cilova);
     void pokracuj(const QString& cilova);
     BehKonverze beh(const QString& cilova);
     void proved(const QString& cilova, KonecBehu (BehKonverze::*odkud)());
     void poBehu(KonecBehu konec);
     void dokonci();
+    void najdiNeprevedene();
     void prejmenujList(const QString& jmeno);
     void cekejNaStupnici();
     void zavri();

@@ -4,6 +4,7 @@ namespace zvonika {
 
 void ZdrojKonverze::prevezmi() {
     pisenPredTim_ = pisen_.aktualniPisen;
+    plneJmenoPredTim_ = pisen_.plneJmeno;
     nactena_ = pisen_.AktivujPisen();
     if (!nactena_) return;
     const QString stupnice = bunkaW1();
@@ -18,6 +19,7 @@ bool ZdrojKonverze::vyber() {
     if (!soubor) return false;
     excel.openWorkbook(*soubor);
     pisen_.aktualniPisen = excel.activeWorkbookName();
+    pisen_.plneJmeno = *soubor;
     if (!bunkaW1().isEmpty()) {
         ukaz(konverze_.ZjistiZapsaneLadeni(pisen_.aktualniPisen));
         return true;
@@ -37,7 +39,7 @@ void ZdrojKonverze::vrat() {
     excel.setVisible(true);
     if (nactena_) {
         excel.activateWindow(pisen_.aktualniPisen);
-        excel.saveActiveWorkbook();
+        pisen_.ulozAktivni();
     } else if (pisen_.AktivujPisen()) {
         ulozAZavri();
     }
@@ -46,7 +48,8 @@ void ZdrojKonverze::vrat() {
 /// The main window knows nothing of this song: for it everything is as before, also where saving fails.
 void ZdrojKonverze::ulozAZavri() {
     pisen_.aktualniPisen = pisenPredTim_;
-    pisen_.excel().saveActiveWorkbook();
+    pisen_.plneJmeno = plneJmenoPredTim_;
+    pisen_.ulozAktivni();
     pisen_.excel().closeActiveWorkbook();
 }
 

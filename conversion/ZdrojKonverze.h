@@ -34,7 +34,7 @@ private:
     clsKonverze& konverze_;
     StavKonverze& stav_;
     bool nactena_ = false;
-    QString pisenPredTim_; ///< current song before `prevezmi`
+    QString pisenPredTim_, plneJmenoPredTim_; ///< current song before `prevezmi`
 };
 
 } // namespace zvonika

@@ -45,13 +45,41 @@ QString ZtratyKonverze::popis(const QString& co, const Tony& tony) {
     return co + tonu(tony.pocet) + QStringLiteral(" (") + popisRadku(tony.radky) + u')';
 }
 
-QString ZtratyKonverze::veta() const {
+void ZtratyKonverze::nastavKonec(const QString& bunka, const QList<int>& neprevedene) {
+    konec_ = bunka;
+    neprevedene_ = neprevedene;
+}
+
+QString ZtratyKonverze::ztraty() const {
     QStringList ztraty;
+    if (bezToniny_.pocet > 0)
+        ztraty << popis(
+            QStringLiteral("„%1“ ve sloupci W není tónina, bez ní nebylo čím nahradit ").arg(mistoToniny_),
+            bezToniny_);
     if (bezProtejsku_.pocet > 0) ztraty << popis(QStringLiteral("v tabulce chybí "), bezProtejsku_);
     if (mimoNastroj_.pocet > 0) ztraty << popis(QStringLiteral("mimo rozsah nástroje "), mimoNastroj_);
-    QStringList vety;
-    if (!chybaTabulky_.isEmpty()) vety << chybaTabulky_;
-    if (!ztraty.isEmpty()) vety << QStringLiteral("Převod: ") + ztraty.join(QStringLiteral(", ")) + u'.';
+    return ztraty.isEmpty() ? QString()
+                            : QStringLiteral("Převod: ") + ztraty.join(QStringLiteral(", ")) + u'.';
+}
+
+QString ZtratyKonverze::vetaONejnizsich() const {
+    if (nejnizsi_.pocet == 0) return {};
+    return QStringLiteral(
+               "Ztratil se nejnižší tón (%1): sloupec B je tam prázdný a pro každého, kdo kopii čte, "
+               "končí písnička před řádkem %2.")
+        .arg(popisRadku(nejnizsi_.radky))
+        .arg(nejnizsi_.radky.first());
+}
+
+QString ZtratyKonverze::vetaOKonci() const {
+    if (neprevedene_.isEmpty()) return {};
+    return QStringLiteral("Převod skončil u prázdné buňky %1. Nepřevedeno zůstalo: %2.")
+        .arg(konec_, popisRadku(neprevedene_));
+}
+
+QString ZtratyKonverze::veta() const {
+    QStringList vety{chybaTabulky_, vetaONejnizsich(), ztraty(), vetaOKonci()};
+    vety.removeAll(QString());
     return vety.join(u' ');
 }
 

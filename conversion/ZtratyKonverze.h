@@ -12,6 +12,15 @@ public:
     void pridejBezProtejsku(int radek) { bezProtejsku_.pridej(radek); }
     /// The row's new tone lies outside the instrument (1 to 49).
     void pridejMimoNastroj(int radek) { mimoNastroj_.pridej(radek); }
+    /// The tone in column B was emptied: for every reader the song ends at this row.
+    void pridejNejnizsi(int radek) { nejnizsi_.pridej(radek); }
+    /// The row's key is none, so no tone of it has an entry: what column W holds instead.
+    void pridejBezToniny(int radek, const QString& misto) {
+        bezToniny_.pridej(radek);
+        mistoToniny_ = misto;
+    }
+    /// The run has ended at this empty cell ("C2"), and these rows below it hold grips still.
+    void nastavKonec(const QString& bunka, const QList<int>& neprevedene);
     void nastavChybuTabulky(const QString& veta) { chybaTabulky_ = veta; }
 
     /// "" when nothing was lost.
@@ -25,12 +34,19 @@ private:
         void pridej(int radek);
     };
     static QString popis(const QString& co, const Tony& tony);
+    QString ztraty() const;
+    QString vetaONejnizsich() const;
+    QString vetaOKonci() const;
 
-    Tony bezProtejsku_, mimoNastroj_;
+    Tony bezProtejsku_, mimoNastroj_, nejnizsi_, bezToniny_;
+    QString mistoToniny_;
+    QString konec_; ///< cell at which the run has ended
+    QList<int> neprevedene_;
     QString chybaTabulky_;
 };
 
-/// Rows in a short form: "řádek 3", "řádky 1–4, 7"; of many the first ones, "a další, celkem 40 řádků".
+/// Rows in ascending order in a short form: "řádek 3", "řádky 1–4, 7"; of many the first ones, "a další,
+/// celkem 40 řádků".
 QString popisRadku(const QList<int>& radky);
 
 } // namespace zvonika

@@ -69,7 +69,8 @@ bool clsKonverze::VytvorCilovySoubor(const QString& cilova, const QString& zdroj
     const QString nazev =
         zdrojovySoubor.chopped(std::min<qsizetype>(delkaPripony, zdrojovySoubor.size())) + u' ' + cilova;
     const QString plneJmeno = pracovniAdresar + u'\\' + nazev + QStringLiteral(".xls");
-    if (SouborZustava(plneJmeno)) {
+    std::vector<std::unique_ptr<SetAside>> puvodni; // back in their place with the end, unless given up
+    if (SouborZustava(plneJmeno, puvodni)) {
         dialogs_.message({QStringLiteral("Založení nové skladby přerušeno."),
                           QStringLiteral("Začněte znovu a zadejte jiný název písně."), Icon::Information});
         return false;
@@ -77,6 +78,8 @@ bool clsKonverze::VytvorCilovySoubor(const QString& cilova, const QString& zdroj
     pisen_.excel().addWorkbook();
     try {
         zalozSesit(plneJmeno);
+        for (const auto& soubor : puvodni)
+            soubor->giveUp();
         prenesSlabiky();
         return true;
     } catch (const std::exception&) {
@@ -119,13 +122,18 @@ bool clsKonverze::ExistujeSlozka(const QString& cesta) const {
     return drive_.folderExists(cesta);
 }
 
-bool clsKonverze::SouborZustava(const QString& cesta) {
+bool clsKonverze::SouborZustava(const QString& cesta, std::vector<std::unique_ptr<SetAside>>& puvodni) {
     while (drive_.fileExists(cesta)) {
         const Answer odpoved = dialogs_.message(
             {QStringLiteral("Tato skladba již existuje!"),
              QStringLiteral("Přejete si vymazat z disku původní písničku a nahradit ji novou ?"),
              Icon::Exclamation, Buttons::YesNo});
-        if (odpoved != Answer::Yes || !drive_.deleteFile(cesta)) return true;
+        if (odpoved != Answer::Yes) return true;
+        try {
+            puvodni.push_back(drive_.setAside(cesta));
+        } catch (const RuntimeError&) {
+            return true;
+        }
     }
     return false;
 }

@@ -6,7 +6,9 @@
 #include "theory/TabulkaNot.h"
 
 #include <functional>
+#include <memory>
 #include <optional>
+#include <vector>
 
 namespace zvonika {
 
@@ -49,7 +51,7 @@ private:
     std::optional<QString> najdiTon(const QString& zdroj, const QString& cil, const QString& ton);
     bool ExistujeSlozka(const QString& cesta) const;
     void zalozSlozku();
-    bool SouborZustava(const QString& cesta);
+    bool SouborZustava(const QString& cesta, std::vector<std::unique_ptr<SetAside>>& puvodni);
     void zalozSesit(const QString& plneJmeno);
     void prenesSlabiky();
 

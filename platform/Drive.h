@@ -1,8 +1,27 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
+
+#include <memory>
 
 namespace zvonika {
+
+/// A file that stands aside for a new one of its name. It goes back with this object, unless it was given up,
+/// and at the next start where the program did not come to that.
+class SetAside {
+public:
+    SetAside() = default;
+    virtual ~SetAside() = default;
+    SetAside(const SetAside&) = delete;
+    SetAside& operator=(const SetAside&) = delete;
+
+    /// The new file stands: deletes the old one.
+    virtual void giveUp() = 0;
+    /// Puts the file back; beside it, under a name of its own, where something stands in its place. The name
+    /// without folder that it has then when it is another one, otherwise "".
+    virtual QString bringBack() = 0;
+};
 
 /// The folders of the program's world: paths are written "C:\Dokumenty\..." and mean a native folder; drive
 /// C: is the user's home folder where the system has no drives. A native absolute path passes through
@@ -22,6 +41,16 @@ public:
 
     /// False when the file could not be deleted.
     virtual bool deleteFile(const QString& path) = 0;
+    /// Takes a file out of the way of a new one. RuntimeError 70 with a Czech sentence when that cannot be
+    /// done, or another program has the file open; it stays as it is then.
+    virtual std::unique_ptr<SetAside> setAside(const QString& path) = 0;
+    /// Puts back into `folder` what programs that were killed have set aside there: the names that the files
+    /// have now, without folder.
+    virtual QStringList bringBackSetAside(const QString& folder) = 0;
+    /// Why a save in this existing file would be refused, as the disk shows it beforehand: one Czech
+    /// sentence;
+    /// "" when nothing is in its way.
+    virtual QString readOnlyBecause(const QString& path) const = 0;
 
     /// The program's own folder (tables, manual), native.
     virtual QString programFolder() const = 0;

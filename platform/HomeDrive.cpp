@@ -1,7 +1,10 @@
 #include "platform/HomeDrive.h"
 
+#include "platform/files/SetAsideFile.h"
+
 #include <QDir>
 #include <QFileInfo>
+#include <QStorageInfo>
 
 namespace zvonika {
 
@@ -43,6 +46,27 @@ bool HomeDrive::createFolder(const QString& path) {
 
 bool HomeDrive::deleteFile(const QString& path) {
     return QFile::remove(nativePath(path));
+}
+
+std::unique_ptr<SetAside> HomeDrive::setAside(const QString& path) {
+    return std::make_unique<SetAsideFile>(nativePath(path));
+}
+
+QStringList HomeDrive::bringBackSetAside(const QString& folder) {
+    return zvonika::bringBackSetAside(nativePath(folder));
+}
+
+// Who replaces a file needs both: to write in its folder, and not to get round the file's own protection.
+QString HomeDrive::readOnlyBecause(const QString& path) const {
+    const QString canonical = QFileInfo(nativePath(path)).canonicalFilePath();
+    const QFileInfo file(canonical);
+    if (canonical.isEmpty()) return {};
+    const QString name = QFileInfo(nativePath(path)).fileName();
+    if (QStorageInfo(file.absolutePath()).isReadOnly())
+        return QStringLiteral("Soubor „%1“ je na disku jen pro čtení.").arg(name);
+    if (!file.isWritable()) return QStringLiteral("Soubor „%1“ je jen pro čtení.").arg(name);
+    if (QFileInfo(file.absolutePath()).isWritable()) return {};
+    return QStringLiteral("Do složky, ve které je soubor „%1“, nemáte právo zapisovat.").arg(name);
 }
 
 } // namespace zvonika

@@ -17,6 +17,9 @@ public:
     bool folderExists(const QString& path) const override;
     bool createFolder(const QString& path) override;
     bool deleteFile(const QString& path) override;
+    std::unique_ptr<SetAside> setAside(const QString& path) override;
+    QStringList bringBackSetAside(const QString& folder) override;
+    QString readOnlyBecause(const QString& path) const override;
     QString programFolder() const override { return programFolder_; }
 
 private:

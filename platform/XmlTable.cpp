@@ -1,16 +1,26 @@
 #include "platform/XmlTable.h"
 
-#include <QFile>
+#include "platform/files/RegularFile.h"
+
+#include <utility>
 
 namespace zvonika {
 
+namespace {
+
+constexpr qint64 largestTable = 4 << 20; ///< bytes; ours have some thousands
+
+} // namespace
+
 XmlTableFile readXmlTable(const QString& path, const QString& name) {
-    QFile file(path);
-    if (!file.exists()) return {{}, name + QStringLiteral(" nebyla ve složce programu nalezena.")};
+    ReadBytes file = readRegular(path, Links::Follow, largestTable);
+    if (!file.trouble) return {std::move(file.bytes), {}};
+    if (file.trouble == std::errc::no_such_file_or_directory)
+        return {{}, name + QStringLiteral(" nebyla ve složce programu nalezena.")};
+    if (file.trouble == std::errc::file_too_large)
+        return {{}, name + QStringLiteral(" nejde přečíst: je příliš velká.")};
     // The system's own words would come in its language, not the user's.
-    if (!file.open(QIODevice::ReadOnly))
-        return {{}, name + QStringLiteral(" nejde přečíst: není to soubor, nebo k němu nemáte oprávnění.")};
-    return {file.readAll(), {}};
+    return {{}, name + QStringLiteral(" nejde přečíst: není to soubor, nebo k němu nemáte oprávnění.")};
 }
 
 QString parseXmlTable(const QByteArray& content, const QString& name, pugi::xml_document& document) {

@@ -14,13 +14,14 @@ QString textSmeru(SmerMechu smer);
 /// One grip as it stands in its row of the sheet, column by column; nothing is corrected on the way through.
 struct Grip {
     QString slabika;
-    QStringList tony;           ///< up to the first empty cell, at most 7; may be foreign text
-    QString smer;               ///< "Tah", "Tlak" or whatever stands there
-    QStringList basy;           ///< up to the first empty cell, at most 7
-    QString prstoklad;          ///< fingering entries
-    QString tonina;             ///< key in which the row was written
-    bool tonyZaMezerou = false; ///< the cells of the tones hold more behind that empty cell
-    bool basyZaMezerou = false; ///< those of the basses do
+    QStringList tony;  ///< at most 7, without the empty cells among them; may be foreign text
+    QString smer;      ///< "Tah", "Tlak" or whatever stands there
+    QStringList basy;  ///< up to the first empty cell, at most 7
+    QString prstoklad; ///< fingering entries
+    QString tonina;    ///< key in which the row was written
+    /// Column B is empty though tones follow: whoever looks for the end of the song finds it here.
+    bool bezPrvnihoTonu = false;
+    bool basyZaMezerou = false; ///< the cells of the basses hold more behind the first empty one
 
     bool prazdny() const { return tony.isEmpty() && basy.isEmpty(); }
     friend bool operator==(const Grip&, const Grip&) = default;

@@ -15,6 +15,14 @@ SpreadsheetApplication& Pisen::excel() {
     return *aplikaceExcel;
 }
 
+void Pisen::ulozAktivni() {
+    try {
+        excel().saveActiveWorkbook();
+    } catch (const AutomationError& odmitnuti) {
+        if (odmitnuti.number() != error::applicationDefined || excel().activeWorkbookModified()) throw;
+    }
+}
+
 bool Pisen::AktivujPisen() {
     try {
         excel().activateWindow(aktualniPisen);

@@ -32,10 +32,17 @@ public:
     std::array<QString, 5> lblSlabika;
     bool popisyViditelne = false; ///< lblPopisD and lblPopisB
     QString lblTony, lblBasy;
+    QString lblStrana; ///< that the grip is shown on the other side than it was recorded on; "" as a rule
     BarvaKroku barvaKroku = BarvaKroku::Neznamy;
+    QString nezajisteno;    ///< why unsaved changes would not outlive a crash; lasts until they would
+    QString vystraha;       ///< what the last command must not let pass unseen, one sentence
+    QString zapsano;        ///< the grip that the last command has recorded, one sentence
     QString upozorneni;     ///< what the last command has to tell besides its boxes
     QString stav;           ///< status line: what to do next, warnings
     int zapsanychHmatu = 0; ///< grips recorded in this run
+
+    /// What stands first in the status line, emphasised; "" as a rule.
+    QString varovani() const { return QStringList{nezajisteno, vystraha}.join(u' ').trimmed(); }
 
     void oznamZmenu() { Q_EMIT zmeneno(); }
 

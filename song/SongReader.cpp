@@ -23,6 +23,13 @@ public:
             texty.append(text(i));
         return texty;
     }
+    QStringList texty(const Sloupce& sloupce) const {
+        QStringList texty;
+        for (int i = sloupce.prvni; i <= sloupce.posledni; ++i)
+            if (!isEmpty(bunka(i))) texty.append(text(i));
+        return texty;
+    }
+    bool jePrazdna(int sloupec) const { return isEmpty(bunka(sloupec)); }
     bool maDalsi(const Sloupce& sloupce, const QStringList& precteno) const {
         int i = sloupce.prvni + static_cast<int>(precteno.size());
         while (i <= sloupce.posledni && isEmpty(bunka(i)))
@@ -38,10 +45,10 @@ private:
 
 Grip gripZBunek(const QVector<CellValue>& radek) {
     const Bunky bunky(radek);
-    Grip grip{bunky.text(sloupce::slabika),   bunky.textyDoPrvniPrazdne(sloupce::tony),
+    Grip grip{bunky.text(sloupce::slabika),   bunky.texty(sloupce::tony),
               bunky.text(sloupce::smer),      bunky.textyDoPrvniPrazdne(sloupce::basy),
               bunky.text(sloupce::prstoklad), bunky.text(sloupce::tonina)};
-    grip.tonyZaMezerou = bunky.maDalsi(sloupce::tony, grip.tony);
+    grip.bezPrvnihoTonu = !grip.tony.isEmpty() && bunky.jePrazdna(sloupce::tony.prvni);
     grip.basyZaMezerou = bunky.maDalsi(sloupce::basy, grip.basy);
     return grip;
 }
@@ -62,12 +69,31 @@ QVector<Grip> SongReader::vsechnyHmaty() const {
     bool konec = false;
     for (int prvni = 1; !konec && prvni <= lastRow; prvni += radkuNaraz) {
         const QVector<Grip> hmaty = gripy(prvni, radkuNaraz);
-        const auto za =
-            std::find_if(hmaty.cbegin(), hmaty.cend(), [](const Grip& hmat) { return hmat.tony.isEmpty(); });
+        const auto za = std::find_if(hmaty.cbegin(), hmaty.cend(), [](const Grip& hmat) {
+            return hmat.tony.isEmpty() || hmat.bezPrvnihoTonu;
+        });
         std::copy(hmaty.cbegin(), za, std::back_inserter(pisen));
         konec = za != hmaty.cend();
     }
     return pisen;
+}
+
+QList<int> SongReader::radkySHmaty(int prvni) const {
+    QList<int> radky;
+    qsizetype predtim = -1;
+    while (predtim != radky.size() && prvni <= lastRow) {
+        predtim = radky.size();
+        for (const Grip& hmat : gripy(prvni, radkuNaraz)) {
+            if (!hmat.prazdny() || smerMechu(hmat.smer) != SmerMechu::Neuveden) radky.append(prvni);
+            ++prvni;
+        }
+    }
+    return radky;
+}
+
+QStringList SongReader::tonyDoMezery(int radek) const {
+    const CellBlock blok = pisen_.excel().readBlock(adresa(sloupce::hmat, radek));
+    return Bunky(blok.constFirst()).textyDoPrvniPrazdne(sloupce::tony);
 }
 
 VyrezPisne SongReader::kolemKurzoru() const {

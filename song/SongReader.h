@@ -31,9 +31,14 @@ public:
     /// sheet are empty grips.
     QVector<Grip> gripy(int prvni, int pocet) const;
     Grip grip(int radek) const { return gripy(radek, 1).constFirst(); }
+    /// The tones of a row up to the first empty cell.
+    QStringList tonyDoMezery(int radek) const;
     /// The whole song of the active sheet for who takes it as one: its rows from the first to the last before
     /// the first without a tone in column B. Not held to the 500 rows in which the last grip is looked for.
     QVector<Grip> vsechnyHmaty() const;
+    /// The rows from `prvni` on that hold a tone, a bass or a direction; looked for until a long stretch
+    /// holds none.
+    QList<int> radkySHmaty(int prvni) const;
     /// The neighbourhood of the cursor, in one block.
     VyrezPisne kolemKurzoru() const;
     /// The neighbourhood of the cursor's row `radek` and rows `prvni` to `posledni` besides, in one block.

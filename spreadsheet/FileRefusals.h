@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <system_error>
+
 namespace zvonika {
 
 // Why a workbook's file was not opened or saved: one Czech sentence that names the file without its folder.
@@ -19,6 +21,7 @@ inline constexpr char16_t readOnlyDisk[] = u"disk je jen pro čtení";
 inline constexpr char16_t diskFull[] = u"na disku není dost místa";
 inline constexpr char16_t isFolder[] = u"pod tímto jménem je na disku složka";
 QString folderMissing(const QString& nativePath); ///< names the folder of this file
+QString ofDisk(const std::error_code& error);     ///< why the system refuses to write
 } // namespace reason
 
 } // namespace zvonika

@@ -28,6 +28,12 @@ void refuseUnknownWorkbook(const QString& name) {
     refuse(error::subscriptOutOfRange, QStringLiteral("Sešit „%1“ není otevřen.").arg(name));
 }
 
+void refuseTwin(const QString& name) {
+    refuse(QStringLiteral("Sešit „%1“ je už otevřen v okně tabulky; dva sešity téhož jména najednou otevřít "
+                          "nelze. Uložte ho tam pod jiným jménem, nebo ho zavřete.")
+               .arg(name));
+}
+
 void refuseUnknownSheet(int index) {
     refuse(error::subscriptOutOfRange, QStringLiteral("List číslo %1 v sešitu není.").arg(index));
 }

@@ -15,10 +15,12 @@ namespace zvonika {
 
 [[noreturn]] void refuseNoWorkbook();                         ///< 91: no workbook is open
 [[noreturn]] void refuseUnknownWorkbook(const QString& name); ///< 9: none of that name is open
-[[noreturn]] void refuseUnknownSheet(int index);              ///< 9
-[[noreturn]] void refuseUnknownSheet(const QString& name);    ///< 9
-[[noreturn]] void refuseNextSheet();                          ///< 91: behind the last sheet
-[[noreturn]] void refuseNothingFound();                       ///< 91
+/// Another workbook of this file name is open, and two of a name cannot be.
+[[noreturn]] void refuseTwin(const QString& name);
+[[noreturn]] void refuseUnknownSheet(int index);           ///< 9
+[[noreturn]] void refuseUnknownSheet(const QString& name); ///< 9
+[[noreturn]] void refuseNextSheet();                       ///< 91: behind the last sheet
+[[noreturn]] void refuseNothingFound();                    ///< 91
 
 /// The cells of an address ("B7", "B1:B500"); refuses what is no address.
 CellRange cellsAt(const QString& address);

@@ -2,16 +2,26 @@
 
 #include "platform/Dialogs.h"
 #include "spreadsheet/Refusals.h"
+#include "spreadsheet/SaveSentences.h"
 
 namespace zvonika {
 
 bool wantsToSave(Dialogs& dialogs, const QString& title, const QString& workbook) {
-    const QString question = QStringLiteral("Sešit „%1“ má neuložené změny. Chcete ho uložit?").arg(workbook);
+    const QString question = QStringLiteral("Sešit „%1“ má neuložené změny. Chcete ho uložit? "
+                                            "Odpovíte-li Ne, změny se ztratí.")
+                                 .arg(workbook);
     return dialogs.message({title, question, Icon::Exclamation, Buttons::YesNo}) == Answer::Yes;
 }
 
 bool mayReplace(Dialogs& dialogs, const QString& title, const QString& fileName) {
-    const QString question = QStringLiteral("Soubor „%1“ už existuje. Chcete ho nahradit?").arg(fileName);
+    const QString question = QStringLiteral("Soubor „%1“ už existuje. Chcete ho nahradit?\n\nOdpovíte-li Ne, "
+                                            "zůstane, jak je; nic se neuloží a Zvonika oznámí chybu.")
+                                 .arg(fileName);
+    return dialogs.message({title, question, Icon::Exclamation, Buttons::YesNo, Answer::No}) == Answer::Yes;
+}
+
+bool mayOverwrite(Dialogs& dialogs, const QString& title, const QString& nativePath) {
+    const QString question = overwriteQuestion(nativePath);
     return dialogs.message({title, question, Icon::Exclamation, Buttons::YesNo, Answer::No}) == Answer::Yes;
 }
 

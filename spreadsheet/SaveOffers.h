@@ -14,6 +14,9 @@ class Dialogs;
 bool wantsToSave(Dialogs& dialogs, const QString& title, const QString& workbook);
 /// Asks before an existing file is replaced; No is proposed.
 bool mayReplace(Dialogs& dialogs, const QString& title, const QString& fileName);
+/// Asks before a save in its place writes over what another program has put into a file since it was opened;
+/// No is proposed. The last question before a save: others can write while a box is up.
+bool mayOverwrite(Dialogs& dialogs, const QString& title, const QString& nativePath);
 /// 1004: the user does not want the file replaced.
 [[noreturn]] void refuseNotReplaced(const QString& fileName);
 /// Asks for the name of a file to save under; ends in ".xls". Nothing when it was given up.

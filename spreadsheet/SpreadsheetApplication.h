@@ -22,8 +22,9 @@ using AutomationError = RuntimeError;
 class SpreadsheetListener {
 public:
     virtual ~SpreadsheetListener() = default;
-    virtual void cursorMoved() = 0; ///< another active cell or sheet
-    virtual void cellsEdited() = 0; ///< cells, or the name of a sheet, have changed
+    virtual void cursorMoved() = 0;  ///< another active cell or sheet
+    virtual void cellsEdited() = 0;  ///< cells, or the name of a sheet, have changed
+    virtual void troubleChanged() {} ///< `SpreadsheetApplication::trouble` says something else than before
 };
 
 /// The fixed arguments of a save under a new name: normal format, no passwords, no backup.
@@ -66,6 +67,9 @@ public:
     virtual void setListener(SpreadsheetListener* listener) = 0;
     /// Brings the application's window to the front and gives it the keyboard.
     virtual void showToUser() = 0;
+    /// Why unsaved changes would not outlive a crash at the moment: one sentence for the user; "" as a rule.
+    /// Throws nothing.
+    virtual QString trouble() const { return {}; }
 
     // --- workbooks ---
     virtual void addWorkbook() = 0;
@@ -75,12 +79,14 @@ public:
     virtual void saveActiveWorkbookAs(const SaveAsArguments& arguments) = 0;
     virtual void saveActiveWorkbook() = 0;
     virtual void closeActiveWorkbook() = 0;
+    /// Cells or names of sheets have changed since it was opened or saved; the cursor does not count.
+    virtual bool activeWorkbookModified() const = 0;
     /// File name without folder; "" when the application has no workbook.
     virtual QString activeWorkbookName() const = 0;
     /// Brings a workbook to the front by its file name; 9 when it is not open or the name is empty.
     virtual void activateWindow(const QString& name) = 0;
 
-    // --- sheets ---
+    // --- sheets: those that the user can see; hidden ones are not counted, walked or found by name ---
     virtual QString activeSheetName() const = 0;
     virtual void renameActiveSheet(const QString& name) = 0;
     virtual int activeSheetIndex() const = 0; ///< from 1

@@ -10,6 +10,7 @@
 #include "song/ui/ElidovanyPopisek.h"
 #include "theory/ui/BarvyVyznamu.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QCloseEvent>
 #include <QComboBox>
@@ -24,6 +25,8 @@
 namespace zvonika {
 
 namespace {
+
+constexpr QColor barvaVarovani{0xA1, 0x1B, 0x12};
 
 PrikazoveTlacitko::Vyznam vyznam(DruhTlacitka druh) {
     switch (druh) {
@@ -82,12 +85,20 @@ Form1::Form1(SongPanel& panel, CommandStates& stavy, TrebleBoard& hmatnik, Timer
 }
 
 void Form1::postavStavovyRadek() {
-    // What a command has to tell may be longer than the window, which must not grow by it.
-    stav_ = new ElidovanyPopisek(QStringLiteral("lblStav"), this);
-    stav_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    stav_->setMinimumHeight(stav_->fontMetrics().height());
-    statusBar()->addWidget(stav_, 1);
+    varovani_ = radekStavu(QStringLiteral("lblVarovani"), 3);
+    varovani_->nastavTucne(true);
+    varovani_->nastavBarvu(barvaVarovani);
+    stav_ = radekStavu(QStringLiteral("lblStav"), 2);
     statusBar()->setSizeGripEnabled(false);
+}
+
+// What a command has to tell may be longer than the window, which must not grow by it.
+ElidovanyPopisek* Form1::radekStavu(const QString& jmeno, int dil) {
+    auto* radek = new ElidovanyPopisek(jmeno, this);
+    radek->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    radek->setMinimumHeight(radek->fontMetrics().height());
+    statusBar()->addWidget(radek, dil);
+    return radek;
 }
 
 void Form1::umisti(QWidget* prvek, const QRect& twips) {
@@ -236,8 +247,18 @@ void Form1::ukazPanel() {
     lblTon_->setText(panel_.lblTon);
     lblLadeni_->nastavText(panel_.lblLadeni);
     stav_->nastavText(panel_.stav);
+    ukazVarovani();
     ukazListy();
     ukazBarvuKroku();
+}
+
+void Form1::ukazVarovani() {
+    const QString text = panel_.varovani();
+    varovani_->setVisible(!text.isEmpty());
+    if (text == varovani_->text()) return;
+    varovani_->nastavText(text);
+    QAccessibleEvent udalost(varovani_, QAccessible::Alert);
+    if (!text.isEmpty()) QAccessible::updateAccessibility(&udalost);
 }
 
 void Form1::ukazListy() {

@@ -61,7 +61,9 @@ private:
     void postavMenu();
     void pridejPolozku(QMenu& menu, const PolozkaMenu& polozka);
     void postavStavovyRadek();
+    ElidovanyPopisek* radekStavu(const QString& jmeno, int dil);
     void ukazPanel();
+    void ukazVarovani();
     void ukazListy();
     void ukazBarvuKroku();
     void ukazZaskrtnuti();
@@ -76,6 +78,8 @@ private:
     QComboBox* combo_ = nullptr;
     QLabel* lblTon_ = nullptr;
     ElidovanyPopisek* lblLadeni_ = nullptr;
+    ElidovanyPopisek* varovani_ =
+        nullptr; ///< before it in the status line; hidden where there is nothing to warn of
     ElidovanyPopisek* stav_ = nullptr;
 };
 

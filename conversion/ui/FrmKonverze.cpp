@@ -2,6 +2,7 @@
 
 #include "conversion/Konverze.h"
 #include "platform/ui/PrvkyDialogu.h"
+#include "spreadsheet/Address.h"
 #include "theory/ui/VolbyTonin.h"
 
 #include <QButtonGroup>
@@ -16,6 +17,10 @@ namespace zvonika {
 namespace {
 
 const QString nejdelsiTitulek = QStringLiteral("Změňte stupnici a stikněte pokračovat.");
+
+QString prubeh(int radek) {
+    return QStringLiteral("Převeden řádek %1 …").arg(radek);
+}
 
 void zvyrazni(QWidget* prvek, double zvetseni = 1) {
     QFont pismo = prvek->font();
@@ -95,6 +100,7 @@ QWidget* FrmKonverze::postavTlacitka() {
         prikaz(QStringLiteral("cmdPokracovat"), QStringLiteral("Pokračovat"), &Konverze::cmdPokracovat);
     cmdGo_ = prikaz(QStringLiteral("cmdGo"), QStringLiteral("Provést"), &Konverze::cmdGo);
     lblPrubeh_ = napis(QStringLiteral("lblPrubeh"), {});
+    lblPrubeh_->setMinimumWidth(lblPrubeh_->fontMetrics().horizontalAdvance(prubeh(lastRow)));
     rozvrh->addWidget(cmdKonec);
     rozvrh->addWidget(lblPrubeh_, 1);
     rozvrh->addWidget(cmdPokracovat_);
@@ -146,8 +152,7 @@ void FrmKonverze::ukazBeh() {
     cmdPokracovat_->setVisible(stav_.pokracovatViditelne);
     cmdPokracovat_->setEnabled(!stav_.bezi && stav_.ceka);
     cmdPokracovat_->setDefault(stav_.ceka);
-    lblPrubeh_->setText(stav_.bezi && stav_.radek > 0 ? QStringLiteral("Převeden řádek %1 …").arg(stav_.radek)
-                                                      : QString());
+    lblPrubeh_->setText(stav_.bezi && stav_.radek > 0 ? prubeh(stav_.radek) : QString());
     stav_.bezi ? setCursor(Qt::WaitCursor) : unsetCursor();
 }
 

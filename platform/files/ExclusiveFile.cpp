@@ -1,5 +1,7 @@
 #include "platform/files/ExclusiveFile.h"
 
+#include "platform/files/RegularDescriptor.h"
+
 #include <QFile>
 
 #include <cerrno>
@@ -12,7 +14,7 @@ namespace zvonika {
 
 namespace {
 
-constexpr mode_t forEverybody = 0644;
+constexpr mode_t beforeTheMask = 0644;
 
 class Handle {
 public:
@@ -35,9 +37,8 @@ Exclusive outcome(int result, int otherFirst) {
     return errno == otherFirst ? Exclusive::OtherFirst : Exclusive::Impossible;
 }
 
-/// One call: a text this short is not written by halves. Some file systems have no modes to set.
+/// One call: a text this short is not written by halves.
 bool fill(int file, const QByteArray& text) {
-    (void)::fchmod(file, forEverybody);
     return ::write(file, text.constData(), std::size_t(text.size())) == text.size();
 }
 
@@ -47,14 +48,14 @@ QByteArray folderBeside(const QByteArray& path) {
 
 /// A file without a name gets one when it is written; nothing is left of a process that dies before.
 Exclusive makeWhole(const QByteArray& path, const QByteArray& text) {
-    const Handle file(::open(folderBeside(path), O_TMPFILE | O_WRONLY | O_CLOEXEC, forEverybody));
+    const Handle file(::open(folderBeside(path), O_TMPFILE | O_WRONLY | O_CLOEXEC, beforeTheMask));
     if (!file.isOpen() || !fill(file.get(), text)) return Exclusive::Impossible;
     const QByteArray nameless = "/proc/self/fd/" + QByteArray::number(file.get());
     return outcome(::linkat(AT_FDCWD, nameless, AT_FDCWD, path, AT_SYMLINK_FOLLOW), EEXIST);
 }
 
 Exclusive makeInPlace(const QByteArray& path, const QByteArray& text) {
-    const Handle file(::open(path, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, forEverybody));
+    const Handle file(::open(path, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, beforeTheMask));
     if (!file.isOpen()) return outcome(-1, EEXIST);
     if (fill(file.get(), text)) return Exclusive::Done;
     ::unlink(path); // a full disk; others could not tell whose it is
@@ -64,7 +65,7 @@ Exclusive makeInPlace(const QByteArray& path, const QByteArray& text) {
 bool isStillAt(const QByteArray& path, int file) {
     struct stat here {};
     struct stat there {};
-    return ::fstat(file, &here) == 0 && ::stat(path, &there) == 0 && here.st_ino == there.st_ino &&
+    return ::fstat(file, &here) == 0 && ::lstat(path, &there) == 0 && here.st_ino == there.st_ino &&
            here.st_dev == there.st_dev;
 }
 
@@ -85,8 +86,8 @@ Exclusive makeExclusively(const QString& path, const QByteArray& text) {
 // Who deletes a file must hold its lock and have found it under its name then: the others come too late.
 Exclusive removeExclusively(const QString& path, const QByteArray& text) {
     const QByteArray name = QFile::encodeName(path);
-    const Handle file(::open(name, O_RDONLY | O_CLOEXEC));
-    if (!file.isOpen()) return outcome(-1, ENOENT);
+    const Handle file(openRegular(name, Links::Refuse, text.size(), O_RDONLY));
+    if (!file.isOpen()) return errno == EACCES ? Exclusive::Impossible : Exclusive::OtherFirst;
     if (::flock(file.get(), LOCK_EX | LOCK_NB) < 0 && errno == EWOULDBLOCK) return Exclusive::OtherFirst;
     if (!isStillAt(name, file.get()) || !holds(file.get(), text)) return Exclusive::OtherFirst;
     return outcome(::unlink(name), ENOENT);

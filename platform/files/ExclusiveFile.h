@@ -11,7 +11,7 @@ enum class Exclusive {
     Impossible, ///< not in this folder
 };
 
-/// Makes a small file that everybody may read, whatever the user's mask. It is there with its whole text as a
+/// Makes a small file that those may read whom the user's mask lets. It is there with its whole text as a
 /// rule; in file systems that cannot do that, empty for a moment. `OtherFirst` when there is one already.
 Exclusive makeExclusively(const QString& path, const QByteArray& text);
 

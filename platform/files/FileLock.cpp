@@ -4,11 +4,14 @@
 #include "platform/files/Checksum.h"
 #include "platform/files/ExclusiveFile.h"
 #include "platform/files/LockSentences.h"
+#include "platform/files/OfficeLock.h"
 #include "platform/files/ProcessStart.h"
+#include "platform/files/RegularFile.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QMessageAuthenticationCode>
 #include <QStringList>
 #include <QSysInfo>
 #include <QThread>
@@ -20,6 +23,7 @@ namespace zvonika {
 namespace {
 
 const QString formName = QStringLiteral("Tabulka Zvoniky 1");
+constexpr qint64 largestLock = 4096; ///< bytes
 constexpr int attempts = 40;
 constexpr unsigned long pauseBetween = 5; ///< ms; a lock is written in much less
 
@@ -27,6 +31,14 @@ constexpr unsigned long pauseBetween = 5; ///< ms; a lock is written in much les
 QFileInfo lockedFile(const QString& nativePath) {
     const QString canonical = QFileInfo(nativePath).canonicalFilePath();
     return QFileInfo(canonical.isEmpty() ? nativePath : canonical);
+}
+
+/// Equal for equal identifiers, and tells nothing else of them: a lock lies where others read it.
+QString veiled(const QByteArray& identifier) {
+    if (identifier.isEmpty()) return {};
+    const QByteArray hash =
+        QMessageAuthenticationCode::hash(formName.toUtf8(), identifier, QCryptographicHash::Sha256);
+    return QString::fromLatin1(hash.toHex().left(32));
 }
 
 /// A long name leaves no room for the rest: its end gives way to a checksum of the whole.
@@ -43,13 +55,15 @@ QString nameOfLock(const QString& file) {
 }
 
 LockHolder ourselves() {
+    static const QString machine = veiled(QSysInfo::machineUniqueId());
+    static const QString boot = veiled(QSysInfo::bootUniqueId());
     const qint64 process = QCoreApplication::applicationPid();
     return {{},
             QSysInfo::machineHostName(),
             QCoreApplication::applicationName(),
             process,
-            QString::fromLatin1(QSysInfo::machineUniqueId()),
-            QString::fromLatin1(QSysInfo::bootUniqueId()),
+            machine,
+            boot,
             processStart(process).value_or(QString())};
 }
 
@@ -91,15 +105,24 @@ struct Found {
     bool counts() const { return state == State::Held || state == State::BeingWritten; }
 };
 
+/// What cannot be read is of somebody: a pipe or a folder, a link, too much of anything, a file of
+/// another user.
 Found look(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return QFileInfo::exists(path) ? Found{State::Held, {}, {}} : Found{};
-    const QByteArray text = file.read(4096);
-    if (text.isEmpty()) return {State::BeingWritten, {}, {}};
-    const auto holder = parsed(text);
-    if (!holder) return {State::Meaningless, text, {}};
-    return {isGone(*holder) ? State::Dead : State::Held, text, *holder};
+    const ReadBytes lock = readRegular(path, Links::Refuse, largestLock);
+    if (lock.trouble) {
+        const QFileInfo there(path);
+        return there.exists() || there.isSymLink() ? Found{State::Held, {}, {}} : Found{};
+    }
+    if (lock.bytes.isEmpty()) return {State::BeingWritten, {}, {}};
+    const auto holder = parsed(lock.bytes);
+    if (!holder) return {State::Meaningless, lock.bytes, {}};
+    return {isGone(*holder) ? State::Dead : State::Held, lock.bytes, *holder};
+}
+
+/// Of a link it would be the owner of what it leads to.
+QString ownerOf(const QString& path) {
+    const QFileInfo file(path);
+    return file.isSymLink() ? QString() : file.owner();
 }
 
 /// One that stays empty is of somebody all the same.
@@ -109,7 +132,7 @@ Found lookWhenWritten(const QString& path) {
         QThread::msleep(pauseBetween);
         found = look(path);
     }
-    if (found.counts()) found.holder.user = QFileInfo(path).owner();
+    if (found.counts()) found.holder.user = ownerOf(path);
     return found;
 }
 
@@ -124,6 +147,10 @@ bool isNoName(const QString& nativePath) {
 
 } // namespace
 
+bool LockHolder::isReadable() const {
+    return process != 0 || !host.isEmpty() || !program.isEmpty();
+}
+
 bool LockHolder::isThisProcess() const {
     const LockHolder here = ourselves();
     return isSameMachine(*this, here) && boot == here.boot && process == here.process && start == here.start;
@@ -137,12 +164,13 @@ QString FileLock::lockName(const QString& nativePath) {
 std::optional<LockHolder> FileLock::holder(const QString& nativePath) {
     if (isNoName(nativePath)) return {};
     const Found found = lookWhenWritten(lockName(nativePath));
-    return found.counts() ? std::optional(found.holder) : std::nullopt;
+    return found.counts() ? std::optional(found.holder) : officeLockHolder(nativePath);
 }
 
 FileLock FileLock::acquire(const QString& nativePath) {
     FileLock lock;
     if (isNoName(nativePath)) return lock;
+    if (const auto office = officeLockHolder(nativePath)) refuse(nativePath, *office);
     const QString path = lockName(nativePath);
     for (int i = 0; i < attempts; ++i) {
         const Found found = lookWhenWritten(path);

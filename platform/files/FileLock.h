@@ -14,13 +14,16 @@ struct LockHolder {
     QString host;                 ///< the computer's name; may be ""
     QString program;              ///< without folder; may be ""
     qint64 process = 0;           ///< 0: not known
-    QString machine, boot, start; ///< tell whether it still runs
+    QString machine, boot, start; ///< tell whether it still runs; the first two as keyed hashes
+    bool isReadable() const;      ///< more is known than the user
     bool isThisProcess() const;
 };
 
 /// Tells others that a file is open here, by a hidden file ".~<name>.zamek" beside it. The lock of a process
 /// of this computer that is gone counts for nothing, also when its number is in use again; one that cannot be
-/// read counts. Where no such file can be made (folder not writable), the file stays unlocked.
+/// read counts, be it another user's, a link, a pipe or too long for a lock, and so does the lock of an
+/// office program (OfficeLock.h). Where no such file can be made (folder not writable), the file stays
+/// unlocked.
 class FileLock {
 public:
     FileLock() = default; ///< locks nothing
@@ -28,7 +31,7 @@ public:
     FileLock& operator=(FileLock&& other) noexcept;
     ~FileLock();
 
-    /// The living process that has the file open; nothing when there is none.
+    /// Who has the file open, in a process that lives or in an office; nothing when nobody has.
     static std::optional<LockHolder> holder(const QString& nativePath);
     /// 1004, saying who has it open, when another one holds the lock, in this process or elsewhere. Of
     /// several that try at once, one gets it.

@@ -1,9 +1,9 @@
 #include "platform/media/FluidMedia.h"
 
+#include "platform/files/RegularFile.h"
 #include "platform/media/MidiFile.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QPluginLoader>
 
@@ -25,10 +25,8 @@ QString deviceKey(const QString& name) {
 }
 
 std::optional<QByteArray> readSong(const QString& native) {
-    QFile file(native);
-    if (!file.open(QIODevice::ReadOnly)) return std::nullopt;
-    const QByteArray bytes = file.read(largestSong + 1);
-    return bytes.size() <= largestSong && isPlayableMidi(bytes) ? std::optional(bytes) : std::nullopt;
+    const ReadBytes song = readRegular(native, Links::Follow, largestSong);
+    return !song.trouble && isPlayableMidi(song.bytes) ? std::optional(song.bytes) : std::nullopt;
 }
 
 QString pluginFile(const QStringList& folders) {

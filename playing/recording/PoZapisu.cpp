@@ -24,6 +24,12 @@ void PoZapisu::ukazNovyRadek(int radek) {
     okoli_.panel.barvaKroku = tlak ? BarvaKroku::TlakPoZapisu : BarvaKroku::Tah;
 }
 
+void PoZapisu::oznamZapis(int radek, SmerMechu smer) {
+    okoli_.panel.zapsano = QStringLiteral("Hmat %1 je zapsán na %2.")
+                               .arg(radek)
+                               .arg(smer == SmerMechu::Tlak ? QStringLiteral("tlak") : QStringLiteral("tah"));
+}
+
 void PoZapisu::obnovOkno() {
     list_.VyberBunkuB();
     PovolZpet(okoli_.prikazy); // the cursor has left the first row

@@ -18,6 +18,8 @@ public:
     /// Brings panel and strip up to date with the cursor.
     void obnovOkno();
     void zapocitejHmat() { ++okoli_.panel.zapsanychHmatu; }
+    /// Has it said that the grip of this row is recorded.
+    void oznamZapis(int radek, SmerMechu smer);
 
 private:
     void ukazNovyRadek(int radek);

@@ -37,6 +37,7 @@ void ZapisHmatu::ZapisHmat() {
     okoli_.poZapisu.naDalsiRadek();
     okoli_.poZapisu.zapocitejHmat();
     okoli_.poZapisu.obnovOkno();
+    okoli_.poZapisu.oznamZapis(radek, smerMechu(hmat.smer));
 }
 
 void ZapisHmatu::zapisTony(SongSheet& list, int radek, Grip& hmat) {

@@ -41,6 +41,7 @@ void ZapisHmatuZNot::ZapisHmatZNot(SmerMechu smer) {
     list.vyberRadek(radek);
     okoli_.poZapisu.naDalsiRadek();
     okoli_.poZapisu.obnovOkno();
+    okoli_.poZapisu.oznamZapis(radek, smer);
 }
 
 bool ZapisHmatuZNot::zapisTony(SongSheet& list, int radek, Grip& hmat) {
@@ -64,7 +65,7 @@ bool ZapisHmatuZNot::pridejTon(QStringList& tony, int slot) {
 }
 
 void ZapisHmatuZNot::SeradTonyHmatu(SongSheet& list, int radek) {
-    QStringList tony = list.grip(radek).tony;
+    QStringList tony = list.tonyDoMezery(radek);
     const auto niz = [](const QString& a, const QString& b) {
         return cisloTonu(ToneName(a)) < cisloTonu(ToneName(b));
     };

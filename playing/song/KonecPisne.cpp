@@ -2,6 +2,7 @@
 
 #include "platform/Hlaseni.h"
 #include "playing/song/PisenVOkne.h"
+#include "song/RadaPoChybe.h"
 
 namespace zvonika {
 
@@ -26,22 +27,36 @@ Message hlaseniUlozeni(int cislo) {
     }
 }
 
+/// The cause, and what to do now.
+QString vystraha(const RuntimeError& chyba, const Pisen& pisen) {
+    switch (chyba.number()) {
+    case error::subscriptOutOfRange:
+        return QStringLiteral(
+                   "Písnička „%1“ byla v tabulce zavřena dřív, než ji Zvonika uložila. Otevřete ji "
+                   "znovu tlačítkem Otevřít.")
+            .arg(pisen.aktualniPisen);
+    case error::applicationDefined:
+        return chyba.cause() + QStringLiteral(" Písnička zůstala otevřená v okně tabulky, odkud ji můžete "
+                                              "uložit jinam (F6, Soubor, Uložit jako…).");
+    default:
+        return QStringList{chyba.cause(), radaPoChybe(pisen, chyba.number())}.join(u' ').trimmed();
+    }
+}
+
 } // namespace
 
 void KonecPisne::cmdEndEdit() {
     okoli_.panel.lblStupnice.clear();
-    QString pricina;
     try {
         ulozAZavri();
     } catch (const std::exception& vyjimka) {
         const RuntimeError chyba = chybaSCislem(vyjimka);
+        okoli_.panel.vystraha = vystraha(chyba, okoli_.pisen);
+        okoli_.panel.oznamZmenu(); // beside the box, whose text is silent about the cause
         okoli_.dialogs.message(hlaseniUlozeni(chyba.number()));
-        pricina = chyba.cause();
     }
     vOkne_.stavBezPisne();
     vOkne_.uvolniDesku();
-    okoli_.panel.upozorneni = pricina;
-    okoli_.panel.oznamZmenu();
 }
 
 void KonecPisne::ulozAZavri() {
@@ -50,7 +65,7 @@ void KonecPisne::ulozAZavri() {
         if (!okoli_.pisen.otevrena()) return;
         excel.activateWindow(okoli_.pisen.aktualniPisen);
     }
-    excel.saveActiveWorkbook();
+    okoli_.pisen.ulozAktivni();
     excel.closeActiveWorkbook();
 }
 

@@ -2,6 +2,7 @@
 
 #include "playing/stepping/Listy.h"
 #include "playing/stepping/PrikazyPisne.h"
+#include "theory/Toniny.h"
 
 namespace zvonika {
 
@@ -30,6 +31,20 @@ void PisenVOkne::ukazOtevrenou() {
     list_.VyberBunkuB();
     NaplnListy();
     s_.navigace.ukazOdKurzoru();
+    pripomenToninu();
+}
+
+/// What is recorded next gets the key of the button, not that of the song.
+void PisenVOkne::pripomenToninu() {
+    const DurovaTonina* radku = najdiToninu(Key(okoli_.panel.lblStupnice));
+    const DurovaTonina* zvolena = najdiToninu(s_.tonina.stupnice());
+    if (!radku || radku == zvolena) return;
+    const QString veta =
+        zvolena ? QStringLiteral("Hmat je v tónině %1, pro zápis je zvolena %2 (Ctrl+T).")
+                      .arg(radku->nazev, zvolena->nazev)
+                : QStringLiteral("Hmat je v tónině %1, pro zápis ale tónina zvolena není (Ctrl+T).")
+                      .arg(radku->nazev);
+    okoli_.panel.upozorneni = (okoli_.panel.upozorneni + u' ' + veta).trimmed();
 }
 
 void PisenVOkne::ukazNovou() {
@@ -58,6 +73,7 @@ void PisenVOkne::NaplnListy() {
 
 void PisenVOkne::stavBezPisne() {
     okoli_.pisen.aktualniPisen.clear();
+    okoli_.pisen.plneJmeno.clear();
     ZakazPrikazyPisne(okoli_.prikazy);
     okoli_.prikazy.povol(QStringLiteral("Combo1"), false);
     vyprazdniTexty();

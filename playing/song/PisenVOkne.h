@@ -2,6 +2,7 @@
 
 #include "playing/song/Zvuk.h"
 #include "playing/stepping/Navigace.h"
+#include "theory/Tonina.h"
 
 namespace zvonika {
 
@@ -17,6 +18,7 @@ public:
         PasPisne& pas;
         Navigace& navigace;
         Zvuk& zvuk;
+        const Tonina& tonina;            ///< the key that is chosen for recording
         std::function<void()> uvolniVse; ///< releases the whole board
     };
 
@@ -39,6 +41,7 @@ public:
 
 private:
     void NaplnListy(); ///< fills the list of Combo1 with the names of all sheets, in workbook order
+    void pripomenToninu();
     void vyprazdniTexty();
 
     OkoliPisne okoli_;

@@ -6,14 +6,14 @@ bool SlozkaExistuje(const Drive& drive, const QString& path) {
     return drive.folderExists(path);
 }
 
-bool PisenExistuje(Drive& drive, Dialogs& dialogs, const QString& path) {
+bool PisenExistuje(Drive& drive, Dialogs& dialogs, const QString& path, PuvodniPisne& puvodni) {
     while (drive.fileExists(path)) {
         const Answer odpoved = dialogs.message(
             {QStringLiteral("Tato skladba již existuje!"),
              QStringLiteral("Přejete si vymazat z disku původní písničku a nahradit ji novou ?"),
              Icon::Exclamation, Buttons::YesNo});
         if (odpoved != Answer::Yes) return true;
-        drive.deleteFile(path);
+        puvodni.push_back(drive.setAside(path));
     }
     return false;
 }

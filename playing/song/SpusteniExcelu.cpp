@@ -22,9 +22,9 @@ void vratCestu(std::unique_ptr<SpreadsheetApplication> excel, const SpreadsheetL
 
 // The application keeps its default folder in its own settings, so what the first instance is given reaches
 // the second one only after the first has quit.
-void nastavPracovniCestu(const SpreadsheetLauncher& spoustec, Pisen& pisen) {
+void nastavPracovniCestu(const SpreadsheetLauncher& spoustec, Pisen& pisen, const PuvodniCesta& puvodni) {
     auto prvni = spoustec();
-    pisen.puvodniCestaExcelu = prvni->defaultFilePath();
+    pisen.puvodniCestaExcelu = puvodni.zjisti(prvni->defaultFilePath());
     try {
         prvni->setDefaultFilePath(pracovniAdresar);
         prvni->quit();
@@ -36,8 +36,8 @@ void nastavPracovniCestu(const SpreadsheetLauncher& spoustec, Pisen& pisen) {
 
 } // namespace
 
-void SpustExcel(const SpreadsheetLauncher& spoustec, Pisen& pisen) {
-    nastavPracovniCestu(spoustec, pisen);
+void SpustExcel(const SpreadsheetLauncher& spoustec, Pisen& pisen, const PuvodniCesta& puvodni) {
+    nastavPracovniCestu(spoustec, pisen, puvodni);
     std::unique_ptr<SpreadsheetApplication> druha;
     try {
         druha = spoustec();

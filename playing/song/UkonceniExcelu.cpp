@@ -39,7 +39,7 @@ bool UkonceniExcelu::pokus(Krok krok, const std::function<void()>& provedeni) {
 }
 
 void UkonceniExcelu::ulozPisen() {
-    if (pisen_.AktivujPisen()) pisen_.excel().saveActiveWorkbook();
+    if (pisen_.AktivujPisen()) pisen_.ulozAktivni();
 }
 
 // The folder is given back after quitting, not before: quitting would store the program's own folder.

@@ -3,6 +3,7 @@
 #include "platform/Hlaseni.h"
 #include "playing/song/PisenVOkne.h"
 #include "playing/song/SlozkaPisni.h"
+#include "song/RadaPoChybe.h"
 
 namespace zvonika {
 
@@ -26,35 +27,51 @@ void ZalozeniPisne::cmdNovaSkladba() {
         okoli_.dialogs.input(QStringLiteral("Nová skladba."), QStringLiteral("Zadejte název nové písničky."));
     if (nazev.isEmpty()) return;
     const QString plneJmeno = pracovniAdresar + u'\\' + nazev + QStringLiteral(".xls");
-    if (PisenExistuje(drive_, okoli_.dialogs, plneJmeno)) {
+    PuvodniPisne puvodni;
+    if (PisenExistuje(drive_, okoli_.dialogs, plneJmeno, puvodni)) {
         okoli_.dialogs.message({QStringLiteral("Založení nové skladby přerušeno."),
                                 QStringLiteral("Začněte znovu a zadejte jiný název písně."),
                                 Icon::Information});
         return;
     }
-    zalozPisen(plneJmeno);
+    zalozPisen(plneJmeno, puvodni);
 }
 
-void ZalozeniPisne::zalozPisen(const QString& plneJmeno) {
+void ZalozeniPisne::zalozPisen(const QString& plneJmeno, const PuvodniPisne& puvodni) {
+    bool ulozena = false;
     try {
-        zalozSesit(plneJmeno);
+        zalozSesit(plneJmeno, ulozena);
         okoli_.pisen.excel().renameActiveSheet(QStringLiteral("Tonavox XII"));
         vOkne_.ukazNovou();
+        for (const auto& stara : puvodni)
+            stara->giveUp();
     } catch (const std::exception& vyjimka) {
         const RuntimeError chyba = chybaSCislem(vyjimka);
         vOkne_.zahodRozdelanou();
-        okoli_.dialogs.message(hlaseniZalozeni(chyba.number()));
-        okoli_.panel.upozorneni = chyba.cause();
+        if (ulozena) drive_.deleteFile(plneJmeno); // nothing was recorded in it yet
+        okoli_.panel.vystraha =
+            QStringList{chyba.cause(), radaPoChybe(okoli_.pisen, chyba.number())}.join(u' ').trimmed();
+        vratPuvodni(puvodni);
         okoli_.panel.oznamZmenu();
+        okoli_.dialogs.message(hlaseniZalozeni(chyba.number()));
     }
 }
 
-void ZalozeniPisne::zalozSesit(const QString& plneJmeno) {
+void ZalozeniPisne::vratPuvodni(const PuvodniPisne& puvodni) {
+    for (const auto& stara : puvodni)
+        if (const QString jmeno = stara->bringBack(); !jmeno.isEmpty())
+            okoli_.panel.vystraha +=
+                QStringLiteral(" Původní písnička je zachována v souboru „%1“.").arg(jmeno);
+}
+
+void ZalozeniPisne::zalozSesit(const QString& plneJmeno, bool& ulozen) {
     SpreadsheetApplication& excel = okoli_.pisen.excel();
     excel.addWorkbook();
     try {
         excel.saveActiveWorkbookAs({plneJmeno});
+        ulozen = true;
         okoli_.pisen.aktualniPisen = excel.activeWorkbookName();
+        okoli_.pisen.plneJmeno = plneJmeno;
     } catch (...) {
         zavriTise(excel); // no nameless workbook may stay behind in front of the user
         throw;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Drive.h"
+#include "playing/song/SlozkaPisni.h"
 #include "playing/stepping/OkoliPisne.h"
 
 namespace zvonika {
@@ -14,12 +15,14 @@ public:
         : okoli_(okoli), drive_(drive), vOkne_(vOkne) {}
 
     /// Asks for a name. Failures of the spreadsheet application are reported here; their cause stands in
-    /// `panel.upozorneni`, and no song is open then.
+    /// `panel.vystraha`, no song is open then, and one that was to be replaced is as it was. RuntimeError 70
+    /// when that one cannot be deleted.
     void cmdNovaSkladba();
 
 private:
-    void zalozPisen(const QString& plneJmeno);
-    void zalozSesit(const QString& plneJmeno);
+    void zalozPisen(const QString& plneJmeno, const PuvodniPisne& puvodni);
+    void zalozSesit(const QString& plneJmeno, bool& ulozen);
+    void vratPuvodni(const PuvodniPisne& puvodni);
 
     OkoliPisne okoli_;
     Drive& drive_;

@@ -4,23 +4,39 @@ namespace zvonika {
 
 ZivotPisne::ZivotPisne(const OkoliPisne& okoli, Drive& drive,
                        const PisenVOkne::Spolupracovnici& spolupracovnici)
-    : okoli_(okoli), list_(okoli.pisen), vOkne_(okoli, spolupracovnici), zalozeni_(okoli, drive, vOkne_),
-      konec_(okoli, vOkne_) {}
+    : okoli_(okoli), drive_(drive), list_(okoli.pisen), vOkne_(okoli, spolupracovnici),
+      zalozeni_(okoli, drive, vOkne_), konec_(okoli, vOkne_) {}
 
 void ZivotPisne::cmdEdit() {
     SpreadsheetApplication& excel = okoli_.pisen.excel();
     const auto soubor = excel.getOpenFilename(QStringLiteral("Excel Files,*.xls"),
                                               QStringLiteral("Vyberte písničku, kterou chcete zkoušet !"));
-    if (!soubor) return;
-    excel.openWorkbook(*soubor);
+    if (soubor) otevri(*soubor);
+}
+
+void ZivotPisne::otevri(const QString& soubor) {
+    SpreadsheetApplication& excel = okoli_.pisen.excel();
+    excel.openWorkbook(soubor);
     try {
         okoli_.pisen.aktualniPisen = excel.activeWorkbookName();
+        okoli_.pisen.plneJmeno = *soubor;
         vOkne_.ukazOtevrenou();
+        oznamJenKeCteni();
     } catch (...) {
         if (!okoli_.pisen.otevrena()) zavriTise(excel);
         vOkne_.zahodRozdelanou();
         throw;
     }
+}
+
+void ZivotPisne::oznamJenKeCteni() {
+    const QString pricina = drive_.readOnlyBecause(okoli_.pisen.plneJmeno);
+    if (pricina.isEmpty()) return;
+    okoli_.panel.vystraha =
+        pricina +
+        QStringLiteral(" Změny do něj uložit nepůjde; písničku pak uložte z okna tabulky jinam (F6, "
+                       "Soubor, Uložit jako…).");
+    okoli_.panel.oznamZmenu();
 }
 
 void ZivotPisne::prevezmiPisen() {
@@ -45,7 +61,7 @@ void ZivotPisne::ukazList(const QString& list) {
     okoli_.panel.lblLadeni = list;
     okoli_.panel.Combo1 = list;
     vOkne_.ukazRadekListu();
-    excel.saveActiveWorkbook();
+    okoli_.pisen.ulozAktivni();
 }
 
 } // namespace zvonika

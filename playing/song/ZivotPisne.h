@@ -18,6 +18,7 @@ public:
     void cmdEndEdit() { konec_.cmdEndEdit(); }            ///< as `KonecPisne`
     /// Open song. Throws AutomationError; no song is open then and the commands are as before.
     void cmdEdit();
+    void otevri(const QString& soubor); ///< the same with a file that is known, by its full name
     /// The user has chosen a sheet in Combo1. Throws AutomationError.
     void Combo1Click(const QString& list);
 
@@ -30,8 +31,10 @@ public:
 
 private:
     void ukazList(const QString& list);
+    void oznamJenKeCteni();
 
     OkoliPisne okoli_;
+    const Drive& drive_;
     SongSheet list_;
     PisenVOkne vOkne_;
     ZalozeniPisne zalozeni_;

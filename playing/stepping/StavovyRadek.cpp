@@ -12,6 +12,9 @@ QString coDal(const StavProgramu& stav) {
     if (stav.automatBezi)
         return QStringLiteral("Automat jde písničkou sám, rychlost mění Tempo. Zastaví ho tlačítko Automat "
                               "nebo klávesa F9.");
+    if (!stav.zapsano.isEmpty())
+        return stav.zapsano +
+               QStringLiteral(" Knoflíky zůstávají označené pro další hmat, uvolní je klávesa F4.");
     if (!stav.neniCoZapsat) return QStringLiteral("Zapište hmat tlačítkem < Tah nebo > Tlak.");
     if (stav.radekPrazdny)
         return QStringLiteral(
@@ -23,7 +26,7 @@ QString coDal(const StavProgramu& stav) {
 } // namespace
 
 QString stavovyRadek(const StavProgramu& stav) {
-    if (!stav.upozorneni.isEmpty()) return stav.upozorneni;
+    if (!stav.upozorneni.isEmpty()) return (stav.zapsano + u' ' + stav.upozorneni).trimmed();
     const bool bezToniny = stav.stupnice.isEmpty() || stav.stupnice == Key::vyberteToninu().text();
     // A key matters for what is written next, not for reading.
     const bool piseSe = stav.pisenOtevrena && (stav.radekPrazdny || !stav.neniCoZapsat);

@@ -11,6 +11,7 @@ struct StavProgramu {
     bool neniCoZapsat = true; ///< no treble or bass button is marked and no note entered
     bool radekPrazdny = true; ///< the current row holds no grip
     QString upozorneni;       ///< what the last command has to tell
+    QString zapsano;          ///< the grip that it has recorded, one sentence; "" when it has not
     bool automatBezi = false; ///< the song is being stepped through automatically
 };
 

@@ -55,6 +55,7 @@ void ZobrazeniHmatu::odeberHmat() {
     uvolniObrazky();
     odeberPrstoklad();
     plochy_.osnova.vyprazdni();
+    plochy_.panel.lblStrana.clear();
 }
 
 void ZobrazeniHmatu::odeberPrstoklad() {
@@ -83,6 +84,7 @@ void ZobrazeniHmatu::ukazTexty(const VyrezPisne& vyrez) {
     panel.lblTony = vyrez.hmat().tony.join(u' ');
     panel.lblBasy = vyrez.hmat().basy.join(u' ');
     panel.lblStupnice = vyrez.hmat().tonina;
+    panel.lblStrana = jinaStrana(smerMechu(vyrez.hmat().smer));
 }
 
 void ZobrazeniHmatu::uvolniObrazky() {
@@ -114,16 +116,26 @@ QStringList ZobrazeniHmatu::ukazBasy(const QStringList& basy) {
     return cizi;
 }
 
+QString ZobrazeniHmatu::jinaStrana(SmerMechu zapsany) const {
+    if (zapsany == SmerMechu::Neuveden || (zapsany == SmerMechu::Tlak) == zobrazenTlak_) return {};
+    return zobrazenTlak_ ? QStringLiteral("zapsáno na tah") : QStringLiteral("zapsáno na tlak");
+}
+
 QString ZobrazeniHmatu::upozorneni(const Grip& hmat, const QStringList& ciziTony,
                                    const QStringList& ciziBasy) const {
     QStringList vety;
+    if (!plochy_.panel.lblStrana.isEmpty())
+        vety.append(zobrazenTlak_ ? QStringLiteral("Hmat je ukázán na tlak, ale zapsán na tah (Ctrl+←).")
+                                  : QStringLiteral("Hmat je ukázán na tah, ale zapsán na tlak (Ctrl+→)."));
     if (!ciziTony.isEmpty())
         vety.append(QStringLiteral("Neznámý tón v tabulce: %1.").arg(ciziTony.join(u' ')));
     if (!ciziBasy.isEmpty()) {
         vety.append(QStringLiteral("Neznámý bas v tabulce: %1.").arg(ciziBasy.join(u' ')));
         vety.append(plochy_.tabulkaBasu.chyba());
     }
-    if (hmat.tonyZaMezerou) vety.append(QStringLiteral("Tóny za prázdnou buňkou se nečtou."));
+    if (hmat.bezPrvnihoTonu)
+        vety.append(QStringLiteral("Sloupec B je na tomto řádku prázdný: pro hledání posledního hmatu a pro "
+                                   "převod tu písnička končí."));
     if (hmat.basyZaMezerou) vety.append(QStringLiteral("Basy za prázdnou buňkou se nečtou."));
     return vety.join(u' ').trimmed();
 }

@@ -90,6 +90,7 @@ private:
     void odeberPrstoklad();
     QStringList ukazTony(const QStringList& tony);
     QStringList ukazBasy(const QStringList& basy);
+    QString jinaStrana(SmerMechu zapsany) const;
     QString upozorneni(const Grip& hmat, const QStringList& ciziTony, const QStringList& ciziBasy) const;
 
     SongSheet list_;

@@ -4,6 +4,7 @@
 #include "song/ui/ElidovanyPopisek.h"
 #include "theory/ui/OsnovaPainter.h"
 
+#include <QAccessible>
 #include <QPainter>
 
 namespace zvonika {
@@ -14,6 +15,7 @@ constexpr int okraj = 5;
 constexpr int soucasna = 2;
 constexpr QColor okolniSlabika{120, 114, 104};
 constexpr QColor popisekRadku{120, 114, 104};
+constexpr QColor jinaStrana{170, 30, 20};
 constexpr QColor pruhSlabik{250, 244, 230};
 
 } // namespace
@@ -23,6 +25,7 @@ PanelTextu::PanelTextu(SongPanel& panel, QWidget* parent)
       lblTony_(new ElidovanyPopisek(QStringLiteral("lblTony"), this)),
       lblPopisB_(new ElidovanyPopisek(QStringLiteral("lblPopisB"), this)),
       lblBasy_(new ElidovanyPopisek(QStringLiteral("lblBasy"), this)),
+      lblStrana_(new ElidovanyPopisek(QStringLiteral("lblStrana"), this)),
       lblStupnice_(new ElidovanyPopisek(QStringLiteral("lblStupnice"), this)) {
     setObjectName(QStringLiteral("panelTextu"));
     setAccessibleName(QStringLiteral("Texty hmatu"));
@@ -46,6 +49,9 @@ PanelTextu::PanelTextu(SongPanel& panel, QWidget* parent)
         obsah->nastavBarvu(barvyOsnovy::inkoust);
     }
     lblTony_->nastavDvaRadky();
+    lblStrana_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    lblStrana_->nastavBarvu(jinaStrana);
+    lblStrana_->nastavTucne(true);
     lblStupnice_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     connect(&panel_, &SongPanel::zmeneno, this, &PanelTextu::prevezmiZmenu);
     prevezmiZmenu();
@@ -57,8 +63,18 @@ void PanelTextu::prevezmiZmenu() {
     lblTony_->nastavText(panel_.lblTony);
     lblBasy_->nastavText(panel_.lblBasy);
     lblStupnice_->nastavText(panel_.lblStupnice);
+    ukazStranu();
     lblPopisD_->setVisible(panel_.popisyViditelne);
     lblPopisB_->setVisible(panel_.popisyViditelne);
+}
+
+/// A screen reader is told at once, wherever the player is.
+void PanelTextu::ukazStranu() {
+    if (panel_.lblStrana == lblStrana_->text()) return;
+    lblStrana_->nastavText(panel_.lblStrana);
+    if (panel_.lblStrana.isEmpty()) return;
+    QAccessibleEvent hlaseni(lblStrana_, QAccessible::Alert);
+    QAccessible::updateAccessibility(&hlaseni);
 }
 
 int PanelTextu::vyskaSlabik() const {
@@ -73,7 +89,9 @@ void PanelTextu::resizeEvent(QResizeEvent*) {
     const int sirka = width() - 2 * okraj;
     rozmistiRadek(lblPopisD_, lblTony_, {okraj, nahore, sirka, 2 * radek});
     rozmistiRadek(lblPopisB_, lblBasy_, {okraj, nahore + 2 * radek, sirka, radek});
-    lblStupnice_->setGeometry(okraj, nahore + 3 * radek, sirka, radek);
+    const int sirkaStrany = sirka * 60 / 100;
+    lblStrana_->setGeometry(okraj, nahore + 3 * radek, sirkaStrany, radek);
+    lblStupnice_->setGeometry(okraj + sirkaStrany, nahore + 3 * radek, sirka - sirkaStrany, radek);
 }
 
 void PanelTextu::rozmistiSlabiky(const QRect& misto) {

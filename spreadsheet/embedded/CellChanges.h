@@ -1,7 +1,7 @@
 #pragma once
 
 #include "spreadsheet/embedded/History.h"
-#include "spreadsheet/embedded/journal/JournalEntry.h"
+#include "spreadsheet/journal/JournalEntry.h"
 
 #include <vector>
 

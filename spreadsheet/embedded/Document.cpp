@@ -6,6 +6,7 @@
 #include "spreadsheet/embedded/FileSentences.h"
 #include "spreadsheet/embedded/Replay.h"
 #include "spreadsheet/embedded/WorkbookFile.h"
+#include "spreadsheet/journal/ImageChanges.h"
 
 namespace zvonika {
 
@@ -39,7 +40,7 @@ void Document::passSignalsOn() {
     connect(&cursor_, &SheetCursor::selectionChanged, this, &Document::selectionChanged);
     connect(&file_, &DocumentFile::nameChanged, this, &Document::nameChanged);
     connect(&file_, &DocumentFile::modifiedChanged, this, &Document::modifiedChanged);
-    connect(&journal_, &DocumentJournal::troubleChanged, this, &Document::journalTroubleChanged);
+    connect(&journal_, &WorkbookJournal::troubleChanged, this, &Document::journalTroubleChanged);
 }
 
 std::unique_ptr<Document> Document::open(const QString& nativePath, JournalFolder journals) {

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "spreadsheet/embedded/DocumentFile.h"
-#include "spreadsheet/embedded/DocumentJournal.h"
 #include "spreadsheet/embedded/Editing.h"
 #include "spreadsheet/embedded/SheetCells.h"
 #include "spreadsheet/embedded/SheetCursor.h"
+#include "spreadsheet/journal/WorkbookJournal.h"
 
 #include <QObject>
 
@@ -35,8 +35,8 @@ public:
     SheetCursor& cursor() { return cursor_; }
     const SheetCursor& cursor() const { return cursor_; }
     const DocumentFile& file() const { return file_; }
-    DocumentJournal& journal() { return journal_; }
-    const DocumentJournal& journal() const { return journal_; }
+    WorkbookJournal& journal() { return journal_; }
+    const WorkbookJournal& journal() const { return journal_; }
 
     /// Writes the file whole or not at all, with active sheet and cells, whatever is there by now. Must have
     /// a path.
@@ -69,7 +69,7 @@ private:
     SheetCells cells_;
     SheetCursor cursor_;
     DocumentFile file_;
-    DocumentJournal journal_;
+    WorkbookJournal journal_;
     Editing editing_;
 };
 

@@ -4,7 +4,7 @@
 #include "platform/RuntimeError.h"
 #include "platform/files/AtomicFile.h"
 #include "spreadsheet/embedded/WorkbookFile.h"
-#include "spreadsheet/embedded/journal/ContentHash.h"
+#include "spreadsheet/journal/ContentHash.h"
 
 #include <QFileInfo>
 

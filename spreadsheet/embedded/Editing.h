@@ -2,7 +2,7 @@
 
 #include "spreadsheet/embedded/History.h"
 #include "spreadsheet/embedded/SheetCells.h"
-#include "spreadsheet/embedded/journal/JournalEntry.h"
+#include "spreadsheet/journal/JournalEntry.h"
 
 #include <QObject>
 

@@ -2,8 +2,8 @@
 
 #include "spreadsheet/Refusals.h"
 #include "spreadsheet/SaveOffers.h"
+#include "spreadsheet/SaveSentences.h"
 #include "spreadsheet/embedded/Opening.h"
-#include "spreadsheet/embedded/SaveSentences.h"
 #include "spreadsheet/embedded/Saving.h"
 
 #include <QFileInfo>
@@ -124,6 +124,10 @@ void EmbeddedApplication::closeActiveWorkbook() {
     Document& closed = document();
     if (!closed.journal().hasRecovered()) closed.journal().giveUp();
     session_.remove(closed);
+}
+
+bool EmbeddedApplication::activeWorkbookModified() const {
+    return document().file().isModified();
 }
 
 QString EmbeddedApplication::activeWorkbookName() const {

@@ -34,6 +34,7 @@ public:
     void quit() override;
     void setListener(SpreadsheetListener* listener) override;
     void showToUser() override;
+    QString trouble() const override { return session_.trouble(); }
 
     void addWorkbook() override;
     /// Offers what a crash has left. A file that is open here already comes to the front as it is.
@@ -46,6 +47,7 @@ public:
     void saveActiveWorkbook() override;
     /// Without asking; unsaved changes are lost, but those that were recovered will be offered again.
     void closeActiveWorkbook() override;
+    bool activeWorkbookModified() const override;
     QString activeWorkbookName() const override;
     void activateWindow(const QString& name) override;
 

@@ -2,12 +2,19 @@
 #include "spreadsheet/Refusals.h"
 #include "spreadsheet/embedded/EmbeddedApplication.h"
 
+#include <algorithm>
+
 namespace zvonika {
 
 namespace {
 
 CellBlock blockOf(const Document& document, const CellRange& range) {
     return document.cells().block(document.cursor().activeSheet(), handedOver(range));
+}
+
+/// From 1, of a sheet that is among them.
+int indexAmong(const std::vector<int>& sheets, int sheet) {
+    return static_cast<int>(std::ranges::find(sheets, sheet) - sheets.begin()) + 1;
 }
 
 /// The active sheet of `document`, which outlives the result.
@@ -35,33 +42,37 @@ void EmbeddedApplication::renameActiveSheet(const QString& name) {
 }
 
 int EmbeddedApplication::activeSheetIndex() const {
-    return document().cursor().activeSheet();
+    const Document& active = document();
+    return indexAmong(active.cells().visibleSheets(), active.cursor().activeSheet());
 }
 
 int EmbeddedApplication::sheetCount() const {
-    return document().cells().sheetCount();
+    return static_cast<int>(document().cells().visibleSheets().size());
 }
 
 void EmbeddedApplication::selectSheet(int index) {
     Document& active = document();
-    if (index < 1 || index > active.cells().sheetCount()) refuseUnknownSheet(index);
-    if (index == active.cursor().activeSheet()) return;
+    const std::vector<int> sheets = active.cells().visibleSheets();
+    if (index < 1 || index > static_cast<int>(sheets.size())) refuseUnknownSheet(index);
+    const int sheet = sheets[static_cast<std::size_t>(index - 1)];
+    if (sheet == active.cursor().activeSheet()) return;
     const Session::ProgramCall call(session_);
-    active.cursor().activateSheet(index);
+    active.cursor().activateSheet(sheet);
 }
 
 void EmbeddedApplication::selectSheet(const QString& name) {
-    Document& active = document();
-    for (int sheet = 1; sheet <= active.cells().sheetCount(); ++sheet)
-        if (active.cells().sheetName(sheet).compare(name, Qt::CaseInsensitive) == 0)
-            return selectSheet(sheet);
+    const SheetCells& cells = document().cells();
+    const std::vector<int> sheets = cells.visibleSheets();
+    for (const int sheet : sheets)
+        if (cells.sheetName(sheet).compare(name, Qt::CaseInsensitive) == 0)
+            return selectSheet(indexAmong(sheets, sheet));
     refuseUnknownSheet(name);
 }
 
 void EmbeddedApplication::selectNextSheet() {
-    Document& active = document();
-    if (active.cursor().activeSheet() == active.cells().sheetCount()) refuseNextSheet();
-    selectSheet(active.cursor().activeSheet() + 1);
+    const int next = activeSheetIndex() + 1;
+    if (next > sheetCount()) refuseNextSheet();
+    selectSheet(next);
 }
 
 void EmbeddedApplication::selectRange(const QString& address) {

@@ -69,41 +69,11 @@ QString openReason(std::errc error) {
     }
 }
 
-struct SaveReason {
-    std::errc error;
-    const char16_t* text;
-};
-
-constexpr SaveReason saveReasons[] = {
-    {std::errc::filename_too_long, u"jeho jméno je příliš dlouhé"},
-    {std::errc::illegal_byte_sequence, u"v jeho jménu je znak, který tam být nesmí"},
-    {std::errc::invalid_argument, u"v jeho jménu je znak, který tam být nesmí"},
-    {std::errc::permission_denied, reason::mayNotWrite},
-    {std::errc::operation_not_permitted, reason::mayNotWrite},
-    {std::errc::read_only_file_system, reason::readOnlyDisk},
-    {std::errc::no_space_on_device, reason::diskFull},
-    {std::errc::file_too_large, reason::diskFull},
-    {std::errc::not_enough_memory, u"nestačí paměť počítače"},
-    {std::errc::is_a_directory, reason::isFolder},
-    {std::errc::no_such_device, u"pod tímto jménem není obyčejný soubor"},
-    {std::errc::too_many_symbolic_link_levels, u"odkaz, který na něj vede, nikam nevede"},
-};
-
-QString diskReason(const std::error_code& error) {
-    for (const auto& known : saveReasons)
-        if (error == known.error) return QString::fromUtf16(known.text);
-#ifdef Q_OS_UNIX
-    if (error == std::error_code(EDQUOT, std::generic_category()))
-        return QString::fromUtf16(reason::diskFull);
-#endif
-    return QStringLiteral("při zápisu na disk nastala chyba %1").arg(error.value());
-}
-
 QString saveReason(const QString& nativePath, const std::error_code& error) {
     if (error == std::errc::no_such_file_or_directory) return reason::folderMissing(nativePath);
     if (error == std::errc::not_a_directory)
         return QStringLiteral("„%1“ není složka").arg(folder(nativePath));
-    return diskReason(error);
+    return reason::ofDisk(error);
 }
 
 } // namespace
@@ -122,10 +92,6 @@ QString saveRefused(const QString& nativePath, const std::error_code& error) {
 
 QString saveRefused(const QString& nativePath) {
     return cannotSave(nativePath, u"obsah sešitu se nepodařilo sestavit");
-}
-
-QString journalRefused(const std::error_code& error) {
-    return QStringLiteral("změny nejsou zajištěny proti výpadku: %1").arg(diskReason(error));
 }
 
 } // namespace zvonika

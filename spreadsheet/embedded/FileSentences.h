@@ -14,7 +14,5 @@ QString openRefused(const QString& nativePath, std::errc error);
 QString saveRefused(const QString& nativePath, const std::error_code& error);
 /// The file is all right; its contents could not be put together.
 QString saveRefused(const QString& nativePath);
-/// Why changes cannot be recorded for the case of a crash.
-QString journalRefused(const std::error_code& error);
 
 } // namespace zvonika

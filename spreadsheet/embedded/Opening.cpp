@@ -1,10 +1,7 @@
 #include "spreadsheet/embedded/Opening.h"
 
-#include "platform/Log.h"
-#include "platform/files/LockSentences.h"
-#include "spreadsheet/Refusals.h"
+#include "platform/files/OpeningLock.h"
 #include "spreadsheet/embedded/FileSentences.h"
-#include "spreadsheet/embedded/RecoverySentences.h"
 #include "spreadsheet/embedded/Session.h"
 
 #include <QDir>
@@ -13,17 +10,19 @@
 namespace zvonika {
 
 Opening::Opening(Session& session, JournalFolder journals)
-    : session_(session), journals_(std::move(journals)) {}
+    : session_(session), journals_(std::move(journals)), offers_(session.dialogs(), jmenoTabulky, journals_) {
+}
 
 std::unique_ptr<Document> Opening::open(const QString& nativePath) {
-    auto document = Document::open(nativePath, journals_, lock(nativePath));
-    for (auto& pending : pending(nativePath))
+    auto document =
+        Document::open(nativePath, journals_, lockToOpen(session_.dialogs(), jmenoTabulky, nativePath));
+    for (auto& pending : offers_.pending(nativePath))
         offer(*document, std::move(pending));
     return document;
 }
 
 void Opening::recoverUnsaved() {
-    for (auto& pending : pending({})) {
+    for (auto& pending : offers_.pending({})) {
         const QString name = pending.contents.base.name;
         auto document =
             std::make_unique<Document>(session_.find(name) ? session_.nextName() : name, journals_);
@@ -32,57 +31,9 @@ void Opening::recoverUnsaved() {
     }
 }
 
-/// A lock can outlive its owner on a computer that is no longer there; the file itself cannot be spoiled by
-/// opening it, and a save notices what the other one has written.
-FileLock Opening::lock(const QString& nativePath) {
-    const auto holder = FileLock::holder(nativePath);
-    if (!holder || holder->isThisProcess()) return FileLock::acquire(nativePath);
-    const QString question =
-        QStringLiteral("Soubor „%1“ má už otevřený někdo jiný:\n%2.\n\n"
-                       "Kdybyste ho měnili oba, mohl by jeden z Vás o svou práci přijít. "
-                       "Chcete ho přesto otevřít?")
-            .arg(QFileInfo(nativePath).fileName(), whoHolds(*holder));
-    const Answer answer =
-        session_.dialogs().message({jmenoTabulky, question, Icon::Exclamation, Buttons::YesNo, Answer::No});
-    if (answer != Answer::Yes) refuse(openElsewhere(nativePath, *holder));
-    return FileLock::takeOver(nativePath);
-}
-
-std::vector<PendingJournal> Opening::pending(const QString& nativePath) {
-    QStringList unreadable;
-    auto found = journals_.pending(nativePath, &unreadable);
-    for (const QString& place : unreadable) {
-        qCInfo(recoveryLog).noquote() << place << "je nečitelný záznam k" << nativePath;
-        session_.dialogs().message(
-            {jmenoTabulky,
-             unreadableJournal(QFileInfo(nativePath).fileName(), QDir::toNativeSeparators(place)),
-             Icon::Exclamation});
-    }
-    return found;
-}
-
 void Opening::offer(Document& document, PendingJournal pending) {
-    const bool taken = wanted(document, pending);
-    qCInfo(recoveryLog).noquote() << document.file().name() << "změn" << pending.contents.changeCount()
-                                  << (taken ? "přijato" : "odloženo");
-    if (taken)
-        recover(document, std::move(pending));
-    else
-        journals_.setAside(std::move(pending.file));
-}
-
-bool Opening::wanted(const Document& document, const PendingJournal& pending) {
-    const bool changedSince = pending.contents.base.hash != document.file().hash();
-    const QString question = recoveryQuestion(document.file().name(), pending.contents, changedSince);
-    return session_.dialogs().message({jmenoTabulky, question, Icon::Question, Buttons::YesNo}) ==
-           Answer::Yes;
-}
-
-void Opening::recover(Document& document, PendingJournal pending) {
-    const int refused = document.recover(std::move(pending));
-    if (refused == 0) return;
-    session_.dialogs().message(
-        {jmenoTabulky, partlyRecovered(document.file().name(), refused), Icon::Exclamation});
+    if (!offers_.wanted(pending, document.file().name(), document.file().hash())) return;
+    offers_.tellRefused(document.file().name(), document.recover(std::move(pending)));
 }
 
 } // namespace zvonika

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "platform/files/FileLock.h"
-#include "spreadsheet/embedded/journal/JournalFolder.h"
+#include "spreadsheet/journal/RecoveryOffers.h"
 
 #include <QString>
 
@@ -26,14 +25,11 @@ public:
     void recoverUnsaved();
 
 private:
-    FileLock lock(const QString& nativePath);
-    std::vector<PendingJournal> pending(const QString& nativePath);
     void offer(Document& document, PendingJournal pending);
-    bool wanted(const Document& document, const PendingJournal& pending);
-    void recover(Document& document, PendingJournal pending);
 
     Session& session_;
     JournalFolder journals_;
+    RecoveryOffers offers_;
 };
 
 } // namespace zvonika

@@ -47,11 +47,4 @@ int replay(SheetCells& cells, const std::vector<JournalGroup>& groups) {
     return refused;
 }
 
-std::optional<CellWritten> lastWritten(const std::vector<JournalGroup>& groups) {
-    for (auto group = groups.rbegin(); group != groups.rend(); ++group)
-        for (auto change = group->changes.rbegin(); change != group->changes.rend(); ++change)
-            if (const auto* cell = std::get_if<CellWritten>(&*change)) return *cell;
-    return {};
-}
-
 } // namespace zvonika

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "spreadsheet/embedded/journal/JournalEntry.h"
+#include "spreadsheet/journal/JournalEntry.h"
 
-#include <optional>
 #include <vector>
 
 namespace zvonika {
@@ -11,7 +10,5 @@ class SheetCells;
 
 /// Makes the changes that a journal tells of. How many the workbook did not allow.
 int replay(SheetCells& cells, const std::vector<JournalGroup>& groups);
-/// The cell that was written last; nothing when none was.
-std::optional<CellWritten> lastWritten(const std::vector<JournalGroup>& groups);
 
 } // namespace zvonika

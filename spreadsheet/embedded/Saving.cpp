@@ -1,8 +1,8 @@
 #include "spreadsheet/embedded/Saving.h"
 
 #include "spreadsheet/SaveOffers.h"
+#include "spreadsheet/SaveSentences.h"
 #include "spreadsheet/embedded/Failures.h"
-#include "spreadsheet/embedded/SaveSentences.h"
 #include "spreadsheet/embedded/Session.h"
 
 #include <QDir>
@@ -40,7 +40,8 @@ bool Saving::mayConvert(Document& document) {
 
 bool Saving::mayOverwrite(Document& document) {
     if (!document.file().isChangedOnDisk()) return true;
-    return agreed(overwriteQuestion(document.file().path()), Answer::No) && session_.isOpen(document);
+    return zvonika::mayOverwrite(session_.dialogs(), jmenoTabulky, document.file().path()) &&
+           session_.isOpen(document);
 }
 
 void Saving::makeRoom(const QString& name, const Document* self) {

@@ -34,7 +34,14 @@ QString Session::nextName() {
     return name;
 }
 
+// Queued: a change that cannot be recorded may be made within a call of the program.
 Document& Session::add(std::unique_ptr<Document> document) {
+    QObject::connect(
+        document.get(), &Document::journalTroubleChanged, &later_,
+        [this] {
+            if (listener_) listener_->troubleChanged();
+        },
+        Qt::QueuedConnection);
     documents_.push_back(std::move(document));
     activate(*documents_.back());
     return *active_;
@@ -57,11 +64,13 @@ void Session::remove(Document& document) {
 
 void Session::refuseTwin(const QString& name, const Document* self) const {
     const Document* open = find(name);
-    if (open && open != self)
-        refuse(
-            QStringLiteral("Sešit „%1“ je už otevřen v okně tabulky; dva sešity téhož jména najednou otevřít "
-                           "nelze. Uložte ho tam pod jiným jménem, nebo ho zavřete.")
-                .arg(open->file().name()));
+    if (open && open != self) zvonika::refuseTwin(open->file().name());
+}
+
+QString Session::trouble() const {
+    for (const auto& document : documents_)
+        if (const QString trouble = document->journal().trouble(); !trouble.isEmpty()) return trouble;
+    return {};
 }
 
 void Session::end(State state) {

@@ -48,6 +48,9 @@ public:
     /// were not given up stay.
     void end(State state);
 
+    /// Why changes of an open workbook are not in its journal; "" when all are.
+    QString trouble() const;
+
     // --- the window ---
     void setView(std::unique_ptr<SheetView> view);
     bool hasView() const { return view_ != nullptr; }

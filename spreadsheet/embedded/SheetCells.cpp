@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <new>
+#include <numeric>
 #include <stdexcept>
 
 namespace zvonika {
@@ -36,6 +37,16 @@ void SheetCells::requireSheet(int sheet) const {
 
 QString SheetCells::sheetName(int sheet) const {
     return QString::fromStdU16String(book_.sheetName(sheet - 1));
+}
+
+std::vector<int> SheetCells::visibleSheets() const {
+    std::vector<int> visible;
+    for (int sheet = 1; sheet <= sheetCount(); ++sheet)
+        if (!book_.isSheetHidden(sheet - 1)) visible.push_back(sheet);
+    if (!visible.empty()) return visible;
+    visible.resize(static_cast<std::size_t>(sheetCount()));
+    std::iota(visible.begin(), visible.end(), 1);
+    return visible;
 }
 
 CellValue SheetCells::value(int sheet, CellPosition cell) const {

@@ -6,6 +6,8 @@
 
 #include <QString>
 
+#include <vector>
+
 namespace zvonika {
 
 /// The sheets of a workbook and their cells. Sheets, rows and columns count from 1; a sheet or cell that does
@@ -20,6 +22,8 @@ public:
     int sheetCount() const;
     void requireSheet(int sheet) const;
     QString sheetName(int sheet) const;
+    /// The sheets that are not hidden, in their order; all of them where none is to be seen.
+    std::vector<int> visibleSheets() const;
     CellValue value(int sheet, CellPosition cell) const;
     bool isFormula(int sheet, CellPosition cell) const;
     CellBlock block(int sheet, const CellRange& range) const;

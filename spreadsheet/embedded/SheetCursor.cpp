@@ -5,13 +5,26 @@
 
 namespace zvonika {
 
+namespace {
+
+/// The active sheet of the file; where that one is hidden, the first that is not.
+int shownFirst(const xls::Workbook& book) {
+    const int active = std::clamp(book.activeSheet(), 0, book.sheetCount() - 1);
+    if (!book.isSheetHidden(active)) return active;
+    for (int sheet = 0; sheet < book.sheetCount(); ++sheet)
+        if (!book.isSheetHidden(sheet)) return sheet;
+    return active;
+}
+
+} // namespace
+
 SheetCursor::SheetCursor(const xls::Workbook& book) {
     for (int sheet = 0; sheet < book.sheetCount(); ++sheet) {
         const auto cell = book.activeCell(sheet);
         const CellPosition active{cell.row + 1, cell.column + 1};
         selections_.push_back({single(active), active});
     }
-    activeSheet_ = std::clamp(book.activeSheet() + 1, 1, book.sheetCount());
+    activeSheet_ = shownFirst(book) + 1;
 }
 
 void SheetCursor::storeIn(xls::Workbook& book) const {

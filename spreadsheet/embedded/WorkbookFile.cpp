@@ -2,14 +2,15 @@
 
 #include "platform/Log.h"
 #include "platform/RuntimeError.h"
+#include "platform/files/RegularFile.h"
 #include "spreadsheet/Refusals.h"
 #include "spreadsheet/embedded/FileSentences.h"
-#include "spreadsheet/embedded/journal/ContentHash.h"
+#include "spreadsheet/journal/ContentHash.h"
 
 #include <QFile>
-#include <QFileInfo>
 
 #include <algorithm>
+#include <limits>
 #include <new>
 
 namespace zvonika {
@@ -19,14 +20,6 @@ namespace {
 /// Beyond what the format can hold.
 constexpr qint64 largestFile = qint64{512} << 20;
 
-void refuseUnlessFile(const QString& path) {
-    const QFileInfo info(path);
-    if (path.contains(QChar(u'\0')) || !info.exists())
-        refuse(openRefused(path, std::errc::no_such_file_or_directory));
-    if (info.isDir()) refuse(openRefused(path, std::errc::is_a_directory));
-    if (!info.isFile()) refuse(openRefused(path, std::errc::no_such_device));
-}
-
 void readUpTo(qint64 size, QFile& file, xls::Bytes& bytes, const QString& path) {
     const auto there = static_cast<qint64>(bytes.size());
     bytes.resize(static_cast<std::size_t>(size));
@@ -35,9 +28,10 @@ void readUpTo(qint64 size, QFile& file, xls::Bytes& bytes, const QString& path) 
 }
 
 xls::Bytes readBytes(const QString& path) {
-    refuseUnlessFile(path);
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) refuse(openRefused(path, std::errc::permission_denied));
+    QFile file;
+    if (const std::error_code reason =
+            openRegular(file, path, Links::Follow, std::numeric_limits<qint64>::max()))
+        refuse(openRefused(path, std::errc(reason.default_error_condition().value())));
     const qint64 size = file.size();
     xls::Bytes bytes;
     readUpTo(std::min(size, qint64{xls::Workbook::headSize}), file, bytes, path);

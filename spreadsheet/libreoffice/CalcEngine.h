@@ -2,12 +2,14 @@
 
 #include "spreadsheet/Address.h"
 #include "spreadsheet/CellValue.h"
+#include "spreadsheet/WorkbookImage.h"
 
 #include <QString>
 #include <QStringList>
 #include <QVector>
 
 #include <functional>
+#include <optional>
 
 namespace zvonika {
 
@@ -20,8 +22,18 @@ public:
     virtual void cellsEdited() = 0;
     /// A workbook is being closed, by whomever.
     virtual void workbookCloses() = 0;
-    /// Calc has this file open from now on, whoever opened it.
+    /// ... by the user, who has been asked about its changes.
+    virtual void userCloses(int workbook) = 0;
+    /// Calc has opened or saved a file, whoever asked it to: it has it open, as it is on the disk now.
     virtual void fileOpened(const QString& nativePath) = 0;
+    virtual void fileClosed(const QString& nativePath) = 0;
+};
+
+/// What the file of a workbook is, by the filter that has read or written it.
+enum class WorkbookFormat {
+    Xls,    ///< of today; also a workbook without a file
+    OldXls, ///< version 5.0 or 95
+    Other
 };
 
 /// A workbook that is open in Calc.
@@ -30,6 +42,8 @@ struct OpenWorkbook {
     QString name; ///< file name without folder, or Calc's title of one that was never saved
     QString path; ///< native; "" for one that was never saved
     bool modified = false;
+    WorkbookFormat format = WorkbookFormat::Xls;
+    bool encrypted = false; ///< its file has a password
 };
 
 /// One running Calc, by its own notions: the layer that knows UNO and nothing of the program. All calls but
@@ -40,7 +54,8 @@ public:
     virtual ~CalcEngine() = default;    ///< ends the connection; Calc itself goes on
     virtual bool connected() const = 0; ///< false once Calc is gone; from any thread
 
-    /// Workbooks opened from now on, and those that are open, have visible windows or none.
+    /// Workbooks opened from now on, and those that are open, have visible windows or none. A window that
+    /// Calc shows without a workbook goes when a workbook comes.
     virtual void setVisible(bool visible) = 0;
     virtual void toFront() = 0;         ///< the active workbook's window, with the keyboard
     virtual QString folder() const = 0; ///< native folder in which Calc's own file choices start
@@ -48,14 +63,19 @@ public:
     /// Closes every workbook, saved or not, and ends Calc. False when Calc refuses to end.
     virtual bool quit() = 0;
 
-    virtual void add() = 0; ///< a new workbook, which becomes the active one
-    virtual void open(const QString& nativePath) = 0;
-    virtual QVector<OpenWorkbook> workbooks() = 0; ///< also those that the user has opened; oldest first
-    virtual OpenWorkbook active() = 0;             ///< id 0 when there is none
+    virtual void add() = 0;                           ///< a new workbook, which becomes the active one
+    virtual void open(const QString& nativePath) = 0; ///< .xls of today or older
+    virtual QVector<OpenWorkbook> workbooks() = 0;    ///< also those that the user has opened; oldest first
+    virtual OpenWorkbook active() = 0;                ///< id 0 when there is none
+    virtual std::optional<WorkbookImage> image(int id) = 0; ///< nothing when it is not open any more
     virtual void activate(int id) = 0;
     virtual void saveAs(const QString& nativePath) = 0; ///< .xls; replaces an existing file
-    virtual void save() = 0;                            ///< only of a workbook that has a file
-    virtual void close() = 0;                           ///< without asking
+    /// Of a workbook that has a file, in the file's own format and with its password; an older .xls becomes
+    /// one of today. Whatever has been put into the file since is overwritten.
+    virtual void save() = 0;
+    virtual void close() = 0; ///< without asking
+    /// Titles of documents with unsaved changes that are no workbooks.
+    virtual QStringList otherUnsaved() = 0;
 
     virtual int activeSheet() = 0;
     virtual QStringList sheetNames() = 0;
@@ -81,7 +101,7 @@ struct CalcAddress {
 };
 
 /// Raised with every change of the classes above: a plug-in built for others is not used.
-constexpr int calcPluginVersion = 2;
+constexpr int calcPluginVersion = 3;
 
 /// What a plug-in exports: "zvonikaCalcPluginVersion" and "zvonikaConnectToCalc". The latter returns when
 /// Calc has answered, or nullptr when `keepTrying` gave up; AutomationError 429 when the connection cannot be

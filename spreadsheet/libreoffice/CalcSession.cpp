@@ -41,9 +41,13 @@ CalcSession::CalcSession(const LibreOfficeSurroundings& surroundings, const QStr
              surroundings.signOver, surroundings.patience) {
     const QString pipe = freshPipe();
     process_ = started(surroundings_, folder, pipe);
-    notices_ = std::make_shared<UserNotices>(
-        [this] { return calls_.busy(); },
-        [process = process_](const QString& path) { process->tellDocument(path); });
+    files_ = std::make_shared<OpenFiles>(process_->profileUrl());
+    notices_ = std::make_shared<UserNotices>([this] { return calls_.busy(); },
+                                             [process = process_, files = files_](const QString& path) {
+                                                 process->tellDocument(path);
+                                                 files->learn(path);
+                                             },
+                                             [files = files_](const QString& path) { files->close(path); });
     connectTo(pipe);
     process_->tellStarted();
 }
@@ -80,7 +84,8 @@ bool CalcSession::wantsToWait() const {
     const Answer answer = surroundings_.dialogs.message(
         {jmenoCalcu,
          QStringLiteral("LibreOffice Calc neodpovídá.\nChcete na něj ještě počkat?\n\n"
-                        "Ne: Calc bude ukončen a změny, které v něm nejsou uloženy, se ztratí."),
+                        "Ne: Calc bude ukončen. Změny písničky, které v něm nejsou uloženy, nabídne program "
+                        "po novém spuštění vrátit."),
          Icon::Exclamation, Buttons::YesNo, Answer::Yes});
     return answer == Answer::Yes;
 }
@@ -90,6 +95,7 @@ void CalcSession::end() {
     if (quits()) process_->waitForEnd(endTakes);
     ended_ = true;
     process_->end();
+    files_->closeAll();
     calls_.detach();
 }
 

@@ -3,6 +3,7 @@
 #include "spreadsheet/libreoffice/CalcCalls.h"
 #include "spreadsheet/libreoffice/LibreOfficeSurroundings.h"
 #include "spreadsheet/libreoffice/OfficeProcess.h"
+#include "spreadsheet/libreoffice/OpenFiles.h"
 
 namespace zvonika {
 
@@ -20,6 +21,7 @@ public:
 
     CalcCalls& calls() { return calls_; }
     UserNotices& notices() { return *notices_; }
+    OpenFiles& files() { return *files_; }
 
     bool ended() const { return ended_; }
     /// Ends Calc without asking anybody. Throws nothing.
@@ -34,6 +36,7 @@ private:
     LibreOfficeSurroundings surroundings_;
     bool ended_ = false;
     std::shared_ptr<OfficeProcess> process_;
+    std::shared_ptr<OpenFiles> files_;
     std::shared_ptr<UserNotices> notices_;
     CalcCalls calls_;
 };

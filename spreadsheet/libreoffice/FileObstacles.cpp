@@ -31,12 +31,6 @@ void refuseMissing(const QString& path) {
     if (!QFileInfo(path).isFile()) refuse(cannotOpen(path, reason::missing));
 }
 
-void refuseTwin(const OpenWorkbook& open, const QString& path) {
-    if (open.name.compare(QFileInfo(path).fileName(), Qt::CaseInsensitive) == 0)
-        refuse(QStringLiteral("Sešit „%1“ je už otevřen; dva sešity téhož jména najednou otevřít nelze.")
-                   .arg(open.name));
-}
-
 void refuseToSave(const QString& path) {
     const QFileInfo file(path);
     if (!QFileInfo(file.absolutePath()).isDir()) refuse(cannotSave(path, reason::folderMissing(path)));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "spreadsheet/libreoffice/CalcEngine.h"
+#include <QString>
 
 #include <functional>
 
@@ -12,8 +12,6 @@ namespace zvonika {
 
 /// There is no such file.
 void refuseMissing(const QString& nativePath);
-/// Another workbook of the same file name is open; Calc would have two of a name.
-void refuseTwin(const OpenWorkbook& open, const QString& nativePath);
 /// The folder is missing, or a folder stands under the name.
 void refuseToSave(const QString& nativePath);
 /// Runs `save`; its refusal gets the reason that the disk shows.

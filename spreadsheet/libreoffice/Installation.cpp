@@ -33,17 +33,28 @@ QString firstFile(const QStringList& folders, const QString& name) {
     return {};
 }
 
+const QString withoutConnection = QStringLiteral(
+    "Zvonika tu nemá doplněk pro spojení s LibreOffice: byla bez něj sestavena. Nainstalujte balíčky "
+    "libreoffice-calc a libreoffice-dev a sestavte ji znovu.");
+
+bool hasConnection(const Installation& found) {
+    return !found.plugin.isEmpty() && !found.guardian.isEmpty();
+}
+
 QString whatIsMissing(const Installation& found) {
-    if (found.plugin.isEmpty() || found.guardian.isEmpty())
-        return QStringLiteral("Zvonika byla sestavena bez spojení s LibreOffice.");
+    if (!hasConnection(found)) return withoutConnection;
     if (found.version.section(QLatin1Char('.'), 0, 0).toInt() < oldestVersion)
-        return QStringLiteral("Nainstalovaný LibreOffice %1 je příliš starý, potřeba je aspoň verze %2.0.")
+        return QStringLiteral("Nainstalovaný LibreOffice %1 je příliš starý. Nainstalujte aspoň verzi %2.0.")
             .arg(found.version)
             .arg(oldestVersion);
     if (!QFileInfo::exists(found.program + QStringLiteral("/libsclo.so")))
-        return QStringLiteral("V nainstalovaném LibreOffice chybí tabulkový program Calc.");
+        return QStringLiteral(
+            "V nainstalovaném LibreOffice chybí tabulkový program Calc. Nainstalujte balíček "
+            "libreoffice-calc.");
     if (!hasWindows(found.program))
-        return QStringLiteral("Nainstalovaný LibreOffice je bez oken, pouze pro převody souborů.");
+        return QStringLiteral(
+            "Nainstalovaný LibreOffice je bez oken, pouze pro převody souborů. Nainstalujte balíček "
+            "libreoffice-core místo libreoffice-core-nogui.");
     return {};
 }
 
@@ -68,7 +79,11 @@ Installation findLibreOffice(const InstallationPlaces& places) {
     Installation first;
     first.plugin = firstFile(places.pluginFolders, QStringLiteral("libzvonika_libreoffice.so"));
     first.guardian = firstFile(places.pluginFolders, QStringLiteral("zvonika-hlidac"));
-    first.missing = QStringLiteral("LibreOffice není na tomto počítači nainstalován.");
+    first.missing =
+        hasConnection(first)
+            ? QStringLiteral("LibreOffice není na tomto počítači nainstalován. Nainstalujte balíček "
+                             "libreoffice-calc.")
+            : withoutConnection;
     for (const QString& folder : places.programFolders) {
         if (!QFileInfo(folder + office).isFile()) continue;
         Installation found = first;

@@ -4,6 +4,7 @@
 #include "spreadsheet/libreoffice/CalcFolder.h"
 #include "spreadsheet/libreoffice/CalcSession.h"
 #include "spreadsheet/libreoffice/Clipboard.h"
+#include "spreadsheet/libreoffice/RaisedDialogs.h"
 #include "spreadsheet/libreoffice/Sheets.h"
 #include "spreadsheet/libreoffice/UnsavedWorkbooks.h"
 
@@ -17,11 +18,12 @@ struct LibreOfficeApplication::Parts {
     Dialogs& dialogs;
     WorkbookPlaces places;
     CalcSession session;
+    RaisedDialogs raisedDialogs;
     CalcCalls& calls = session.calls();
     ReadAhead seen;
     CalcFolder folder{calls, places};
     PacedCursor cursor{calls, seen};
-    Workbooks workbooks{calls, seen, dialogs, places};
+    Workbooks workbooks{calls, seen, dialogs, places, session.files()};
     Sheets sheets{calls};
     Cells cells{calls, cursor, seen};
     Clipboard clipboard{workbooks, cells};
@@ -63,7 +65,9 @@ void LibreOfficeApplication::quit() {
         parts_->calls.requireRunning();
     }
     parts_->folder.keep();
-    UnsavedWorkbooks(parts_->calls, parts_->workbooks, parts_->dialogs, parts_->places).offer();
+    UnsavedWorkbooks(parts_->calls, parts_->workbooks, parts_->dialogs, parts_->places,
+                     [&session](int workbook) { session.notices().settle(workbook); })
+        .offer();
     session.end();
 }
 
@@ -92,6 +96,10 @@ void LibreOfficeApplication::saveActiveWorkbook() {
 
 void LibreOfficeApplication::closeActiveWorkbook() {
     parts_->workbooks.closeActive();
+}
+
+bool LibreOfficeApplication::activeWorkbookModified() const {
+    return parts_->workbooks.active().modified;
 }
 
 QString LibreOfficeApplication::activeWorkbookName() const {
@@ -191,6 +199,28 @@ CellBlock LibreOfficeApplication::readBlock(const QString& address) const {
 
 void LibreOfficeApplication::writeBlock(const QString& address, const CellBlock& block) {
     parts_->cells.write(address, block);
+}
+
+// --- for a record of the workbooks ---
+
+LiveSpreadsheet::Place LibreOfficeApplication::place() const {
+    return parts_->calls.askAside([](CalcEngine& calc) {
+        const int workbook = calc.active().id;
+        return Place{workbook, workbook == 0 ? 1 : calc.activeSheet()};
+    });
+}
+
+unsigned LibreOfficeApplication::acts() const {
+    return parts_->calls.acts();
+}
+
+std::optional<WorkbookImage> LibreOfficeApplication::image(int workbook) {
+    return parts_->calls.ask(parts_->calls.patience().file,
+                             [workbook](CalcEngine& calc) { return calc.image(workbook); });
+}
+
+void LibreOfficeApplication::setWatcher(WorkbookWatcher* watcher) {
+    parts_->session.notices().setWatcher(watcher);
 }
 
 } // namespace zvonika

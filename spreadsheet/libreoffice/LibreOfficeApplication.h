@@ -1,6 +1,6 @@
 #pragma once
 
-#include "spreadsheet/SpreadsheetApplication.h"
+#include "spreadsheet/LiveSpreadsheet.h"
 #include "spreadsheet/libreoffice/LibreOfficeSurroundings.h"
 
 namespace zvonika {
@@ -10,7 +10,7 @@ namespace zvonika {
 /// last; other workbooks that the user opens in Calc are only asked about when it quits. A call that takes
 /// long keeps the window alive (PatientCalls); on one that takes too long the user is asked whether to wait
 /// or to end Calc.
-class LibreOfficeApplication : public SpreadsheetApplication {
+class LibreOfficeApplication : public LiveSpreadsheet {
 public:
     /// Starts Calc; AutomationError 429 with the reason when that fails.
     explicit LibreOfficeApplication(const LibreOfficeSurroundings& surroundings);
@@ -32,6 +32,7 @@ public:
     /// A workbook that was never saved goes into the default folder.
     void saveActiveWorkbook() override;
     void closeActiveWorkbook() override;
+    bool activeWorkbookModified() const override;
     QString activeWorkbookName() const override;
     void activateWindow(const QString& name) override;
 
@@ -58,6 +59,11 @@ public:
 
     CellBlock readBlock(const QString& address) const override;
     void writeBlock(const QString& address, const CellBlock& block) override;
+
+    Place place() const override;
+    unsigned acts() const override;
+    std::optional<WorkbookImage> image(int workbook) override;
+    void setWatcher(WorkbookWatcher* watcher) override;
 
 private:
     struct Parts;

@@ -1,5 +1,6 @@
 #include "spreadsheet/libreoffice/OfficeProcess.h"
 
+#include "platform/Log.h"
 #include "platform/RuntimeError.h"
 #include "spreadsheet/libreoffice/Installation.h"
 
@@ -26,12 +27,16 @@ using std::chrono::milliseconds;
 constexpr int lockInGuardian = 3;
 constexpr milliseconds guardianTakes{4000}; ///< for ending the office and clearing up
 
+QString urlOf(const Profile& profile) {
+    return QString::fromLatin1(QUrl::fromLocalFile(profile.path()).toEncoded());
+}
+
 std::vector<std::string> commandLine(const Installation& installation, const Profile& profile,
                                      const QString& pipe) {
-    const QByteArray url = QUrl::fromLocalFile(profile.path()).toEncoded();
+    const QString url = urlOf(profile);
     const QStringList parts = {
         installation.guardian,
-        QString::fromLatin1(url),
+        url,
         profile.path() + QStringLiteral("/vystup.txt"),
         installation.program + QStringLiteral("/soffice.bin"),
         QStringLiteral("--norestore"),
@@ -39,7 +44,7 @@ std::vector<std::string> commandLine(const Installation& installation, const Pro
         QStringLiteral("--nodefault"),
         QStringLiteral("--nolockcheck"),
         QStringLiteral("--accept=pipe,name=%1;urp;StarOffice.ComponentContext").arg(pipe),
-        QStringLiteral("-env:UserInstallation=") + QString::fromLatin1(url)};
+        QStringLiteral("-env:UserInstallation=") + url};
     std::vector<std::string> encoded;
     for (const QString& part : parts)
         encoded.push_back(QFile::encodeName(part).toStdString());
@@ -72,9 +77,11 @@ std::vector<char*> pointers(std::vector<std::string>& texts) {
 }
 
 [[noreturn]] void cannotStart(int reason) {
+    qCWarning(callsLog) << "LibreOffice:" << strerror(reason);
     throw RuntimeError(
         error::cannotCreateObject,
-        QStringLiteral("LibreOffice Calc nelze spustit: %1.").arg(QString::fromLocal8Bit(strerror(reason))));
+        QStringLiteral("LibreOffice Calc nelze spustit. Ukončete některé běžící programy a zkuste to "
+                       "znovu; nepomůže-li to, přeinstalujte Zvoniku."));
 }
 
 /// The connection writes into a pipe of the office's, which may end at any moment; a failed write tells
@@ -122,7 +129,8 @@ pid_t spawn(std::vector<std::string> command, int line, int profileLock) {
 
 } // namespace
 
-OfficeProcess::OfficeProcess(const Installation& installation, const Profile& profile, const QString& pipe) {
+OfficeProcess::OfficeProcess(const Installation& installation, const Profile& profile, const QString& pipe)
+    : profileUrl_(urlOf(profile)) {
     ignoreBrokenPipes();
     int ends[2];
     if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0) cannotStart(errno);

@@ -25,7 +25,8 @@ public:
     OfficeProcess(const OfficeProcess&) = delete;
     OfficeProcess& operator=(const OfficeProcess&) = delete;
 
-    bool running() const { return guardian_->running(); } ///< from any thread
+    const QString& profileUrl() const { return profileUrl_; } ///< of the office's profile
+    bool running() const { return guardian_->running(); }     ///< from any thread
     /// True when it has ended, which it may take this long for.
     bool waitForEnd(std::chrono::milliseconds time) const { return guardian_->waitForEnd(time); }
     /// Ends it at once; unsaved changes are lost.
@@ -38,6 +39,7 @@ public:
 private:
     void tell(const QByteArray& line);
 
+    QString profileUrl_;
     std::unique_ptr<ChildProcess> guardian_;
     std::mutex mutex_;
     int line_ = -1; ///< to the guardian; -1 once closed

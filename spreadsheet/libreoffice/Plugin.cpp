@@ -1,5 +1,6 @@
 #include "spreadsheet/libreoffice/Plugin.h"
 
+#include "platform/Log.h"
 #include "platform/RuntimeError.h"
 #include "spreadsheet/libreoffice/Installation.h"
 
@@ -16,7 +17,10 @@ namespace {
 
 void load(QLibrary& library) {
     library.setLoadHints(QLibrary::PreventUnloadHint);
-    if (!library.load()) cannotLoad(library.errorString());
+    if (library.load()) return;
+    qCWarning(callsLog).noquote() << library.errorString();
+    cannotLoad(QStringLiteral(
+        "jeho součásti k sobě nepatří. Přeinstalujte LibreOffice, nebo sestavte Zvoniku znovu."));
 }
 
 // The plug-in names these four and finds them where they are loaded already, so that it can be used with any

@@ -191,6 +191,10 @@ std::u16string Workbook::sheetName(int sheet) const {
     return impl_->name(impl_->sheet(sheet));
 }
 
+bool Workbook::isSheetHidden(int sheet) const {
+    return impl_->model.globals.sheets[impl_->sheet(sheet)].hidden;
+}
+
 void Workbook::renameSheet(int sheet, const std::u16string& name) {
     const std::size_t index = impl_->sheet(sheet);
     requireName(name);

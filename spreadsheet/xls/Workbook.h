@@ -63,6 +63,8 @@ public:
 
     int sheetCount() const;
     std::u16string sheetName(int sheet) const;
+    /// The user is not meant to see the sheet. A file may hide all of them.
+    bool isSheetHidden(int sheet) const;
     /// Throws std::invalid_argument when the name is empty, longer than 31 units, contains one of : \ / ? * [
     /// ], begins or ends with an apostrophe, or is already another sheet's name (compared without regard to
     /// ASCII case).

@@ -1,6 +1,7 @@
 // The main window as a player meets it: captions, what can be used when, focus,
 // and what clicks lead to.
 #include "app/Prikazy.h"
+#include "app/UdalostiOkna.h"
 #include "tests/app/OknoSPisni.h"
 
 #include <QAbstractButton>
@@ -174,4 +175,19 @@ TEST_F(OknoSPisni, EveryControlHasANameAndTheTabKeyReachesTheGroups) {
         EXPECT_GT(zastavky.indexOf(jmeno), predchozi) << jmeno << ": " << zastavky.join(' ').toStdString();
         predchozi = int(zastavky.indexOf(jmeno));
     }
+}
+
+TEST(UdalostiOkna, TheCauseOfAFailureStandsBesideTheBoxAndUntilTheNextCommand) {
+    zvonika::testing::ScriptedDialogs dialogs;
+    zvonika::testing::ZaznamovyShell shell;
+    Modely modely(nastrojZvonika(), {});
+    UdalostiOkna udalosti(modely, dialogs, shell);
+    const QString& vystraha = modely.panel.vystraha;
+    dialogs.expect("Neočekávaná chyba !", "Disk je plný.");
+    dialogs.whileUp = [&] { EXPECT_EQ(vystraha.toStdString(), "Disk je plný."); };
+    udalosti.proved([] { throw RuntimeError(1004, QStringLiteral("Disk je plný.")); });
+    udalosti.nasleduj([] {}); // the user clicks into the sheet
+    EXPECT_EQ(vystraha.toStdString(), "Disk je plný.");
+    udalosti.proved([] {});
+    EXPECT_EQ(vystraha, QString());
 }

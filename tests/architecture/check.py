@@ -14,6 +14,7 @@ FLOORS = {
     "platform": 1,
     "theory": 2,
     "spreadsheet": 2,
+    "spreadsheet/journal": 2,
     "spreadsheet/xls": 2,
     "spreadsheet/embedded": 2,
     "spreadsheet/libreoffice": 2,
@@ -35,7 +36,8 @@ TOP = max(FLOORS.values())
 
 # Whom a room may know on its own floor; everything on a lower one it may.
 NEIGHBOURS = {
-    "spreadsheet/embedded": {"spreadsheet", "spreadsheet/xls"},
+    "spreadsheet/journal": {"spreadsheet"},
+    "spreadsheet/embedded": {"spreadsheet", "spreadsheet/journal", "spreadsheet/xls"},
     "spreadsheet/libreoffice": {"spreadsheet"},
     "playing/recording": {"playing/stepping"},
     "playing/song": {"playing/stepping"},

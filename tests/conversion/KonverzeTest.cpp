@@ -83,12 +83,53 @@ TEST_F(KonverzeTest, AnOlderCopyIsReplacedOnlyWhenTheUserAgrees) {
     EXPECT_EQ(raised([&] { konverze.cmdGo(); }), error::permissionDenied);
     EXPECT_FALSE(stav.bezi);
     EXPECT_EQ(storedText(cesta("Polka.xls"), "A1"), "");
+    EXPECT_EQ(drive.files(pracovniAdresar), (QStringList{"Polka G dur.xls", "Polka.xls"}));
 
     dialogs.expect(kopie, "", Answer::Ok);
     ocekavejHotovo();
     konverze.cmdGo();
     EXPECT_EQ(storedText(kopie, "A1"), "změna");
     EXPECT_EQ(storedText(cesta("Polka.xls"), "A1"), "změna");
+}
+
+TEST_F(KonverzeTest, AnErrorBeforeTheFirstRowGoesBackToTheSongAndTakesTheCopyAway) {
+    const QString kopie = cesta("Polka G dur.xls");
+    for (const char* krok : {"saveActiveWorkbook", "saveActiveWorkbookAs", "renameActiveSheet"})
+        for (const bool starsi : {true, false}) {
+            SCOPED_TRACE(krok);
+            otevri({tah});
+            pisen.plneJmeno = cesta("Polka.xls");
+            if (starsi) store(kopie, {{QStringLiteral("L"), {{QStringLiteral("starší")}}}});
+            if (starsi) dialogs.expect(kopie, "", Answer::Ok);
+            excel->put("A1", "la");
+            log.fail(krok, 1004);
+            EXPECT_EQ(raised([this] { preved("G dur"); }), 1004);
+            EXPECT_EQ(pisen.aktualniPisen, "Polka.xls");
+            EXPECT_EQ(pisen.plneJmeno, cesta("Polka.xls"));
+            EXPECT_EQ(excel->activeWorkbookName(), "Polka.xls");
+            EXPECT_EQ(excel->workbooks(), 1);
+            EXPECT_EQ(konverze.veta(), "");
+            EXPECT_FALSE(stav.selhala || stav.zavreno || konverze.predanaKopie());
+            EXPECT_EQ(drive.fileExists(kopie), starsi);
+            if (starsi) {
+                EXPECT_EQ(storedText(kopie, "A1"), "starší");
+            }
+        }
+    ocekavejHotovo();
+    konverze.cmdGo(); // the same dialog, once the obstacle is gone
+    EXPECT_EQ(pisen.plneJmeno, kopie);
+    EXPECT_EQ(radek(1), "A=la|B=g,|C=h,|I=Tah|W=G dur");
+}
+
+TEST_F(KonverzeTest, ACopyWhoseSongCannotBeOpenedAgainStays) {
+    otevri({tah});
+    pisen.plneJmeno = cesta("Polka.xls");
+    log.fail("renameActiveSheet", 1004);
+    log.fail("openWorkbook", 1004);
+    EXPECT_EQ(raised([this] { preved("G dur"); }), 1004);
+    EXPECT_EQ(pisen.aktualniPisen, "Polka G dur.xls");
+    EXPECT_TRUE(stav.selhala && konverze.predanaKopie());
+    EXPECT_EQ(storedText(cesta("Polka G dur.xls"), "B1"), "c1,");
 }
 
 TEST_F(KonverzeTest, AShortFileNameKeepsItsEnd) {
@@ -127,22 +168,27 @@ TEST_F(KonverzeTest, HeligonkaVersionsCarryTheNameOfATuning) {
 TEST_F(KonverzeTest, RowsOfAnyShapeAreReadToTheirEnd) {
     const struct {
         const char *popis, *puvodni, *prevedeny;
-        bool dalsiRadek; ///< the row below is converted too
+        const char *konec = "", *zbyva = ""; ///< where the run ends before the row below, and what is left
     } radky[] = {
-        {"gap in the grip", "B=c1,|E=e1,|I=Tah", "B=g,|E=h,|I=Tah", true},
-        {"direction too early", "B=c1,|C=Tlak|D=e1,", "B=g,|C=Tlak|D=e1,", true},
-        {"no direction", "B=c1,|C=e1,", "B=g,|C=h,", false},
-        {"another direction", "B=c1,|I=tah", "B=g,|I=tah", false},
+        {"gap in the grip", "B=c1,|E=e1,|I=Tah", "B=g,|E=h,|I=Tah"},
+        {"direction too early", "B=c1,|C=Tlak|D=e1,", "B=g,|C=Tlak|D=e1,"},
+        {"no direction", "B=c1,|C=e1,", "B=g,|C=h,", "D2", "řádek 3"},
+        {"another direction", "B=c1,|I=tah", "B=g,|I=tah", "C2", "řádek 3"},
         {"other text as direction", "B=c1,|C=c1,|D=c1,|E=c1,|F=c1,|G=c1,|H=c1,|I=x|J=e1,|L=e1,",
-         "B=g,|C=g,|D=g,|E=g,|F=g,|G=g,|H=g,|J=h,|L=e1,", false},
-        {"no tones", "C=c1,|I=Tah", "C=c1,|I=Tah", false},
+         "B=g,|C=g,|D=g,|E=g,|F=g,|G=g,|H=g,|J=h,|L=e1,", "K2", "řádek 3"},
+        {"no tones", "C=c1,|I=Tah", "C=c1,|I=Tah", "B2", "řádky 2–3"},
+        {"an empty row", "A=la", "A=la", "B2", "řádek 3"},
     };
     for (const auto& r : radky) {
         otevri({tah, r.puvodni + QString("|W=C dur"), tah});
         ocekavejHotovo();
         preved("G dur");
-        EXPECT_EQ(radek(2), r.prevedeny + QString(r.dalsiRadek ? "|W=G dur" : "|W=C dur")) << r.popis;
-        EXPECT_EQ(excel->text("B3"), r.dalsiRadek ? "g," : "c1,") << r.popis;
+        const bool dalsiRadek = !*r.konec;
+        EXPECT_EQ(radek(2), r.prevedeny + QString(dalsiRadek ? "|W=G dur" : "|W=C dur")) << r.popis;
+        EXPECT_EQ(excel->text("B3"), dalsiRadek ? "g," : "c1,") << r.popis;
+        const QString veta = "Převod skončil u prázdné buňky %1. Nepřevedeno zůstalo: %2.";
+        EXPECT_TRUE(konverze.veta().endsWith(dalsiRadek ? QString() : veta.arg(r.konec, r.zbyva))) << r.popis;
+        EXPECT_EQ(konverze.veta().contains("Převod skončil"), !dalsiRadek) << r.popis;
     }
 }
 
@@ -209,8 +255,21 @@ TEST_F(KonverzeTest, WhatIsLostIsTold) {
     preved("Fis dur");
     EXPECT_EQ(excel->text("B3"), "ais4,");
     EXPECT_EQ(excel->text("B1"), "");
-    EXPECT_EQ(konverze.veta(),
-              "Převod: v tabulce chybí 4 tóny (řádky 1–3), mimo rozsah nástroje 2 tóny (řádky 2–3).");
+    EXPECT_EQ(
+        konverze.veta(),
+        "Ztratil se nejnižší tón (řádek 1): sloupec B je tam prázdný a pro každého, kdo kopii čte, končí "
+        "písnička před řádkem 1. Převod: v tabulce chybí 4 tóny (řádky 1–3), mimo rozsah nástroje "
+        "2 tóny (řádky 2–3).");
+}
+
+TEST_F(KonverzeTest, AKeyThatIsNoneIsNamedAsTheReasonOfTheLoss) {
+    otevri({"B=c1,|C=e1,|I=Tah|W=Vyberte tóninu", "B=d1,|I=Tlak|W=Vyberte tóninu", "B=e1,|I=Tah|W=C Dur"});
+    dialogs.expect("Přechod do jiné stupnice", "", Answer::No);
+    ocekavejHotovo();
+    preved("G dur");
+    EXPECT_EQ(konverze.veta().section(": ", 2),
+              "„Vyberte tóninu“ ve sloupci W není tónina, bez ní nebylo čím nahradit 3 tóny (řádky 1–2).");
+    EXPECT_EQ(excel->text("B3"), "h,");
 }
 
 TEST_F(KonverzeTest, ASongChosenInTheDialogIsClosedAgain) {
@@ -242,8 +301,8 @@ TEST_F(KonverzeTest, ASongChosenInTheDialogIsClosedAgain) {
     EXPECT_EQ(konverze.veta(), "Kopie je v souboru „Polka G dur.xls“.");
     konverze.Form_Load();
     dialogs.expectFile(titulek, soubor("Bez tóniny.xls", {"B=c1,"})).expect("Nevhodný soubor.", "");
-    log.fail("saveActiveWorkbook", 1004);
-    EXPECT_EQ(raised([this] { konverze.cmdVyberPisen(); }), 1004);
+    log.fail("saveActiveWorkbook", 91);
+    EXPECT_EQ(raised([this] { konverze.cmdVyberPisen(); }), 91);
     EXPECT_EQ(pisen.aktualniPisen, "zavřená ručně.xls") << "also where saving fails";
 }
 

@@ -60,7 +60,10 @@ void CelyProgram::spust() {
         shell,
         {{{Tabulka::Vestavena, nabidkaVestavene, [this] { return novaTabulka(); }}}, Tabulka::Vestavena},
         hodiny,
-        media});
+        media,
+        jednoduchyProhlizec(),
+        nastrojZvonika(),
+        zaznamy});
     program->Main();
     program->okno().resize(1000, 720);
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&program->okno()));
@@ -69,8 +72,7 @@ void CelyProgram::spust() {
 
 std::unique_ptr<SpreadsheetApplication> CelyProgram::novaTabulka() {
     auto nova = std::make_unique<EmbeddedApplication>(
-        drive, dialogs, vlastniNastaveniTabulky, JournalFolder(slozka.filePath(QStringLiteral("zaznamy"))),
-        [this](SheetCommands& prikazy) {
+        drive, dialogs, vlastniNastaveniTabulky, zaznamy, [this](SheetCommands& prikazy) {
             auto okno = std::make_unique<SheetWindow>(prikazy, popisSloupcu());
             QObject::connect(okno.get(), &SheetWindow::f6Pressed, program.get(),
                              &Program::prejdiNaHlavniOkno);

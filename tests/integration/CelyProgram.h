@@ -83,6 +83,7 @@ protected:
     ScriptedDialogs dialogs;
     IniSettingsStore nastaveni;
     IniSettingsStore vlastniNastaveniTabulky;
+    JournalFolder zaznamy{slozka.filePath(QStringLiteral("zaznamy"))};
     ZaznamovyShell shell;
     RucniHodiny hodiny;
     ZaznamovaMedia media;

@@ -75,7 +75,7 @@ TEST_F(CiziObsahTest, SteppingShowsWhatCanBeShown) {
     EXPECT_EQ(program->modely().panel.barvaKroku, BarvaKroku::Tah);
     krok({neprovedeno}); // row 4: the direction in small letters is none
     EXPECT_TRUE(program->modely().diskant.popis(9).startsWith('2'));
-    EXPECT_EQ(knoflik(13), StavKnofliku::Volny) << "tones end at the first empty cell";
+    EXPECT_EQ(knoflik(13), StavKnofliku::Tah) << "tones are read across an empty cell";
     krok({});
     EXPECT_EQ(knoflik(13), StavKnofliku::Tah);
     EXPECT_EQ(program->modely().basy.stav(30), StavBasu::Tah);

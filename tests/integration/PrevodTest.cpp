@@ -49,7 +49,10 @@ TEST_F(PrevodTest, TheWindowShowsTheCopyAndWhatWasLost) {
     EXPECT_EQ(program->modely().panel.Combo1, "Tonavox XII");
     EXPECT_EQ(napis("lblTony"), "fis1,");
     EXPECT_EQ(napis("lblTon"), "1");
-    EXPECT_EQ(napis("lblStav"), "Převod: mimo rozsah nástroje 1 tón (řádek 2).");
+    EXPECT_EQ(napis("lblStav"),
+              "Převod: mimo rozsah nástroje 1 tón (řádek 2). Hmat je ukázán na tah, ale zapsán "
+              "na tlak (Ctrl+→). Hmat je v tónině Fis dur, pro zápis ale tónina zvolena není "
+              "(Ctrl+T).");
     EXPECT_EQ(textBunky(sesit(pisen("Polka.xls")), "B1"), "c1,");
     EXPECT_EQ(textBunky(sesit(pisen("Polka Fis dur.xls")), "C2"), "ais4,");
     klikni("cmdDalsi");
@@ -70,9 +73,12 @@ TEST_F(PrevodTest, ASongOfNoWindowIsConvertedAndClosed) {
         stiskni(dialog, "cmdGo");
     });
     ocekavejStavBezPisne();
-    EXPECT_EQ(napis("lblStav"),
-              "Tabulka tónů konverze.xml nebyla ve složce programu nalezena. Převod: v tabulce "
-              "chybí 3 tóny (řádky 1–2). Kopie je v souboru „Polka G dur.xls“.");
+    EXPECT_EQ(
+        napis("lblStav"),
+        "Tabulka tónů konverze.xml nebyla ve složce programu nalezena. Ztratil se nejnižší tón (řádky 1–2): "
+        "sloupec B je tam prázdný a pro každého, kdo kopii čte, končí písnička před řádkem 1. Převod: v "
+        "tabulce "
+        "chybí 3 tóny (řádky 1–2). Kopie je v souboru „Polka G dur.xls“.");
 }
 
 } // namespace zvonika::testing

@@ -23,6 +23,7 @@ protected:
         novaPisen();
         zapisHmat({"lbl(9)"}, true);
     }
+    QString varovani() const { return program->modely().panel.vystraha; }
     void zavriTabulku() const { tabulka->windowHandle()->close(); }
     /// As a user does it: the menu is opened and the entry clicked.
     void ukonciTabulku() const {
@@ -53,7 +54,11 @@ TEST_F(TabulkaZavrenaRucneTest, AClosedWorkbookIsReportedAtTheEndOfTheSong) {
     ocekavejDotazNaZmeny(Answer::No);
     zavriTabulku();
     EXPECT_TRUE(program->modely().pisen.otevrena()) << "the program does not find out by itself";
+    dialogs.expect("Neočekávaná chyba !", "a sdělte číslo chyby 91");
+    klikni("cmdDalsi");
+    EXPECT_TRUE(varovani().contains("stiskněte Konec písničky (Ctrl+E) a pak ji znovu otevřete."));
     ukonciPisenSChybou("Nenalezena aktuální skladba.", nenalezenaSkladba);
+    EXPECT_TRUE(varovani().contains("Otevřete ji znovu tlačítkem Otevřít.")) << varovani().toStdString();
     EXPECT_EQ(textBunky(sesit(pisen("Polka.xls")), "B1"), "") << "the user did not want it saved";
 
     novaPisen("Valčík");
@@ -68,10 +73,12 @@ TEST_F(TabulkaZavrenaRucneTest, AnApplicationThatWasQuitIsReportedAtEveryStep) {
     ukonciTabulku();
     EXPECT_FALSE(tabulka->isVisible());
     ukonciPisenSChybou("Nenalezena externí aplikace.", nenalezenaAplikace);
+    EXPECT_TRUE(varovani().contains("ukončete Zvoniku (Ctrl+Q) a spusťte ji znovu."));
 
     dialogs.expectInput("Nová skladba.", "Valčík");
     dialogs.expect("Neočekávaná chyba !", "a sdělte číslo chyby 91");
     klikni("cmdNovaSkladba");
+    EXPECT_TRUE(varovani().contains("ukončete Zvoniku (Ctrl+Q) a spusťte ji znovu."));
     ocekavejStavBezPisne();
     EXPECT_EQ(soubory(), QStringList{"Polka.xls"});
     EXPECT_EQ(textBunky(sesit(pisen("Polka.xls")), "B1"), "c1,");

@@ -21,7 +21,7 @@ protected:
                        "vytvořte nejprve ručně tento adresář !!!");
         klikni("cmdNovaSkladba");
         EXPECT_EQ(dialogs.last.icon, Icon::Critical);
-        EXPECT_TRUE(napis("lblStav").contains(pricina)) << napis("lblStav").toStdString();
+        EXPECT_TRUE(napis("lblVarovani").contains(pricina)) << napis("lblVarovani").toStdString();
         ocekavejStavBezPisne();
         EXPECT_EQ(soubory(), predtim);
     }
@@ -80,6 +80,15 @@ TEST_F(ZakladaniTest, AMissingWorkingFolderIsMade) {
         klikni("cmdEndEdit");
         EXPECT_EQ(soubory(), QStringList{"Polka.xls"});
     }
+}
+
+TEST_F(ZakladaniTest, ASongThatAKilledProgramHasSetAsideIsBackAfterTheStart) {
+    ASSERT_TRUE(QDir(pracovni()).mkdir(".~odlozeno-x"));
+    ulozSoubor(pisen(".~odlozeno-x/Polka.xls"), bajty(xls::Workbook::create(u"stará")));
+    spust();
+    EXPECT_EQ(soubory(), QStringList{"Polka.xls"});
+    EXPECT_TRUE(napis("lblStav").endsWith("na svém místě je zpátky: Polka.xls."));
+    EXPECT_EQ(sesit(pisen("Polka.xls")).sheetName(0), u"stará");
 }
 
 TEST_F(ZakladaniTest, FilesThatAreNoSongAreNamedAndLeftAlone) {

@@ -29,6 +29,7 @@ TEST_F(ZvukTest, TheSongFileIsWholeWhenASoundButtonEndsTheProcess) {
     EXPECT_EQ(vlastniNastaveniTabulky.get("Tabulka", "DefaultFilePath"), pracovniAdresar);
 
     program.reset();
+    dialogs.expect("Neuložené písničky", "„Polka.xls“: 3 změny", Answer::No);
     spust();
     otevri(pisen("Polka.xls"), [this] { dialogs.expect("Tabulka Zvoniky", " z minula ", Answer::Yes); });
     EXPECT_NE(neulozena, QString());

@@ -1,10 +1,17 @@
 #include "platform/HomeDrive.h"
 
+#include "platform/RuntimeError.h"
+#include "platform/files/FileLock.h"
+#include "tests/platform/files/OtherUser.h"
+#include "tests/support/PrintQt.h"
+
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <csignal>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace zvonika {
 namespace {
@@ -51,6 +58,125 @@ TEST(HomeDrive, CreatesOneFolderAtATimeAndTellsFilesFromFolders) {
     EXPECT_TRUE(drive.deleteFile("C:\\a.xls"));
     EXPECT_FALSE(QFile::exists(folder.filePath("a.xls")));
     EXPECT_FALSE(drive.deleteFile("C:\\a.xls"));
+}
+
+/// A folder as drive C: with one song in it.
+class SongOnDrive : public ::testing::Test {
+protected:
+    SongOnDrive() {
+        ::chmod(QFile::encodeName(folder.path()), 0777);
+        put("Polka.xls", "hmaty");
+    }
+    void put(const QString& name, const QByteArray& contents) const {
+        QFile file(folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(contents);
+    }
+    QString contents(const QString& name) const {
+        QFile file(folder.filePath(name));
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    }
+    QStringList names() const {
+        return QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
+    /// In a process of its own that says when it is done and then stays until it is killed.
+    template <typename Action>
+    static pid_t stay(Action action) {
+        int pipe[2];
+        EXPECT_EQ(::pipe(pipe), 0);
+        const pid_t child = ::fork();
+        if (child == 0) {
+            [[maybe_unused]] const auto kept = action();
+            (void)!::write(pipe[1], "x", 1);
+            for (;;)
+                ::pause();
+        }
+        char told = 0;
+        EXPECT_EQ(::read(pipe[0], &told, 1), 1);
+        ::close(pipe[0]);
+        ::close(pipe[1]);
+        return child;
+    }
+    static void kill(pid_t child) {
+        ::kill(child, SIGKILL);
+        ::waitpid(child, nullptr, 0);
+    }
+
+    const QTemporaryDir folder;
+    HomeDrive drive{folder.path(), {}};
+    const QString song = "C:\\Polka.xls";
+};
+
+TEST_F(SongOnDrive, AFileSetAsideComesBackUnlessItIsGivenUp) {
+    const auto before = names();
+    drive.setAside(song);
+    EXPECT_EQ(names(), before) << "back with the object";
+    for (const bool taken : {false, true}) {
+        auto aside = drive.setAside(song);
+        EXPECT_FALSE(drive.fileExists(song));
+        if (taken) put("Polka.xls", "cizí");
+        EXPECT_EQ(aside->bringBack(), taken ? "Polka (původní).xls" : "");
+    }
+    EXPECT_EQ(contents("Polka.xls"), "cizí");
+    EXPECT_EQ(contents("Polka (původní).xls"), "hmaty");
+    drive.setAside(song)->giveUp();
+    EXPECT_EQ(names(), QStringList{"Polka (původní).xls"}) << "nothing is left of it";
+
+    const QString longest = QString(251, u'x') + ".xls";
+    put(longest, "dlouhá");
+    EXPECT_EQ(drive.setAside("C:\\" + longest)->bringBack(), "");
+    EXPECT_EQ(contents(longest), "dlouhá");
+}
+
+TEST_F(SongOnDrive, WhatAKilledProgramHasSetAsideIsPutBackAtTheNextStart) {
+    for (const bool taken : {false, true}) {
+        const pid_t other = stay([this] { return drive.setAside(song).release(); });
+        EXPECT_EQ(drive.bringBackSetAside("C:\\"), QStringList()) << "its owner will do it";
+        EXPECT_FALSE(drive.fileExists(song));
+        if (taken) put("Polka.xls", "nová");
+        kill(other);
+        EXPECT_EQ(drive.bringBackSetAside("C:\\"), QStringList(taken ? "Polka (původní).xls" : "Polka.xls"));
+        EXPECT_EQ(contents(taken ? "Polka (původní).xls" : "Polka.xls"), "hmaty");
+        EXPECT_EQ(names().filter("odlozeno"), QStringList());
+    }
+    EXPECT_EQ(contents("Polka.xls"), "nová");
+}
+
+TEST_F(SongOnDrive, AFileOfSomebodyElseOrOfAClosedFolderStaysAndTheCauseIsTold) {
+    const auto cause = [this] {
+        try {
+            drive.setAside(song);
+        } catch (const RuntimeError& refusal) {
+            EXPECT_EQ(refusal.number(), error::permissionDenied);
+            return refusal.cause();
+        }
+        return QString();
+    };
+    const pid_t other =
+        stay([this] { return new FileLock(FileLock::acquire(folder.filePath("Polka.xls"))); });
+    EXPECT_TRUE(cause().startsWith("Soubor „Polka.xls“ je už otevřen jinde (")) << cause().toStdString();
+    kill(other);
+    EXPECT_EQ(cause(), "") << "the lock of a dead process counts for nothing";
+    const struct {
+        mode_t folder, file;
+        const char *setAside, *readOnly;
+    } modes[] = {{0777, 0666, "", ""},
+                 {0555, 0666, "Soubor „Polka.xls“ nelze vymazat ani nahradit: v jeho složce nemáte oprávnění",
+                  "Do složky, ve které je soubor „Polka.xls“, nemáte právo zapisovat."},
+                 {0777, 0444, "", "Soubor „Polka.xls“ je jen pro čtení."}};
+    for (const auto& mode : modes) {
+        ::chmod(QFile::encodeName(folder.filePath("Polka.xls")), mode.file);
+        ::chmod(QFile::encodeName(folder.path()), mode.folder);
+        EXPECT_EQ(testing::asOrdinaryUser([&] {
+                      const QString told = cause();
+                      if (!told.contains(mode.setAside) || told.isEmpty() != (*mode.setAside == 0)) return 1;
+                      return drive.readOnlyBecause(song) == mode.readOnly ? 0 : 2;
+                  }),
+                  0)
+            << mode.folder << ' ' << mode.file;
+        ::chmod(QFile::encodeName(folder.path()), 0777);
+        EXPECT_EQ(contents("Polka.xls"), "hmaty");
+    }
 }
 
 } // namespace

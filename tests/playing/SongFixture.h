@@ -74,6 +74,7 @@ protected:
     TrebleBoard diskant{nastrojZvonika()};
     BassBoard basy{nastrojZvonika()};
     ZobrazovaciOsnova osnova;
+    Tonina tonina;
     BassTable tabulka{QStringLiteral(ZVONIKA_RESOURCES), 120};
     int uvolneno = 0; ///< how often the board was released
     int zastavenoKrokovani = 0;
@@ -90,7 +91,7 @@ protected:
     PasPisne pasPisne{pisen, pas};
     Navigace navigace{okoli, zobrazeni, pasPisne, diskant, uvolniVse};
     Zvuk zvuk{okoli, drive, media};
-    ZivotPisne zivot{okoli, drive, {zobrazeni, pasPisne, navigace, zvuk, uvolniVse}};
+    ZivotPisne zivot{okoli, drive, {zobrazeni, pasPisne, navigace, zvuk, tonina, uvolniVse}};
 };
 
 } // namespace zvonika::testing

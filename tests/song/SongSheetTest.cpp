@@ -60,10 +60,14 @@ TEST_F(SongSheetTest, ReadsEveryColumnOfARow) {
                          "l12;1\\", "G dur"};
     const auto hmaty = list.gripy(3, 2);
     EXPECT_EQ(hmaty[0], ocekavany);
-    EXPECT_TRUE(hmaty[1].prazdny());
-    EXPECT_TRUE(hmaty[1].tonyZaMezerou);
+    EXPECT_EQ(hmaty[1].tony, QStringList("poslední"));
+    EXPECT_TRUE(hmaty[1].bezPrvnihoTonu);
     EXPECT_FALSE(hmaty[1].basyZaMezerou);
     EXPECT_EQ(log.calls, QStringList("readBlock")) << "one call for all rows";
+    excel->put("E3", "");
+    EXPECT_EQ(list.tonyDoMezery(3), (QStringList{"tB", "tC", "tD"}));
+    EXPECT_EQ(list.grip(3).tony, (QStringList{"tB", "tC", "tD", "tF", "tG", "tH"}));
+    EXPECT_FALSE(list.grip(3).bezPrvnihoTonu);
 }
 
 TEST_F(SongSheetTest, WritesTheNamedPartsOfAGripAndNothingElse) {

@@ -16,6 +16,9 @@ public:
     bool folderExists(const QString& path) const override { return folders.contains(path); }
     bool createFolder(const QString& path) override { return folders.insert(path), true; }
     bool deleteFile(const QString&) override { return false; }
+    std::unique_ptr<SetAside> setAside(const QString&) override { return nullptr; }
+    QStringList bringBackSetAside(const QString&) override { return {}; }
+    QString readOnlyBecause(const QString&) const override { return {}; }
     QString programFolder() const override { return {}; }
 };
 

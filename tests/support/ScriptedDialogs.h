@@ -3,6 +3,7 @@
 #include "platform/Dialogs.h"
 
 #include <deque>
+#include <functional>
 #include <gtest/gtest.h>
 #include <variant>
 
@@ -35,6 +36,7 @@ public:
     Answer message(const Message& message) override {
         last = message;
         ++count;
+        whileUp();
         const Step step = next(Kind::Message, message.title + QStringLiteral(": ") + message.text);
         EXPECT_EQ(message.title.toStdString(), step.title.toStdString());
         EXPECT_TRUE(message.text.contains(step.textPart)) << message.text.toStdString();
@@ -61,6 +63,7 @@ public:
         return next(Kind::File, title).text;
     }
 
+    std::function<void()> whileUp = [] {}; ///< called while a box is up
     bool done() const { return script_.empty(); }
 
     Message last;  ///< the box shown last, whole

@@ -19,13 +19,16 @@ class TestDrive : public HomeDrive {
 public:
     explicit TestDrive(const QString& root) : HomeDrive(root, {}) {}
     QString programFolderPath;
-    int failingDeletions = 0; ///< so many deletions fail first
+    int failingDeletions = 0; ///< so many files cannot be set aside first
+    QString readOnly;         ///< why every file is read-only; "" where none is
 
     QString programFolder() const override { return programFolderPath; }
-    bool deleteFile(const QString& path) override {
-        if (failingDeletions > 0) return --failingDeletions, false;
-        return HomeDrive::deleteFile(path);
+    std::unique_ptr<SetAside> setAside(const QString& path) override {
+        if (failingDeletions-- > 0) throw RuntimeError(70, QStringLiteral("nejde vymazat"));
+        failingDeletions = 0;
+        return HomeDrive::setAside(path);
     }
+    QString readOnlyBecause(const QString&) const override { return readOnly; }
     QStringList files(const QString& folder) const {
         return QDir(nativePath(folder)).entryList(QDir::Files, QDir::Name);
     }

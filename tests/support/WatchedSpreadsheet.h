@@ -6,16 +6,18 @@
 
 namespace zvonika::testing {
 
-/// The built-in spreadsheet with every call of the program noted in a log, which can have it fail. What a
-/// test itself does goes past the log.
-class WatchedSpreadsheet : public SpreadsheetApplication {
+/// The built-in spreadsheet, as what `Port` says, with every call of the program noted in a log, which can
+/// have it fail. What a test itself does goes past the log.
+template <typename Port>
+class Watched : public Port {
 public:
-    WatchedSpreadsheet(std::unique_ptr<EmbeddedApplication> watched, CallLog& log)
+    Watched(std::unique_ptr<EmbeddedApplication> watched, CallLog& log)
         : app_(std::move(watched)), log_(log) {}
-    ~WatchedSpreadsheet() override { log_.calls.append(QStringLiteral("release")); }
+    ~Watched() override { log_.calls.append(QStringLiteral("release")); }
 
     // --- what a test looks at and sets up ---
     EmbeddedApplication& app() { return *app_; }
+    const EmbeddedApplication& app() const { return *app_; }
     bool running() const { return app_->session().state() == Session::State::Running; }
     int workbooks() const { return static_cast<int>(app_->session().documents().size()); }
     CellValue cell(const QString& address) const { return app_->value(address); }
@@ -42,6 +44,7 @@ public:
     void quit() override { on("quit").quit(); }
     void setListener(SpreadsheetListener* l) override { on("setListener").setListener(l); }
     void showToUser() override { on("showToUser").showToUser(); }
+    QString trouble() const override { return app_->trouble(); }
 
     void addWorkbook() override { on("addWorkbook").addWorkbook(); }
     void openWorkbook(const QString& name) override { on("openWorkbook").openWorkbook(name); }
@@ -53,6 +56,9 @@ public:
     }
     void saveActiveWorkbook() override { on("saveActiveWorkbook").saveActiveWorkbook(); }
     void closeActiveWorkbook() override { on("closeActiveWorkbook").closeActiveWorkbook(); }
+    bool activeWorkbookModified() const override {
+        return on("activeWorkbookModified").activeWorkbookModified();
+    }
     QString activeWorkbookName() const override { return on("activeWorkbookName").activeWorkbookName(); }
     void activateWindow(const QString& name) override { on("activateWindow").activateWindow(name); }
 
@@ -93,5 +99,7 @@ private:
     std::unique_ptr<EmbeddedApplication> app_;
     CallLog& log_;
 };
+
+using WatchedSpreadsheet = Watched<SpreadsheetApplication>;
 
 } // namespace zvonika::testing

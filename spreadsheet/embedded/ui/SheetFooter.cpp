@@ -3,6 +3,7 @@
 #include "spreadsheet/embedded/ui/SheetTabs.h"
 
 #include <QAbstractScrollArea>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QScrollBar>
@@ -27,10 +28,50 @@ QScrollBar* columnBar(QAbstractScrollArea* table, QWidget* parent) {
     return bar;
 }
 
+const QString between = QStringLiteral("  ·  ");
+
 } // namespace
 
+/// A line that shows as many of its sentences as there is room for, each whole or not at all.
+class WholeSentences : public QLabel {
+public:
+    explicit WholeSentences(QWidget* parent) : QLabel(parent) {
+        setTextFormat(Qt::PlainText);
+        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    }
+    void show(const QStringList& sentences) {
+        sentences_ = sentences;
+        const QString all = sentences.join(between);
+        setToolTip(all);
+        setAccessibleDescription(all);
+        fit();
+    }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override {
+        QLabel::resizeEvent(event);
+        fit();
+    }
+    void changeEvent(QEvent* event) override {
+        QLabel::changeEvent(event);
+        if (event->type() == QEvent::FontChange) fit();
+    }
+
+private:
+    void fit() {
+        QString line;
+        for (const QString& sentence : sentences_) {
+            const QString longer = line.isEmpty() ? sentence : line + between + sentence;
+            if (fontMetrics().horizontalAdvance(longer) <= contentsRect().width()) line = longer;
+        }
+        setText(line);
+    }
+
+    QStringList sentences_;
+};
+
 SheetFooter::SheetFooter(QAbstractScrollArea* table, QWidget* parent)
-    : QWidget(parent), tabs_(new SheetTabs(this)), status_(new QLabel(this)) {
+    : QWidget(parent), tabs_(new SheetTabs(this)), status_(new WholeSentences(this)) {
     status_->setObjectName(QStringLiteral("stavTabulky"));
     status_->setAccessibleName(QStringLiteral("Stav tabulky"));
     status_->setTextFormat(Qt::PlainText);
@@ -44,9 +85,8 @@ SheetFooter::SheetFooter(QAbstractScrollArea* table, QWidget* parent)
     row->addWidget(columnBar(table, this), 1);
 }
 
-void SheetFooter::setStatus(const QString& text) {
-    status_->setText(text);
-    status_->setToolTip(text);
+void SheetFooter::setStatus(const QStringList& sentences) {
+    status_->show(sentences);
 }
 
 } // namespace zvonika

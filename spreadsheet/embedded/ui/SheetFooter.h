@@ -8,6 +8,7 @@ class QLabel;
 namespace zvonika {
 
 class SheetTabs;
+class WholeSentences;
 
 /// One line below the sheet: its tabs, what is shown, and the scroll bar for the columns.
 class SheetFooter : public QWidget {
@@ -17,11 +18,12 @@ public:
     explicit SheetFooter(QAbstractScrollArea* table, QWidget* parent = nullptr);
 
     SheetTabs* tabs() const { return tabs_; }
-    void setStatus(const QString& text);
+    /// What matters most comes first; what has no room whole is left to the tool tip.
+    void setStatus(const QStringList& sentences);
 
 private:
     SheetTabs* tabs_;
-    QLabel* status_;
+    WholeSentences* status_;
 };
 
 } // namespace zvonika

@@ -29,12 +29,12 @@ QString what(const Selection& selection, const QString& label) {
 
 } // namespace
 
-QString statusText(const Document& document, const QString& label) {
-    QStringList parts{place(document), what(document.cursor().selection(), label)};
+QStringList statusSentences(const Document& document, const QString& label) {
+    QStringList parts{document.journal().trouble(), place(document),
+                      what(document.cursor().selection(), label)};
     if (document.file().isOldFormat()) parts.append(QStringLiteral("starší formát, uloží se v novém"));
-    parts.append(document.journal().trouble());
     parts.removeAll(QString());
-    return parts.join(QStringLiteral("  ·  "));
+    return parts;
 }
 
 } // namespace zvonika

@@ -22,6 +22,8 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace zvonika {
 
 namespace {
@@ -113,9 +115,10 @@ void SheetWindow::wireUser() {
     connect(menu_, &SheetMenu::aboutToAct, this, &SheetWindow::commitPending);
     connect(footer_->tabs(), &QTabBar::currentChanged, this, [this](int tab) {
         commitPending(); // still on the sheet where it was typed
-        commands_.selectSheet(tab + 1);
+        commands_.selectSheet(sheetOfTab(tab));
     });
-    footer_->tabs()->setRename([this](int tab, const QString& name) { return renameSheet(tab + 1, name); });
+    footer_->tabs()->setRename(
+        [this](int tab, const QString& name) { return renameSheet(sheetOfTab(tab), name); });
     connect(new QShortcut(QKeySequence(Qt::Key_F6), this), &QShortcut::activated, this,
             &SheetWindow::f6Pressed);
 }
@@ -180,11 +183,19 @@ void SheetWindow::showTitle() {
     setWindowModified(document_ && document_->file().isModified());
 }
 
+int SheetWindow::sheetOfTab(int tab) const {
+    const std::vector<int> sheets = document_->cells().visibleSheets();
+    return tab >= 0 && tab < static_cast<int>(sheets.size()) ? sheets[static_cast<std::size_t>(tab)]
+                                                             : document_->cursor().activeSheet();
+}
+
 void SheetWindow::showSheets() {
+    const std::vector<int> sheets = document_->cells().visibleSheets();
     QStringList names;
-    for (int sheet = 1; sheet <= document_->cells().sheetCount(); ++sheet)
+    for (const int sheet : sheets)
         names.append(document_->cells().sheetName(sheet));
-    footer_->tabs()->show(names, document_->cursor().activeSheet() - 1);
+    const auto active = std::ranges::find(sheets, document_->cursor().activeSheet());
+    footer_->tabs()->show(names, static_cast<int>(active - sheets.begin()));
     if (shownSheet_ == document_->cursor().activeSheet()) return;
     shownSheet_ = document_->cursor().activeSheet();
     model_->refresh();
@@ -220,7 +231,7 @@ void SheetWindow::showDue() {
     const CellPosition cell = document_->cursor().selection().active;
     line_->showCell(cell, document_->cells().editText(document_->cursor().activeSheet(), cell));
     const QVariant label = model_->headerData(cell.column - 1, Qt::Horizontal, SheetModel::LabelRole);
-    footer_->setStatus(statusText(*document_, label.toString()));
+    footer_->setStatus(statusSentences(*document_, label.toString()));
 }
 
 bool SheetWindow::renameSheet(int sheet, const QString& name) {

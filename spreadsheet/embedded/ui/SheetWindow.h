@@ -50,6 +50,7 @@ private:
     void showSoon();
     void showDue();
     bool renameSheet(int sheet, const QString& name);
+    int sheetOfTab(int tab) const; ///< hidden sheets have none; `tab` counts from 0
 
     SheetCommands& commands_;
     Document* document_ = nullptr;

@@ -1,5 +1,7 @@
 #include "spreadsheet/libreoffice/hlidac/Leftovers.h"
 
+#include "platform/files/RegularDescriptor.h"
+
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -12,6 +14,7 @@ namespace {
 namespace fs = std::filesystem;
 
 const std::string pipePrefix = "/tmp/OSL_PIPE_";
+constexpr long long largestLock = 1 << 16; ///< bytes; it is one line
 
 /// Inode numbers of the sockets that a process holds.
 std::set<std::string> socketsOf(pid_t process) {
@@ -45,10 +48,9 @@ void Leftovers::lookAt(pid_t office) {
 }
 
 bool Leftovers::isOwnLock(const std::string& path) const {
-    std::ifstream file(path);
-    std::ostringstream text;
-    text << file.rdbuf();
-    return text.str().find(profileUrl_) != std::string::npos;
+    std::string text;
+    return readRegular(path.c_str(), Links::Refuse, largestLock, text) &&
+           text.find(profileUrl_) != std::string::npos;
 }
 
 void Leftovers::remove() const {

@@ -1,10 +1,12 @@
 #include "spreadsheet/libreoffice/uno/Book.h"
 
+#include "spreadsheet/FileRefusals.h"
 #include "spreadsheet/libreoffice/uno/Failures.h"
 #include "spreadsheet/libreoffice/uno/Interaction.h"
 
 #include <QFileInfo>
 
+#include <com/sun/star/awt/PosSize.hpp>
 #include <com/sun/star/awt/XToolkitExperimental.hpp>
 #include <com/sun/star/awt/XTopWindow.hpp>
 #include <com/sun/star/awt/XWindowPeer.hpp>
@@ -19,7 +21,10 @@ namespace zvonika {
 
 namespace {
 const rtl::OUString xlsFilter("MS Excel 97");
-}
+const QString notWritten =
+    QStringLiteral("LibreOffice Calc ho nezapsal; sešit zůstává otevřen v jeho okně, kde "
+                   "ho můžete uložit pod jiným jménem");
+} // namespace
 
 std::unique_ptr<Book> Book::of(const Ref<css::lang::XComponent>& document, CalcObserver& observer,
                                const Ref<css::frame::XDispatchHelper>& dispatcher, Keeper& keeper) {
@@ -45,6 +50,11 @@ Book::~Book() {
     events_->stop();
 }
 
+void Book::setId(int id) {
+    id_ = id;
+    events_->setWorkbook(id);
+}
+
 QString Book::title() const {
     const auto titled = as<css::frame::XTitle>(model_);
     return titled.is() ? fromUno(titled->getTitle()) : QString();
@@ -52,18 +62,33 @@ QString Book::title() const {
 
 OpenWorkbook Book::description() const {
     OpenWorkbook result;
-    result.id = id;
+    result.id = id_;
     result.path = nativePath(model_->getURL());
     result.name = result.path.isEmpty() ? title() : QFileInfo(result.path).fileName();
     result.modified = as<css::util::XModifiable>(model_)->isModified();
+    result.format = format();
+    result.encrypted = isEncrypted();
     return result;
 }
 
-bool Book::isXls() const {
+/// How the workbook was opened or last saved.
+css::uno::Any Book::argument(const char* name) const {
     const auto arguments = model_->getArgs();
     for (const auto& argument : arguments)
-        if (argument.Name.equalsAscii("FilterName")) return argument.Value == css::uno::Any(xlsFilter);
-    return false;
+        if (argument.Name.equalsAscii(name)) return argument.Value;
+    return {};
+}
+
+WorkbookFormat Book::format() const {
+    rtl::OUString filter;
+    argument("FilterName") >>= filter;
+    if (filter.isEmpty() || filter == xlsFilter) return WorkbookFormat::Xls;
+    const bool old = filter.match("MS Excel 5.0/95") || filter.match("MS Excel 95");
+    return old ? WorkbookFormat::OldXls : WorkbookFormat::Other;
+}
+
+bool Book::isEncrypted() const {
+    return argument("EncryptionData").hasValue() || argument("Password").hasValue();
 }
 
 // Calc holds more rows, columns and longer names than the format and drops what does not fit without a word.
@@ -96,24 +121,37 @@ void Book::commitEntry() {
     select(single(here));
 }
 
-void Book::saveAs(const QString& nativePath) {
-    commitEntry();
-    refuseWhatXlsLoses();
+void Book::store(const QString& nativePath, const std::function<void(const Properties&)>& steps) {
     const rtl::Reference<Interaction> interaction(new Interaction);
-    as<css::frame::XStorable>(model_)->storeAsURL(
-        fileUrl(nativePath),
-        properties(property("FilterName", xlsFilter),
-                   property("InteractionHandler", Ref<css::task::XInteractionHandler>(interaction.get()))));
+    try {
+        steps(properties(
+            property("FilterName", xlsFilter),
+            property("InteractionHandler", Ref<css::task::XInteractionHandler>(interaction.get()))));
+    } catch (const css::lang::DisposedException&) {
+        throw;
+    } catch (const css::uno::Exception& failure) {
+        logFailure(failure);
+        refuse(cannotSave(nativePath, interaction->reason().isEmpty() ? notWritten : interaction->reason()));
+    }
     observer_.fileOpened(nativePath);
 }
 
-void Book::save() {
-    if (!isXls()) return saveAs(nativePath(model_->getURL()));
+void Book::saveAs(const QString& nativePath) {
     commitEntry();
     refuseWhatXlsLoses();
-    const rtl::Reference<Interaction> interaction(new Interaction);
-    as<css::frame::XStorable2>(model_)->storeSelf(
-        properties(property("InteractionHandler", Ref<css::task::XInteractionHandler>(interaction.get()))));
+    store(nativePath, [&](const Properties& saving) {
+        as<css::frame::XStorable>(model_)->storeAsURL(fileUrl(nativePath), saving);
+    });
+}
+
+void Book::save() {
+    const QString path = nativePath(model_->getURL());
+    if (format() == WorkbookFormat::OldXls) return saveAs(path);
+    commitEntry();
+    if (format() == WorkbookFormat::Xls) refuseWhatXlsLoses();
+    store(path, [&](const Properties& saving) {
+        as<css::frame::XStorable2>(model_)->storeSelf(properties(saving[1])); // in its own format
+    });
 }
 
 void Book::close() {
@@ -124,6 +162,12 @@ void Book::setVisible(bool visible) {
     const auto window = frame_->getContainerWindow();
     window->setVisible(visible);
     frame_->getComponentWindow()->setVisible(visible);
+}
+
+void Book::standWhere(const Book& other) {
+    const css::awt::Rectangle place = other.frame_->getContainerWindow()->getPosSize();
+    frame_->getContainerWindow()->setPosSize(place.X, place.Y, place.Width, place.Height,
+                                             css::awt::PosSize::POSSIZE);
 }
 
 void Book::toFront() {

@@ -10,8 +10,10 @@
 #include <com/sun/star/lang/XComponent.hpp>
 #include <com/sun/star/sheet/XSpreadsheetView.hpp>
 #include <com/sun/star/sheet/XSpreadsheets.hpp>
+#include <functional>
 #include <memory>
 #include <rtl/ref.hxx>
+#include <vector>
 
 namespace zvonika {
 
@@ -25,15 +27,16 @@ public:
     Book(const Book&) = delete;
     Book& operator=(const Book&) = delete;
 
-    int id = 0;
+    int id() const { return id_; }
+    void setId(int id);
 
     // --- the file ---
     bool closed() const { return events_->closed(); }
     void markClosed() { events_->markClosed(); } ///< a call has met nothing any more
     bool is(const Ref<css::uno::XInterface>& document) const { return identity_ == document; }
     OpenWorkbook description() const;
-    /// A file in the format .xls, and in no other.
-    bool isXls() const;
+    WorkbookFormat format() const;
+    WorkbookImage image();
     void saveAs(const QString& nativePath);
     void save();
     void close();
@@ -41,8 +44,10 @@ public:
     // --- its window ---
     void setVisible(bool visible);
     void toFront();
+    /// Takes the place that the other workbook's window has on the screen.
+    void standWhere(const Book& other);
 
-    // --- sheets ---
+    // --- sheets: those that are not hidden ---
     int activeSheet() const;
     QStringList sheetNames() const;
     void rename(const QString& name);
@@ -60,14 +65,20 @@ public:
     void clear(const CellRange& range);
 
 private:
+    SheetImage imageOf(const Ref<css::sheet::XSpreadsheet>& sheet);
     Book(const Ref<css::frame::XModel>& model, const Ref<css::sheet::XSpreadsheets>& sheets,
          CalcObserver& observer, const Ref<css::frame::XDispatchHelper>& dispatcher, Keeper& keeper);
     Ref<css::sheet::XSpreadsheet> sheet() const;
     void refuseWhatXlsLoses() const;
+    void store(const QString& nativePath, const std::function<void(const Properties& saving)>& steps);
+    css::uno::Any argument(const char* name) const;
+    bool isEncrypted() const;
+    std::vector<sal_Int32> visibleSheets() const;
     void awaitKeys();
     void commitEntry();
     QString title() const;
 
+    int id_ = 0;
     CalcObserver& observer_;
     Keeper& keeper_;
     Ref<css::frame::XDispatchHelper> dispatcher_;
@@ -83,5 +94,8 @@ private:
 
 /// The last row and column that a sheet uses, counted from 1.
 CellPosition usedEnd(const Ref<css::sheet::XSpreadsheet>& sheet, Keeper& keeper);
+bool containsFormulas(const Ref<css::sheet::XSpreadsheet>& sheet, Keeper& keeper);
+/// "" where a cell has none.
+QVector<QStringList> formulasIn(const Ref<css::table::XCellRange>& cells);
 
 } // namespace zvonika

@@ -3,6 +3,8 @@
 #include "spreadsheet/libreoffice/uno/Book.h"
 #include "spreadsheet/libreoffice/uno/Failures.h"
 
+#include <algorithm>
+#include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/container/XNamed.hpp>
 #include <com/sun/star/sheet/CellFlags.hpp>
 #include <com/sun/star/sheet/XCellRangeAddressable.hpp>
@@ -27,6 +29,24 @@ CellPosition usedEnd(const Ref<css::sheet::XSpreadsheet>& sheet, Keeper& keeper)
     return rangeOf(as<css::sheet::XCellRangeAddressable>(cursor)->getRangeAddress()).last;
 }
 
+bool containsFormulas(const Ref<css::sheet::XSpreadsheet>& sheet, Keeper& keeper) {
+    const auto found = keeper.keep(as<css::sheet::XCellRangesQuery>(sheet)->queryContentCells(
+        static_cast<sal_Int16>(css::sheet::CellFlags::FORMULA)));
+    return found->getRangeAddresses().hasElements();
+}
+
+QVector<QStringList> formulasIn(const Ref<css::table::XCellRange>& cells) {
+    const auto rows = as<css::sheet::XCellRangeFormula>(cells)->getFormulaArray();
+    QVector<QStringList> result;
+    for (const auto& row : rows) {
+        QStringList texts;
+        for (const auto& text : row)
+            texts << (text.startsWith("=") ? fromUno(text) : QString());
+        result << texts;
+    }
+    return result;
+}
+
 Ref<css::sheet::XSpreadsheet> Book::sheet() const {
     const auto active = keeper_.keep(view_->getActiveSheet());
     // The view of a workbook that is being closed answers, but has nothing to show any more.
@@ -34,15 +54,30 @@ Ref<css::sheet::XSpreadsheet> Book::sheet() const {
     return active;
 }
 
+/// Their indexes, from 0.
+std::vector<sal_Int32> Book::visibleSheets() const {
+    const auto all = as<css::container::XIndexAccess>(sheets_);
+    std::vector<sal_Int32> visible;
+    for (sal_Int32 i = 0; i < all->getCount(); ++i) {
+        const Ref<css::beans::XPropertySet> sheet(all->getByIndex(i), css::uno::UNO_QUERY_THROW);
+        bool shown = true;
+        keeper_.keep(sheet)->getPropertyValue(rtl::OUString("IsVisible")) >>= shown;
+        if (shown) visible.push_back(i);
+    }
+    return visible;
+}
+
 int Book::activeSheet() const {
-    return as<css::sheet::XCellRangeAddressable>(sheet())->getRangeAddress().Sheet + 1;
+    const auto sheets = visibleSheets();
+    const sal_Int32 active = as<css::sheet::XCellRangeAddressable>(sheet())->getRangeAddress().Sheet;
+    return static_cast<int>(std::ranges::find(sheets, active) - sheets.begin()) + 1;
 }
 
 QStringList Book::sheetNames() const {
     const auto names = as<css::container::XNameAccess>(sheets_)->getElementNames();
     QStringList result;
-    for (const auto& name : names)
-        result << fromUno(name);
+    for (const sal_Int32 index : visibleSheets())
+        if (index < names.getLength()) result << fromUno(names[index]);
     return result;
 }
 
@@ -54,10 +89,10 @@ void Book::rename(const QString& name) {
 }
 
 void Book::selectSheet(int sheet) {
-    const Ref<css::sheet::XSpreadsheet> wanted(
-        as<css::container::XIndexAccess>(sheets_)->getByIndex(sheet - 1), css::uno::UNO_QUERY_THROW);
+    const sal_Int32 index = visibleSheets().at(static_cast<std::size_t>(sheet - 1));
+    const Ref<css::sheet::XSpreadsheet> wanted(as<css::container::XIndexAccess>(sheets_)->getByIndex(index),
+                                               css::uno::UNO_QUERY_THROW);
     view_->setActiveSheet(keeper_.keep(wanted));
-    if (activeSheet() != sheet) refuse(QStringLiteral("List číslo %1 je skrytý.").arg(sheet));
 }
 
 CellPosition Book::cursor() const {
@@ -81,10 +116,7 @@ void Book::select(const CellRange& range) {
 }
 
 bool Book::hasFormulas() const {
-    const auto query = as<css::sheet::XCellRangesQuery>(sheet());
-    const auto found =
-        keeper_.keep(query->queryContentCells(static_cast<sal_Int16>(css::sheet::CellFlags::FORMULA)));
-    return found->getRangeAddresses().hasElements();
+    return containsFormulas(sheet(), keeper_);
 }
 
 CellPosition Book::used() const {
@@ -92,15 +124,7 @@ CellPosition Book::used() const {
 }
 
 QVector<QStringList> Book::formulas(const CellRange& range) const {
-    const auto rows = as<css::sheet::XCellRangeFormula>(cellsOf(sheet(), range, keeper_))->getFormulaArray();
-    QVector<QStringList> result;
-    for (const auto& row : rows) {
-        QStringList texts;
-        for (const auto& text : row)
-            texts << (text.startsWith("=") ? fromUno(text) : QString());
-        result << texts;
-    }
-    return result;
+    return formulasIn(cellsOf(sheet(), range, keeper_));
 }
 
 void Book::clear(const CellRange& range) {

@@ -3,6 +3,7 @@
 #include "spreadsheet/libreoffice/uno/Book.h"
 #include "spreadsheet/libreoffice/uno/Connection.h"
 #include "spreadsheet/libreoffice/uno/Failures.h"
+#include "spreadsheet/libreoffice/uno/FileEvents.h"
 
 #include <memory>
 #include <vector>
@@ -27,10 +28,12 @@ public:
     void open(const QString& nativePath) override;
     QVector<OpenWorkbook> workbooks() override;
     OpenWorkbook active() override;
+    std::optional<WorkbookImage> image(int id) override;
     void activate(int id) override;
     void saveAs(const QString& nativePath) override;
     void save() override;
     void close() override;
+    QStringList otherUnsaved() override;
 
     int activeSheet() override;
     QStringList sheetNames() override;
@@ -49,6 +52,11 @@ public:
 
 private:
     Ref<css::lang::XComponent> load(const QString& url, const QString& nativePath);
+    void closeStartCenter();
+    std::vector<Ref<css::lang::XComponent>> documents();
+    std::vector<Ref<css::lang::XComponent>> otherDocuments();
+    bool isBook(const Ref<css::lang::XComponent>& document) const;
+    void makeActive();
     void adopt(const Ref<css::lang::XComponent>& document);
     void adoptStrangers();
     void dropClosed();
@@ -62,6 +70,7 @@ private:
     std::unique_ptr<Connection> connection_;
     CalcObserver& observer_;
     Ref<css::frame::XDispatchHelper> dispatcher_;
+    rtl::Reference<FileEvents> files_;
     std::vector<std::unique_ptr<Book>> books_;
     int activeId_ = 0;
     int lastId_ = 0;

@@ -55,4 +55,14 @@ void Engine::clear(const CellRange& range) {
     onBook([&](Book& book) { book.clear(range); });
 }
 
+std::optional<WorkbookImage> Engine::image(int id) {
+    return guarded([&]() -> std::optional<WorkbookImage> {
+        if (!connected()) throw css::lang::DisposedException();
+        dropClosed();
+        Book* book = find(id);
+        if (!book) return std::nullopt;
+        return book->image();
+    });
+}
+
 } // namespace zvonika

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Log.h"
 #include "platform/RuntimeError.h"
 #include "spreadsheet/Refusals.h"
 #include "spreadsheet/libreoffice/uno/Uno.h"
@@ -8,6 +9,11 @@
 #include <com/sun/star/util/CloseVetoException.hpp>
 
 namespace zvonika {
+
+/// What Calc says of itself is for the log; the user is told what to do.
+inline void logFailure(const css::uno::Exception& failure) {
+    qCWarning(callsLog).noquote() << "LibreOffice Calc:" << fromUno(failure.Message);
+}
 
 /// Runs calls to Calc and turns their failures into errors with a number. What is gone, Calc or a workbook,
 /// raises 91; which of them it was is known to the connection.
@@ -23,7 +29,9 @@ auto guarded(Calls calls) -> decltype(calls()) {
             QStringLiteral("V LibreOffice Calc je otevřené okno, které čeká na odpověď. Zavřete ho a zkuste "
                            "to znovu."));
     } catch (const css::uno::Exception& failure) {
-        refuse(QStringLiteral("LibreOffice Calc příkaz odmítl: %1").arg(fromUno(failure.Message)));
+        logFailure(failure);
+        refuse(QStringLiteral("LibreOffice Calc příkaz odmítl. Podívejte se do jeho okna, jestli nečeká na "
+                              "odpověď, a zkuste to znovu."));
     }
 }
 

@@ -3,11 +3,13 @@
 #include "spreadsheet/FileRefusals.h"
 
 #include <com/sun/star/document/BrokenPackageRequest.hpp>
+#include <com/sun/star/document/ChangedByOthersRequest.hpp>
 #include <com/sun/star/document/LockedDocumentRequest.hpp>
 #include <com/sun/star/document/OwnLockOnDocumentRequest.hpp>
 #include <com/sun/star/task/DocumentMSPasswordRequest.hpp>
 #include <com/sun/star/task/DocumentPasswordRequest.hpp>
 #include <com/sun/star/task/XInteractionAbort.hpp>
+#include <com/sun/star/task/XInteractionApprove.hpp>
 
 namespace zvonika {
 
@@ -30,14 +32,23 @@ QString reasonOf(const css::uno::Any& question) {
     return {};
 }
 
+/// Gives the answer of that kind, if there is one.
+template <typename Continuation>
+void answer(const Ref<css::task::XInteractionRequest>& request) {
+    const auto continuations = request->getContinuations();
+    for (const auto& each : continuations)
+        if (const auto continuation = as<Continuation>(each); continuation.is())
+            return continuation->select();
+}
+
 } // namespace
 
 void Interaction::handle(const Ref<css::task::XInteractionRequest>& request) {
-    if (const QString reason = reasonOf(request->getRequest()); !reason.isEmpty()) reason_ = reason;
-    const auto continuations = request->getContinuations();
-    for (const auto& continuation : continuations)
-        if (const auto abort = as<css::task::XInteractionAbort>(continuation); abort.is())
-            return abort->select();
+    const css::uno::Any question = request->getRequest();
+    if (isA<css::document::ChangedByOthersRequest>(question))
+        return answer<css::task::XInteractionApprove>(request);
+    if (const QString reason = reasonOf(question); !reason.isEmpty()) reason_ = reason;
+    answer<css::task::XInteractionAbort>(request);
 }
 
 } // namespace zvonika

@@ -8,7 +8,8 @@
 namespace zvonika {
 
 /// Answers every question that opening or saving raises with "abort", so that no box stands in Calc while the
-/// program waits; what was asked tells the reason.
+/// program waits; what was asked tells the reason. That another program has changed the file is no reason:
+/// the program has asked about it before.
 class Interaction : public cppu::WeakImplHelper1<css::task::XInteractionHandler> {
 public:
     void SAL_CALL handle(const Ref<css::task::XInteractionRequest>& request) override;

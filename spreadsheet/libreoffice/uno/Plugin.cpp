@@ -16,9 +16,12 @@ Q_DECL_EXPORT zvonika::CalcEngine* zvonikaConnectToCalc(const zvonika::CalcAddre
         auto connection = zvonika::Connection::open(address);
         return connection ? new zvonika::Engine(std::move(connection), observer) : nullptr;
     } catch (const css::uno::Exception& failure) {
+        zvonika::logFailure(failure);
         throw zvonika::RuntimeError(
             zvonika::error::cannotCreateObject,
-            QStringLiteral("Spojení s LibreOffice se nezdařilo: %1.").arg(zvonika::fromUno(failure.Message)));
+            QStringLiteral(
+                "Spojení s LibreOffice se nezdařilo. Zkuste Zvoniku spustit znovu; nepomůže-li to, "
+                "přeinstalujte LibreOffice."));
     }
 }
 

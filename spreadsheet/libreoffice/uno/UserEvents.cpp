@@ -29,7 +29,9 @@ void UserEvents::modified(const css::lang::EventObject&) {
 
 void UserEvents::notifyClosing(const css::lang::EventObject&) {
     closed_ = true;
-    if (!stopped_) observer_.workbookCloses();
+    if (stopped_) return;
+    observer_.workbookCloses();
+    if (users()) observer_.userCloses(workbook_);
 }
 
 void UserEvents::moved() {

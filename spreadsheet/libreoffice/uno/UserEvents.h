@@ -27,6 +27,7 @@ public:
     void listenTo(const Ref<css::frame::XModel>& model, const Ref<css::frame::XController>& view);
     /// Nothing more reaches the observer.
     void stop() { stopped_ = true; }
+    void setWorkbook(int id) { workbook_ = id; } ///< by which the observer knows it
     void markClosed() { closed_ = true; }
     bool closed() const { return closed_; }
 
@@ -44,6 +45,7 @@ private:
     CalcObserver& observer_;
     Keeper& keeper_;
     std::thread::id engineThread_;
+    std::atomic<int> workbook_ = 0;
     std::atomic<bool> stopped_ = false;
     std::atomic<bool> closed_ = false;
 };

@@ -13,6 +13,7 @@ SheetEntry readSheetEntry(ByteView stream, const Record& record) {
     SheetEntry entry;
     entry.record = record.offset;
     entry.position = record.u32(0);
+    entry.hidden = (record.u8(4) & 3) != 0;
     entry.type = record.u8(5);
     entry.name = readShortText(stream, record.offset + 4 + 6, record.end());
     return entry;

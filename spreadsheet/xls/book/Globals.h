@@ -17,6 +17,7 @@ struct SheetEntry {
     std::uint32_t record = 0;   ///< offset of the record
     std::uint32_t position = 0; ///< offset of the sheet's Bof record
     std::uint8_t type = 0;
+    bool hidden = false; ///< from the user, in either of the two ways that there are
     std::u16string name;
 
     bool isWorksheet() const { return type == 0; }

@@ -59,6 +59,8 @@ TEST_F(FrmKonverzeTest, ShowsTheSongAndItsKey) {
     for (auto popisek = popisky.begin(); popisek != popisky.end(); ++popisek)
         EXPECT_EQ(prvek(popisek.key())->text(), popisek.value());
     EXPECT_FALSE(stav.optStupnice);
+    const QLabel* prubeh = prvek<QLabel>("lblPrubeh");
+    EXPECT_GE(prubeh->width(), prubeh->fontMetrics().horizontalAdvance("Převeden řádek 65536 …"));
 }
 
 TEST_F(FrmKonverzeTest, ASongWithoutAKeyCannotBeConverted) {

@@ -3,6 +3,7 @@
 #include "tests/platform/files/OtherUser.h"
 #include "tests/spreadsheet/embedded/Rig.h"
 
+#include <QDateTime>
 #include <QSysInfo>
 
 #include <algorithm>
@@ -142,6 +143,32 @@ TEST_F(FileLockTest, OfADeadProcessCountsForNothing) {
     const FileLock lock = FileLock::acquire(song);
     EXPECT_TRUE(lock.isHeld());
     EXPECT_TRUE(lock.foundStale());
+}
+
+TEST_F(FileLockTest, OfAnOfficeCountsUnlessTheComputerHasStartedSince) {
+    const QByteArray here = QSysInfo::machineHostName().toUtf8();
+    const struct {
+        QByteArray lock;
+        bool old;
+        const char* told; ///< nullptr: it does not count
+    } locks[] = {
+        {",jana," + here + ",22.11.2026 03:10,file:///home/jana/office;", false, "uživatel jana, počítač "},
+        {",jana," + here + ",22.11.2026 03:10,file:///home/jana/office;", true, nullptr},
+        {"Jana \\,N.,,doma,1.1.2000 00:00,;", true, "uživatel Jana ,N., počítač doma, program LibreOffice)"},
+        {"nic", false, "program LibreOffice)"},
+    };
+    const QString name = path(QStringLiteral(".~lock.píseň.xls#"));
+    for (const auto& [lock, old, told] : locks) {
+        store(name, lock);
+        QFile file(name);
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        if (old)
+            file.setFileTime(QDateTime(QDate(2000, 1, 1), QTime(0, 0)), QFileDevice::FileModificationTime);
+        EXPECT_EQ(FileLock::holder(song).has_value(), told != nullptr) << lock.constData();
+        const QString refusal = refusalOf([&] { FileLock::acquire(song); });
+        EXPECT_TRUE(told ? refusal.contains(QString::fromUtf8(told)) : refusal == QStringLiteral("0"))
+            << refusal.toStdString();
+    }
 }
 
 TEST_F(FileLockTest, CountsForAsLongAsItsOwnerRuns) {

@@ -24,6 +24,7 @@ TEST_F(ZapisHmatuTest, AGripFillsItsRowAndTheCursorGoesOn) {
     EXPECT_EQ(s(excel->activeAddress()), "$B$2");
     EXPECT_EQ(s(panel.lblTon), "2");
     EXPECT_EQ(panel.zapsanychHmatu, 1);
+    EXPECT_EQ(s(panel.zapsano), "Hmat 1 je zapsán na tah.");
     EXPECT_EQ(s(prstoklad.prstoklad()), "");
     EXPECT_TRUE(pas.viditelny);
     EXPECT_EQ(pas.prvniRadekPasu, 2);

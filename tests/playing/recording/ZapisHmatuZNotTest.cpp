@@ -24,6 +24,7 @@ TEST_F(ZapisHmatuZNotTest, NotesAreWrittenFromTheLowestToneUp) {
     EXPECT_EQ(s(bunky(1, u'V', u'W')), "l7;1\\ F dur");
     EXPECT_EQ(s(excel->activeAddress()), "$B$2");
     EXPECT_EQ(s(panel.lblTon), "2");
+    EXPECT_EQ(s(panel.zapsano), "Hmat 1 je zapsán na tlak.");
     EXPECT_EQ(panel.zapsanychHmatu, 0); // only grips from the board are counted
     EXPECT_EQ(s(prstoklad.prstoklad()), "");
     EXPECT_TRUE(pas.viditelny);

@@ -21,6 +21,9 @@ protected:
     QString cesta() const { return settings.getOr("Tabulka", "DefaultFilePath", {}); }
     void nastavCestu(const QString& cesta) { settings.save("Tabulka", "DefaultFilePath", cesta); }
 
+    MemorySettings nastaveniProgramu;
+    const PuvodniCesta puvodni{nastaveniProgramu, 0};
+
     /// The shutdown of a program that has opened a song, another workbook in front of it.
     void ukonci(bool sPisni, const QString& puvodniCesta,
                 const std::function<void(WatchedSpreadsheet&)>& co) {
@@ -57,6 +60,7 @@ TEST_F(UkonceniExceluTest, ItComesToItsEndWhateverFails) {
         int cislo, kolikrat;
     };
     const Selhani ulozeni{"saveActiveWorkbook", 1004, 1};
+    const QPair<QString, QString> dotaz{jmenoTabulky, "„Polka.xls“ má neuložené změny"};
     const struct {
         const char* popis;
         QVector<Selhani> selhani;
@@ -65,20 +69,29 @@ TEST_F(UkonceniExceluTest, ItComesToItsEndWhateverFails) {
         QString cesta;
     } pripady[] = {
         {"nothing fails", {}, {}, "save quit path release", cestaUzivatele},
-        {"refused save", {ulozeni}, {{nestandardni, ukladani}}, "save quit path release", cestaUzivatele},
+        {"refused save of a song that was only read",
+         {ulozeni},
+         {},
+         "save quit path release",
+         cestaUzivatele},
+        {"changed: refused save",
+         {ulozeni},
+         {{nestandardni, ukladani}, dotaz},
+         "save quit path release",
+         cestaUzivatele},
         {"failure without a number",
          {{"saveActiveWorkbook", 0, 1}},
          {{neocekavana, cislo(0)}},
          "save quit path release",
          cestaUzivatele},
-        {"no quitting for good",
+        {"changed: no quitting for good",
          {ulozeni, {"quit", 70, 1000}},
          {{nestandardni, ukladani}, {neocekavana, cislo(70)}},
          "save quit quit quit release",
          pracovniAdresar},
-        {"two steps of the same number",
+        {"changed: two steps of the same number",
          {ulozeni, {"setDefaultFilePath", 1004, 1000}},
-         {{nestandardni, ukladani}, {nestandardni, ukladani}},
+         {{nestandardni, ukladani}, dotaz, {nestandardni, ukladani}},
          "save quit path quit path quit path release",
          pracovniAdresar},
         {"no song: the folder at the third attempt",
@@ -94,9 +107,14 @@ TEST_F(UkonceniExceluTest, ItComesToItsEndWhateverFails) {
     for (const auto& p : pripady) {
         SCOPED_TRACE(p.popis);
         for (const auto& [titulek, text] : p.hlaseni)
-            dialogs.expect(titulek, text);
+            dialogs.expect(titulek, text, Answer::No);
         const bool sPisni = !QString(p.popis).startsWith("no song");
-        ukonci(sPisni, cestaUzivatele, [&](auto&) {
+        ukonci(sPisni, cestaUzivatele, [&](WatchedSpreadsheet& excel) {
+            if (QString(p.popis).startsWith("changed")) {
+                excel.app().activateWindow("Polka.xls");
+                excel.put("A1", "změna");
+                excel.app().activateWindow("Sešit2");
+            }
             for (const auto& [krok, cislo, kolikrat] : p.selhani)
                 cislo ? log.fail(krok, cislo, kolikrat) : log.failWithoutNumber(krok);
         });
@@ -122,11 +140,30 @@ TEST_F(UkonceniExceluTest, TheSongIsSavedAndAResetMarkerGivenBackAsItIs) {
 
 TEST_F(UkonceniExceluTest, TheFirstInstanceSetsTheFolderAndTheSecondStays) {
     Pisen pisen;
-    SpustExcel([&] { return log.calls.append("create"), launch(); }, pisen);
+    SpustExcel([&] { return log.calls.append("create"), launch(); }, pisen, puvodni);
     EXPECT_EQ(pisen.puvodniCestaExcelu, cestaUzivatele);
     EXPECT_EQ(pisen.excel().defaultFilePath(), pracovniAdresar);
     log.calls.removeAll("defaultFilePath");
     EXPECT_EQ(log.calls.join(u' '), "create setDefaultFilePath quit release create setVisible");
+}
+
+// Beside a run, or after one that was killed, the spreadsheet has the program's folder.
+TEST_F(UkonceniExceluTest, TheProgramsOwnFolderIsNeverTakenForTheUsers) {
+    const auto zjistena = [this](const PuvodniCesta& cesta) {
+        Pisen pisen;
+        SpustExcel([this] { return launch(); }, pisen, cesta);
+        return pisen.puvodniCestaExcelu;
+    };
+    nastavCestu(pracovniAdresar);
+    EXPECT_EQ(zjistena(puvodni), "C:\\Dokumenty") << "nobody knows what it was";
+    nastavCestu(cestaUzivatele);
+    EXPECT_EQ(zjistena(puvodni), cestaUzivatele);
+    EXPECT_EQ(cesta(), pracovniAdresar) << "this run was not ended";
+    EXPECT_EQ(zjistena(puvodni), cestaUzivatele);
+    EXPECT_EQ(zjistena(PuvodniCesta(nastaveniProgramu, 1)), "C:\\Dokumenty")
+        << "each spreadsheet has its own";
+    puvodni.zapamatuj(pracovniAdresar);
+    EXPECT_EQ(zjistena(puvodni), pracovniAdresar) << "unless the user has chosen it himself";
 }
 
 TEST_F(UkonceniExceluTest, AFailedStartLeavesNoApplicationAndTheFolderOfTheUser) {
@@ -156,7 +193,7 @@ TEST_F(UkonceniExceluTest, AFailedStartLeavesNoApplicationAndTheFolderOfTheUser)
             if (pokusy == p.instance) log.fail(p.selze, 429);
             return launch();
         };
-        EXPECT_EQ(raised([&] { SpustExcel(spoustec, pisen); }), 429);
+        EXPECT_EQ(raised([&] { SpustExcel(spoustec, pisen, puvodni); }), 429);
         EXPECT_EQ(pisen.aplikaceExcel, nullptr);
         EXPECT_EQ(cesta().toStdString(), p.cesta.toStdString());
         EXPECT_GE(log.count("quit"), log.count("release")) << "none is left running";

@@ -70,11 +70,16 @@ TEST_F(ZivotPisneTest, AnExistingSongIsReplacedOnlyOnYes) {
     EXPECT_EQ(storedText(polka, "A1"), "stará");
     ocekavejBezPisne();
 
-    // A deletion that fails is asked about again.
+    // A deletion that fails is told once and ends the creation.
     drive.failingDeletions = 1;
     zadejNazev("Polka");
-    dialogs.expect("Tato skladba již existuje!", otazka, Answer::Yes)
-        .expect("Tato skladba již existuje!", otazka, Answer::Yes);
+    dialogs.expect("Tato skladba již existuje!", otazka, Answer::Yes);
+    EXPECT_EQ(raised([this] { zivot.cmdNovaSkladba(); }), error::permissionDenied);
+    EXPECT_EQ(storedText(polka, "A1"), "stará");
+    ocekavejBezPisne();
+
+    zadejNazev("Polka");
+    dialogs.expect("Tato skladba již existuje!", otazka, Answer::Yes);
     zivot.cmdNovaSkladba();
     EXPECT_EQ(dialogs.last.icon, Icon::Exclamation);
     EXPECT_EQ(dialogs.last.buttons, Buttons::YesNo);
@@ -82,18 +87,27 @@ TEST_F(ZivotPisneTest, AnExistingSongIsReplacedOnlyOnYes) {
     EXPECT_EQ(pisen.aktualniPisen, "Polka.xls");
 }
 
-TEST_F(ZivotPisneTest, AFailureAnywhereInANewSongLeavesNoSong) {
+TEST_F(ZivotPisneTest, AFailureAnywhereInANewSongLeavesNoSongAndTheOneItWasToReplace) {
     for (const char* krok : {"addWorkbook", "saveActiveWorkbookAs", "activeWorkbookName", "renameActiveSheet",
                              "activeSheetName", "readBlock"})
         for (const int cislo : {91, 0}) {
             SCOPED_TRACE(krok);
+            store(polka, {{QStringLiteral("L"), {{QStringLiteral("stará")}}}});
             selze(krok, cislo);
             zadejNazev("Polka");
+            dialogs.expect("Tato skladba již existuje!", "", Answer::Yes);
             ocekavejKontakt(cislo);
+            panel.vystraha.clear();
+            dialogs.whileUp = [&] {
+                EXPECT_EQ(panel.vystraha.isEmpty(), cislo != 0 || dialogs.last.icon != Icon::Critical)
+                    << "the cause is told beside the box";
+            };
             zivot.cmdNovaSkladba();
+            dialogs.whileUp = [] {};
             EXPECT_EQ(dialogs.last.icon, Icon::Critical);
             ocekavejBezPisne();
-            drive.deleteFile(polka);
+            EXPECT_EQ(storedText(polka, "A1"), "stará");
+            EXPECT_EQ(drive.files(pracovniAdresar), QStringList{"Polka.xls"});
         }
 }
 
@@ -205,13 +219,63 @@ TEST_F(ZivotPisneTest, EndSavesAndClosesTheSongAlsoFromBehind) {
 TEST_F(ZivotPisneTest, EndReportsASaveThatFailedAndForgetsTheSong) {
     for (const int cislo : {1004, 0}) {
         otevriPolku(3);
+        excel->put("A1", "změna");
         selze("saveActiveWorkbook", cislo);
         ocekavejKontakt(cislo);
+        const QString cekano = cislo ? "Písnička zůstala otevřená v okně tabulky" : "saveActiveWorkbook";
+        dialogs.whileUp = [&] {
+            EXPECT_TRUE(panel.vystraha.contains(cekano)) << panel.vystraha.toStdString();
+        };
         zivot.cmdEndEdit();
+        dialogs.whileUp = [] {};
+        EXPECT_TRUE(panel.vystraha.contains(cekano)) << "until the next command";
         EXPECT_EQ(dialogs.last.icon, Icon::Critical);
-        EXPECT_EQ(panel.upozorneni.contains("saveActiveWorkbook"), cislo == 0) << "for who is asked for help";
         ocekavejBezPisne(1);
         excel->app().closeActiveWorkbook();
+    }
+}
+
+TEST_F(ZivotPisneTest, ARefusedSaveOfASongThatWasOnlyReadIsNoError) {
+    CellBlock gDur(4, QVector<CellValue>(22));
+    gDur[0][8] = QStringLiteral("Tah");
+    for (const bool zmenena : {false, true}) {
+        drive.readOnly = zmenena ? "" : "Soubor „Polka.xls“ je jen pro čtení.";
+        otevriPolku(3, gDur);
+        EXPECT_EQ(panel.vystraha.startsWith("Soubor „Polka.xls“ je jen pro čtení. "), !zmenena)
+            << "said when it is opened";
+        if (zmenena) excel->put("A1", "změna");
+        log.fail("saveActiveWorkbook", 1004);
+        EXPECT_EQ(raised([this] { zivot.Combo1Click("G dur"); }), zmenena ? 1004 : 0);
+        log.fail("saveActiveWorkbook", 1004);
+        if (zmenena) ocekavejKontakt(1004);
+        zivot.cmdEndEdit();
+        EXPECT_FALSE(log.isOrdered("saveActiveWorkbook")) << "saving was tried: the row is kept where it can";
+        ocekavejBezPisne(zmenena ? 1 : 0);
+        panel.vystraha.clear();
+    }
+}
+
+TEST_F(ZivotPisneTest, OpeningRemindsOfAKeyThatIsNotTheOneChosen) {
+    const struct {
+        const char *radku, *zvolena, *veta;
+    } pripady[] = {
+        {"G dur", "Vyberte tóninu", "Hmat je v tónině G dur, pro zápis ale tónina zvolena není (Ctrl+T)."},
+        {"G dur", "", "Hmat je v tónině G dur, pro zápis ale tónina zvolena není (Ctrl+T)."},
+        {"G Dur", "C dur", "Hmat je v tónině G dur, pro zápis je zvolena C dur (Ctrl+T)."},
+        {"G Dur", "G dur", ""},
+        {"Vyberte tóninu", "C dur", ""},
+        {"", "C dur", ""},
+    };
+    for (const auto& [radku, zvolena, veta] : pripady) {
+        CellBlock radky(1, QVector<CellValue>(23));
+        radky[0][1] = QStringLiteral("c1,");
+        radky[0][8] = QStringLiteral("Tah");
+        radky[0][22] = QString::fromUtf8(radku);
+        store(polka, {{QStringLiteral("Tonavox XII"), radky, QStringLiteral("B1")}});
+        tonina.nastavStupnici(Key(QString::fromUtf8(zvolena)));
+        otevri(polka);
+        EXPECT_EQ(panel.upozorneni, veta) << radku << ' ' << zvolena;
+        zivot.cmdEndEdit();
     }
 }
 

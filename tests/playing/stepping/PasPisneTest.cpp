@@ -90,13 +90,19 @@ TEST(StavovyRadek, TellsTheNextStepAndWarnsOfAMissingKeyWhileWriting) {
         {{true, vyberte, false, true, ""}, "< Tah nebo > Tlak", true},
         {{true, "G dur", false, false, ""}, "< Tah nebo > Tlak", false},
         {{true, vyberte, true, false, ""}, "PageDown", false},
-        {{true, "G dur", true, false, "", true}, "klávesa F9", false},
+        {{true, "G dur", true, false, "", "", true}, "klávesa F9", false},
         {{true, vyberte, true, true, "Neznámý tón."}, "Neznámý tón.", false},
+        {{true, "G dur", false, true, "", "Hmat 3 je zapsán na tah."},
+         "Hmat 3 je zapsán na tah. Knoflíky",
+         false},
+        {{true, vyberte, false, true, "", "Hmat 3 je zapsán na tah."}, "F4", true},
+        {{true, vyberte, false, true, "Neznámý bas.", "Hmat 3 je zapsán."}, "zapsán. Neznámý bas.", false},
     };
     for (const auto& [stav, obsahuje, varuje] : pripady) {
         const QString text = stavovyRadek(stav);
         EXPECT_TRUE(text.contains(QString::fromUtf8(obsahuje))) << text.toStdString();
         EXPECT_EQ(text.contains("Tónina není zvolena"), varuje) << text.toStdString();
+        EXPECT_FALSE(!stav.zapsano.isEmpty() && text.contains("Zapište hmat")) << text.toStdString();
     }
 }
 

@@ -81,12 +81,11 @@ TEST_F(ZobrazeniHmatuTest, AnotherGripTakesTheIntervalAway) {
     EXPECT_FALSE(osnova.interval());
 }
 
-TEST_F(ZobrazeniHmatuTest, WhatFollowsAGapIsTold) {
-    const QString tony = "Tóny za prázdnou buňkou se nečtou.", basy = "Basy za prázdnou buňkou se nečtou.";
+TEST_F(ZobrazeniHmatuTest, TonesAreReadAcrossGapsAndWhatIsNotReadIsTold) {
+    const QString basy = "Basy za prázdnou buňkou se nečtou.";
     for (const auto& [bunka, ocekavano] : {std::pair{"D1", QString()},
-                                           {"E1", tony},
-                                           {"H1", tony},
-                                           {"I1", QString()},
+                                           {"E1", QString()},
+                                           {"H1", QString()},
                                            {"N1", QString()},
                                            {"O1", basy},
                                            {"S1", basy},
@@ -95,8 +94,35 @@ TEST_F(ZobrazeniHmatuTest, WhatFollowsAGapIsTold) {
         excel->put(bunka, QString(bas ? "C" : "g1,"));
         ukazRadek();
         EXPECT_EQ(panel.upozorneni, ocekavano) << bunka;
-        EXPECT_EQ(panel.lblTony, bunka == QLatin1String("D1") ? "c1, e1, g1," : "c1, e1,") << bunka;
+        EXPECT_EQ(panel.lblTony, bas ? "c1, e1," : "c1, e1, g1,") << bunka;
+        EXPECT_EQ(knofliky(StavKnofliku::Tah), (bas ? QVector<int>{9, 13} : QVector<int>{9, 13, 16}))
+            << bunka;
+        EXPECT_EQ(osnova.tony().join(u' '), panel.lblTony) << bunka;
         excel->put(bunka, "");
+    }
+    excel->put("B1", "");
+    ukazRadek();
+    EXPECT_EQ(panel.lblTony, "e1,");
+    EXPECT_TRUE(panel.upozorneni.startsWith("Sloupec B je na tomto řádku prázdný"));
+}
+
+TEST_F(ZobrazeniHmatuTest, AGripShownOnTheOtherSideThanItWasRecordedOnSaysSo) {
+    const struct {
+        const char* smer;
+        bool tlak;
+        const char *strana, *veta;
+    } pripady[] = {{"Tah", false, "", ""},
+                   {"Tlak", false, "zapsáno na tlak", "Hmat je ukázán na tah, ale zapsán na tlak (Ctrl+→)."},
+                   {"Tlak", true, "", ""},
+                   {"Tah", true, "zapsáno na tah", "Hmat je ukázán na tlak, ale zapsán na tah (Ctrl+←)."},
+                   {"", true, "", ""}};
+    for (const auto& [smer, tlak, strana, veta] : pripady) {
+        excel->put("I1", QString(smer));
+        tlak ? zobrazeni.cmdReadTlak() : zobrazeni.cmdReadTah();
+        EXPECT_EQ(panel.lblStrana, strana);
+        EXPECT_EQ(panel.upozorneni, veta);
+        zobrazeni.odeberHmat();
+        EXPECT_EQ(panel.lblStrana, "");
     }
 }
 

@@ -29,15 +29,14 @@ TEST_F(PanelTextuTest, ShowsWhatThePanelSays) {
     panel.lblTony = QStringLiteral("c1, e1,");
     panel.lblBasy = QStringLiteral("C");
     panel.lblStupnice = QStringLiteral("C dur");
+    panel.lblStrana = QStringLiteral("zapsáno na tlak");
     panel.popisyViditelne = true;
     panel.oznamZmenu();
     for (int i = 0; i < 5; ++i)
         EXPECT_EQ(label(QStringLiteral("lblSlabika(%1)").arg(i))->text(), panel.lblSlabika[std::size_t(i)]);
-    const std::pair<const char*, QString> popisky[]{{"lblTony", "c1, e1,"},
-                                                    {"lblBasy", "C"},
-                                                    {"lblStupnice", "C dur"},
-                                                    {"lblPopisD", "Diskant:"},
-                                                    {"lblPopisB", "Basy:"}};
+    const std::pair<const char*, QString> popisky[]{
+        {"lblTony", "c1, e1,"},           {"lblBasy", "C"},          {"lblStupnice", "C dur"},
+        {"lblStrana", "zapsáno na tlak"}, {"lblPopisD", "Diskant:"}, {"lblPopisB", "Basy:"}};
     for (const auto& [jmeno, text] : popisky) {
         EXPECT_EQ(label(jmeno)->text(), text) << jmeno;
         EXPECT_FALSE(label(jmeno)->isHidden()) << jmeno;

@@ -6,11 +6,15 @@
 //     INSTANTIATE_TEST_SUITE_P(Embedded, SpreadsheetContract,
 //                              ::testing::Values(SpreadsheetRigFactory{"embedded", makeEmbeddedRig}));
 
+#include "platform/Dialogs.h"
+#include "platform/files/FileLock.h"
 #include "spreadsheet/SpreadsheetApplication.h"
 #include "tests/support/Raised.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSysInfo>
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -31,8 +35,16 @@ public:
     virtual void willChoose(const std::optional<QString>& file) = 0;
     /// The user's answer when `quit` asks about the next workbook with unsaved changes.
     virtual void willSaveChanges(bool save) = 0;
+    /// The user's answer to the next box; `textPart` occurs in its text.
+    virtual void willAnswer(const QString& textPart, Answer answer) = 0;
     virtual void userClosesWorkbook(SpreadsheetApplication& application) = 0;
     virtual void userQuits(SpreadsheetApplication& application) = 0;
+    /// Into a cell of the active workbook, as if by its window; returns when the program has heard of it.
+    virtual void userTypes(SpreadsheetApplication& application, const QString& cell, const QString& text) = 0;
+    /// The application ends without any closing step, or this program does, and the application with it.
+    virtual void kill(std::unique_ptr<SpreadsheetApplication> application) = 0;
+    /// The user's answer to the next offer of what a crash has left, which must contain these words.
+    virtual void willBeOffered(const QString& words, bool takesBack) = 0;
 };
 
 /// A back end under test, by its name.
@@ -56,6 +68,7 @@ inline const std::vector<NamedCall>& callsOnWorkbook() {
         {"saveActiveWorkbookAs", [](App& app) { app.saveActiveWorkbookAs({QStringLiteral("x")}); }},
         {"saveActiveWorkbook", [](App& app) { app.saveActiveWorkbook(); }},
         {"closeActiveWorkbook", [](App& app) { app.closeActiveWorkbook(); }},
+        {"activeWorkbookModified", [](App& app) { app.activeWorkbookModified(); }},
         {"activeSheetName", [](App& app) { app.activeSheetName(); }},
         {"renameActiveSheet", [](App& app) { app.renameActiveSheet(QStringLiteral("x")); }},
         {"activeSheetIndex", [](App& app) { app.activeSheetIndex(); }},
@@ -92,6 +105,30 @@ protected:
     }
     QString text(const QString& address) const { return cellText(app.value(address)); }
     void put(const QString& address, const QString& text) { app.setValue(address, CellValue(text)); }
+    QString sample(const char* name, const QString& as) const {
+        QFile::remove(file(as));
+        EXPECT_TRUE(QFile::copy(QStringLiteral(XLS_DATA "/") + QLatin1String(name), file(as)));
+        return file(as);
+    }
+    static QByteArray contents(const QString& path) {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+        return file.readAll();
+    }
+    static void store(const QString& path, const QByteArray& bytes) {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly)) << path.toStdString();
+        file.write(bytes);
+    }
+    /// The sample of two sheets with one of them hidden: by its entry, which ends with the name.
+    QString withHidden(const QByteArray& nameInFile, const QString& as) const {
+        QByteArray bytes = contents(sample("xlwt.xls", as));
+        const qsizetype name = bytes.indexOf(nameInFile);
+        EXPECT_GT(name, 4);
+        bytes[name - 4] = 1;
+        store(file(as), bytes);
+        return file(as);
+    }
 
     std::unique_ptr<SpreadsheetRig> rig;
 
@@ -193,6 +230,24 @@ TEST_P(SpreadsheetContract, SavedWorkbooksOpenWithCellsSheetAndCursor) {
     EXPECT_EQ(app.readBlock(QStringLiteral("A1:C2")), expected);
 }
 
+TEST_P(SpreadsheetContract, OnlyCellsAndNamesOfSheetsCountAsAChange) {
+    const QString path = sample("xlwt.xls", QStringLiteral("pisen.xls"));
+    app.openWorkbook(path);
+    const auto modified = [this] { return app.activeWorkbookModified(); };
+    EXPECT_FALSE(modified());
+    app.selectRange(QStringLiteral("C7"));
+    app.moveCursor(1, 0);
+    app.selectSheet(2);
+    app.selectSheet(1);
+    EXPECT_FALSE(modified()) << "where one was is no change";
+    put(QStringLiteral("B1"), QStringLiteral("změna"));
+    EXPECT_TRUE(modified());
+    app.saveActiveWorkbook();
+    EXPECT_FALSE(modified());
+    app.renameActiveSheet(QStringLiteral("jiné"));
+    EXPECT_TRUE(modified());
+}
+
 TEST_P(SpreadsheetContract, ClosingThrowsAwayWhatWasNotSaved) {
     addSaved(QStringLiteral("pisen.xls"));
     put(QStringLiteral("B1"), QStringLiteral("c"));
@@ -251,9 +306,9 @@ TEST_P(SpreadsheetContract, SheetsAreNamedCountedAndWalked) {
 }
 
 TEST_P(SpreadsheetContract, EachSheetOfAForeignFileHasItsOwnCellsAndCursor) {
-    ASSERT_TRUE(QFile::copy(QStringLiteral(XLS_DATA "/xlwt.xls"), file(QStringLiteral("cizí.xls"))));
-    app.openWorkbook(file(QStringLiteral("cizí.xls")));
+    app.openWorkbook(sample("xlwt.xls", QStringLiteral("cizí.xls")));
     EXPECT_EQ(app.sheetCount(), 2);
+    put(QStringLiteral("X1"), QStringLiteral("změna"));
     app.selectSheet(1);
     app.selectRange(QStringLiteral("B3"));
     app.selectNextSheet();
@@ -272,6 +327,134 @@ TEST_P(SpreadsheetContract, EachSheetOfAForeignFileHasItsOwnCellsAndCursor) {
     EXPECT_EQ(app.activeAddress(), QStringLiteral("$C$5"));
     app.selectSheet(1);
     EXPECT_EQ(app.activeAddress(), QStringLiteral("$B$3"));
+}
+
+TEST_P(SpreadsheetContract, HiddenSheetsAreNotCountedWalkedOrNamed) {
+    const QString first = QStringLiteral("Píseň"), second = QStringLiteral("Druhý");
+    const struct {
+        QByteArray nameInFile;
+        QString hidden, visible;
+    } files[] = {
+        {QByteArray("P\0\xED\0s\0e\0\x48\x01", 10), first, second},
+        {QByteArray("Druh\xFD"), second, first},
+    };
+    for (const auto& [nameInFile, hidden, visible] : files) {
+        const QString song = withHidden(nameInFile, visible + QStringLiteral(".xls"));
+        for (const bool stored : {false, true}) {
+            app.openWorkbook(song);
+            EXPECT_EQ(app.sheetCount(), 1);
+            EXPECT_EQ(app.activeSheetIndex(), 1);
+            EXPECT_EQ(app.activeSheetName(), visible);
+            app.selectSheet(visible);
+            EXPECT_EQ(raised([&] { app.selectSheet(hidden); }), 9);
+            EXPECT_EQ(raised([&] { app.selectSheet(2); }), 9);
+            EXPECT_EQ(raised([&] { app.selectNextSheet(); }), 91);
+            EXPECT_EQ(raised([&] { app.renameActiveSheet(hidden); }), 1004);
+            EXPECT_EQ(text(QStringLiteral("A1")) == QStringLiteral("druhý list"), visible == second);
+            put(QStringLiteral("X1"), stored ? QStringLiteral("b") : QStringLiteral("a"));
+            app.saveActiveWorkbook();
+            app.closeActiveWorkbook();
+        }
+    }
+}
+
+TEST_P(SpreadsheetContract, AWorkbookOfTheOlderFormatIsConvertedOnlyForItsChangesAndWithConsent) {
+    const QString old = sample("biff5.xls", QStringLiteral("stará.xls"));
+    const QByteArray before = contents(old);
+    app.openWorkbook(old);
+    app.moveCursor(1, 0);
+    app.saveActiveWorkbook();
+    put(QStringLiteral("X1"), QStringLiteral("c"));
+    rig->willAnswer(QStringLiteral("ve starším formátu .xls"), Answer::No);
+    EXPECT_EQ(raised([&] { app.saveActiveWorkbook(); }), 1004);
+    EXPECT_EQ(contents(old), before);
+    rig->willAnswer(QStringLiteral("ve starším formátu .xls"), Answer::Yes);
+    app.saveActiveWorkbook();
+    app.saveActiveWorkbook();
+    app.closeActiveWorkbook();
+    app.openWorkbook(old);
+    EXPECT_EQ(text(QStringLiteral("X1")), QStringLiteral("c"));
+}
+
+TEST_P(SpreadsheetContract, WhatAnotherProgramHasPutIntoTheFileIsOverwrittenOnlyWithConsent) {
+    const QString song = file(QStringLiteral("pisen.xls")),
+                  asked = QStringLiteral("mezitím změnil jiný program");
+    addSaved(QStringLiteral("pisen.xls"));
+    put(QStringLiteral("B1"), QStringLiteral("c"));
+    app.saveActiveWorkbook(); // nobody else has
+    sample("xlwt.xls", QStringLiteral("pisen.xls"));
+    const QByteArray others = contents(song);
+    put(QStringLiteral("B1"), QStringLiteral("d"));
+    for (int i = 0; i < 2; ++i) {
+        rig->willAnswer(asked, Answer::No);
+        EXPECT_EQ(raised([&] { app.saveActiveWorkbook(); }), 1004);
+        EXPECT_EQ(contents(song), others);
+    }
+    rig->willAnswer(asked, Answer::Yes);
+    app.saveActiveWorkbook();
+    put(QStringLiteral("B1"), QStringLiteral("e"));
+    app.saveActiveWorkbook();
+    app.closeActiveWorkbook();
+    app.openWorkbook(song);
+    EXPECT_EQ(text(QStringLiteral("B1")), QStringLiteral("e"));
+}
+
+TEST_P(SpreadsheetContract, AFileThatIsOpenComesToTheFrontAsItIs) {
+    addSaved(QStringLiteral("pisen.xls"));
+    put(QStringLiteral("B1"), QStringLiteral("c"));
+    addSaved(QStringLiteral("jiná.xls"));
+    ASSERT_TRUE(QFile::link(file(QStringLiteral("pisen.xls")), file(QStringLiteral("odkaz.xls"))));
+    for (const char* name : {"pisen.xls", "odkaz.xls"}) {
+        app.activateWindow(QStringLiteral("jiná.xls"));
+        app.openWorkbook(file(QString::fromLatin1(name)));
+        EXPECT_EQ(app.activeWorkbookName(), QStringLiteral("pisen.xls"));
+        EXPECT_EQ(text(QStringLiteral("B1")), QStringLiteral("c"));
+    }
+}
+
+TEST_P(SpreadsheetContract, AFileOfTheSameNameOpensWhenTheOtherHasBeenPutAway) {
+    const QString question = QStringLiteral("dva sešity téhož jména");
+    ASSERT_TRUE(QDir(rig->folder()).mkdir(QStringLiteral("jinde")));
+    sample("xlwt.xls", QStringLiteral("jinde/pisen.xls"));
+    addSaved(QStringLiteral("pisen.xls"));
+    rig->willAnswer(question, Answer::No);
+    EXPECT_EQ(raised([&] { app.openWorkbook(file(QStringLiteral("jinde/pisen.xls"))); }), 1004);
+    EXPECT_EQ(app.sheetCount(), 1);
+    put(QStringLiteral("B1"), QStringLiteral("c"));
+    rig->willAnswer(question, Answer::Yes);
+    rig->willChoose(file(QStringLiteral("odložená.xls")));
+    app.openWorkbook(file(QStringLiteral("jinde/pisen.xls")));
+    EXPECT_EQ(app.sheetCount(), 2);
+    app.openWorkbook(file(QStringLiteral("odložená.xls")));
+    EXPECT_EQ(text(QStringLiteral("B1")), QStringLiteral("c"));
+    EXPECT_EQ(raised([&] { app.activateWindow(QStringLiteral("pisen.xls")); }), 0);
+}
+
+TEST_P(SpreadsheetContract, AFileThatIsOpenElsewhereIsAskedAboutByWhoHasIt) {
+    const QString song = sample("xlwt.xls", QStringLiteral("pisen.xls"));
+    QByteArray ours;
+    {
+        const FileLock lock = FileLock::acquire(song);
+        ours = contents(FileLock::lockName(song)).replace(QSysInfo::machineHostName().toUtf8(), "doma");
+    }
+    const std::pair<QString, QByteArray> locks[] = {
+        {FileLock::lockName(song), ours},
+        {file(QStringLiteral(".~lock.pisen.xls#")), ",jana,doma,22.11.2026 03:10,file:///home/jana/office;"}};
+    for (const auto& [name, lock] : locks) {
+        store(name, lock);
+        rig->willAnswer(QStringLiteral("počítač doma"), Answer::No);
+        EXPECT_EQ(raised([&] { app.openWorkbook(song); }), 1004) << name.toStdString();
+        EXPECT_EQ(contents(name), lock);
+        rig->willAnswer(QStringLiteral("počítač doma"), Answer::Yes);
+        app.openWorkbook(song);
+        EXPECT_EQ(app.activeWorkbookName(), QStringLiteral("pisen.xls"));
+        EXPECT_TRUE(QFile::exists(FileLock::lockName(song)));
+        auto other = rig->launch();
+        EXPECT_EQ(raised([&] { other->openWorkbook(song); }), 1004);
+        app.closeActiveWorkbook();
+        EXPECT_FALSE(QFile::exists(FileLock::lockName(song)));
+        QFile::remove(name);
+    }
 }
 
 TEST_P(SpreadsheetContract, CellsKeepTheirTypes) {

@@ -1,4 +1,4 @@
-#include "tests/spreadsheet/contract/SpreadsheetContract.h"
+#include "tests/spreadsheet/contract/RecoveryContract.h"
 #include "tests/spreadsheet/embedded/Rig.h"
 
 namespace zvonika::testing {
@@ -12,12 +12,24 @@ public:
     void willChoose(const std::optional<QString>& file) override {
         world_.dialogs.expectFile(QStringLiteral("Vyberte písničku"), file);
     }
+    void willAnswer(const QString& textPart, Answer answer) override {
+        world_.dialogs.expect(jmenoTabulky, textPart, answer);
+    }
     void willSaveChanges(bool save) override {
         world_.dialogs.expect(jmenoTabulky, QStringLiteral("má neuložené změny. Chcete ho uložit?"),
                               save ? Answer::Yes : Answer::No);
     }
     void userClosesWorkbook(SpreadsheetApplication& application) override { commands(application).close(); }
     void userQuits(SpreadsheetApplication& application) override { commands(application).quit(); }
+    void userTypes(SpreadsheetApplication& application, const QString& cell, const QString& text) override {
+        dynamic_cast<EmbeddedApplication&>(application)
+            .commands()
+            .type(parseAddress(cell).value().first, text);
+    }
+    void kill(std::unique_ptr<SpreadsheetApplication> application) override { application.reset(); }
+    void willBeOffered(const QString& words, bool takesBack) override {
+        world_.dialogs.expect(jmenoTabulky, words, takesBack ? Answer::Yes : Answer::No);
+    }
 
 private:
     static FileCommands& commands(SpreadsheetApplication& application) {
@@ -33,7 +45,8 @@ std::unique_ptr<SpreadsheetRig> makeEmbeddedRig() {
 
 } // namespace
 
-INSTANTIATE_TEST_SUITE_P(Embedded, SpreadsheetContract,
-                         ::testing::Values(SpreadsheetRigFactory{"embedded", makeEmbeddedRig}));
+const auto embedded = ::testing::Values(SpreadsheetRigFactory{"embedded", makeEmbeddedRig});
+INSTANTIATE_TEST_SUITE_P(Embedded, SpreadsheetContract, embedded);
+INSTANTIATE_TEST_SUITE_P(Embedded, RecoveryContract, embedded);
 
 } // namespace zvonika::testing

@@ -93,7 +93,8 @@ TEST(UnsavedWorkbooks, ARefusedSaveIsToldAndOfferedElsewhere) {
         MemorySettings settings;
         HomeDrive drive(folder.path(), {});
         const WorkbookPlaces places(drive, settings);
-        Workbooks workbooks(world.calls, seen, dialogs, places);
+        OpenFiles files({});
+        Workbooks workbooks(world.calls, seen, dialogs, places, files);
         world.calc->open_ = {one.workbook};
         if (one.refused)
             world.calc->first = [](const QString& call) {
@@ -102,8 +103,37 @@ TEST(UnsavedWorkbooks, ARefusedSaveIsToldAndOfferedElsewhere) {
         dialogs.expect(jmeno, "má neuložené změny", Answer::Yes);
         if (one.refused) dialogs.expect(jmeno, "Nejde to.");
         dialogs.expectFile("Uložit jako", one.chosen);
-        UnsavedWorkbooks(world.calls, workbooks, dialogs, places).offer();
+        QVector<int> settled;
+        UnsavedWorkbooks(world.calls, workbooks, dialogs, places, [&](int id) { settled << id; }).offer();
         EXPECT_EQ(world.calc->asked, one.asked);
+        EXPECT_EQ(settled, one.chosen ? QVector<int>{one.workbook.id} : QVector<int>());
+    }
+}
+
+TEST(UnsavedWorkbooks, WhatWouldLoseItsFormatOrPasswordIsLeftToItsOwner) {
+    QTemporaryDir folder;
+    const QString own = folder.filePath("tajné.ods"), question = "Uložte ho prosím v jeho okně";
+    for (const OpenWorkbook& workbook :
+         {OpenWorkbook{1, "tajné.ods", own, true, WorkbookFormat::Other, false},
+          OpenWorkbook{1, "tajné.xls", own, true, WorkbookFormat::Xls, true}}) {
+        FakeCalcWorld world;
+        ReadAhead seen;
+        ScriptedDialogs dialogs;
+        MemorySettings settings;
+        HomeDrive drive(folder.path(), {});
+        const WorkbookPlaces places(drive, settings);
+        OpenFiles files({});
+        Workbooks workbooks(world.calls, seen, dialogs, places, files);
+        world.calc->open_ = {workbook};
+        world.calc->others = {"Dopis"};
+        world.calc->first = [](const QString& call) {
+            if (call == "save") throw RuntimeError(1004, "Nejde to.");
+        };
+        dialogs.expect(jmeno, "má neuložené změny", Answer::Yes).expect(jmeno, "Nejde to.");
+        dialogs.expect(jmeno, question, Answer::Yes).expect(jmeno, question, Answer::No);
+        dialogs.expect(jmeno, "„Dopis“ má v LibreOffice neuložené změny", Answer::No);
+        UnsavedWorkbooks(world.calls, workbooks, dialogs, places).offer();
+        EXPECT_EQ(world.calc->asked, QStringList{"activate 1"});
     }
 }
 

@@ -1,7 +1,10 @@
-#include "tests/spreadsheet/contract/SpreadsheetContract.h"
+#include "spreadsheet/journal/JournalledSpreadsheet.h"
+#include "tests/spreadsheet/contract/RecoveryContract.h"
 #include "tests/spreadsheet/libreoffice/CalcWorld.h"
 
 #include <QTest>
+
+#include <csignal>
 
 namespace zvonika::testing {
 
@@ -9,10 +12,19 @@ namespace {
 
 class CalcRig : public SpreadsheetRig {
 public:
-    std::unique_ptr<SpreadsheetApplication> launch() override { return world_.launch(); }
+    std::unique_ptr<SpreadsheetApplication> launch() override {
+        auto application = std::make_unique<JournalledSpreadsheet>(
+            world_.launch(), world_.dialogs, jmenoCalcu, JournalFolder(journals_.path()));
+        application->setVisible(true);
+        application->setListener(&listener_);
+        return application;
+    }
     QString folder() const override { return world_.folder.path(); }
     void willChoose(const std::optional<QString>& file) override {
         world_.dialogs.expectFile(QStringLiteral("Vyberte písničku"), file);
+    }
+    void willAnswer(const QString& textPart, Answer answer) override {
+        world_.dialogs.expect(jmenoCalcu, textPart, answer);
     }
     void willSaveChanges(bool save) override {
         world_.dialogs.expect(jmenoCalcu, QStringLiteral("má neuložené změny. Chcete ho uložit?"),
@@ -27,9 +39,31 @@ public:
         EXPECT_TRUE(
             QTest::qWaitFor([&] { return raised([&] { application.activeWorkbookName(); }) == 91; }, 30000));
     }
+    void userTypes(SpreadsheetApplication& application, const QString& cell, const QString& text) override {
+        application.selectRange(cell);
+        const int before = listener_.edited;
+        EXPECT_TRUE(VirtualScreen::type(application.activeWorkbookName(), text));
+        EXPECT_TRUE(VirtualScreen::press(application.activeWorkbookName(), {"Return"}));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return listener_.edited > before; }, 30000));
+    }
+    void kill(std::unique_ptr<SpreadsheetApplication> application) override {
+        if (const pid_t office = world_.office(); office > 0) ::kill(office, SIGKILL);
+        EXPECT_TRUE(
+            QTest::qWaitFor([&] { return raised([&] { application->activeWorkbookName(); }) == 91; }, 30000));
+    }
+    void willBeOffered(const QString& words, bool takesBack) override {
+        world_.dialogs.expect(jmenoCalcu, words, takesBack ? Answer::Yes : Answer::No);
+    }
 
 private:
+    struct Listener : SpreadsheetListener {
+        void cursorMoved() override {}
+        void cellsEdited() override { ++edited; }
+        int edited = 0;
+    };
     CalcWorld world_;
+    QTemporaryDir journals_;
+    Listener listener_;
 };
 
 std::unique_ptr<SpreadsheetRig> makeCalcRig() {
@@ -38,7 +72,29 @@ std::unique_ptr<SpreadsheetRig> makeCalcRig() {
 
 } // namespace
 
-INSTANTIATE_TEST_SUITE_P(Calc, SpreadsheetContract,
-                         ::testing::Values(SpreadsheetRigFactory{"calc", makeCalcRig}));
+const auto calc = ::testing::Values(SpreadsheetRigFactory{"calc", makeCalcRig});
+// What the user has been asked about is settled, however soon Calc is gone afterwards.
+TEST(CalcRecovery, WhatTheUserGaveUpInCalcIsNotOffered) {
+    for (const char* keys : {"ctrl+w", "ctrl+q"}) {
+        CalcRig rig;
+        const QString song = rig.folder() + "/Kočka.xls";
+        auto app = rig.launch();
+        app->addWorkbook();
+        app->saveActiveWorkbookAs({song});
+        app->setValue("B1", QString("c,"));
+        ASSERT_TRUE(VirtualScreen::press("Kočka.xls", {keys}));
+        ASSERT_TRUE(QTest::qWaitFor([] { return VirtualScreen::hasWindow("Save Document"); }, 30000));
+        ASSERT_TRUE(VirtualScreen::press("Save Document", {"alt+n"}));
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] { return raised([&] { app->activateWindow("Kočka.xls"); }) != 0; }, 30000));
+        rig.kill(std::move(app));
+        app = rig.launch();
+        app->openWorkbook(song);
+        EXPECT_EQ(cellText(app->value("B1")), QString()) << keys;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Calc, SpreadsheetContract, calc);
+INSTANTIATE_TEST_SUITE_P(Calc, RecoveryContract, calc);
 
 } // namespace zvonika::testing

@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QProcess>
 #include <QTest>
+#include <QUrl>
 
 namespace zvonika::testing {
 
@@ -24,6 +25,24 @@ protected:
         calc->addWorkbook();
         calc->saveActiveWorkbookAs({world.path(pisen)});
         calc->setListener(&heard);
+    }
+    /// As from the desktop: another start on the same profile hands the file to the Calc that runs.
+    void userOpens(const QString& path) const {
+        QProcess::startDetached(
+            world.installation.program + "/soffice.bin",
+            {"-env:UserInstallation=" + QUrl::fromLocalFile(world.profiles.filePath("1")).toString(), path});
+    }
+    static QByteArray contents(const QString& path) {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+        return file.readAll();
+    }
+    static QString refusal(const std::function<void()>& call) {
+        try {
+            return call(), "0";
+        } catch (const AutomationError& failure) {
+            return QString::number(failure.number()) + ' ' + failure.cause();
+        }
     }
     static bool press(const QStringList& keys) { return VirtualScreen::press(pisen, keys); }
     static bool comes(const std::function<bool()>& condition) { return QTest::qWaitFor(condition, 30000); }
@@ -117,6 +136,68 @@ TEST_F(CalcUser, AWorkbookClosedInCalcIsGoneWhenTheUserHasAnswered) {
     EXPECT_TRUE(comes([&] { return calc->activeWorkbookName().isEmpty(); }));
     calc->openWorkbook(world.path(pisen));
     EXPECT_EQ(text("B1"), QString());
+}
+
+TEST_F(CalcUser, DocumentsWithAPasswordKeepItAndTheirFormat) {
+    for (const char* name : {"heslo.ods", "heslo.xls"}) {
+        const QString document = world.path(name);
+        ASSERT_TRUE(QFile::copy(QStringLiteral(CALC_DATA "/") + name, document));
+        const QByteArray before = contents(document);
+        userOpens(document);
+        ASSERT_TRUE(VirtualScreen::type("Password", "zvonika") &&
+                    VirtualScreen::press("Password", {"Return"}));
+        ASSERT_TRUE(comes([&] { return refusal([&] { calc->activateWindow(name); }) == "0"; })) << name;
+        ASSERT_TRUE(VirtualScreen::press(name, {"x", "Return"})) << name;
+        ASSERT_TRUE(comes([&] { return text("A1") == "x"; })) << name;
+        world.dialogs.expect(jmenoCalcu, QStringLiteral("„%1“ má neuložené změny").arg(name), Answer::Yes);
+        calc->quit();
+        const QByteArray after = contents(document);
+        EXPECT_NE(after, before) << name;
+        EXPECT_EQ(after.left(4), before.left(4)) << name;
+        calc = world.launch();
+        QFile::remove(world.path("jako.xls"));
+        ASSERT_TRUE(QFile::copy(document, world.path("jako.xls")));
+        EXPECT_TRUE(
+            refusal([&] { calc->openWorkbook(world.path("jako.xls")); }).contains("je chráněn heslem"))
+            << name;
+    }
+}
+
+TEST_F(CalcUser, WhatTheUserSavesInCalcIsNoOtherProgramsDoing) {
+    const QByteArray before = contents(world.path(pisen));
+    ASSERT_TRUE(press({"x", "Return", "ctrl+s"}));
+    ASSERT_TRUE(comes([&] { return contents(world.path(pisen)) != before; }));
+    calc->setValue("B1", QString("c"));
+    calc->saveActiveWorkbook();
+}
+
+TEST_F(CalcUser, AWorkbookOfAnotherProgramThatWasOnlyLookedAtIsWrittenOnlyWithConsent) {
+    const QString foreign = world.path("cizí.xls");
+    ASSERT_TRUE(QFile::copy(QStringLiteral(XLS_DATA "/xlwt.xls"), foreign));
+    const QByteArray before = contents(foreign);
+    calc->openWorkbook(foreign);
+    calc->moveCursor(1, 0);
+    world.dialogs.expect(jmenoCalcu, "napsal jiný program", Answer::No);
+    calc->saveActiveWorkbook();
+    calc->saveActiveWorkbook();
+    EXPECT_EQ(contents(foreign), before);
+    calc->closeActiveWorkbook();
+    calc->openWorkbook(foreign);
+    world.dialogs.expect(jmenoCalcu, "napsal jiný program", Answer::Yes);
+    calc->moveCursor(1, 0);
+    calc->saveActiveWorkbook();
+    EXPECT_NE(contents(foreign), before);
+    calc->saveActiveWorkbook();
+}
+
+TEST_F(CalcUser, WhatCalcSaysOfItselfDoesNotReachTheUser) {
+    calc->selectRange("B1:B2");
+    ASSERT_TRUE(VirtualScreen::type(pisen, "=A1:A2") && press({"ctrl+shift+Return"}));
+    ASSERT_TRUE(comes([&] { return !isEmpty(calc->value("B2")); }));
+    EXPECT_EQ(
+        refusal([&] { calc->writeBlock("B2", {{1.0}}); }),
+        "1004 LibreOffice Calc příkaz odmítl. Podívejte se do jeho okna, jestli nečeká na odpověď, a zkuste "
+        "to znovu.");
 }
 
 } // namespace zvonika::testing

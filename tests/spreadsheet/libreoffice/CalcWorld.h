@@ -41,6 +41,7 @@ struct CalcWorld {
     EventfulDialogs dialogs;
     MemorySettings settings;
     Installation installation = installedOffice();
+    QRect window;  ///< where workbooks come up; empty: anywhere
     int signs = 0; ///< that Calc takes its time
     /// Long, for a busy machine; tests of the patience itself set their own.
     Patience patience{std::chrono::minutes(2), std::chrono::minutes(2), std::chrono::minutes(2)};
@@ -49,7 +50,7 @@ struct CalcWorld {
 
     std::unique_ptr<LibreOfficeApplication> launch() {
         LibreOfficeSurroundings surroundings{drive,           dialogs, settings, installation,
-                                             profiles.path(), {},      {},       {}};
+                                             profiles.path(), window,  {},       {}};
         surroundings.sign = [this] { ++signs; };
         surroundings.patience = patience;
         auto application = std::make_unique<LibreOfficeApplication>(surroundings);

@@ -12,6 +12,7 @@ class FakeCalc : public CalcEngine {
 public:
     QStringList asked;           ///< without calls that change nothing
     QVector<OpenWorkbook> open_; ///< the first one is the active one
+    QStringList others;          ///< documents with unsaved changes that are no workbooks
     CellPosition cursor_{1, 1};  ///< as Calc has it
     CellValue everywhere;        ///< what each cell holds
     std::function<void(const QString&)> first = [](const QString&) {};
@@ -26,10 +27,12 @@ public:
     void open(const QString& path) override { note("open " + path); }
     QVector<OpenWorkbook> workbooks() override { return open_; }
     OpenWorkbook active() override { return open_.value(0); }
+    std::optional<WorkbookImage> image(int) override { return {}; }
     void activate(int id) override { note("activate " + QString::number(id)); }
     void saveAs(const QString& path) override { note("saveAs " + path); }
     void save() override { note("save"); }
     void close() override { note("close"); }
+    QStringList otherUnsaved() override { return others; }
     int activeSheet() override { return 1; }
     QStringList sheetNames() override { return {"List1"}; }
     void renameSheet(const QString& name) override { note("renameSheet " + name); }

@@ -67,6 +67,7 @@ class Outcome:
         self.acks = [line.split(" ", 2)[2] for line in lines if line.startswith("ack ")]
         self.refused = [line.split(" ", 3) for line in lines if line.startswith("refused ")]
         self.asked = [line[6:] for line in lines if line.startswith("asked ")]
+        self.trouble = [line[8:] for line in lines if line.startswith("trouble ")]
 
 
 def command(room, steps, answer="yes"):
@@ -200,6 +201,23 @@ def fault_part(work):
     needed = [c for c, _ in cases if ".tmp" in c[2] and c[0] in ("openat", "write", "fsync", "rename")]
     check(refusals >= len(needed), refusals, "refusals of", len(needed))
     print(f"{len(cases)} failures injected, {refusals} saves refused")
+    unprotected(room)
+
+
+def unprotected(room):
+    """Whatever fails between a change and its safety on the disk is told, the folder's flush too."""
+    steps = ["open", "set:B2:g,", "trouble"]
+    room.put_back()
+    clean, calls = trace(room, steps)
+    check(clean.trouble == [""], "trouble without a failure:", clean.trouble)
+    record = [c for c in calls if "znamy" in c[2] and c[0] in ("openat", "pwrite64", "fsync", "fdatasync", "mkdir")]
+    flushed = [c for c in record if c[0] == "fsync"]
+    check(len(flushed) == 2 and ".journal" not in flushed[1][2], "file and folder are not flushed:", flushed)
+    for call, number, line in record:
+        room.put_back()
+        told = run(room, steps, strace=["-e", f"trace={call}", "-e", f"inject={call}:error=EIO:when={number}"]).trouble
+        check(told and told[0].startswith("Změny nejsou zajištěny proti výpadku"), f"EIO at {line}", told)
+    print(f"{len(record)} failures of the journal told")
 
 
 def fault_at(room, steps, old, place, error):

@@ -81,6 +81,7 @@ private:
             {QStringLiteral("type"), [&] { app_.commands().type(parseAddress(where)->first, value); }},
             {QStringLiteral("undo"), [&] { app_.commands().undo(); }},
             {QStringLiteral("insert"), [&] { app_.commands().insertRow(); }},
+            {QStringLiteral("trouble"), [&] { tell(QStringLiteral("trouble ") + app_.trouble()); }},
             {QStringLiteral("rename"), [&] { app_.renameActiveSheet(where); }},
             {QStringLiteral("wait"),
              [] {

@@ -198,7 +198,17 @@ TEST_F(SheetFile, StatusSaysWhenChangesAreNotSafe) {
     QFile inTheWay(state.filePath(QStringLiteral("zaznamy")));
     ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
     application.setValue(QStringLiteral("B1"), QStringLiteral("c1,"));
-    EXPECT_TRUE(status().contains(QStringLiteral("změny nejsou zajištěny proti výpadku")));
+    const QString trouble = application.trouble();
+    EXPECT_TRUE(trouble.startsWith(QStringLiteral("Změny nejsou zajištěny proti výpadku: ")));
+    for (const auto& [width, shown] : {std::pair(1366, true), {1000, true}, {470, false}}) {
+        window->resize(width, 300);
+        QApplication::processEvents();
+        EXPECT_EQ(status().startsWith(trouble), shown) << width;
+        for (const QString& sentence : status().split(QStringLiteral("  ·  "), Qt::SkipEmptyParts))
+            EXPECT_TRUE(
+                part<QLabel>("stavTabulky").toolTip().split(QStringLiteral("  ·  ")).contains(sentence))
+                << "cut at " << width << ": " << sentence.toStdString();
+    }
     inTheWay.remove();
     application.setValue(QStringLiteral("B2"), QStringLiteral("d1,"));
     EXPECT_FALSE(status().contains(QStringLiteral("výpadku")));

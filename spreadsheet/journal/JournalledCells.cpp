@@ -1,0 +1,67 @@
+// Sheets and cells: what the program writes, on its way into the journal. A call comes first, and what it has
+// written is recorded when it has: a spreadsheet that refuses leaves nothing in the journal.
+#include "spreadsheet/Refusals.h"
+#include "spreadsheet/journal/JournalledSpreadsheet.h"
+
+namespace zvonika {
+
+void JournalledSpreadsheet::selectSheet(int index) {
+    forgetPlace();
+    live_->selectSheet(index);
+}
+
+void JournalledSpreadsheet::selectSheet(const QString& name) {
+    forgetPlace();
+    live_->selectSheet(name);
+}
+
+void JournalledSpreadsheet::selectNextSheet() {
+    forgetPlace();
+    live_->selectNextSheet();
+}
+
+void JournalledSpreadsheet::renameActiveSheet(const QString& name) {
+    RecordedWorkbook* workbook = active();
+    const int sheet = place_.sheet;
+    live_->renameActiveSheet(name);
+    if (workbook) workbook->renamed(sheet, name);
+}
+
+void JournalledSpreadsheet::setValue(const QString& address, const CellValue& value) {
+    RecordedWorkbook* workbook = active();
+    const int sheet = place_.sheet;
+    live_->setValue(address, value);
+    if (workbook) workbook->filled(sheet, cellsAt(address), value);
+}
+
+void JournalledSpreadsheet::setActiveCellValue(const CellValue& value) {
+    RecordedWorkbook* workbook = active();
+    const int sheet = place_.sheet;
+    const QString cell = live_->activeAddress();
+    live_->setActiveCellValue(value);
+    if (workbook) workbook->filled(sheet, cellsAt(cell), value);
+}
+
+void JournalledSpreadsheet::clearContents(const QString& address) {
+    RecordedWorkbook* workbook = active();
+    const int sheet = place_.sheet;
+    live_->clearContents(address);
+    if (workbook) workbook->filled(sheet, cellsAt(address), {});
+}
+
+void JournalledSpreadsheet::writeBlock(const QString& address, const CellBlock& block) {
+    RecordedWorkbook* workbook = active();
+    const int sheet = place_.sheet;
+    live_->writeBlock(address, block);
+    if (workbook) workbook->wrote(sheet, cellsAt(address).first, block);
+}
+
+// Where it goes and how far depends on what is marked and what the clipboard holds.
+void JournalledSpreadsheet::paste() {
+    active();
+    live_->paste();
+    lookDue_ = true;
+    look();
+}
+
+} // namespace zvonika
