@@ -67,6 +67,7 @@ std::string indexFaults(const Bytes& file) {
     if ((index + 1)->id == 0x003C) return "goes on";
     const unsigned perBucket = index->u16(0), texts = find(all, 0x00FC)->u32(4);
     const std::size_t entries = (index->data.size() - 2) / 8;
+    if (index->data.size() > 8224) return "too long";
     if (perBucket < 8 || entries != (texts + perBucket - 1) / perBucket) return "entries";
     const Bytes stream = streamOf(file);
     for (std::size_t i = 0; i < entries; ++i) {
@@ -108,7 +109,9 @@ TEST(SharedStrings, AnIndexThatIsShortOrWrongIsMadeAnew) {
         index->data = payloads[0];
         if (payloads.size() > 1) all.insert(index + 1, {0x003C, payloads[1]});
         Workbook changed = Workbook::open(moved(all));
-        for (int row = 3000; row < 3100; ++row)
+        const int end =
+            payloads[0].size() > 8000 ? 8400 : 3100; // more than a record has room for, eight by eight
+        for (int row = 3000; row < end; ++row)
             changed.setValue(0, {row, 0}, numberedText(row));
         EXPECT_EQ(indexFaults(changed.save()), "");
     }
