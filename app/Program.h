@@ -7,6 +7,7 @@
 #include "app/UdalostiOkna.h"
 #include "app/ZapojeniOkna.h"
 #include "app/ui/Form1.h"
+#include "platform/ui/PlainToolTips.h"
 #include "playing/stepping/Automat.h"
 
 #include <QObject>
@@ -47,6 +48,7 @@ private:
     void cellsEdited() override { cursorMoved(); }
 
     Prostredi prostredi_;
+    PlainToolTips napovedyPrvku_;
     Modely modely_;
     UdalostiOkna udalosti_;
     Konverzace konverzace_;

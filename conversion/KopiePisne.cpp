@@ -1,6 +1,7 @@
 #include "conversion/KopiePisne.h"
 
 #include "platform/RuntimeError.h"
+#include "platform/ShownText.h"
 
 namespace zvonika {
 
@@ -34,7 +35,7 @@ bool KopiePisne::uvolniMisto(const QString& plneJmeno) {
     if (odpoved != Answer::Ok) return false;
     if (!drive_.deleteFile(plneJmeno))
         throw RuntimeError(error::permissionDenied,
-                           QStringLiteral("Soubor %1 se nepodařilo vymazat.").arg(plneJmeno));
+                           QStringLiteral("Soubor %1 se nepodařilo vymazat.").arg(shownName(plneJmeno)));
     return true;
 }
 

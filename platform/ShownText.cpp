@@ -62,6 +62,10 @@ QString shownFileName(const QString& nativePath) {
     return shownName(QFileInfo(nativePath).fileName());
 }
 
+QString shownTitle(const QString& name) {
+    return shownName(name).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
+}
+
 QString shownText(const QString& text, qsizetype longest) {
     return marked(shortened(text, longest), isLayout);
 }

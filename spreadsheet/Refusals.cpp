@@ -1,5 +1,6 @@
 #include "spreadsheet/Refusals.h"
 
+#include "platform/ShownText.h"
 #include "spreadsheet/SpreadsheetApplication.h"
 
 #include <cstdlib>
@@ -25,7 +26,7 @@ void refuseNoWorkbook() {
 }
 
 void refuseUnknownWorkbook(const QString& name) {
-    refuse(error::subscriptOutOfRange, QStringLiteral("Sešit „%1“ není otevřen.").arg(name));
+    refuse(error::subscriptOutOfRange, QStringLiteral("Sešit „%1“ není otevřen.").arg(shownName(name)));
 }
 
 void refuseUnknownSheet(int index) {
@@ -33,7 +34,7 @@ void refuseUnknownSheet(int index) {
 }
 
 void refuseUnknownSheet(const QString& name) {
-    refuse(error::subscriptOutOfRange, QStringLiteral("List „%1“ v sešitu není.").arg(name));
+    refuse(error::subscriptOutOfRange, QStringLiteral("List „%1“ v sešitu není.").arg(shownName(name)));
 }
 
 void refuseNextSheet() {
@@ -46,7 +47,7 @@ void refuseNothingFound() {
 
 CellRange cellsAt(const QString& address) {
     if (const auto parsed = parseAddress(address)) return *parsed;
-    refuse(QStringLiteral("„%1“ není adresa buněk.").arg(address));
+    refuse(QStringLiteral("„%1“ není adresa buněk.").arg(shownName(address)));
 }
 
 CellRange handedOver(const CellRange& range) {

@@ -1,22 +1,25 @@
 #include "spreadsheet/SaveOffers.h"
 
 #include "platform/Dialogs.h"
+#include "platform/ShownText.h"
 #include "spreadsheet/Refusals.h"
 
 namespace zvonika {
 
 bool wantsToSave(Dialogs& dialogs, const QString& title, const QString& workbook) {
-    const QString question = QStringLiteral("Sešit „%1“ má neuložené změny. Chcete ho uložit?").arg(workbook);
+    const QString question =
+        QStringLiteral("Sešit „%1“ má neuložené změny. Chcete ho uložit?").arg(shownName(workbook));
     return dialogs.message({title, question, Icon::Exclamation, Buttons::YesNo}) == Answer::Yes;
 }
 
 bool mayReplace(Dialogs& dialogs, const QString& title, const QString& fileName) {
-    const QString question = QStringLiteral("Soubor „%1“ už existuje. Chcete ho nahradit?").arg(fileName);
+    const QString question =
+        QStringLiteral("Soubor „%1“ už existuje. Chcete ho nahradit?").arg(shownName(fileName));
     return dialogs.message({title, question, Icon::Exclamation, Buttons::YesNo, Answer::No}) == Answer::Yes;
 }
 
 void refuseNotReplaced(const QString& fileName) {
-    refuse(QStringLiteral("Soubor „%1“ zůstal, jaký byl; sešit uložen není.").arg(fileName));
+    refuse(QStringLiteral("Soubor „%1“ zůstal, jaký byl; sešit uložen není.").arg(shownName(fileName)));
 }
 
 std::optional<QString> askSaveName(Dialogs& dialogs, const QString& suggested) {

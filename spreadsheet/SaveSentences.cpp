@@ -1,30 +1,24 @@
 #include "spreadsheet/SaveSentences.h"
 
+#include "platform/ShownText.h"
+
 #include <QDateTime>
 #include <QFileInfo>
 
 namespace zvonika {
-
-namespace {
-
-QString fileName(const QString& nativePath) {
-    return QFileInfo(nativePath).fileName();
-}
-
-} // namespace
 
 QString overwriteQuestion(const QString& nativePath) {
     const QString when = QFileInfo(nativePath).lastModified().toString(QStringLiteral("d. M. yyyy 'v' H:mm"));
     return QStringLiteral("Soubor „%1“ na disku mezitím změnil jiný program (%2).\n\n"
                           "Když ho teď uložíte, to, co v něm ten program změnil, zmizí. "
                           "Chcete ho přesto přepsat?")
-        .arg(fileName(nativePath), when);
+        .arg(shownFileName(nativePath), when);
 }
 
 QString notOverwritten(const QString& nativePath) {
     return QStringLiteral("Soubor „%1“ uložen není: na disku ho mezitím změnil jiný program. Sešit zůstává "
                           "otevřen v okně tabulky, kde ho můžete uložit pod jiným jménem.")
-        .arg(fileName(nativePath));
+        .arg(shownFileName(nativePath));
 }
 
 QString conversionQuestion(const QString& workbook) {
@@ -36,24 +30,24 @@ QString conversionQuestion(const QString& workbook) {
                "s grafy a makry a pojmenované oblasti se ztratí a programy z té doby sešit už neotevřou. "
                "Kdo chce mít i původní soubor, ať sešit uloží pod jiným "
                "jménem.\n\nChcete ho převést a uložit?")
-        .arg(workbook);
+        .arg(shownName(workbook));
 }
 
 QString notConverted(const QString& nativePath) {
     return QStringLiteral(
                "Soubor „%1“ uložen není: sešit měl zůstat ve starším formátu. Dál je otevřen v okně "
                "tabulky, kde ho můžete uložit pod jiným jménem.")
-        .arg(fileName(nativePath));
+        .arg(shownFileName(nativePath));
 }
 
 QString twinQuestion(const QString& workbook, bool modified) {
     if (!modified)
         return QStringLiteral("Sešit „%1“ je ještě otevřen v okně tabulky a dva sešity téhož jména najednou "
                               "otevřít nelze.\n\nChcete ho zavřít?")
-            .arg(workbook);
+            .arg(shownName(workbook));
     return QStringLiteral("Sešit „%1“ je ještě otevřen v okně tabulky, má neuložené změny a dva sešity téhož "
                           "jména najednou otevřít nelze.\n\nChcete ho uložit pod jiným jménem a zavřít?")
-        .arg(workbook);
+        .arg(shownName(workbook));
 }
 
 } // namespace zvonika

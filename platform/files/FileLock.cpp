@@ -43,8 +43,12 @@ LockHolder ourselves() {
     static const QString machine = veiled(QSysInfo::machineUniqueId());
     static const QString boot = veiled(QSysInfo::bootUniqueId());
     const qint64 process = QCoreApplication::applicationPid();
-    return {{},      QSysInfo::machineHostName(), QCoreApplication::applicationName(),
-            process, machine,                     boot,
+    return {{},
+            QSysInfo::machineHostName(),
+            QCoreApplication::applicationName(),
+            process,
+            machine,
+            boot,
             processStart(process).value_or(QString())};
 }
 
@@ -86,7 +90,8 @@ struct Found {
     bool counts() const { return state == State::Held || state == State::BeingWritten; }
 };
 
-/// What cannot be read is of somebody: a pipe or a folder, a link, too much of anything, a file of another user.
+/// What cannot be read is of somebody: a pipe or a folder, a link, too much of anything, a file of another
+/// user.
 Found look(const QString& path) {
     const ReadBytes lock = readRegular(path, Links::Refuse, largestLock);
     if (lock.trouble) {

@@ -21,7 +21,8 @@ struct LockHolder {
 
 /// Tells others that a file is open here, by a hidden file ".~<name>.zamek" beside it. The lock of a process
 /// of this computer that is gone counts for nothing, also when its number is in use again; one that cannot be
-/// read counts, be it another user's, a link, a pipe or too long for a lock. Where no such file can be made (folder not writable), the file stays unlocked.
+/// read counts, be it another user's, a link, a pipe or too long for a lock. Where no such file can be made
+/// (folder not writable), the file stays unlocked.
 class FileLock {
 public:
     FileLock() = default; ///< locks nothing

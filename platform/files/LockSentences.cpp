@@ -26,7 +26,8 @@ QString whoHolds(const LockHolder& holder) {
     if (!holder.user.isEmpty()) known << QStringLiteral("uživatel %1").arg(named(holder.user));
     if (!holder.host.isEmpty()) known << QStringLiteral("počítač %1").arg(named(holder.host));
     if (holder.process != 0)
-        known << QStringLiteral("program %1, proces %2").arg(named(holder.program)).arg(holder.process);
+        known << QStringLiteral("program %1, proces %2")
+                     .arg(named(holder.program), QString::number(holder.process));
     if (known.isEmpty()) known << QStringLiteral("neznámý uživatel");
     return known.join(QStringLiteral(", "));
 }
@@ -45,9 +46,10 @@ QString openAnyway(const QString& nativePath, const LockHolder& holder) {
     const QString who =
         holder.isReadable()
             ? QStringLiteral("Soubor „%1“ má už otevřený někdo jiný:\n%2.").arg(name, whoHolds(holder))
-            : QStringLiteral("Soubor „%1“ má možná už otevřený někdo jiný (%2). Vedle něho leží skrytý soubor "
-                             "„%3“, který to má říci, ale přečíst ho nejde. Nemá-li písničku otevřenou "
-                             "nikdo, můžete ho smazat.")
+            : QStringLiteral(
+                  "Soubor „%1“ má možná už otevřený někdo jiný (%2). Vedle něho leží skrytý soubor "
+                  "„%3“, který to má říci, ale přečíst ho nejde. Nemá-li písničku otevřenou "
+                  "nikdo, můžete ho smazat.")
                   .arg(name, whoHolds(holder), hiddenFile(nativePath));
     return who + QStringLiteral("\n\nKdybyste ho měnili oba, mohl by jeden z Vás o svou práci přijít. "
                                 "Chcete ho přesto otevřít?");

@@ -54,15 +54,14 @@ int readUpTo(int file, long long largest, std::string& text) {
 
 } // namespace
 
-// The name is looked at first, because opening alone makes some devices act; then what was opened, because the name
-// may stand for something else by then.
+// The name is looked at first, because opening alone makes some devices act; then what was opened, because
+// the name may stand for something else by then.
 int openRegular(const char* path, Links links, long long largest, int access) {
     const bool follow = links == Links::Follow;
     struct stat info {};
     if ((follow ? ::stat(path, &info) : ::lstat(path, &info)) < 0) return -1;
     if (const int reason = objection(info, largest); reason != 0) return failed(reason);
-    const int file =
-        openAtOnce(path, access | O_NONBLOCK | O_NOCTTY | O_CLOEXEC | (follow ? 0 : O_NOFOLLOW));
+    const int file = openAtOnce(path, access | O_NONBLOCK | O_NOCTTY | O_CLOEXEC | (follow ? 0 : O_NOFOLLOW));
     if (file < 0) return failed(errno == ENXIO ? ENODEV : errno);
     const int reason = ::fstat(file, &info) < 0 ? errno : objection(info, largest);
     if (reason == 0) return file;

@@ -1,5 +1,6 @@
 #include "spreadsheet/embedded/Session.h"
 
+#include "platform/ShownText.h"
 #include "spreadsheet/Refusals.h"
 #include "spreadsheet/SpreadsheetApplication.h"
 
@@ -61,7 +62,7 @@ void Session::refuseTwin(const QString& name, const Document* self) const {
         refuse(
             QStringLiteral("Sešit „%1“ je už otevřen v okně tabulky; dva sešity téhož jména najednou otevřít "
                            "nelze. Uložte ho tam pod jiným jménem, nebo ho zavřete.")
-                .arg(open->file().name()));
+                .arg(shownName(open->file().name())));
 }
 
 void Session::end(State state) {

@@ -1,5 +1,6 @@
 #include "spreadsheet/journal/RecoverySentences.h"
 
+#include "platform/ShownText.h"
 #include "spreadsheet/FileRefusals.h"
 
 namespace zvonika {
@@ -48,7 +49,7 @@ QString recoveryQuestion(const QString& workbook, const JournalContents& journal
     const QString kind =
         neverSaved ? QStringLiteral("V dosud neuloženém sešitu") : QStringLiteral("V sešitu");
     QString text = QStringLiteral("%1 „%2“ %3 (poslední %4).")
-                       .arg(kind, workbook, remained(count), inWords(journal.lastChange()));
+                       .arg(kind, shownName(workbook), remained(count), inWords(journal.lastChange()));
     if (changedSince)
         text += QStringLiteral("\n\nPozor: soubor se od té doby změnil. Změny patří k jeho dřívější podobě.");
     return text + QStringLiteral("\n\n") + (neverSaved ? openingOffered() : returnOffered(count));
@@ -56,17 +57,17 @@ QString recoveryQuestion(const QString& workbook, const JournalContents& journal
 
 QString unreadableJournal(const QString& workbook, const QString& place) {
     const QString whose = workbook.isEmpty() ? QStringLiteral("sešitu, který ještě nebyl uložen,")
-                                             : QStringLiteral("sešitu „%1“").arg(workbook);
+                                             : QStringLiteral("sešitu „%1“").arg(shownName(workbook));
     return QStringLiteral(
                "Záznam neuložených změn %1 je poškozený a nic z něj vrátit nejde; leží odložen v souboru "
                "„%2“.")
-        .arg(whose, place);
+        .arg(whose, shownName(place));
 }
 
 QString partlyRecovered(const QString& workbook, int refused) {
     return QStringLiteral("V sešitu „%1“ se nepodařilo vrátit %2 z těch, které po programu zůstaly. "
                           "Zkontrolujte ho prosím, než ho uložíte.")
-        .arg(workbook, refused == 1 ? QStringLiteral("1 změnu") : changesInWords(refused));
+        .arg(shownName(workbook), refused == 1 ? QStringLiteral("1 změnu") : changesInWords(refused));
 }
 
 QString journalRefused(const std::error_code& error) {

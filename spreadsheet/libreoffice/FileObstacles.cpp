@@ -1,6 +1,7 @@
 #include "spreadsheet/libreoffice/FileObstacles.h"
 
 #include "platform/RuntimeError.h"
+#include "platform/ShownText.h"
 #include "spreadsheet/FileRefusals.h"
 #include "spreadsheet/Refusals.h"
 
@@ -34,7 +35,7 @@ void refuseMissing(const QString& path) {
 void refuseTwin(const OpenWorkbook& open, const QString& path) {
     if (open.name.compare(QFileInfo(path).fileName(), Qt::CaseInsensitive) == 0)
         refuse(QStringLiteral("Sešit „%1“ je už otevřen; dva sešity téhož jména najednou otevřít nelze.")
-                   .arg(open.name));
+                   .arg(shownName(open.name)));
 }
 
 void refuseToSave(const QString& path) {

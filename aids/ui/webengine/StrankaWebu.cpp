@@ -62,12 +62,12 @@ void StrankaWebu::odmitejZadosti() {
             [](const QUrl&, QAuthenticator* overeni) { *overeni = QAuthenticator(); });
 }
 
-bool StrankaWebu::smi(const QUrl& adresa) {
+bool StrankaWebu::smi(const QUrl& adresa, bool zvolena) {
     switch (povolene_.zachazeni(adresa)) {
     case PovoleneAdresy::Zachazeni::Zobrazit:
         return true;
     case PovoleneAdresy::Zachazeni::Ven:
-        sledovani_.odkazVen(adresa);
+        sledovani_.odkazVen(adresa, zvolena);
         return false;
     case PovoleneAdresy::Zachazeni::Odmitnout:
         break;
@@ -76,8 +76,8 @@ bool StrankaWebu::smi(const QUrl& adresa) {
     return false;
 }
 
-bool StrankaWebu::acceptNavigationRequest(const QUrl& url, NavigationType, bool isMainFrame) {
-    if (isMainFrame) return smi(url);
+bool StrankaWebu::acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) {
+    if (isMainFrame) return smi(url, type == NavigationTypeLinkClicked);
     return povolene_.zachazeni(url) == PovoleneAdresy::Zachazeni::Zobrazit;
 }
 

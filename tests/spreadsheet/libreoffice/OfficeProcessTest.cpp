@@ -3,6 +3,7 @@
 
 #include "spreadsheet/libreoffice/Installation.h"
 #include "spreadsheet/libreoffice/hlidac/Leftovers.h"
+#include "tests/support/Neighbours.h"
 
 #include <QDir>
 #include <QFile>
@@ -103,6 +104,18 @@ TEST(OfficeProcess, RunsUnderItsGuardianAndEndsWithIt) {
     EXPECT_FALSE(QFile::exists(profiles.filePath(".~lock.moje.xls#")));
     EXPECT_EQ(Profile(profiles.path()).path(), path);
     EXPECT_NO_THROW(process.tellStarted());
+}
+
+TEST(Leftovers, ALockThatIsNoFileStaysAndIsNotWaitedFor) {
+    for (const Neighbour& neighbour : neighbours) {
+        QTemporaryDir folder;
+        Leftovers leftovers("file:///profil", folder.path().toStdString());
+        const QString lock = folder.filePath(".~lock.moje.xls#");
+        ASSERT_TRUE(neighbour.put(QFile::encodeName(lock))) << neighbour.what;
+        leftovers.addDocument(folder.filePath("moje.xls").toStdString());
+        leftovers.remove();
+        EXPECT_TRUE(QFile::exists(lock) || QFileInfo(lock).isSymLink()) << neighbour.what;
+    }
 }
 
 TEST(Leftovers, AreRemovedAndThoseOfOthersStay) {
