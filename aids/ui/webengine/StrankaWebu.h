@@ -33,6 +33,7 @@ private:
 
     const PovoleneAdresy& povolene_;
     SledovaniProhlizece& sledovani_;
+    bool naCeste_ = false; ///< an address has been let in and is not there yet
 };
 
 } // namespace zvonika
