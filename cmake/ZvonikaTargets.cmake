@@ -78,8 +78,16 @@ function(zvonika_uses_moc target result)
   endforeach()
 endfunction()
 
+# Several sources compiled as one: a build from nothing in a third of the time. Builds without it show that each file
+# stands on its own.
+option(ZVONIKA_UNITY "Compile the sources of a target together" OFF)
+set(CMAKE_UNITY_BUILD ${ZVONIKA_UNITY})
+
 function(zvonika_house_rules target)
   target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion)
+  if(ZVONIKA_UNITY AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU") # which takes the sources put together for headers
+    target_compile_options(${target} PRIVATE -Wno-subobject-linkage)
+  endif()
   get_target_property(sources ${target} SOURCES)
   zvonika_open_headers_of(${target} ${sources})
   target_compile_definitions(${target} PUBLIC QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII)

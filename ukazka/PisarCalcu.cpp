@@ -11,12 +11,12 @@ namespace zvonika {
 
 namespace {
 
-constexpr int trpelivost = 60000; // ms
+constexpr int trpelivostCalcu = 60000; // ms
 
 QString spust(const QString& prikaz, const QStringList& argumenty) {
     QProcess proces;
     proces.start(prikaz, argumenty);
-    if (!proces.waitForFinished(trpelivost) || proces.exitCode() != 0)
+    if (!proces.waitForFinished(trpelivostCalcu) || proces.exitCode() != 0)
         throw std::runtime_error("nejde spustit: " + prikaz.toStdString());
     return QString::fromUtf8(proces.readAllStandardOutput()).trimmed();
 }
@@ -31,7 +31,8 @@ void pisDoCalcu(Program& program, const QStringList& texty) {
     // Without a layout that has the Czech letters they would be typed by changing the keyboard under way.
     spust("setxkbmap", {"cz"});
     QTest::keyClick(&program.okno(), Qt::Key_F6);
-    if (!QTest::qWaitFor(calcMaKlavesnici, trpelivost)) throw std::runtime_error("Calc nedostal klávesnici");
+    if (!QTest::qWaitFor(calcMaKlavesnici, trpelivostCalcu))
+        throw std::runtime_error("Calc nedostal klávesnici");
     spust("xdotool", {"key", "Left"}); // from the grip's column B to the syllables in A
     SpreadsheetApplication& calc = program.modely().pisen.excel();
     const int prvni = calc.activeRow();
@@ -40,7 +41,7 @@ void pisDoCalcu(Program& program, const QStringList& texty) {
         spust("xdotool", {"key", "Return"});
     }
     const QString posledni = QStringLiteral("A%1").arg(prvni + texty.size() - 1);
-    if (!QTest::qWaitFor([&] { return cellText(calc.value(posledni)) == texty.last(); }, trpelivost))
+    if (!QTest::qWaitFor([&] { return cellText(calc.value(posledni)) == texty.last(); }, trpelivostCalcu))
         throw std::runtime_error("slabiky nejsou v tabulce");
 }
 

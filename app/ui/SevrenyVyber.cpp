@@ -8,12 +8,12 @@ namespace zvonika {
 
 namespace {
 
-constexpr int nejmensiPismo = 7; // px
+constexpr int nejmensiPismoVyberu = 7; // px
 constexpr int okrajTextu = 3;
 
 QFont pismoDoSirky(QFont pismo, const QString& text, int sirka) {
     int px = QFontInfo(pismo).pixelSize();
-    while (px > nejmensiPismo && QFontMetrics(pismo).horizontalAdvance(text) > sirka)
+    while (px > nejmensiPismoVyberu && QFontMetrics(pismo).horizontalAdvance(text) > sirka)
         pismo.setPixelSize(--px);
     return pismo;
 }

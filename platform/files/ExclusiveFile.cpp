@@ -16,14 +16,14 @@ namespace {
 
 constexpr mode_t beforeTheMask = 0644;
 
-class Descriptor {
+class Handle {
 public:
-    explicit Descriptor(int fd) : fd_(fd) {}
-    ~Descriptor() {
+    explicit Handle(int fd) : fd_(fd) {}
+    ~Handle() {
         if (isOpen()) ::close(fd_);
     }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
+    Handle(const Handle&) = delete;
+    Handle& operator=(const Handle&) = delete;
     bool isOpen() const { return fd_ >= 0; }
     int get() const { return fd_; }
 
@@ -42,20 +42,20 @@ bool fill(int file, const QByteArray& text) {
     return ::write(file, text.constData(), std::size_t(text.size())) == text.size();
 }
 
-QByteArray folderOf(const QByteArray& path) {
+QByteArray folderBeside(const QByteArray& path) {
     return path.left(path.lastIndexOf('/') + 1) + '.';
 }
 
 /// A file without a name gets one when it is written; nothing is left of a process that dies before.
 Exclusive makeWhole(const QByteArray& path, const QByteArray& text) {
-    const Descriptor file(::open(folderOf(path), O_TMPFILE | O_WRONLY | O_CLOEXEC, beforeTheMask));
+    const Handle file(::open(folderBeside(path), O_TMPFILE | O_WRONLY | O_CLOEXEC, beforeTheMask));
     if (!file.isOpen() || !fill(file.get(), text)) return Exclusive::Impossible;
     const QByteArray nameless = "/proc/self/fd/" + QByteArray::number(file.get());
     return outcome(::linkat(AT_FDCWD, nameless, AT_FDCWD, path, AT_SYMLINK_FOLLOW), EEXIST);
 }
 
 Exclusive makeInPlace(const QByteArray& path, const QByteArray& text) {
-    const Descriptor file(::open(path, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, beforeTheMask));
+    const Handle file(::open(path, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, beforeTheMask));
     if (!file.isOpen()) return outcome(-1, EEXIST);
     if (fill(file.get(), text)) return Exclusive::Done;
     ::unlink(path); // a full disk; others could not tell whose it is
@@ -86,7 +86,7 @@ Exclusive makeExclusively(const QString& path, const QByteArray& text) {
 // Who deletes a file must hold its lock and have found it under its name then: the others come too late.
 Exclusive removeExclusively(const QString& path, const QByteArray& text) {
     const QByteArray name = QFile::encodeName(path);
-    const Descriptor file(openRegular(name, Links::Refuse, text.size(), O_RDONLY));
+    const Handle file(openRegular(name, Links::Refuse, text.size(), O_RDONLY));
     if (!file.isOpen()) return errno == EACCES ? Exclusive::Impossible : Exclusive::OtherFirst;
     if (::flock(file.get(), LOCK_EX | LOCK_NB) < 0 && errno == EWOULDBLOCK) return Exclusive::OtherFirst;
     if (!isStillAt(name, file.get()) || !holds(file.get(), text)) return Exclusive::OtherFirst;

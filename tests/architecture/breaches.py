@@ -9,6 +9,7 @@ import concurrent.futures
 import json
 import os
 import pathlib
+import re
 import shlex
 import subprocess
 import sys
@@ -73,10 +74,18 @@ def faults(root, commands, breach):
         yield f"{path} compiles with {forbidden}"
 
 
+def sources(entry):
+    """What the call compiles: one file, or several that are compiled as one."""
+    path = pathlib.Path(entry["file"])
+    if path.parent.name != "Unity":
+        return [path]
+    return [pathlib.Path(name) for name in re.findall(r'#include "(.+\.cpp)"', path.read_text(encoding="utf-8"))]
+
+
 def main():
     root = pathlib.Path(sys.argv[1])
-    commands = {str(pathlib.Path(entry["file"]).resolve()): entry
-                for entry in json.loads(pathlib.Path(sys.argv[2]).read_text(encoding="utf-8"))}
+    commands = {str(path.resolve()): entry
+                for entry in json.loads(pathlib.Path(sys.argv[2]).read_text(encoding="utf-8")) for path in sources(entry)}
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
         found = [fault for rows in pool.map(lambda breach: list(faults(root, commands, breach)), BREACHES) for fault in rows]
     print("\n".join(found))

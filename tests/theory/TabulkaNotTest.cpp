@@ -95,7 +95,9 @@ TEST(TabulkaNot, ReadsAnEditedTableAsItStands) {
         const TabulkaNot tabulka(slozka.path());
         EXPECT_EQ(tabulka.pocet(), radek.pocet) << radek.popis;
         EXPECT_EQ(tabulka.pocetStupnu(), radek.stupnu) << radek.popis;
-        if (radek.pocet > 0) EXPECT_EQ(tabulka.ton(0, "Cdur"), " c, ") << "blanks belong to the name";
+        if (radek.pocet > 0) {
+            EXPECT_EQ(tabulka.ton(0, "Cdur"), " c, ") << "blanks belong to the name";
+        }
         const QString chyba = QString::fromUtf8(radek.chyba);
         EXPECT_EQ(tabulka.chyba().right(chyba.size()), chyba) << radek.popis;
         EXPECT_EQ(tabulka.chyba().isEmpty(), chyba.isEmpty()) << radek.popis;

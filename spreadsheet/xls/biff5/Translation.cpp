@@ -16,7 +16,7 @@ namespace {
 using Bytes = std::vector<std::uint8_t>;
 
 constexpr std::uint16_t utf16 = 1200;
-constexpr std::size_t maxNameUnits = 31;
+constexpr std::size_t longestSheetName = 31;
 
 struct OldSheet {
     std::uint32_t number = 0; ///< among all sheets of the old workbook
@@ -130,7 +130,7 @@ private:
     void putSheet(const Record& record) {
         sheets_[written_++].entry = static_cast<std::uint32_t>(out_.size());
         Bytes payload(record.payload.begin(), record.payload.begin() + 6);
-        appendShortText(payload, shortTextAt(record, 6, codePage_).substr(0, maxNameUnits));
+        appendShortText(payload, shortTextAt(record, 6, codePage_).substr(0, longestSheetName));
         put(record, payload);
     }
 

@@ -18,7 +18,7 @@ namespace zvonika::testing {
 
 namespace {
 
-void store(const QString& path, const QByteArray& bytes) {
+void storeInNewFolder(const QString& path, const QByteArray& bytes) {
     QDir().mkpath(QFileInfo(path).path());
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
@@ -78,7 +78,7 @@ TEST(Profile, IsTakenOnceAndKeepsTheUsersSettings) {
     const QString file = first.path() + "/user/registrymodifications.xcu";
     const QByteArray users = "<item oor:path=\"/org.openoffice.Office.Calc/Grid\"><prop oor:name=\"X\" "
                              "oor:op=\"fuse\"><value>1</value></prop></item>\n";
-    store(file, "<?xml version=\"1.0\"?>\n<oor:items>\n" + users + "</oor:items>\n");
+    storeInNewFolder(file, "<?xml version=\"1.0\"?>\n<oor:items>\n" + users + "</oor:items>\n");
     first.seed({"/tmp/Dvě písně", QRect(10, 20, 300, 400)});
     first.seed({"/tmp/Dvě & písně", QRect(11, 20, 300, 400), "7.4"});
     const QByteArray seeded = contents(file);
@@ -131,15 +131,16 @@ TEST(Installation, NamesWhatIsMissing) {
         return findLibreOffice({{path("none"), path(program)}, {path("plugins")}}).missing;
     };
     for (const char* program : {"good", "old", "nocalc", "nowindows"}) {
-        store(path(program) + "/soffice.bin", "");
-        store(path(program) + "/bootstraprc", QByteArray("[Bootstrap]\nProductKey=LibreOffice ") +
-                                                  (program == std::string("old") ? "6.4" : "7.4") + "\n");
-        if (program != std::string("nocalc")) store(path(program) + "/libsclo.so", "");
-        if (program != std::string("nowindows")) store(path(program) + "/libvclplug_genlo.so", "");
+        storeInNewFolder(path(program) + "/soffice.bin", "");
+        storeInNewFolder(path(program) + "/bootstraprc", QByteArray("[Bootstrap]\nProductKey=LibreOffice ") +
+                                                             (program == std::string("old") ? "6.4" : "7.4") +
+                                                             "\n");
+        if (program != std::string("nocalc")) storeInNewFolder(path(program) + "/libsclo.so", "");
+        if (program != std::string("nowindows")) storeInNewFolder(path(program) + "/libvclplug_genlo.so", "");
     }
     EXPECT_TRUE(missing("good").contains("sestavena bez spojení"));
-    store(path("plugins/libzvonika_libreoffice.so"), "");
-    store(path("plugins/zvonika-hlidac"), "");
+    storeInNewFolder(path("plugins/libzvonika_libreoffice.so"), "");
+    storeInNewFolder(path("plugins/zvonika-hlidac"), "");
     EXPECT_TRUE(missing("none").contains("není na tomto počítači nainstalován"));
     EXPECT_TRUE(missing("old").contains("6.4 je příliš starý"));
     EXPECT_TRUE(missing("nocalc").contains("chybí tabulkový program Calc"));

@@ -11,7 +11,7 @@ using namespace xlstest;
 
 namespace {
 
-constexpr std::size_t smallFile = 12 << 10;
+constexpr std::size_t smallFileSize = 12 << 10;
 
 struct Hostile {
     std::string what;
@@ -139,7 +139,7 @@ long peakKilobytes() {
 
 TEST(HostileFiles, CostLittleTimeAndMemory) {
     for (const auto& [what, file] : hostileFiles()) {
-        ASSERT_LE(file.size(), smallFile) << what;
+        ASSERT_LE(file.size(), smallFileSize) << what;
         const long before = peakKilobytes();
         const std::clock_t start = std::clock(); // of this process, whatever else the computer does
         openChangeSave(file);
