@@ -5,7 +5,7 @@
 namespace zvonika {
 
 // Names and texts that come from files are shown, not obeyed: a line break, a control sign, or a sign that
-// turns the direction of writing stands in what is returned as a mark of its own ("␊", "[U+202E]"). Nothing
+// turns the direction of writing stands in what is returned as a mark of its own ("↵", "[U+202E]"). Nothing
 // but what the user sees goes through here; a name that is to be found again stays as it is.
 
 /// One line. Of a text longer than `longest` characters the middle gives way to "…".

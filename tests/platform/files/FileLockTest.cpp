@@ -213,9 +213,9 @@ TEST_F(FileLockTest, WhatItTellsIsShownAndNotObeyed) {
     holder.program = QStringLiteral("%2\t%1");
     holder.process = 7;
     const QString told = whoHolds(holder);
-    EXPECT_TRUE(told.startsWith(QStringLiteral("uživatel jana␊Soubor je volný., počítač hhh")))
+    EXPECT_TRUE(told.startsWith(QStringLiteral("uživatel jana↵Soubor je volný., počítač hhh")))
         << told.toStdString();
-    EXPECT_TRUE(told.endsWith(QStringLiteral("hhh[U+202E], program %2␉%1, proces 7"))) << told.toStdString();
+    EXPECT_TRUE(told.endsWith(QStringLiteral("hhh[U+202E], program %2→%1, proces 7"))) << told.toStdString();
     EXPECT_LT(told.size(), 200);
 }
 

@@ -38,7 +38,7 @@ TEST_F(FileRefusalTest, WhatIsNoRegularFileIsRefusedAtOnce) {
         ASSERT_TRUE(neighbour.put(QFile::encodeName(song))) << neighbour.what;
         const QString refusal = refusalOf([&] { Document::open(song); });
         EXPECT_TRUE(refusal.startsWith(
-            QStringLiteral("1004 Soubor „%1␊.xls“ nelze otevřít: ").arg(QString::fromLatin1(neighbour.what))))
+            QStringLiteral("1004 Soubor „%1↵.xls“ nelze otevřít: ").arg(QString::fromLatin1(neighbour.what))))
             << refusal.toStdString();
         EXPECT_TRUE(contentHashOfFile(song).isEmpty()) << neighbour.what;
     }
