@@ -19,6 +19,7 @@ bool PovoleneAdresy::lezi(const QString& soubor) const {
     const QFileInfo udaje(soubor);
     const QString skutecny = udaje.exists() ? udaje.canonicalFilePath() : QDir::cleanPath(soubor);
     const QString koren = udaje.exists() ? QDir(slozka_).canonicalPath() : QDir::cleanPath(slozka_);
+    if (udaje.exists() && !udaje.isFile() && !udaje.isDir()) return false; // a pipe is waited for for ever
     return !koren.isEmpty() && skutecny.startsWith(koren + QLatin1Char('/'));
 }
 

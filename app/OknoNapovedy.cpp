@@ -1,5 +1,7 @@
 #include "app/OknoNapovedy.h"
 
+#include "platform/ShownText.h"
+
 #include <QDir>
 #include <QScopeGuard>
 #include <QScreen>
@@ -17,6 +19,14 @@ QRect misto(const QWidget& hlavni) {
     QRect okno({}, pohodlnaVelikost.boundedTo(obrazovka.size() - QSize(40, 60)));
     okno.moveCenter(obrazovka.center());
     return okno;
+}
+
+Message otazkaVen(const QString& odkaz) {
+    return {QStringLiteral("Nápověda"),
+            QStringLiteral("Zobrazená stránka chce otevřít Váš poštovní program a začít v něm dopis:\n%1\n\n"
+                           "Chcete to?")
+                .arg(shownName(odkaz)),
+            Icon::Question, Buttons::YesNo, Answer::No};
 }
 
 } // namespace
@@ -39,7 +49,10 @@ FrmBrowser* OknoNapovedy::otevri(QWidget& hlavni) {
     const QUrl adresa = QUrl::fromLocalFile(slozka.filePath(prirucka));
     auto okno = std::make_unique<FrmBrowser>(
         ProstrediProhlizece{prostredi_.tvurceProhlizece, slozka.absolutePath(), adresa,
-                            [&shell = prostredi_.shell](const QString& odkaz) { return shell.open(odkaz); }});
+                            [&shell = prostredi_.shell](const QString& odkaz) { return shell.open(odkaz); },
+                            [&dialogs = prostredi_.dialogs](const QString& odkaz) {
+                                return dialogs.message(otazkaVen(odkaz)) == Answer::Yes;
+                            }});
     okno->setAttribute(Qt::WA_DeleteOnClose);
     okno->setGeometry(misto(hlavni));
     okno->show();

@@ -7,6 +7,7 @@
 #include "app/UdalostiOkna.h"
 #include "app/ZapojeniOkna.h"
 #include "app/ui/Form1.h"
+#include "platform/ui/PlainToolTips.h"
 #include "playing/stepping/Automat.h"
 
 #include <QObject>
@@ -50,6 +51,7 @@ private:
     void troubleChanged() override { udalosti_.ukazStav(); }
 
     Prostredi prostredi_;
+    PlainToolTips napovedyPrvku_;
     Modely modely_;
     UdalostiOkna udalosti_;
     Konverzace konverzace_;

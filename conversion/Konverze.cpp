@@ -2,6 +2,7 @@
 
 #include "conversion/KopiePisne.h"
 #include "conversion/ListHeligonky.h"
+#include "platform/ShownText.h"
 #include "spreadsheet/Address.h"
 #include "theory/Toniny.h"
 
@@ -95,7 +96,7 @@ bool Konverze::lzeZacit(const std::optional<QString>& cilova) {
     if (soucasna == *cilova)
         return odmitni(QStringLiteral("Chyba při výběru ladění."),
                        QStringLiteral("Ve Vámi zvoleném ladění byla píseň již zapsána. Konverze z ") +
-                           soucasna + QStringLiteral(" do ") + *cilova +
+                           shownName(soucasna) + QStringLiteral(" do ") + *cilova +
                            QStringLiteral(" nebude provedena !"));
     return true;
 }
@@ -114,7 +115,7 @@ bool Konverze::pripravKopii(const QString& cilova) {
     odmitni(
         QStringLiteral("Přerušeno na začátku."),
         QStringLiteral("Program nemá k dispozici očekávaná data. Konverze nebude provedena. Smažte soubor ") +
-            kopie_ +
+            shownName(kopie_) +
             QStringLiteral("\nEventuelně může být tento soubor použit pro ruční zápis v požadovaném "
                            "ladění."));
     zavri();
@@ -197,7 +198,7 @@ void Konverze::dokonci() {
     dialogs_.message({QStringLiteral("Hotovo"),
                       QStringLiteral("Skladba byla na aktivním listu překonvertována podle nastavených "
                                      "požadavků a uložena do souboru \n") +
-                          kopie_ + u'.',
+                          shownName(kopie_) + u'.',
                       Icon::Information});
 }
 

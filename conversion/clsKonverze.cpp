@@ -1,6 +1,7 @@
 #include "conversion/clsKonverze.h"
 
 #include "conversion/NahradText.h"
+#include "platform/ShownText.h"
 
 namespace zvonika {
 
@@ -56,8 +57,8 @@ QString clsKonverze::ZjistiZapsaneLadeni(const QString& sesit) {
 QString clsKonverze::ZmenaLadeni(const QString& soucasna, const QString& nova, const QString& radek) {
     const Answer odpoved = dialogs_.message(
         {QStringLiteral("Přechod do jiné stupnice"),
-         QStringLiteral("Na řádku ") + radek + QStringLiteral(" se mění původní stupnice z ") + soucasna +
-             QStringLiteral(" do ") + nova +
+         QStringLiteral("Na řádku ") + radek + QStringLiteral(" se mění původní stupnice z ") +
+             shownName(soucasna) + QStringLiteral(" do ") + shownName(nova) +
              QStringLiteral(".\nChcete-li tento úsek konvertovat do jiné stupnice, stiskněte Ano."),
          Icon::Question, Buttons::YesNoCancel, Answer::No});
     if (odpoved == Answer::Yes) return odpovediZmeny::zmenit;

@@ -1,12 +1,17 @@
 #include "platform/IniSettingsStore.h"
 
+#include "platform/files/RegularFile.h"
+
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 namespace zvonika {
 
 namespace {
+
+constexpr qint64 largestFile = 1 << 20; ///< bytes; ours have some hundreds
 
 QString entry(const QString& section, const QString& key) {
     return section + QLatin1Char('/') + key;
@@ -18,6 +23,29 @@ QString asText(const QVariant& value) {
                                                     : value.toString();
 }
 
+bool canHoldSettings(const QString& file) {
+    const std::error_code trouble = readRegular(file, Links::Follow, largestFile).trouble;
+    return !trouble || trouble == std::errc::no_such_file_or_directory ||
+           trouble == std::errc::permission_denied;
+}
+
+/// The store's own lock, too, is opened by its name and waited for.
+bool canHoldLock(const QString& file) {
+    constexpr qint64 largestLock = 4096;
+    const auto trouble = readRegular(file + QStringLiteral(".lock"), Links::Refuse, largestLock).trouble;
+    return !trouble || trouble == std::errc::no_such_file_or_directory;
+}
+
+void closeToOthers(const QString& file) {
+    constexpr auto ownersOnly = QFile::ReadOwner | QFile::WriteOwner;
+    QDir().mkpath(QFileInfo(file).path());
+    QFile settings(file);
+    if (settings.exists())
+        settings.setPermissions(ownersOnly);
+    else if (settings.open(QIODevice::WriteOnly | QIODevice::NewOnly, ownersOnly))
+        settings.close();
+}
+
 // Sections are parsed when they are first asked for; a fault shows only after all of them have been.
 bool isDamaged(const QSettings& settings) {
     settings.allKeys();
@@ -26,8 +54,11 @@ bool isDamaged(const QSettings& settings) {
 
 } // namespace
 
-IniSettingsStore::IniSettingsStore(const QString& file)
-    : settings_(file, QSettings::IniFormat), damaged_(isDamaged(settings_)) {}
+IniSettingsStore::IniSettingsStore(const QString& file) {
+    if (!canHoldSettings(file) || !canHoldLock(file)) return;
+    settings_.emplace(file, QSettings::IniFormat);
+    damaged_ = isDamaged(*settings_);
+}
 
 QString IniSettingsStore::fileFor(const QString& application) {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
@@ -36,22 +67,29 @@ QString IniSettingsStore::fileFor(const QString& application) {
 
 std::optional<QString> IniSettingsStore::get(const QString& section, const QString& key) const {
     const QString name = entry(section, key);
-    if (damaged_ || !settings_.contains(name)) return std::nullopt;
-    return asText(settings_.value(name));
+    if (const auto value = ofThisRun_.constFind(name); value != ofThisRun_.constEnd()) return *value;
+    if (!settings_ || damaged_ || !settings_->contains(name)) return std::nullopt;
+    return asText(settings_->value(name));
 }
 
 void IniSettingsStore::save(const QString& section, const QString& key, const QString& value) {
+    if (!settings_) {
+        ofThisRun_.insert(entry(section, key), value);
+        return;
+    }
     if (damaged_) putDamagedFileAside();
-    settings_.setValue(entry(section, key), value);
-    settings_.sync();
+    closeToOthers(
+        settings_->fileName()); // before it is written: the new file takes the rights of the old one
+    settings_->setValue(entry(section, key), value);
+    settings_->sync();
 }
 
 void IniSettingsStore::putDamagedFileAside() {
-    const QString file = settings_.fileName();
+    const QString file = settings_->fileName();
     const QString aside = file + QStringLiteral(".bak");
     QFile::remove(aside);
     QFile::copy(file, aside);
-    settings_.clear();
+    settings_->clear();
     damaged_ = false;
 }
 

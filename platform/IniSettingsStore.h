@@ -2,13 +2,15 @@
 
 #include "platform/SettingsStore.h"
 
+#include <QHash>
 #include <QSettings>
 
 namespace zvonika {
 
-/// Settings kept in a UTF-8 INI file, grouped [section] key=value. A damaged file counts as empty; it is put
-/// aside as "<name>.bak" when the first value is saved. A file that cannot be written keeps the values for
-/// the run.
+/// Settings kept in a UTF-8 INI file, grouped [section] key=value, which nobody but the user may read. A
+/// damaged file counts as empty; it is put aside as "<name>.bak" when the first value is saved. A file that
+/// cannot be written keeps the values for the run, and so does what is no file of settings at all: a pipe, a
+/// device, a folder, or more than a megabyte.
 class IniSettingsStore : public SettingsStore {
 public:
     /// `file`: full native name; need not exist.
@@ -23,8 +25,9 @@ public:
 private:
     void putDamagedFileAside();
 
-    QSettings settings_;
-    bool damaged_;
+    std::optional<QSettings> settings_; ///< nothing: the values of this run alone
+    QHash<QString, QString> ofThisRun_;
+    bool damaged_ = false;
 };
 
 } // namespace zvonika

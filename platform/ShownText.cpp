@@ -8,9 +8,6 @@ namespace zvonika {
 
 namespace {
 
-constexpr char16_t pictureOfNul = 0x2400;
-constexpr char16_t pictureOfDelete = 0x2421;
-
 bool isLayout(QChar c) {
     return c == QLatin1Char('\n') || c == QLatin1Char('\r') || c == QLatin1Char('\t');
 }
@@ -28,8 +25,8 @@ bool isObeyed(QChar c) {
 }
 
 QString mark(QChar c) {
-    if (c.unicode() < 0x20) return QChar(char16_t(pictureOfNul + c.unicode()));
-    if (c.unicode() == 0x7F) return QChar(pictureOfDelete);
+    if (c == QLatin1Char('\n')) return QStringLiteral("↵"); // signs that every font has
+    if (c == QLatin1Char('\t')) return QStringLiteral("→");
     return QStringLiteral("[U+%1]").arg(c.unicode(), 4, 16, QLatin1Char('0')).toUpper();
 }
 
@@ -60,6 +57,10 @@ QString shownName(const QString& name, qsizetype longest) {
 
 QString shownFileName(const QString& nativePath) {
     return shownName(QFileInfo(nativePath).fileName());
+}
+
+QString shownTitle(const QString& name) {
+    return shownName(name).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
 }
 
 QString shownText(const QString& text, qsizetype longest) {

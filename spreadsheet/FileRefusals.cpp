@@ -1,5 +1,7 @@
 #include "spreadsheet/FileRefusals.h"
 
+#include "platform/ShownText.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -30,16 +32,16 @@ constexpr SaveReason saveReasons[] = {
 } // namespace
 
 QString cannotOpen(const QString& nativePath, QStringView reason) {
-    return QStringLiteral("Soubor „%1“ nelze otevřít: %2.").arg(QFileInfo(nativePath).fileName(), reason);
+    return QStringLiteral("Soubor „%1“ nelze otevřít: %2.").arg(shownFileName(nativePath), reason);
 }
 
 QString cannotSave(const QString& nativePath, QStringView reason) {
-    return QStringLiteral("Soubor „%1“ nelze uložit: %2.").arg(QFileInfo(nativePath).fileName(), reason);
+    return QStringLiteral("Soubor „%1“ nelze uložit: %2.").arg(shownFileName(nativePath), reason);
 }
 
 QString reason::folderMissing(const QString& nativePath) {
     return QStringLiteral("složka „%1“ neexistuje")
-        .arg(QDir::toNativeSeparators(QFileInfo(nativePath).absolutePath()));
+        .arg(shownName(QDir::toNativeSeparators(QFileInfo(nativePath).absolutePath())));
 }
 
 QString reason::ofDisk(const std::error_code& error) {

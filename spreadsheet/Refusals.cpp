@@ -1,5 +1,6 @@
 #include "spreadsheet/Refusals.h"
 
+#include "platform/ShownText.h"
 #include "spreadsheet/SpreadsheetApplication.h"
 
 #include <cstdlib>
@@ -25,13 +26,13 @@ void refuseNoWorkbook() {
 }
 
 void refuseUnknownWorkbook(const QString& name) {
-    refuse(error::subscriptOutOfRange, QStringLiteral("Sešit „%1“ není otevřen.").arg(name));
+    refuse(error::subscriptOutOfRange, QStringLiteral("Sešit „%1“ není otevřen.").arg(shownName(name)));
 }
 
 void refuseTwin(const QString& name) {
     refuse(QStringLiteral("Sešit „%1“ je už otevřen v okně tabulky; dva sešity téhož jména najednou otevřít "
                           "nelze. Uložte ho tam pod jiným jménem, nebo ho zavřete.")
-               .arg(name));
+               .arg(shownName(name)));
 }
 
 void refuseUnknownSheet(int index) {
@@ -39,7 +40,7 @@ void refuseUnknownSheet(int index) {
 }
 
 void refuseUnknownSheet(const QString& name) {
-    refuse(error::subscriptOutOfRange, QStringLiteral("List „%1“ v sešitu není.").arg(name));
+    refuse(error::subscriptOutOfRange, QStringLiteral("List „%1“ v sešitu není.").arg(shownName(name)));
 }
 
 void refuseNextSheet() {
@@ -52,7 +53,7 @@ void refuseNothingFound() {
 
 CellRange cellsAt(const QString& address) {
     if (const auto parsed = parseAddress(address)) return *parsed;
-    refuse(QStringLiteral("„%1“ není adresa buněk.").arg(address));
+    refuse(QStringLiteral("„%1“ není adresa buněk.").arg(shownName(address)));
 }
 
 CellRange handedOver(const CellRange& range) {

@@ -1,6 +1,7 @@
 #include "spreadsheet/SaveOffers.h"
 
 #include "platform/Dialogs.h"
+#include "platform/ShownText.h"
 #include "spreadsheet/Refusals.h"
 #include "spreadsheet/SaveSentences.h"
 
@@ -9,14 +10,14 @@ namespace zvonika {
 bool wantsToSave(Dialogs& dialogs, const QString& title, const QString& workbook) {
     const QString question = QStringLiteral("Sešit „%1“ má neuložené změny. Chcete ho uložit? "
                                             "Odpovíte-li Ne, změny se ztratí.")
-                                 .arg(workbook);
+                                 .arg(shownName(workbook));
     return dialogs.message({title, question, Icon::Exclamation, Buttons::YesNo}) == Answer::Yes;
 }
 
 bool mayReplace(Dialogs& dialogs, const QString& title, const QString& fileName) {
     const QString question = QStringLiteral("Soubor „%1“ už existuje. Chcete ho nahradit?\n\nOdpovíte-li Ne, "
                                             "zůstane, jak je; nic se neuloží a Zvonika oznámí chybu.")
-                                 .arg(fileName);
+                                 .arg(shownName(fileName));
     return dialogs.message({title, question, Icon::Exclamation, Buttons::YesNo, Answer::No}) == Answer::Yes;
 }
 
@@ -26,7 +27,7 @@ bool mayOverwrite(Dialogs& dialogs, const QString& title, const QString& nativeP
 }
 
 void refuseNotReplaced(const QString& fileName) {
-    refuse(QStringLiteral("Soubor „%1“ zůstal, jaký byl; sešit uložen není.").arg(fileName));
+    refuse(QStringLiteral("Soubor „%1“ zůstal, jaký byl; sešit uložen není.").arg(shownName(fileName)));
 }
 
 std::optional<QString> askSaveName(Dialogs& dialogs, const QString& suggested) {

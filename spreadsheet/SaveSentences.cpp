@@ -1,5 +1,7 @@
 #include "spreadsheet/SaveSentences.h"
 
+#include "platform/ShownText.h"
+
 #include <QDateTime>
 #include <QFileInfo>
 
@@ -10,10 +12,6 @@ namespace {
 const QString noTwin =
     QStringLiteral(" Odpovíte-li Ne, otevření ani uložení se neprovede a Zvonika oznámí chybu.");
 
-QString fileName(const QString& nativePath) {
-    return QFileInfo(nativePath).fileName();
-}
-
 } // namespace
 
 QString overwriteQuestion(const QString& nativePath) {
@@ -22,13 +20,13 @@ QString overwriteQuestion(const QString& nativePath) {
                           "Když ho teď uložíte, to, co v něm ten program změnil, zmizí. "
                           "Chcete ho přesto přepsat?\n\nOdpovíte-li Ne, soubor zůstane, jak je teď na disku, "
                           "a sešit zůstane neuložený v okně tabulky; kde ho ukládala Zvonika, oznámí chybu.")
-        .arg(fileName(nativePath), when);
+        .arg(shownFileName(nativePath), when);
 }
 
 QString notOverwritten(const QString& nativePath) {
     return QStringLiteral("Soubor „%1“ uložen není: na disku ho mezitím změnil jiný program. Sešit zůstává "
                           "otevřen v okně tabulky, kde ho můžete uložit pod jiným jménem.")
-        .arg(fileName(nativePath));
+        .arg(shownFileName(nativePath));
 }
 
 QString conversionQuestion(const QString& workbook) {
@@ -45,25 +43,25 @@ QString conversionQuestion(const QString& workbook) {
                "jménem.\n\nChcete ho převést a uložit? Odpovíte-li Ne, zůstane neuložený v okně tabulky; kde "
                "ho "
                "ukládala Zvonika, oznámí chybu.")
-        .arg(workbook);
+        .arg(shownName(workbook));
 }
 
 QString notConverted(const QString& nativePath) {
     return QStringLiteral(
                "Soubor „%1“ uložen není: sešit měl zůstat ve starším formátu. Dál je otevřen v okně "
                "tabulky, kde ho můžete uložit pod jiným jménem.")
-        .arg(fileName(nativePath));
+        .arg(shownFileName(nativePath));
 }
 
 QString twinQuestion(const QString& workbook, bool modified) {
     if (!modified)
         return QStringLiteral("Sešit „%1“ je ještě otevřen v okně tabulky a dva sešity téhož jména najednou "
                               "otevřít nelze.\n\nChcete ho zavřít?")
-                   .arg(workbook) +
+                   .arg(shownName(workbook)) +
                noTwin;
     return QStringLiteral("Sešit „%1“ je ještě otevřen v okně tabulky, má neuložené změny a dva sešity téhož "
                           "jména najednou otevřít nelze.\n\nChcete ho uložit pod jiným jménem a zavřít?")
-               .arg(workbook) +
+               .arg(shownName(workbook)) +
            noTwin;
 }
 

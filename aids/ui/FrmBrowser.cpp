@@ -2,6 +2,7 @@
 
 #include "aids/ui/HledaniNaStrance.h"
 #include "aids/ui/IkonyProhlizece.h"
+#include "platform/ShownText.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -10,6 +11,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QSignalBlocker>
 #include <QStatusBar>
 #include <QToolBar>
@@ -163,6 +165,7 @@ void FrmBrowser::postavStav(const QString& duvodNahrady) {
 }
 
 void FrmBrowser::prejdi(const QUrl& adresa) {
+    bezOtazek_ = false;
     timTimer_.start();
     brwWebBrowser_->prejdi(adresa);
 }
@@ -191,7 +194,7 @@ void FrmBrowser::timTimer_Timer() {
     }
     timTimer_.stop();
     const QString titulek = brwWebBrowser_->titulek();
-    setWindowTitle(titulek.isEmpty() ? cboAddress_->currentText() : titulek);
+    setWindowTitle(shownTitle(titulek.isEmpty() ? cboAddress_->currentText() : titulek));
 }
 
 void FrmBrowser::prejito(const QUrl& adresa) {
@@ -211,14 +214,31 @@ void FrmBrowser::historieZmenena() {
     findChild<QAction*>(QStringLiteral("Forward"))->setEnabled(brwWebBrowser_ && brwWebBrowser_->muzeVpred());
 }
 
-void FrmBrowser::odkazVen(const QUrl& adresa) {
+// The box comes up behind the control's own step. A page that asks again and again is asked about once.
+void FrmBrowser::odkazVen(const QUrl& adresa, bool zvoleny) {
+    if (zvoleny) return predejVen(adresa);
+    if (std::exchange(bezOtazek_, true)) return;
+    QMetaObject::invokeMethod(
+        this, [this, adresa] { zeptejSe(adresa); }, Qt::QueuedConnection);
+}
+
+void FrmBrowser::zeptejSe(const QUrl& adresa) {
+    const QPointer<FrmBrowser> zde(this);
+    const bool ano = prostredi_.smiVen && prostredi_.smiVen(adresa.toDisplayString());
+    if (!zde) return;
+    bezOtazek_ = !ano;
+    ano ? predejVen(adresa)
+        : oznameno(QStringLiteral("Odkaz nebyl otevřen: %1").arg(adresa.toDisplayString()));
+}
+
+void FrmBrowser::predejVen(const QUrl& adresa) {
     const bool otevreno = prostredi_.otevriVen && prostredi_.otevriVen(adresa.toString(QUrl::FullyEncoded));
     oznameno(otevreno ? QStringLiteral("Odkaz byl předán vašemu programu: %1").arg(adresa.toDisplayString())
                       : QStringLiteral("Odkaz nelze otevřít: %1").arg(adresa.toDisplayString()));
 }
 
 void FrmBrowser::oznameno(const QString& veta) {
-    lblStav_->setText(veta);
+    lblStav_->setText(shownName(veta));
 }
 
 void FrmBrowser::nalezeno(int kolikaty, int celkem) {

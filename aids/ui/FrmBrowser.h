@@ -19,6 +19,8 @@ struct ProstrediProhlizece {
     QUrl domov;             ///< the page of the button "Home"
     std::function<bool(const QString& odkaz)>
         otevriVen; ///< hands a link to the user's own program; false: none
+    std::function<bool(const QString& odkaz)>
+        smiVen; ///< asks the user whether it may, where a page leads there by itself
 };
 
 /// The help window `frmBrowser`: toolbar, address line and a browser control. While a page is being loaded
@@ -53,10 +55,12 @@ private:
     void cboAddress_Click();
     void timTimer_Timer();
     void konec();
+    void predejVen(const QUrl& adresa);
+    void zeptejSe(const QUrl& adresa);
 
     void prejito(const QUrl& adresa) override;
     void historieZmenena() override;
-    void odkazVen(const QUrl& adresa) override;
+    void odkazVen(const QUrl& adresa, bool zvoleny) override;
     void oznameno(const QString& veta) override;
     void nalezeno(int kolikaty, int celkem) override;
 
@@ -68,6 +72,7 @@ private:
     QLabel* lblStav_ = nullptr;
     Prohlizec* brwWebBrowser_ = nullptr;
     bool skoncil_ = false;
+    bool bezOtazek_ = false; ///< a question is up, or one was answered no and the user has gone nowhere since
 };
 
 } // namespace zvonika

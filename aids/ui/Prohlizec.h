@@ -17,8 +17,9 @@ public:
     virtual void prejito(const QUrl& adresa) = 0;
     /// Back or forward became possible or impossible.
     virtual void historieZmenena() = 0;
-    /// A link leads to something that the control does not show; the user's own program may.
-    virtual void odkazVen(const QUrl& adresa) = 0;
+    /// A link leads to something that the control does not show; the user's own program may. `zvoleny`: he
+    /// has chosen this very link; otherwise the page has led him there.
+    virtual void odkazVen(const QUrl& adresa, bool zvoleny) = 0;
     /// One line for the user: why something was not done.
     virtual void oznameno(const QString& veta) = 0;
     /// Answer to `najdi`: the match that is shown, counted from 1, and how many there are; 0 of 0: none.

@@ -1,7 +1,8 @@
 #include "aids/ui/ProhlizecTextu.h"
 
+#include "platform/files/RegularFile.h"
+
 #include <QDir>
-#include <QFile>
 #include <QImage>
 #include <QTextFrame>
 
@@ -13,7 +14,8 @@ namespace {
 
 using Zachazeni = PovoleneAdresy::Zachazeni;
 
-constexpr int nejsirsiSloupec = 760; ///< px; longer lines are hard to read
+constexpr qint64 nejvetsiSoubor = 32 << 20; // bytes
+constexpr int nejsirsiSloupec = 760;        ///< px; longer lines are hard to read
 constexpr int nejmensiOkraj = 20;
 constexpr int velikostPisma = 16;   ///< px, from which headings take theirs
 constexpr double bodyNaPixel = 0.5; ///< pictures hold two pixels a point, to be sharp on fine screens
@@ -23,6 +25,13 @@ QString chybovaStranka(const QUrl& adresa) {
                           "<h2>Stránku nelze zobrazit</h2><p>Soubor nebyl nalezen nebo ho nelze přečíst:</p>"
                           "<p><b>%1</b></p></body></html>")
         .arg(QDir::toNativeSeparators(adresa.toLocalFile()).toHtmlEscaped());
+}
+
+/// Without a picture the document would load the file by itself.
+QImage mistoObrazku() {
+    QImage obraz(16, 16, QImage::Format_ARGB32_Premultiplied);
+    obraz.fill(QColor(0xC8, 0xC4, 0xBC));
+    return obraz;
 }
 
 QList<QTextCursor> vyskyty(const QTextDocument& dokument, const QString& text) {
@@ -60,7 +69,7 @@ void ProhlizecTextu::doSetSource(const QUrl& name, QTextDocument::ResourceType) 
     if (povolene_.zachazeni(cela) == Zachazeni::Odmitnout)
         sledovani_.oznameno(QStringLiteral("Odkaz vede mimo příručku, proto nebyl otevřen."));
     else
-        sledovani_.odkazVen(cela);
+        sledovani_.odkazVen(cela, true);
 }
 
 void ProhlizecTextu::resizeEvent(QResizeEvent* event) {
@@ -85,15 +94,17 @@ void ProhlizecTextu::srovnejSloupec() {
 
 QVariant ProhlizecTextu::loadResource(int type, const QUrl& name) {
     const QUrl cela = source().isEmpty() ? name : source().resolved(name);
-    if (!cela.isLocalFile() || povolene_.zachazeni(cela) != Zachazeni::Zobrazit) return {};
+    const bool smi = cela.isLocalFile() && povolene_.zachazeni(cela) == Zachazeni::Zobrazit;
+    // A refusal is an answer too: with none the document would read whatever the page names.
+    if (type == QTextDocument::ImageResource) return smi ? obrazek(cela) : mistoObrazku();
+    if (!smi) return QByteArray();
     if (type == QTextDocument::HtmlResource) return stranka(cela);
-    if (type == QTextDocument::ImageResource) return obrazek(cela);
-    return QTextBrowser::loadResource(type, cela);
+    return readRegular(cela.toLocalFile(), Links::Follow, nejvetsiSoubor).bytes;
 }
 
 QVariant ProhlizecTextu::obrazek(const QUrl& adresa) const {
-    QImage obraz(adresa.toLocalFile());
-    if (obraz.isNull()) return {};
+    QImage obraz = QImage::fromData(readRegular(adresa.toLocalFile(), Links::Follow, nejvetsiSoubor).bytes);
+    if (obraz.isNull()) return mistoObrazku();
     obraz.convertTo(QImage::Format_ARGB32_Premultiplied); // in few colours it would be scaled into few again
     // Scaled here, because the document would leave out pixels.
     const qreal jemnost = devicePixelRatioF();
@@ -104,8 +115,8 @@ QVariant ProhlizecTextu::obrazek(const QUrl& adresa) const {
 }
 
 QString ProhlizecTextu::stranka(const QUrl& adresa) const {
-    QFile soubor(adresa.toLocalFile());
-    return soubor.open(QIODevice::ReadOnly) ? QString::fromUtf8(soubor.readAll()) : chybovaStranka(adresa);
+    const ReadBytes soubor = readRegular(adresa.toLocalFile(), Links::Follow, nejvetsiSoubor);
+    return soubor.trouble ? chybovaStranka(adresa) : QString::fromUtf8(soubor.bytes);
 }
 
 void ProhlizecTextu::najdi(const QString& text, bool dozadu) {

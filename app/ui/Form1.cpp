@@ -5,6 +5,7 @@
 #include "app/ui/PrikazoveTlacitko.h"
 #include "app/ui/TwipsScene.h"
 #include "board/TrebleBoard.h"
+#include "platform/ShownText.h"
 #include "song/CommandStates.h"
 #include "song/SongPanel.h"
 #include "song/ui/ElidovanyPopisek.h"
@@ -55,6 +56,8 @@ std::optional<QColor> barva(BarvaKroku krok) {
     }
     return std::nullopt;
 }
+
+constexpr qsizetype nejdelsiStav = 2500; // characters
 
 QLabel* popisek(const QString& jmeno, const QString& text, QWidget* rodic) {
     auto* label = new QLabel(text, rodic);
@@ -182,7 +185,8 @@ void Form1::postavVyberListu() {
     combo_->setToolTip(combo_->accessibleName());
     umisti(combo_, {60, 530, 2380, 380});
     // activated, not currentTextChanged: only the user's choice counts
-    connect(combo_, &QComboBox::textActivated, this, &Form1::listVybran);
+    connect(combo_, &QComboBox::activated, this,
+            [this](int volba) { Q_EMIT listVybran(combo_->itemData(volba).toString()); });
     combo_->setEnabled(stavy_.povolen(combo_->objectName()));
 }
 
@@ -243,10 +247,10 @@ void Form1::povol(const QString& jmeno, bool povolit) {
 }
 
 void Form1::ukazPanel() {
-    setWindowTitle(panel_.titulek);
+    setWindowTitle(shownTitle(panel_.titulek));
     lblTon_->setText(panel_.lblTon);
-    lblLadeni_->nastavText(panel_.lblLadeni);
-    stav_->nastavText(panel_.stav);
+    lblLadeni_->nastavText(shownName(panel_.lblLadeni));
+    stav_->nastavText(shownName(panel_.stav, nejdelsiStav));
     ukazVarovani();
     ukazListy();
     ukazBarvuKroku();
@@ -264,12 +268,13 @@ void Form1::ukazVarovani() {
 void Form1::ukazListy() {
     QStringList ukazane;
     for (int i = 0; i < combo_->count(); ++i)
-        ukazane << combo_->itemText(i);
+        ukazane << combo_->itemData(i).toString();
     if (ukazane != panel_.listy) {
         combo_->clear();
-        combo_->addItems(panel_.listy);
+        for (const QString& list : panel_.listy)
+            combo_->addItem(shownName(list), list);
     }
-    combo_->setCurrentIndex(combo_->findText(panel_.Combo1));
+    combo_->setCurrentIndex(combo_->findData(panel_.Combo1));
 }
 
 void Form1::ukazBarvuKroku() {

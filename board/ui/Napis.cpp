@@ -13,6 +13,13 @@ constexpr int krokSevreni = 8;   // percent
 constexpr int nejuzsiPismo = 78; // percent of the normal width
 constexpr qreal pismoVRadku =
     0.98; // letter size to line height: names have few descenders, lines may stand close
+/// A mark of fingering comes from a song: left to its guess, the typesetting would take it for HTML.
+QStaticText vysazeny(const QString& text) {
+    QStaticText sazba(text);
+    sazba.setTextFormat(Qt::PlainText);
+    return sazba;
+}
+
 } // namespace
 
 QString bezCarky(QString ton) {
@@ -27,7 +34,7 @@ void Napis::nastav(const QString& text) {
     rozvrzen_ = false;
     for (const auto cast : QStringView(text_).split(u'\n')) {
         const QString radek = bezCarky(cast.trimmed().toString());
-        if (!radek.isEmpty()) radky_.push_back({radek, QStaticText(radek), {}, 0});
+        if (!radek.isEmpty()) radky_.push_back({radek, vysazeny(radek), {}, 0});
     }
 }
 

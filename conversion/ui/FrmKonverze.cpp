@@ -1,6 +1,7 @@
 #include "conversion/ui/FrmKonverze.h"
 
 #include "conversion/Konverze.h"
+#include "platform/ShownText.h"
 #include "platform/ui/PrvkyDialogu.h"
 #include "spreadsheet/Address.h"
 #include "theory/ui/VolbyTonin.h"
@@ -16,6 +17,7 @@ namespace zvonika {
 
 namespace {
 
+constexpr qsizetype nejdelsiJmeno = 60; ///< characters; the dialog must not grow by it
 const QString nejdelsiTitulek = QStringLiteral("Změňte stupnici a stikněte pokračovat.");
 
 QString prubeh(int radek) {
@@ -132,12 +134,13 @@ void FrmKonverze::ukaz() {
 }
 
 void FrmKonverze::ukazZdroj() {
-    cmdVyberPisen_->setText(QString(stav_.cmdVyberPisen).replace(u'&', QStringLiteral("&&")));
-    cmdVyberPisen_->setAccessibleName(stav_.cmdVyberPisen);
+    const QString pisen = shownName(stav_.cmdVyberPisen, nejdelsiJmeno);
+    cmdVyberPisen_->setText(QString(pisen).replace(u'&', QStringLiteral("&&")));
+    cmdVyberPisen_->setAccessibleName(pisen);
     for (QWidget* prvek : std::initializer_list<QWidget*>{cmdVyberPisen_, cmdGo_, label1_})
         prvek->setVisible(stav_.lzeKonvertovat);
     lblKonec_->setVisible(!stav_.lzeKonvertovat);
-    lblStupnice_->setText(stav_.lblStupnice);
+    lblStupnice_->setText(shownName(stav_.lblStupnice, nejdelsiJmeno));
     lblLadeni_->setText(stav_.lblLadeni);
 }
 

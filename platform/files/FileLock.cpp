@@ -105,8 +105,8 @@ struct Found {
     bool counts() const { return state == State::Held || state == State::BeingWritten; }
 };
 
-/// What cannot be read is of somebody: a pipe or a folder, a link, too much of anything, a file of
-/// another user.
+/// What cannot be read is of somebody: a pipe or a folder, a link, too much of anything, a file of another
+/// user.
 Found look(const QString& path) {
     const ReadBytes lock = readRegular(path, Links::Refuse, largestLock);
     if (lock.trouble) {

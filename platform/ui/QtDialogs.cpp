@@ -1,15 +1,19 @@
 #include "platform/ui/QtDialogs.h"
 
+#include "platform/ShownText.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSpacerItem>
+#include <QStyledItemDelegate>
 #include <QTreeView>
 
 #include <algorithm>
@@ -143,11 +147,24 @@ void arrangeColumns(QFileDialog& dialog) {
     list->setColumnWidth(3, 150);
 }
 
+/// A name with a line break takes one line, and one with a sign that turns letters round does not pretend to
+/// end in
+/// ".xls".
+class ShownNames : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QString displayText(const QVariant& value, const QLocale& locale) const override {
+        const bool text = value.typeId() == QMetaType::QString; // before a break in it becomes another one
+        return shownName(text ? value.toString() : QStyledItemDelegate::displayText(value, locale));
+    }
+};
+
 void setUp(QFileDialog& dialog, const QString& filter, const QString& folder) {
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setNameFilter(qtFilter(filter));
     dialog.setDirectory(nearestExistingFolder(folder));
     dialog.setViewMode(QFileDialog::Detail);
+    dialog.setItemDelegate(new ShownNames(&dialog));
     arrangeColumns(dialog);
     dialog.resize(720, 460);
 }
@@ -164,8 +181,7 @@ std::optional<QString> chosenFile(QFileDialog& dialog) {
 }
 
 Message overwriteQuestion(const QString& title, const QString& file) {
-    const QString name = QFileInfo(file).fileName();
-    return {title, QStringLiteral("Soubor „%1“ již existuje. Chcete ho přepsat ?").arg(name),
+    return {title, QStringLiteral("Soubor „%1“ již existuje. Chcete ho přepsat ?").arg(shownFileName(file)),
             Icon::Exclamation, Buttons::YesNo, Answer::No};
 }
 
@@ -179,7 +195,7 @@ QWidget* QtDialogs::parentWindow() const {
 
 void QtDialogs::prepare(QDialog& dialog, const QString& name, const QString& title) const {
     dialog.setObjectName(name);
-    dialog.setWindowTitle(title.isEmpty() ? programName : title);
+    dialog.setWindowTitle(title.isEmpty() ? programName : shownName(title));
     dialog.setAccessibleName(dialog.windowTitle());
     dialog.setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     if (aWindowIsKeptOnTop()) dialog.setWindowFlag(Qt::WindowStaysOnTopHint);
@@ -190,8 +206,9 @@ Answer QtDialogs::message(const Message& message) {
     prepare(box, QStringLiteral("zprava"), message.title);
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    box.setText(message.text);
-    box.setAccessibleDescription(message.text);
+    const QString text = shownText(message.text);
+    box.setText(text);
+    box.setAccessibleDescription(text);
     box.setIcon(iconOf(message.icon));
     addButtons(box, message);
     if (message.text.size() > longText) widen(box);
@@ -202,7 +219,9 @@ QString QtDialogs::input(const QString& title, const QString& prompt) {
     QInputDialog dialog(parentWindow());
     prepare(dialog, QStringLiteral("vstup"), title);
     dialog.setInputMode(QInputDialog::TextInput);
-    dialog.setLabelText(prompt);
+    dialog.setLabelText(shownText(prompt));
+    for (auto* label : dialog.findChildren<QLabel*>())
+        label->setTextFormat(Qt::PlainText);
     dialog.setOkButtonText(QStringLiteral("OK"));
     dialog.setCancelButtonText(QStringLiteral("Storno"));
     if (auto* edit = dialog.findChild<QLineEdit*>()) edit->setAccessibleName(prompt);

@@ -1,5 +1,6 @@
 #include "spreadsheet/embedded/FileCommands.h"
 
+#include "platform/ShownText.h"
 #include "spreadsheet/embedded/Saving.h"
 #include "spreadsheet/embedded/Session.h"
 
@@ -19,7 +20,8 @@ bool FileCommands::mayClose(Document& document, std::vector<Document*>& unwanted
     if (!document.file().isModified()) return true;
     session_.activate(document);
     const Answer answer = session_.dialogs().message(
-        {jmenoTabulky, QStringLiteral("Chcete uložit změny v souboru „%1“?").arg(document.file().name()),
+        {jmenoTabulky,
+         QStringLiteral("Chcete uložit změny v souboru „%1“?").arg(shownName(document.file().name())),
          Icon::Exclamation, Buttons::YesNoCancel});
     if (answer == Answer::Yes) return save();
     if (answer == Answer::No) unwanted.push_back(&document);

@@ -1,5 +1,6 @@
 #include "spreadsheet/embedded/FileSentences.h"
 
+#include "platform/ShownText.h"
 #include "spreadsheet/FileRefusals.h"
 
 #include <QDir>
@@ -10,7 +11,7 @@ namespace zvonika {
 namespace {
 
 QString folder(const QString& nativePath) {
-    return QDir::toNativeSeparators(QFileInfo(nativePath).absolutePath());
+    return shownName(QDir::toNativeSeparators(QFileInfo(nativePath).absolutePath()));
 }
 
 const QString saveAsXls = QStringLiteral("; uložte ho v programu, který ho vytvořil, jako sešit .xls");

@@ -1,5 +1,6 @@
 #include "spreadsheet/embedded/Opening.h"
 
+#include "platform/ShownText.h"
 #include "platform/files/OpeningLock.h"
 #include "spreadsheet/embedded/FileSentences.h"
 #include "spreadsheet/embedded/Session.h"
@@ -8,6 +9,16 @@
 #include <QFileInfo>
 
 namespace zvonika {
+
+namespace {
+
+/// What a journal calls its workbook becomes the name of a file; it must not lead anywhere else.
+bool isBareName(const QString& name) {
+    return !name.isEmpty() && !name.startsWith(QLatin1Char('.')) && name == shownName(name) &&
+           !name.contains(QLatin1Char('/')) && !name.contains(QLatin1Char('\\'));
+}
+
+} // namespace
 
 Opening::Opening(Session& session, JournalFolder journals)
     : session_(session), journals_(std::move(journals)), offers_(session.dialogs(), jmenoTabulky, journals_) {
@@ -24,8 +35,8 @@ std::unique_ptr<Document> Opening::open(const QString& nativePath) {
 void Opening::recoverUnsaved() {
     for (auto& pending : offers_.pending({})) {
         const QString name = pending.contents.base.name;
-        auto document =
-            std::make_unique<Document>(session_.find(name) ? session_.nextName() : name, journals_);
+        const bool usable = isBareName(name) && !session_.find(name);
+        auto document = std::make_unique<Document>(usable ? name : session_.nextName(), journals_);
         offer(*document, std::move(pending));
         if (document->journal().hasRecovered()) session_.add(std::move(document));
     }

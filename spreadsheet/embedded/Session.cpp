@@ -1,5 +1,6 @@
 #include "spreadsheet/embedded/Session.h"
 
+#include "platform/ShownText.h"
 #include "spreadsheet/Refusals.h"
 #include "spreadsheet/SpreadsheetApplication.h"
 

@@ -1,5 +1,6 @@
 #include "spreadsheet/embedded/SheetCells.h"
 
+#include "platform/ShownText.h"
 #include "spreadsheet/Refusals.h"
 #include "spreadsheet/embedded/CellEntry.h"
 #include "spreadsheet/embedded/XlsValue.h"
@@ -108,7 +109,7 @@ void SheetCells::renameSheet(int sheet, const QString& name) {
         refuse(QStringLiteral(
                    "Jméno listu „%1“ nelze použít: má mít 1 až 31 znaků, žádný z nich : \\ / ? * [ ], "
                    "nemá začínat ani končit apostrofem a v sešitu smí být jen jednou.")
-                   .arg(name));
+                   .arg(shownName(name)));
     }
 }
 

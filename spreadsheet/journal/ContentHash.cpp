@@ -30,7 +30,8 @@ QByteArray contentHashOfFile(const QString& nativePath) {
     QFile file;
     if (openRegular(file, nativePath, Links::Follow, largestFile)) return {};
     QCryptographicHash hash(algorithm);
-    return hash.addData(&file) ? hash.result() : QByteArray();
+    const bool whole = hash.addData(&file) && file.error() == QFileDevice::NoError;
+    return whole ? hash.result() : QByteArray();
 }
 
 } // namespace zvonika

@@ -5,6 +5,8 @@
 #include <QDataStream>
 #include <QIODevice>
 
+#include <cmath>
+
 namespace zvonika::journalformat {
 
 namespace {
@@ -121,8 +123,9 @@ int getRow(QDataStream& in) {
 
 ColumnResized getWidth(QDataStream& in, int sheet) {
     const int column = get<quint16>(in);
-    if (!isOnSheet({1, column})) spoil(in);
-    return {sheet, column, get<double>(in)};
+    const auto characters = get<double>(in);
+    if (!isOnSheet({1, column}) || !std::isfinite(characters)) spoil(in);
+    return {sheet, column, characters};
 }
 
 JournalChange getChange(QDataStream& in) {

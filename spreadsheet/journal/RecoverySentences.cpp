@@ -1,5 +1,6 @@
 #include "spreadsheet/journal/RecoverySentences.h"
 
+#include "platform/ShownText.h"
 #include "spreadsheet/FileRefusals.h"
 
 namespace zvonika {
@@ -32,7 +33,7 @@ QString returnOffered(int count) {
 
 QString whose(const QString& workbook) {
     return workbook.isEmpty() ? QStringLiteral("sešitu, který ještě nebyl uložen,")
-                              : QStringLiteral("sešitu „%1“").arg(workbook);
+                              : QStringLiteral("sešitu „%1“").arg(shownName(workbook));
 }
 
 QString readReason(const std::error_code& error) {
@@ -60,9 +61,11 @@ QString recoveryQuestion(const QString& workbook, const JournalContents& journal
     const QString kind =
         neverSaved ? QStringLiteral("V dosud neuloženém sešitu") : QStringLiteral("V sešitu");
     const bool renamed = !neverSaved && journal.base.name != workbook;
-    const QString former = renamed ? QStringLiteral(" (dříve „%1“)").arg(journal.base.name) : QString();
-    QString text = QStringLiteral("%1 „%2“%3 %4 (poslední %5).")
-                       .arg(kind, workbook, former, remained(count), momentInWords(journal.lastChange()));
+    const QString former =
+        renamed ? QStringLiteral(" (dříve „%1“)").arg(shownName(journal.base.name)) : QString();
+    QString text =
+        QStringLiteral("%1 „%2“%3 %4 (poslední %5).")
+            .arg(kind, shownName(workbook), former, remained(count), momentInWords(journal.lastChange()));
     if (changedSince)
         text += QStringLiteral("\n\nPozor: soubor se od té doby změnil. Změny patří k jeho dřívější podobě.");
     return text + QStringLiteral("\n\n") + (neverSaved ? openingOffered() : returnOffered(count));
@@ -72,26 +75,26 @@ QString unreadableJournal(const QString& workbook, const QString& place) {
     return QStringLiteral(
                "Záznam neuložených změn %1 je poškozený a nic z něj vrátit nejde; leží odložen v souboru "
                "„%2“.")
-        .arg(whose(workbook), place);
+        .arg(whose(workbook), shownName(place));
 }
 
 QString closedJournal(const QString& workbook, const QString& place, const std::error_code& error) {
     return QStringLiteral("Záznam neuložených změn %1 nelze otevřít: %2. Leží v souboru „%3“; až to půjde, "
                           "program změny nabídne.")
-        .arg(whose(workbook), readReason(error), place);
+        .arg(whose(workbook), readReason(error), shownName(place));
 }
 
 QString closedJournal(const QString& place, const std::error_code& error) {
     return QStringLiteral(
                "Záznam neuložených změn jedné z písniček nelze otevřít: %1. Leží v souboru „%2“; až "
                "to půjde, program změny nabídne.")
-        .arg(readReason(error), place);
+        .arg(readReason(error), shownName(place));
 }
 
 QString partlyRecovered(const QString& workbook, int refused) {
     return QStringLiteral("V sešitu „%1“ se nepodařilo vrátit %2 z těch, které po programu zůstaly. "
                           "Zkontrolujte ho prosím, než ho uložíte.")
-        .arg(workbook, refused == 1 ? QStringLiteral("1 změnu") : changesInWords(refused));
+        .arg(shownName(workbook), refused == 1 ? QStringLiteral("1 změnu") : changesInWords(refused));
 }
 
 QString journalRefused(const std::error_code& error) {

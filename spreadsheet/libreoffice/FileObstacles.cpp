@@ -1,6 +1,7 @@
 #include "spreadsheet/libreoffice/FileObstacles.h"
 
 #include "platform/RuntimeError.h"
+#include "platform/ShownText.h"
 #include "spreadsheet/FileRefusals.h"
 #include "spreadsheet/Refusals.h"
 

@@ -1,6 +1,8 @@
 #include "spreadsheet/libreoffice/Profile.h"
 
 #include "platform/RuntimeError.h"
+#include "platform/files/PrivateFolder.h"
+#include "platform/files/RegularFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -18,6 +20,7 @@ namespace zvonika {
 namespace {
 
 constexpr int mostProfiles = 20;
+constexpr qint64 largestSettings = 64 << 20; ///< bytes
 
 struct Setting {
     QByteArray path, name, value;
@@ -102,6 +105,7 @@ int tryLock(const QString& file) {
 } // namespace
 
 Profile::Profile(const QString& folder) {
+    makePrivateFolder(folder); // what was opened last is nobody else's business
     for (int number = 1; number <= mostProfiles && lock_ < 0; ++number) {
         path_ = QDir(folder).filePath(QString::number(number));
         if (!QDir().mkpath(path_ + QStringLiteral("/user"))) break;
@@ -118,8 +122,7 @@ Profile::~Profile() {
 
 void Profile::seed(const ProfileSeed& seed) const {
     const QString name = path_ + QStringLiteral("/user/registrymodifications.xcu");
-    QFile present(name);
-    const QByteArray before = present.open(QIODevice::ReadOnly) ? present.readAll() : QByteArray();
+    const QByteArray before = readRegular(name, Links::Follow, largestSettings).bytes;
     QSaveFile file(name);
     if (file.open(QIODevice::WriteOnly)) file.write(withSettings(before, settings(seed)));
     if (!file.commit())

@@ -1,5 +1,6 @@
 #include "spreadsheet/libreoffice/Sheets.h"
 
+#include "platform/ShownText.h"
 #include "spreadsheet/Refusals.h"
 
 #include <algorithm>
@@ -27,7 +28,7 @@ void Sheets::renameActive(const QString& name) {
         refuse(QStringLiteral(
                    "Jméno listu „%1“ nelze použít: má mít 1 až 31 znaků, žádný z nich : \\ / ? * [ ], "
                    "a v sešitu smí být jen jednou.")
-                   .arg(name));
+                   .arg(shownName(name)));
     calls_.ask([name](CalcEngine& calc) { calc.renameSheet(name); });
 }
 

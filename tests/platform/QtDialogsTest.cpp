@@ -8,15 +8,20 @@
 #include <QFileDialog>
 #include <QFileSystemModel>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLibraryInfo>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
+#include <QStyledItemDelegate>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace zvonika {
 namespace {
@@ -42,6 +47,47 @@ class Boxes : public ::testing::Test {
 protected:
     QtDialogs dialogs;
 };
+
+TEST_F(Boxes, ShowForeignTextsAndObeyNothingInThem) {
+    const QString picture = "<img src='/dev/zero'><a href='x'>y</a>";
+    const QString turned = QStringLiteral("a") + QChar(0x202E) + "slx.exe\x1b";
+    whenOpen<QMessageBox>([&](QMessageBox& box) {
+        EXPECT_EQ(box.windowTitle(), "a↵b");
+        EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        EXPECT_EQ(box.text(), picture + "\na[U+202E]slx.exe[U+001B]");
+        EXPECT_EQ(box.accessibleDescription(), box.text());
+    });
+    dialogs.message({"a\nb", picture + '\n' + turned, Icon::None, Buttons::Ok});
+    whenOpen<QMessageBox>([](QMessageBox& box) {
+        const QRect screen = box.screen()->geometry();
+        EXPECT_TRUE(screen.width() >= box.width() && screen.height() >= box.height());
+    });
+    dialogs.message({"a", QString(32000, u'W'), Icon::None, Buttons::Ok});
+    whenOpen<QInputDialog>([&](QInputDialog& box) {
+        for (auto* label : box.findChildren<QLabel*>())
+            EXPECT_EQ(label->textFormat(), Qt::PlainText);
+    });
+    dialogs.input("a", picture);
+}
+
+TEST_F(Boxes, AFileChoiceShowsNamesOnOneLineAndOpensNothing) {
+    const QTemporaryDir folder;
+    const QStringList names{"a\nb.xls", QStringLiteral("c") + QChar(0x202E) + "slx.xls", "<b>d.xls"};
+    for (const QString& name : names)
+        ASSERT_TRUE(QFile(folder.filePath(name)).open(QIODevice::WriteOnly));
+    ASSERT_EQ(::mkfifo(QFile::encodeName(folder.filePath("roura.xls")), 0666), 0);
+    ASSERT_TRUE(QFile::link("/dev/zero", folder.filePath("nuly.xls")));
+    whenOpen<QFileDialog>([](QFileDialog& dialog) {
+        auto* list = dialog.findChild<QTreeView*>("treeView");
+        ASSERT_TRUE(QTest::qWaitFor([&] { return list->model()->rowCount(list->rootIndex()) >= 3; }));
+        auto* drawn = qobject_cast<QStyledItemDelegate*>(list->itemDelegate());
+        ASSERT_TRUE(drawn);
+        EXPECT_EQ(drawn->displayText("a\nb.xls", {}), "a↵b.xls");
+        EXPECT_EQ(drawn->displayText(QStringLiteral("c") + QChar(0x202E), {}), "c[U+202E]");
+        dialog.grab();
+    });
+    dialogs.openFile("a", "Excel Files,*.xls", folder.path());
+}
 
 TEST_F(Boxes, GiveTheAnswerOfAButtonEscapeOrEnter) {
     const struct {

@@ -16,7 +16,7 @@ import urllib.parse
 ROOT = pathlib.Path(sys.argv[1])
 MANUAL = ROOT / "resources" / "Tamík.htm"
 CAPTION_SOURCES = ["app/*.cpp", "app/ui/*.cpp", "*/ui/*.cpp", "*/*/ui/*.cpp", "*/*.h"]
-MESSAGE_SOURCES = ["app/*.cpp", "playing/**/*.cpp", "spreadsheet/**/*.cpp", "song/*.cpp", "board/*.cpp", "theory/*.cpp", "conversion/*.cpp", "aids/*.cpp",
+MESSAGE_SOURCES = ["app/*.cpp", "platform/files/*.cpp", "playing/**/*.cpp", "spreadsheet/**/*.cpp", "song/*.cpp", "board/*.cpp", "theory/*.cpp", "conversion/*.cpp", "aids/*.cpp",
                    "*/*.h"]
 LITERAL = re.compile(r'(?:u|u8)?"((?:[^"\\\n]|\\.)*)"(?:\s*(?:u|u8)?"((?:[^"\\\n]|\\.)*)")*')
 PIECE = re.compile(r'"((?:[^"\\\n]|\\.)*)"')

@@ -27,6 +27,7 @@ ProhlizecWebu::~ProhlizecWebu() {
 void ProhlizecWebu::pripravPohled() {
     pohled_->setPage(stranka_);
     pohled_->setContextMenuPolicy(Qt::CustomContextMenu);
+    pohled_->setAcceptDrops(false); // a file let go over the page is not meant for it
     connect(pohled_.get(), &QWidget::customContextMenuRequested, this, &ProhlizecWebu::ukazNabidku);
     setFocusProxy(pohled_.get());
     auto* rozvrh = new QVBoxLayout(this);
@@ -70,7 +71,7 @@ void ProhlizecWebu::vykreslovaniPadlo() {
 }
 
 void ProhlizecWebu::prejdi(const QUrl& adresa) {
-    if (!stranka_->smi(adresa)) return;
+    if (!stranka_->smi(adresa, true)) return;
     spadla_.clear();
     pohled_->load(adresa);
 }

@@ -36,12 +36,15 @@ StrankaWebu::StrankaWebu(QWebEngineProfile* profil, const MistoProhlizece& misto
     : QWebEnginePage(profil, rodic), povolene_(misto.povolene), sledovani_(misto.sledovani) {
     omezPravaStranky();
     odmitejZadosti();
+    connect(this, &QWebEnginePage::loadFinished, this, [this] { naCeste_ = false; });
 }
 
 void StrankaWebu::omezPravaStranky() {
     for (const Nastaveni vlastnost : zakazano)
         settings()->setAttribute(vlastnost, false);
     settings()->setAttribute(QWebEngineSettings::PlaybackRequiresUserGesture, true);
+    // Not that they may: this way the engine asks here about each, also where a server has led to it.
+    settings()->setUnknownUrlSchemePolicy(QWebEngineSettings::AllowAllUnknownUrlSchemes);
 }
 
 void StrankaWebu::odmitejZadosti() {
@@ -62,12 +65,12 @@ void StrankaWebu::odmitejZadosti() {
             [](const QUrl&, QAuthenticator* overeni) { *overeni = QAuthenticator(); });
 }
 
-bool StrankaWebu::smi(const QUrl& adresa) {
+bool StrankaWebu::smi(const QUrl& adresa, bool zvolena) {
     switch (povolene_.zachazeni(adresa)) {
     case PovoleneAdresy::Zachazeni::Zobrazit:
         return true;
     case PovoleneAdresy::Zachazeni::Ven:
-        sledovani_.odkazVen(adresa);
+        sledovani_.odkazVen(adresa, zvolena);
         return false;
     case PovoleneAdresy::Zachazeni::Odmitnout:
         break;
@@ -76,9 +79,13 @@ bool StrankaWebu::smi(const QUrl& adresa) {
     return false;
 }
 
-bool StrankaWebu::acceptNavigationRequest(const QUrl& url, NavigationType, bool isMainFrame) {
-    if (isMainFrame) return smi(url);
-    return povolene_.zachazeni(url) == PovoleneAdresy::Zachazeni::Zobrazit;
+bool StrankaWebu::acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) {
+    if (!isMainFrame) return povolene_.zachazeni(url) == PovoleneAdresy::Zachazeni::Zobrazit;
+    // The manual's own links are the user's choice. A page of the web clicks on its links itself if it likes,
+    // and what comes while another address is being loaded, a server has put in its place.
+    const bool vlastni = type == NavigationTypeLinkClicked && this->url().isLocalFile() && !naCeste_;
+    naCeste_ = smi(url, vlastni);
+    return naCeste_;
 }
 
 QWebEnginePage* StrankaWebu::createWindow(WebWindowType) {

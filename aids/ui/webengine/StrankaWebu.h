@@ -14,7 +14,8 @@ public:
     StrankaWebu(QWebEngineProfile* profil, const MistoProhlizece& misto, QObject* rodic);
 
     /// Whether the page may go there; where it may not, the address is handed on or the user is told.
-    bool smi(const QUrl& adresa);
+    /// `zvolena`: the user has typed it or clicked on it.
+    bool smi(const QUrl& adresa, bool zvolena);
 
 protected:
     bool acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) override;
@@ -32,6 +33,7 @@ private:
 
     const PovoleneAdresy& povolene_;
     SledovaniProhlizece& sledovani_;
+    bool naCeste_ = false; ///< an address has been let in and is not there yet
 };
 
 } // namespace zvonika

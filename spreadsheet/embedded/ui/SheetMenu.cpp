@@ -1,5 +1,6 @@
 #include "spreadsheet/embedded/ui/SheetMenu.h"
 
+#include "platform/ShownText.h"
 #include "spreadsheet/embedded/Document.h"
 #include "spreadsheet/embedded/SheetCommands.h"
 
@@ -104,7 +105,8 @@ void SheetMenu::showWorkbooks() {
     workbooks_->clear();
     const QStringList names = commands_.documentNames();
     for (const auto& name : names) {
-        QAction* entry = workbooks_->addAction(QString(name).replace(QLatin1Char('&'), QStringLiteral("&&")));
+        QAction* entry =
+            workbooks_->addAction(shownName(name).replace(QLatin1Char('&'), QStringLiteral("&&")));
         entry->setCheckable(true);
         entry->setChecked(document_ && document_->file().name() == name);
         connect(entry, &QAction::triggered, this, &SheetMenu::aboutToAct);

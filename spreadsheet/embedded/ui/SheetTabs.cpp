@@ -1,5 +1,7 @@
 #include "spreadsheet/embedded/ui/SheetTabs.h"
 
+#include "platform/ShownText.h"
+
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -31,11 +33,12 @@ void SheetTabs::show(const QStringList& names, int current) {
         removeTab(count() - 1);
     for (int i = 0; i < names.size(); ++i) {
         // An ampersand in a name is no shortcut.
-        const QString text = QString(names.at(i)).replace(QLatin1Char('&'), QStringLiteral("&&"));
+        const QString text = shownName(names.at(i)).replace(QLatin1Char('&'), QStringLiteral("&&"));
         if (i >= count())
             addTab(text);
         else if (tabText(i) != text)
             setTabText(i, text);
+        setTabData(i, names.at(i));
     }
     setCurrentIndex(current);
 }
@@ -44,7 +47,7 @@ void SheetTabs::editName(int tab) {
     if (tab < 0 || !rename_) return;
     closeLine();
     edited_ = tab;
-    line_ = new QLineEdit(QString(tabText(tab)).replace(QStringLiteral("&&"), QStringLiteral("&")), this);
+    line_ = new QLineEdit(tabData(tab).toString(), this);
     line_->setObjectName(QStringLiteral("nazevListu"));
     line_->setAccessibleName(QStringLiteral("Název listu"));
     line_->setMaxLength(longestName);

@@ -1,5 +1,6 @@
 #include "spreadsheet/embedded/ui/SheetWindow.h"
 
+#include "platform/ShownText.h"
 #include "spreadsheet/embedded/Document.h"
 #include "spreadsheet/embedded/SheetCommands.h"
 #include "spreadsheet/embedded/ui/ColumnWidths.h"
@@ -182,7 +183,8 @@ void SheetWindow::wireDocument() {
 }
 
 void SheetWindow::showTitle() {
-    const QString name = document_ ? document_->file().name() + QStringLiteral("[*] – ") : QString();
+    const QString name =
+        document_ ? shownTitle(document_->file().name()) + QStringLiteral("[*] – ") : QString();
     setWindowTitle(name + windowName);
     setWindowModified(document_ && document_->file().isModified());
 }

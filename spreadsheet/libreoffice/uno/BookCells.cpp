@@ -1,4 +1,5 @@
 // The sheets and cells of a workbook.
+#include "platform/ShownText.h"
 #include "spreadsheet/libreoffice/ViewData.h"
 #include "spreadsheet/libreoffice/uno/Book.h"
 #include "spreadsheet/libreoffice/uno/Failures.h"
@@ -91,7 +92,8 @@ QStringList Book::sheetNames() const {
 void Book::rename(const QString& name) {
     const auto named = as<css::container::XNamed>(sheet());
     named->setName(toUno(name));
-    if (fromUno(named->getName()) != name) refuse(QStringLiteral("Jméno listu „%1“ nelze použít.").arg(name));
+    if (fromUno(named->getName()) != name)
+        refuse(QStringLiteral("Jméno listu „%1“ nelze použít.").arg(shownName(name)));
 }
 
 void Book::selectSheet(int sheet) {

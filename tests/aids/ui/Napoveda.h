@@ -46,7 +46,8 @@ protected:
         }
         okno = std::make_unique<FrmBrowser>(
             ProstrediProhlizece{tvurce, slozka.filePath("prirucka"), adresa("Tamík.htm"),
-                                [this](const QString& odkaz) { return ven << odkaz, true; }},
+                                [this](const QString& odkaz) { return ven << odkaz, true; },
+                                [this](const QString& odkaz) { return otazky << odkaz, odpoved; }},
             StartingAddress);
         QObject::connect(okno.get(), &FrmBrowser::zavreno, qApp, [this] { ++zavreni; });
         okno->resize(800, 600);
@@ -100,7 +101,8 @@ protected:
 
     QTemporaryDir slozka;
     TvurceProhlizece tvurce;
-    QStringList ven;
+    QStringList ven, otazky;
+    bool odpoved = false; ///< to the question whether a page may lead out by itself
     int zavreni = 0;
     std::unique_ptr<FrmBrowser> okno;
 };

@@ -1,8 +1,12 @@
 // What the pages themselves may do, and which browser control is chosen.
 #include "tests/aids/ui/Napoveda.h"
+#include "tests/support/Neighbours.h"
 
+#include <QDragEnterEvent>
 #include <QImage>
+#include <QMimeData>
 #include <QTcpServer>
+#include <QTcpSocket>
 #include <QTextBrowser>
 
 #include <csignal>
@@ -133,6 +137,107 @@ TEST_F(StrankaTest, TheLighterViewSaysWhyItStandsIn) {
     EXPECT_TRUE(
         duvod({slozka.path()}, [] { return WebSandbox::NotForRoot; }).contains("pod správcem systému"));
     EXPECT_TRUE(duvod({slozka.path()}, [] { return WebSandbox::NoUserNamespaces; }).contains("nedovoluje"));
+}
+
+TEST_F(StrankaTest, TheLighterViewReadsNothingOutsideTheManual) {
+    ASSERT_TRUE(postav(Zobrazeni::Jednoduche));
+    QImage cerveny(400, 400, QImage::Format_RGB32);
+    cerveny.fill(Qt::red);
+    const QString tajny = slozka.filePath("tajny.png");
+    ASSERT_TRUE(cerveny.save(tajny) && cerveny.save(cesta("obrazky/nas.png")));
+    pis("tajne.css", "p { color: #ff0000; font-size: 90px }");
+    const auto cervene = [this] {
+        const QImage obraz = okno->grab().toImage();
+        qsizetype kolik = 0;
+        for (int y = 0; y < obraz.height(); ++y)
+            for (int x = 0; x < obraz.width(); ++x)
+                kolik += obraz.pixelColor(x, y) == QColor(Qt::red);
+        return kolik;
+    };
+    pis("prirucka/nase.htm", "<title>Naše</title><img src='obrazky/nas.png'>");
+    jdi("nase.htm", "Naše");
+    EXPECT_GT(cervene(), 1000) << "what red is looked for";
+    const QString cizi[] = {
+        QStringLiteral("<img src='../tajny.png'>"),
+        "<img src='" + tajny + "'>",
+        "<img src='file://" + tajny + "'>",
+        "<body background='../tajny.png'>a</body>",
+        QStringLiteral("<p style=\"background-image:url('../tajny.png')\">a</p>"),
+        QStringLiteral("<link rel='stylesheet' href='../tajne.css'><p>aaaa</p>"),
+        QStringLiteral("<img src=':/qt-project.org/styles/commonstyle/images/file-16.png'>")};
+    for (int i = 0; const QString& obsah : cizi) {
+        pis("prirucka/Tamík.htm", QStringLiteral("<title>Cizí %1</title>").arg(i) + obsah);
+        jdi("Tamík.htm", QStringLiteral("Cizí %1").arg(i++));
+        EXPECT_EQ(cervene(), 0) << obsah.toStdString();
+        okno->prejdi(adresa("nase.htm"));
+    }
+    for (const Neighbour& soused : neighbours) {
+        const QString jmeno = QString::fromLatin1(soused.what).replace(' ', '_').remove(u'\'');
+        ASSERT_TRUE(soused.put(QFile::encodeName(cesta(jmeno)))) << soused.what;
+        pis("prirucka/Tamík.htm",
+            QStringLiteral("<title>%1</title><img src='%1'><link rel=stylesheet href='%1'>").arg(jmeno));
+        jdi("Tamík.htm", jmeno);
+        okno->prejdi(adresa(jmeno));
+        okno->prejdi(adresa("nase.htm"));
+        cekejTitulek("Naše");
+    }
+}
+
+TEST_F(StrankaTest, APageThatLeadsToTheMailIsAskedAboutOnce) {
+    if (!postav(Zobrazeni::Uplne)) GTEST_SKIP() << nepostaveno;
+    QTcpServer server;
+    ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+    QObject::connect(&server, &QTcpServer::newConnection, okno.get(), [&server] {
+        QTcpSocket* spojeni = server.nextPendingConnection();
+        QObject::connect(spojeni, &QTcpSocket::readyRead, spojeni, [spojeni] {
+            spojeni->write("HTTP/1.1 302 Found\r\nLocation: mailto:cizi@example.org\r\nContent-Length: 0\r\n"
+                           "Connection: close\r\n\r\n");
+            spojeni->disconnectFromHost();
+        });
+    });
+    pis("prirucka/Tamík.htm", "<title>Příručka</title>");
+    jdi("Tamík.htm", "Příručka");
+    const QString presmerovana = QStringLiteral("http://127.0.0.1:%1/").arg(server.serverPort());
+    for (const bool ano : {false, true}) {
+        odpoved = ano;
+        otazky.clear();
+        okno->prejdi(QUrl(presmerovana));
+        EXPECT_TRUE(dokud([&] { return !otazky.isEmpty(); }));
+        EXPECT_EQ(otazky, QStringList{"mailto:cizi@example.org"});
+        EXPECT_EQ(ven, ano ? QStringList{"mailto:cizi@example.org"} : QStringList());
+    }
+    for (const auto& [odkaz, ptaSe] :
+         {std::pair(presmerovana, true), {QStringLiteral("mailto:nas@example.org"), false}}) {
+        pis("prirucka/odkaz.htm",
+            QStringLiteral("<title>%1</title><a href='%1' style='position:fixed;inset:0'>x</a>").arg(odkaz));
+        jdi("odkaz.htm", odkaz);
+        otazky.clear();
+        ven.clear();
+        auto* stranka = okno->findChild<QWidget*>("brwWebBrowser")->focusProxy()->focusProxy();
+        ASSERT_TRUE(stranka);
+        QTest::mouseClick(stranka, Qt::LeftButton, {}, stranka->rect().center());
+        EXPECT_TRUE(dokud([&] { return !ven.isEmpty(); })) << odkaz.toStdString();
+        EXPECT_EQ(!otazky.isEmpty(), ptaSe) << odkaz.toStdString();
+    }
+}
+
+TEST_F(StrankaTest, WhatIsLetGoOverThePageIsNotOpened) {
+    for (const Zobrazeni zobrazeni : {Zobrazeni::Jednoduche, Zobrazeni::Uplne}) {
+        if (!postav(zobrazeni)) continue;
+        pis("prirucka/Tamík.htm", "<title>Příručka</title>");
+        pis("prirucka/b.htm", "<title>Druhá</title>");
+        jdi("Tamík.htm", "Příručka");
+        QMimeData obsah;
+        obsah.setUrls({adresa("b.htm")});
+        auto* stranka = okno->findChild<QWidget*>("brwWebBrowser");
+        QList<QWidget*> prvky = stranka->findChildren<QWidget*>();
+        for (QWidget* prvek : prvky << stranka) {
+            QDragEnterEvent vstup(prvek->rect().center(), Qt::CopyAction, &obsah, Qt::LeftButton, {});
+            vstup.ignore();
+            if (prvek->acceptDrops()) QCoreApplication::sendEvent(prvek, &vstup);
+            EXPECT_FALSE(vstup.isAccepted() && prvek->acceptDrops()) << prvek->metaObject()->className();
+        }
+    }
 }
 
 TEST_F(StrankaTest, TheLighterViewLeavesTheWebToTheUsersBrowser) {

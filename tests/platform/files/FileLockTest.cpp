@@ -1,7 +1,9 @@
 #include "platform/files/FileLock.h"
 
+#include "platform/files/LockSentences.h"
 #include "tests/platform/files/OtherUser.h"
 #include "tests/spreadsheet/embedded/Rig.h"
+#include "tests/support/Neighbours.h"
 
 #include <QDateTime>
 #include <QSysInfo>
@@ -205,18 +207,56 @@ TEST_F(FileLockTest, ThatCannotBeReadIsOfSomebody) {
     ASSERT_TRUE(QFile::setPermissions(lock, {}));
     const QString user = QFileInfo(lock).owner();
     const QString refusal =
-        QStringLiteral("1004 Soubor „píseň.xls“ je už otevřen jinde (uživatel %1).").arg(user);
+        QStringLiteral("1004 Soubor „píseň.xls“ je už otevřen jinde (uživatel %1; podle skrytého souboru "
+                       "„.~píseň.xls.zamek“, který přečíst nejde).")
+            .arg(user);
     ::chmod(QFile::encodeName(folder.path()), 0777);
     const auto refused = [&] { return refusalOf([&] { FileLock::acquire(song); }) == refusal; };
     EXPECT_EQ(asOrdinaryUser([&] { return refused() ? 7 : 1; }), 7);
     EXPECT_EQ(contents(lock), "x");
 }
 
-TEST_F(FileLockTest, CanBeReadByEverybody) {
-    const mode_t mask = ::umask(077);
-    const FileLock lock = FileLock::acquire(song);
-    ::umask(mask);
-    EXPECT_EQ(QFile::permissions(FileLock::lockName(song)) & QFile::ReadOther, QFile::ReadOther);
+TEST_F(FileLockTest, RubbishUnderItsNameIsOfSomebodyAndTheQuestionNamesIt) {
+    const QString lock = FileLock::lockName(song);
+    for (const Neighbour& neighbour : neighbours) {
+        SCOPED_TRACE(neighbour.what);
+        ASSERT_TRUE(neighbour.put(QFile::encodeName(lock)));
+        const auto holder = FileLock::holder(song);
+        ASSERT_TRUE(holder);
+        EXPECT_TRUE(openAnyway(song, *holder).contains(QStringLiteral("„.~píseň.xls.zamek“")));
+        EXPECT_TRUE(refusalOf([&] { FileLock::acquire(song); }).contains(QStringLiteral(".zamek")));
+        const bool folder = QFileInfo(lock).isDir() && !QFileInfo(lock).isSymLink();
+        EXPECT_EQ(FileLock::takeOver(song).isHeld(), !folder);
+        EXPECT_EQ(QDir(lock).exists() && QDir().rmdir(lock), folder) << "given back where it could be taken";
+    }
+    store(lock, QByteArray(5000, 'x'));
+    EXPECT_TRUE(FileLock::holder(song)) << "too long for a lock";
+}
+
+TEST_F(FileLockTest, WhatItTellsIsShownAndNotObeyed) {
+    LockHolder holder;
+    holder.user = QStringLiteral("jana\nSoubor je volný.");
+    holder.host = QString(500, u'h') + QChar(0x202E);
+    holder.program = QStringLiteral("%2\t%1");
+    holder.process = 7;
+    const QString told = whoHolds(holder);
+    EXPECT_TRUE(told.startsWith(QStringLiteral("uživatel jana↵Soubor je volný., počítač hhh")))
+        << told.toStdString();
+    EXPECT_TRUE(told.endsWith(QStringLiteral("hhh[U+202E], program %2→%1, proces 7"))) << told.toStdString();
+    EXPECT_LT(told.size(), 200);
+}
+
+TEST_F(FileLockTest, KeepsToTheUsersMaskAndTellsNoIdentifiers) {
+    for (const mode_t mask : {mode_t(077), mode_t(022)}) {
+        const mode_t before = ::umask(mask);
+        const FileLock lock = FileLock::acquire(song);
+        ::umask(before);
+        const QString file = FileLock::lockName(song);
+        EXPECT_EQ(QFile::permissions(file).testFlag(QFile::ReadOther), mask == 022);
+        EXPECT_EQ(contents(file).split('\n').value(machine).size(), 32);
+        for (const QByteArray& identifier : {QSysInfo::machineUniqueId(), QSysInfo::bootUniqueId()})
+            EXPECT_TRUE(identifier.isEmpty() || !contents(file).contains(identifier));
+    }
 }
 
 TEST_F(FileLockTest, TakenOverFromALivingOneDoesNotCountAsStale) {

@@ -1,8 +1,11 @@
+#include "platform/ShownText.h"
 #include "spreadsheet/embedded/Document.h"
 #include "spreadsheet/embedded/FileSentences.h"
 #include "spreadsheet/embedded/WorkbookFile.h"
+#include "spreadsheet/journal/ContentHash.h"
 #include "tests/spreadsheet/embedded/Rig.h"
 #include "tests/spreadsheet/embedded/SmallMemory.h"
+#include "tests/support/Neighbours.h"
 
 #include <functional>
 #include <stdexcept>
@@ -29,6 +32,21 @@ protected:
 };
 
 } // namespace
+
+TEST_F(FileRefusalTest, WhatIsNoRegularFileIsRefusedAtOnce) {
+    for (const Neighbour& neighbour : neighbours) {
+        const QString song = path(QStringLiteral("%1\n.xls").arg(QString::fromLatin1(neighbour.what)));
+        ASSERT_TRUE(neighbour.put(QFile::encodeName(song))) << neighbour.what;
+        const QString refusal = refusalOf([&] { Document::open(song); });
+        EXPECT_TRUE(refusal.startsWith(
+            QStringLiteral("1004 Soubor „%1↵.xls“ nelze otevřít: ").arg(QString::fromLatin1(neighbour.what))))
+            << refusal.toStdString();
+        EXPECT_TRUE(contentHashOfFile(song).isEmpty()) << neighbour.what;
+    }
+    const QString link = path(QStringLiteral("odkaz.xls"));
+    ASSERT_TRUE(QFile::link(good, link));
+    EXPECT_TRUE(Document::open(link)) << "a song may be a link";
+}
 
 TEST_F(FileRefusalTest, OpeningSaysWhatIsWrong) {
     const auto make = [&](const char* name, const QByteArray& bytes) {
@@ -110,7 +128,7 @@ TEST_F(FileRefusalTest, SavingSaysWhatIsWrongAndChangesNothing) {
     for (const auto& [name, reason] : cases) {
         const QString target = name.startsWith(QLatin1Char('/')) ? name : path(name);
         const QString expected =
-            QStringLiteral("1004 Soubor „%1“ nelze uložit: %2.").arg(QFileInfo(target).fileName(), reason);
+            QStringLiteral("1004 Soubor „%1“ nelze uložit: %2.").arg(shownFileName(target), reason);
         EXPECT_EQ(saving(*document, target), expected);
     }
     EXPECT_EQ(files(), before);

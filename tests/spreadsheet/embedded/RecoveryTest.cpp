@@ -1,4 +1,7 @@
+#include "spreadsheet/journal/Journal.h"
 #include "tests/spreadsheet/embedded/Rig.h"
+
+#include <cmath>
 
 namespace zvonika::testing {
 
@@ -252,6 +255,29 @@ TEST_F(RecoveryTest, WhatDoesNotFitIsTold) {
         .expect(title, QStringLiteral("se nepodařilo vrátit 3 změny"));
     open();
     EXPECT_EQ(text("B2"), QStringLiteral("d"));
+}
+
+TEST_F(RecoveryTest, APlantedJournalLeadsNowhereAndBreaksNothing) {
+    for (const char* name : {"../../x", "a\nb", "/etc/passwd", "", ".bashrc"}) {
+        {
+            Journal journal(journals, {{}, QString::fromUtf8(name), {}});
+            journal.record({CellWritten{1, {65536, 256}, QString(40000, u'x')},
+                            SheetRenamed{1, QString(500, u'y')}, RowDeleted{1, 65536},
+                            ColumnResized{1, 1, 1e300}, CellWritten{1, {1, 2}, QStringLiteral("c")}});
+        }
+        dialogs.expect(title, QStringLiteral("V dosud neuloženém sešitu"), Answer::Yes)
+            .expect(title, QStringLiteral("se nepodařilo vrátit 2 změny"));
+        start();
+        EXPECT_TRUE(document().file().name().startsWith(QStringLiteral("Sešit"))) << name;
+        EXPECT_EQ(text("B1"), QStringLiteral("c"));
+        document().journal().giveUp();
+    }
+    {
+        Journal journal(journals, {song, QStringLiteral("Kočka.xls"), {}});
+        journal.record({ColumnResized{1, 1, std::nan("")}});
+    }
+    start();
+    open(); // what is no number makes the record damaged: nothing of it is offered
 }
 
 TEST_F(RecoveryTest, ATypedOverFormulaComesBackWhenThatWasTakenBack) {

@@ -2,8 +2,10 @@
 
 #include "spreadsheet/journal/ContentHash.h"
 #include "spreadsheet/journal/JournalFormat.h"
+#include "tests/platform/files/OtherUser.h"
 #include "tests/spreadsheet/embedded/Rig.h"
 #include "tests/spreadsheet/embedded/SmallDisk.h"
+#include "tests/support/Neighbours.h"
 
 namespace zvonika::testing {
 
@@ -146,6 +148,33 @@ TEST_F(JournalTest, WhatIsSavedIsNotOffered) {
     }
     EXPECT_TRUE(journals.pending(song).empty());
     EXPECT_EQ(kept(), QStringList());
+}
+
+TEST_F(JournalTest, OnlyTheUsersOwnRegularFilesAreJournals) {
+    crash(1, base());
+    const QString folder = state.filePath(QStringLiteral("zaznamy"));
+    EXPECT_EQ(QFile::permissions(folder) &
+                  (QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther),
+              QFile::Permissions());
+    const QString file = folder + QLatin1Char('/') + kept().value(0);
+    const QByteArray whole = contents(file);
+    for (const Neighbour& neighbour : neighbours) {
+        SCOPED_TRACE(neighbour.what);
+        QFile::remove(file);
+        ASSERT_TRUE(neighbour.put(QFile::encodeName(file)));
+        EXPECT_FALSE(JournalFile::open(file));
+        EXPECT_TRUE(journals.pending(song).empty());
+        crash(1, base());
+        EXPECT_EQ(journals.pending(song).size(), 1U) << "beside it one can be kept";
+        for (auto& journal : journals.pending(song))
+            journal.file.remove();
+        QDir().rmdir(file);
+    }
+    QFile::remove(file);
+    store(file, whole);
+    EXPECT_EQ(journals.pending(song).size(), 1U);
+    if (::geteuid() != 0 || ::chown(QFile::encodeName(file), nobody, nobody) != 0) return;
+    EXPECT_TRUE(journals.pending(song).empty()) << "planted by another user";
 }
 
 TEST_F(JournalTest, TurnedDownOnesAreKeptAsideButNotForEver) {

@@ -3,6 +3,7 @@
 
 #include "spreadsheet/libreoffice/Installation.h"
 #include "spreadsheet/libreoffice/hlidac/Leftovers.h"
+#include "tests/support/Neighbours.h"
 
 #include <QDir>
 #include <QFile>
@@ -151,6 +152,18 @@ TEST(OfficeProcess, OutlivesAKilledProgramOnlyWithDocumentsOfTheUsers) {
         }
         EXPECT_TRUE(ends(guardian, 60000)) << documents;
         EXPECT_FALSE(signalOne(id, 0)) << documents;
+    }
+}
+
+TEST(Leftovers, ALockThatIsNoFileStaysAndIsNotWaitedFor) {
+    for (const Neighbour& neighbour : neighbours) {
+        QTemporaryDir folder;
+        Leftovers leftovers("file:///profil", folder.path().toStdString());
+        const QString lock = folder.filePath(".~lock.moje.xls#");
+        ASSERT_TRUE(neighbour.put(QFile::encodeName(lock))) << neighbour.what;
+        leftovers.addDocument(folder.filePath("moje.xls").toStdString());
+        leftovers.remove();
+        EXPECT_TRUE(QFile::exists(lock) || QFileInfo(lock).isSymLink()) << neighbour.what;
     }
 }
 
