@@ -72,7 +72,7 @@ private:
     Ref<css::sheet::XSpreadsheet> sheet() const;
     void refuseWhatXlsLoses() const;
     void commitEntry();
-    void commitEntryBeforeWriting();
+    void commitEntryIn(const CellRange& written);
     QString title() const;
 
     CalcObserver& observer_;
