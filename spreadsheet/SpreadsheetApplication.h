@@ -123,7 +123,8 @@ public:
     /// put off has met.
     virtual void finishWriting() = 0;
     /// Whether the user is typing a text into a cell that is not taken over yet. The program's own writing
-    /// takes it over first, as if by Enter, and so does what ends or leaves the sheet.
+    /// to that cell takes it over first, as if by Enter, and so does what moves the cursor, saves or leaves
+    /// the sheet.
     virtual bool userIsTyping() const = 0;
 };
 

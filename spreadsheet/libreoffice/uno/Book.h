@@ -83,7 +83,7 @@ private:
     bool isEncrypted() const;
     std::vector<sal_Int32> visibleSheets() const;
     void commitEntry();
-    void commitEntryBeforeWriting();
+    void commitEntryIn(const CellRange& written);
     QString title() const;
 
     int id_ = 0;

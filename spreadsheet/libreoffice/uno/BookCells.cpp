@@ -155,13 +155,13 @@ void Book::commitEntry() {
 }
 
 // To look, Calc has to come to rest and to paint. Nobody begins to type while a run writes.
-void Book::commitEntryBeforeWriting() {
+void Book::commitEntryIn(const CellRange& written) {
     constexpr std::chrono::milliseconds moment{100};
-    if (std::chrono::steady_clock::now() - noEntry_ > moment) commitEntry();
+    if (std::chrono::steady_clock::now() - noEntry_ > moment && written.contains(cursor())) commitEntry();
 }
 
 void Book::write(CellPosition first, const CellBlock& block) {
-    commitEntryBeforeWriting();
+    commitEntryIn(sized(first, static_cast<int>(block.size()), static_cast<int>(block.first().size())));
     values_.write(sheet(), first, block);
 }
 
@@ -174,14 +174,15 @@ bool Book::holdSheet() {
 }
 
 void Book::writeHeld(const QVector<PlacedBlock>& blocks) {
-    commitEntryBeforeWriting();
     const auto target = held_.is() ? held_ : sheet();
-    for (const PlacedBlock& block : blocks)
-        values_.write(target, block.first, block.cells);
+    for (const auto& [first, cells] : blocks) {
+        commitEntryIn(sized(first, static_cast<int>(cells.size()), static_cast<int>(cells.first().size())));
+        values_.write(target, first, cells);
+    }
 }
 
 void Book::clear(const CellRange& range) {
-    commitEntryBeforeWriting();
+    commitEntryIn(range);
     namespace flags = css::sheet::CellFlags;
     as<css::sheet::XSheetOperation>(cellsOf(sheet(), range, keeper_))
         ->clearContents(flags::VALUE | flags::DATETIME | flags::STRING | flags::FORMULA);

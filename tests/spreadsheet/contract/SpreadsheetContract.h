@@ -505,8 +505,8 @@ TEST_P(SpreadsheetContract, WhatTheUserIsTypingIsTakenOverBeforeTheProgramWrites
         app.moveCursor(1, 0);
         EXPECT_EQ(text(QStringLiteral("I4")), QString());
         EXPECT_EQ(app.activeAddress(), QStringLiteral("$B$4")) << typedInto;
-        EXPECT_FALSE(app.userIsTyping()) << typedInto;
         app.saveActiveWorkbook();
+        EXPECT_FALSE(app.userIsTyping()) << typedInto;
         EXPECT_EQ(text(QStringLiteral("B3")), QStringLiteral("c,")) << typedInto;
     }
     EXPECT_EQ(text(QStringLiteral("A3")), QStringLiteral("le-"));
