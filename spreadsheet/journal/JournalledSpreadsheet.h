@@ -42,6 +42,7 @@ public:
     void saveActiveWorkbook() override;
     void closeActiveWorkbook() override;
     QString activeWorkbookName() const override { return live_->activeWorkbookName(); }
+    bool activeWorkbookModified() const override { return live_->activeWorkbookModified(); }
     void activateWindow(const QString& name) override;
 
     QString activeSheetName() const override { return live_->activeSheetName(); }
