@@ -65,7 +65,7 @@ TEST_F(PanelTextuTest, LabelsStayInsideAndApartAtEverySize) {
         rozmer(meritko);
         widget.show();
         const auto popisky = widget.findChildren<QLabel*>();
-        ASSERT_EQ(popisky.size(), 10);
+        ASSERT_EQ(popisky.size(), 11);
         for (const QLabel* a : popisky) {
             EXPECT_TRUE(widget.rect().contains(a->geometry())) << a->objectName().toStdString();
             for (const QLabel* b : popisky)

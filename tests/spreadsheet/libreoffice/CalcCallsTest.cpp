@@ -1,6 +1,7 @@
 // Calls that take long, fail or never come back, and what the user does meanwhile.
 #include "platform/Log.h"
 #include "tests/spreadsheet/libreoffice/FakeCalc.h"
+#include "tests/support/Raised.h"
 
 #include <QCoreApplication>
 #include <QTimer>
@@ -15,15 +16,6 @@ namespace {
 
 using std::chrono::milliseconds;
 using std::chrono::seconds;
-
-int raised(const std::function<void()>& call) {
-    try {
-        call();
-        return 0;
-    } catch (const RuntimeError& failure) {
-        return failure.number();
-    }
-}
 
 class Heard : public SpreadsheetListener {
 public:
