@@ -27,7 +27,7 @@ public:
 
 private:
     std::array<QString, pocetTlacitekRad> popisky_;
-    std::array<QString, pocetTlacitekRad * toninPodTlacitkem> label1_;
+    std::array<QString, std::size_t{pocetTlacitekRad} * toninPodTlacitkem> label1_;
 };
 
 } // namespace zvonika

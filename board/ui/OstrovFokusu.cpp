@@ -50,7 +50,7 @@ QWidget* OstrovFokusu::soused(const QWidget* od, int klavesa) const {
 
 QWidget* OstrovFokusu::podlePoradi(const QWidget* od, QPoint smer) const {
     const qsizetype odkud = std::find(clenove_.begin(), clenove_.end(), od) - clenove_.begin();
-    const qsizetype kam = odkud + smer.x() * vpravo_ - smer.y() * nahoru_;
+    const qsizetype kam = odkud + qsizetype{smer.x()} * vpravo_ - qsizetype{smer.y()} * nahoru_;
     if (kam < 0 || kam >= clenove_.size()) return nullptr;
     const bool opoustiSloupec = vpravo_ > 1 && smer.x() == 0 && kam / vpravo_ != odkud / vpravo_;
     return opoustiSloupec ? nullptr : clenove_[kam];

@@ -28,7 +28,7 @@ struct OkoliZapisu {
 /// written so far then stays.
 class ZapisHmatu {
 public:
-    ZapisHmatu(OkoliZapisu okoli, const TrebleBoard& diskant) : okoli_(std::move(okoli)), diskant_(diskant) {}
+    ZapisHmatu(OkoliZapisu okoli, const TrebleBoard& diskant) : okoli_(okoli), diskant_(diskant) {}
 
     void cmdTah();
     void cmdTlak();

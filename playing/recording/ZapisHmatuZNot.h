@@ -12,7 +12,7 @@ class clsNotyZapis;
 class ZapisHmatuZNot {
 public:
     ZapisHmatuZNot(OkoliZapisu okoli, const NotovaOsnova& osnova, const clsNotyZapis& noty)
-        : okoli_(std::move(okoli)), osnova_(osnova), noty_(noty) {}
+        : okoli_(okoli), osnova_(osnova), noty_(noty) {}
 
     void cmdTahNoty() { ZapisHmatZNot(SmerMechu::Tah); }
     void cmdTlakNoty() { ZapisHmatZNot(SmerMechu::Tlak); }

@@ -15,8 +15,8 @@ Editing::Editing(SheetCells& cells, SheetCursor& cursor, Changed changed)
 /// Stops at a refusal, which is returned, and leaves in `changes` what was done. Formulas come first: whether
 /// a cell is a part of an array formula shows only when it is written, and no other cell can be refused.
 std::exception_ptr Editing::putAll(int sheet, std::vector<CellChange>& changes) {
-    std::ranges::stable_partition(changes,
-                                  [&](const auto& change) { return cells_.isFormula(sheet, change.cell); });
+    std::stable_partition(changes.begin(), changes.end(),
+                          [&](const auto& change) { return cells_.isFormula(sheet, change.cell); });
     for (auto next = changes.begin(); next != changes.end(); ++next) {
         try {
             cells_.put(sheet, next->cell, next->after);

@@ -8,7 +8,6 @@
 #include <QScopeGuard>
 
 #include <optional>
-#include <source_location>
 #include <type_traits>
 
 namespace zvonika {
@@ -18,7 +17,7 @@ namespace zvonika {
 /// is under way 1004. The log names where each comes from, and how long it took.
 class CalcCalls {
 public:
-    using Where = std::source_location;
+    using Where = const char*; ///< the name of the function that calls
 
     /// `waitOver`: a wait that could be felt has ended.
     CalcCalls(const WaitingCustoms& customs, std::function<void()> waitOver, const Patience& patience);
@@ -44,32 +43,32 @@ public:
 
     /// Runs `work` on the thread of the engine, be there one or not.
     void carryOut(std::chrono::milliseconds patience, const std::function<void()>& work,
-                  Where where = Where::current());
+                  Where where = __builtin_FUNCTION());
 
     /// Gives what `calls` makes of the engine.
     template <typename Calls>
-    auto ask(std::chrono::milliseconds patience, Calls calls, Where where = Where::current()) {
+    auto ask(std::chrono::milliseconds patience, Calls calls, Where where = __builtin_FUNCTION()) {
         if (settle_) settle_();
         return askAside(patience, std::move(calls), where);
     }
     template <typename Calls>
-    auto ask(Calls calls, Where where = Where::current()) {
+    auto ask(Calls calls, Where where = __builtin_FUNCTION()) {
         return ask(patience_.cell, std::move(calls), where);
     }
     /// The same for calls which leave what has been seen of the sheet as it is.
     template <typename Calls>
-    auto askAside(std::chrono::milliseconds patience, Calls calls, Where where = Where::current()) {
+    auto askAside(std::chrono::milliseconds patience, Calls calls, Where where = __builtin_FUNCTION()) {
         requireRunning();
         if (deliver_) deliver_();
         return askNow(patience, std::move(calls), where);
     }
     template <typename Calls>
-    auto askAside(Calls calls, Where where = Where::current()) {
+    auto askAside(Calls calls, Where where = __builtin_FUNCTION()) {
         return askAside(patience_.cell, std::move(calls), where);
     }
     /// The same, whatever else there may be to do before.
     template <typename Calls>
-    auto askNow(std::chrono::milliseconds patience, Calls calls, Where where = Where::current());
+    auto askNow(std::chrono::milliseconds patience, Calls calls, Where where = __builtin_FUNCTION());
 
 private:
     /// Whether the user has been shown that Calc takes its time, and what to do when that is over. A wait

@@ -29,7 +29,7 @@ bool hasWindows(const QString& program) {
 
 QString firstFile(const QStringList& folders, const QString& name) {
     for (const QString& folder : folders)
-        if (const QString file = folder + QLatin1Char('/') + name; QFileInfo(file).isFile()) return file;
+        if (QString file = folder + QLatin1Char('/') + name; QFileInfo(file).isFile()) return file;
     return {};
 }
 

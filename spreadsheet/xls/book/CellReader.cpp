@@ -53,7 +53,7 @@ void readCell(ByteView stream, const SharedStrings& strings, const CellSlot& slo
         value = decodeRk(record.u32(contentAt));
         break;
     case RecordType::MulRk:
-        value = decodeRk(record.u32(contentAt + 6 * (columnOf(slot.key) - record.u16(2))));
+        value = decodeRk(record.u32(contentAt + std::size_t{6} * (columnOf(slot.key) - record.u16(2))));
         break;
     case RecordType::Number:
         value = loadDouble(record.payload.data() + contentAt);

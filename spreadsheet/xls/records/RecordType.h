@@ -90,7 +90,7 @@ namespace zvonika::xls {
     X(Bof, 0x0809, false)
 
 enum class RecordType : std::uint16_t {
-#define ZVONIKA_XLS_ENUM(name, id, sameInBiff5) name = id,
+#define ZVONIKA_XLS_ENUM(name, id, sameInBiff5) name = (id),
     ZVONIKA_XLS_RECORDS(ZVONIKA_XLS_ENUM)
 #undef ZVONIKA_XLS_ENUM
 };
