@@ -93,9 +93,12 @@ void JournalledSpreadsheet::closeActiveWorkbook() {
     drop(closed);
 }
 
+// A run says for every cell which workbook it means; asking for the place each time would part its writes.
 void JournalledSpreadsheet::activateWindow(const QString& name) {
+    const bool known = placeKnown_ && live_->acts() == placeActs_;
+    const RecordedWorkbook* here = known ? find(place_.workbook) : nullptr;
     live_->activateWindow(name);
-    forgetPlace();
+    if (!here || here->image().name != name) forgetPlace();
 }
 
 // --- the records ---
