@@ -4,6 +4,8 @@
 #include "playing/stepping/StavovyRadek.h"
 #include "song/RadaPoChybe.h"
 
+#include <utility>
+
 namespace zvonika {
 
 namespace {
@@ -17,14 +19,15 @@ bool neniCoZapsat(const Modely& modely) {
 
 bool UdalostiOkna::proved(const std::function<void()>& procedura) {
     if (bezi()) return false;
-    modely_.panel.vystraha.clear();
+    if (!std::exchange(modely_.panel.vystraha, {}).isEmpty())
+        modely_.panel.oznamZmenu(); // before the next one asks anything
+    modely_.panel.zapsano.clear();
     return nasleduj(procedura);
 }
 
 bool UdalostiOkna::nasleduj(const std::function<void()>& procedura) {
     if (bezi()) return false;
     modely_.panel.upozorneni.clear();
-    modely_.panel.zapsano.clear();
     const bool provedeno = obsluha_.proved(procedura);
     ukazStav();
     return provedeno;

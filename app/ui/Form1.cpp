@@ -256,9 +256,17 @@ void Form1::ukazPanel() {
     ukazBarvuKroku();
 }
 
+/// The hint gives way to a warning as a whole: half a sentence of each would tell neither.
+bool Form1::vejdeSeVedle(const QString& varovani) const {
+    const int sirka = varovani_->fontMetrics().horizontalAdvance(varovani) +
+                      stav_->fontMetrics().horizontalAdvance(panel_.stav);
+    return sirka + 4 * varovani_->fontMetrics().averageCharWidth() < statusBar()->width();
+}
+
 void Form1::ukazVarovani() {
     const QString text = panel_.varovani();
     varovani_->setVisible(!text.isEmpty());
+    stav_->setVisible(text.isEmpty() || vejdeSeVedle(text));
     if (text == varovani_->text()) return;
     varovani_->nastavText(text);
     QAccessibleEvent udalost(varovani_, QAccessible::Alert);

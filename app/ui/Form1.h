@@ -64,6 +64,7 @@ private:
     ElidovanyPopisek* radekStavu(const QString& jmeno, int dil);
     void ukazPanel();
     void ukazVarovani();
+    bool vejdeSeVedle(const QString& varovani) const;
     void ukazListy();
     void ukazBarvuKroku();
     void ukazZaskrtnuti();

@@ -31,11 +31,12 @@ Message hlaseniUlozeni(int cislo) {
 QString vystraha(const RuntimeError& chyba, const Pisen& pisen) {
     switch (chyba.number()) {
     case error::subscriptOutOfRange:
-        return QStringLiteral(
-                   "Písnička „%1“ byla v tabulce zavřena, než ji Zvonika uložila. Otevřete ji znovu.")
+        return QStringLiteral("Písnička „%1“ už v tabulce otevřená nebyla, a tak ji Zvonika neukládala. "
+                              "Otevřete ji znovu.")
             .arg(pisen.aktualniPisen);
     case error::applicationDefined:
-        return chyba.cause() + QStringLiteral(" Zůstala otevřená v tabulce, uložte ji tam jinam (F6).");
+        return chyba.cause() +
+               QStringLiteral(" Písnička zůstala otevřená v tabulce, uložte ji tam jinam (F6).");
     default:
         return radaPoChybe(pisen, chyba);
     }

@@ -197,6 +197,8 @@ void Navigace::sledujList() {
 
 void Navigace::sledujRadek() {
     const VyrezPisne vyrez = pas_.ctiPoZmene();
+    // What was being typed when a grip was recorded ends only now, and is no reason to record it again.
+    if (okoli_.panel.lblTon != QString::number(vyrez.radek)) okoli_.panel.zapsano.clear();
     const SmerMechu smer = zobrazeni_.ZobrazHmatPotichu(vyrez);
     pas_.obnov(vyrez);
     if (vyrez.radek > 1) PovolZpet(okoli_.prikazy);

@@ -249,7 +249,7 @@ TEST_F(ZivotPisneTest, EndReportsASaveThatFailedAndForgetsTheSong) {
         excel->put("A1", "změna");
         selze("saveActiveWorkbook", cislo);
         ocekavejKontakt(cislo);
-        const QString cekano = cislo ? "Zůstala otevřená v tabulce" : "saveActiveWorkbook";
+        const QString cekano = cislo ? "Písnička zůstala otevřená v tabulce" : "saveActiveWorkbook";
         dialogs.whileUp = [&] {
             EXPECT_TRUE(panel.vystraha.contains(cekano)) << panel.vystraha.toStdString();
         };
