@@ -224,8 +224,10 @@ TEST_F(NavigaceTest, FollowsTheUserInTheSheetWithoutDisturbingHim) {
     EXPECT_EQ(pas.poziceVPasu, 6);
     EXPECT_TRUE(zpetPovoleno());
 
+    panel.zapsano = QStringLiteral("Hmat 5 je zapsán na tlak.");
     excel->userTypes("A7", "lezl");
     navigace.sledujKurzor();
+    EXPECT_FALSE(panel.zapsano.isEmpty()) << "the row is the same";
     EXPECT_EQ(panel.lblSlabika[3], "lezl");
     EXPECT_EQ(pas.pozice[6].slabika, "lezl");
 
@@ -233,6 +235,7 @@ TEST_F(NavigaceTest, FollowsTheUserInTheSheetWithoutDisturbingHim) {
     excel->put("I30", QString());
     navigace.sledujKurzor();
     EXPECT_EQ(panel.barvaKroku, BarvaKroku::Neznamy) << "and no box";
+    EXPECT_EQ(panel.zapsano, "") << "of another row";
     EXPECT_EQ(pas.prvniRadekPasu, 30);
 }
 
