@@ -15,15 +15,26 @@ namespace {
 
 std::atomic<std::size_t> held{0}, peak{0};
 
-} // namespace
-
-// For the whole program; the other tests do not look at the figures.
-void* operator new(std::size_t size) {
+void* taken(std::size_t size) {
     void* memory = std::malloc(size);
-    if (!memory) throw std::bad_alloc();
+    if (!memory) return nullptr;
     const std::size_t now = held += ::malloc_usable_size(memory);
     if (now > peak) peak = now;
     return memory;
+}
+
+} // namespace
+
+// For the whole program; the other tests do not look at the figures. Every form, so that what one gives
+// another one takes back.
+void* operator new(std::size_t size) {
+    void* memory = taken(size);
+    if (!memory) throw std::bad_alloc();
+    return memory;
+}
+
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+    return taken(size);
 }
 
 void operator delete(void* memory) noexcept {
@@ -32,6 +43,10 @@ void operator delete(void* memory) noexcept {
 }
 
 void operator delete(void* memory, std::size_t) noexcept {
+    operator delete(memory);
+}
+
+void operator delete(void* memory, const std::nothrow_t&) noexcept {
     operator delete(memory);
 }
 
