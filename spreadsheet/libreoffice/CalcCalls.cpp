@@ -59,10 +59,11 @@ void CalcCalls::carryOut(std::chrono::milliseconds patience, const std::function
     try {
         calls_.run(patience, work);
     } catch (const RuntimeError& failure) {
-        qCInfo(callsLog) << where << "chyba" << failure.number() << "po" << clock.elapsed() << "ms";
+        qCInfo(callsLog) << where.function_name() << "chyba" << failure.number() << "po" << clock.elapsed()
+                         << "ms";
         throw;
     }
-    qCInfo(callsLog) << where << clock.elapsed() << "ms";
+    qCInfo(callsLog) << where.function_name() << clock.elapsed() << "ms";
 }
 
 } // namespace zvonika

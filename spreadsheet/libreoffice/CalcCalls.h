@@ -8,16 +8,27 @@
 #include <QScopeGuard>
 
 #include <optional>
+#include <source_location>
 #include <type_traits>
 
 namespace zvonika {
+
+/// Which function asks.
+#ifdef __cpp_lib_source_location
+using CallPlace = std::source_location;
+#else // clang before 16 with the standard library of GCC
+struct CallPlace {
+    static CallPlace current() { return {}; }
+    static const char* function_name() { return "?"; }
+};
+#endif
 
 /// The way to one Calc: carries calls out on the thread of its engine while the user-interface thread waits.
 /// A call on a Calc that is gone, or not there yet, raises AutomationError 91, one that comes while another
 /// is under way 1004. The log names where each comes from, and how long it took.
 class CalcCalls {
 public:
-    using Where = const char*; ///< the name of the function that calls
+    using Where = CallPlace;
 
     /// `waitOver`: a wait that could be felt has ended.
     CalcCalls(const WaitingCustoms& customs, std::function<void()> waitOver, const Patience& patience);
@@ -43,32 +54,32 @@ public:
 
     /// Runs `work` on the thread of the engine, be there one or not.
     void carryOut(std::chrono::milliseconds patience, const std::function<void()>& work,
-                  Where where = __builtin_FUNCTION());
+                  Where where = Where::current());
 
     /// Gives what `calls` makes of the engine.
     template <typename Calls>
-    auto ask(std::chrono::milliseconds patience, Calls calls, Where where = __builtin_FUNCTION()) {
+    auto ask(std::chrono::milliseconds patience, Calls calls, Where where = Where::current()) {
         if (settle_) settle_();
         return askAside(patience, std::move(calls), where);
     }
     template <typename Calls>
-    auto ask(Calls calls, Where where = __builtin_FUNCTION()) {
+    auto ask(Calls calls, Where where = Where::current()) {
         return ask(patience_.cell, std::move(calls), where);
     }
     /// The same for calls which leave what has been seen of the sheet as it is.
     template <typename Calls>
-    auto askAside(std::chrono::milliseconds patience, Calls calls, Where where = __builtin_FUNCTION()) {
+    auto askAside(std::chrono::milliseconds patience, Calls calls, Where where = Where::current()) {
         requireRunning();
         if (deliver_) deliver_();
         return askNow(patience, std::move(calls), where);
     }
     template <typename Calls>
-    auto askAside(Calls calls, Where where = __builtin_FUNCTION()) {
+    auto askAside(Calls calls, Where where = Where::current()) {
         return askAside(patience_.cell, std::move(calls), where);
     }
     /// The same, whatever else there may be to do before.
     template <typename Calls>
-    auto askNow(std::chrono::milliseconds patience, Calls calls, Where where = __builtin_FUNCTION());
+    auto askNow(std::chrono::milliseconds patience, Calls calls, Where where = Where::current());
 
 private:
     /// Whether the user has been shown that Calc takes its time, and what to do when that is over. A wait
