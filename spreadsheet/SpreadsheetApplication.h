@@ -11,6 +11,8 @@
 
 namespace zvonika {
 
+class StepKeeper;
+
 /// A failed call to the spreadsheet application:
 ///   9    a window or sheet of that name does not exist (any more),
 ///   91   no active workbook, the application is gone, or a search found nothing,
@@ -116,6 +118,25 @@ public:
     // --- blocks: one call for a whole range of the active sheet ---
     virtual CellBlock readBlock(const QString& address) const = 0;
     virtual void writeBlock(const QString& address, const CellBlock& block) = 0;
+
+    // --- rows of the active sheet ---
+    /// Rows from `row` on move down (up) by one, in the active sheet alone. 1004 when the application refuses.
+    virtual void insertRow(int row) { static_cast<void>(row); }
+    virtual void deleteRow(int row) { static_cast<void>(row); }
+    /// As `writeBlock`, with what stood there before: where the file holds a formula that showed this value,
+    /// and the application can, the formula is there again.
+    virtual void putBack(const QString& address, const CellBlock& block) { writeBlock(address, block); }
+
+    // --- steps ---
+    /// What is written from `beginStep` to `endStep` belongs together: a crash leaves all of it or nothing.
+    /// One at a time; neither raises.
+    virtual void beginStep() {}
+    virtual void endStep() {}
+    /// Who keeps the list of steps; outlives the application. Applications that leave what the user does in
+    /// their window to a list of their own do not ask it.
+    virtual void setStepKeeper(StepKeeper* keeper) { static_cast<void>(keeper); }
+    /// The keeper's labels have changed.
+    virtual void stepsChanged() {}
 
     // --- writing and the user ---
     /// The application may take what is written a moment later, and all of it at once; whatever else it is

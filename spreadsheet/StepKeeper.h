@@ -1,0 +1,57 @@
+#pragma once
+
+#include "spreadsheet/Address.h"
+#include "spreadsheet/CellValue.h"
+
+#include <QString>
+
+#include <variant>
+#include <vector>
+
+namespace zvonika {
+
+/// A cell that was changed.
+struct CellTurned {
+    QString sheet;
+    CellPosition cell;
+    CellValue before; ///< what it showed
+    CellValue after;
+    friend bool operator==(const CellTurned&, const CellTurned&) = default;
+};
+
+/// A whole row put in or taken out; those behind it have moved.
+struct RowMoved {
+    QString sheet;
+    int row = 1;
+    bool inserted = true;
+    std::vector<CellTurned> contents; ///< of the row taken out; their `after` is empty
+    friend bool operator==(const RowMoved&, const RowMoved&) = default;
+};
+
+/// One thing that was done in a workbook, as it is taken back: its parts from the last to the first.
+struct WorkStep {
+    QString label; ///< for a menu: "Psaní", "Zápis hmatu 2" ...
+    std::vector<std::variant<CellTurned, RowMoved>> parts;
+    friend bool operator==(const WorkStep&, const WorkStep&) = default;
+};
+
+/// The list of what can be taken back in the workbooks that the program works on. A spreadsheet in whose own
+/// window steps are taken back hands over what the user did there, and leaves the taking back to this list;
+/// so there is one order of what the program wrote and what the user typed. Called on the user-interface
+/// thread, outside of any call of the port.
+class StepKeeper {
+public:
+    virtual ~StepKeeper() = default;
+
+    /// False: the workbook is none of the program's, and its steps are the spreadsheet's own.
+    virtual bool keeps(const QString& workbook) const = 0;
+    /// The user has done this in the active workbook, which is kept.
+    virtual void done(WorkStep step) = 0;
+    virtual QString undoLabel() const = 0; ///< "" when there is nothing to take back
+    virtual QString redoLabel() const = 0; ///< "" when there is nothing to do again
+    /// Take back (do again) the last step. Questions and failures are the keeper's to show.
+    virtual void undo() = 0;
+    virtual void redo() = 0;
+};
+
+} // namespace zvonika
