@@ -120,7 +120,8 @@ public:
     virtual void writeBlock(const QString& address, const CellBlock& block) = 0;
 
     // --- rows of the active sheet ---
-    /// Rows from `row` on move down (up) by one, in the active sheet alone. 1004 when the application refuses.
+    /// Rows from `row` on move down (up) by one, in the active sheet alone. 1004 when the application
+    /// refuses.
     virtual void insertRow(int row) { static_cast<void>(row); }
     virtual void deleteRow(int row) { static_cast<void>(row); }
     /// As `writeBlock`, with what stood there before: where the file holds a formula that showed this value,
