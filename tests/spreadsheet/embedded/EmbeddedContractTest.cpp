@@ -1,4 +1,5 @@
 #include "spreadsheet/Address.h"
+#include "tests/spreadsheet/contract/FileContract.h"
 #include "tests/spreadsheet/contract/RecoveryContract.h"
 #include "tests/spreadsheet/embedded/Rig.h"
 

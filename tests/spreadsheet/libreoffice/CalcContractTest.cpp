@@ -1,4 +1,5 @@
 #include "spreadsheet/journal/JournalledSpreadsheet.h"
+#include "tests/spreadsheet/contract/FileContract.h"
 #include "tests/spreadsheet/contract/RecoveryContract.h"
 #include "tests/spreadsheet/libreoffice/CalcWorld.h"
 
