@@ -89,6 +89,9 @@ inline const std::vector<NamedCall>& callsOnWorkbook() {
         {"paste", [](App& app) { app.paste(); }},
         {"readBlock", [](App& app) { app.readBlock(QStringLiteral("B1:C2")); }},
         {"writeBlock", [](App& app) { app.writeBlock(QStringLiteral("B1"), {{1.0}}); }},
+        {"insertRow", [](App& app) { app.insertRow(1); }},
+        {"deleteRow", [](App& app) { app.deleteRow(1); }},
+        {"putBack", [](App& app) { app.putBack(QStringLiteral("B1"), {{1.0}}); }},
     };
     return calls;
 }
