@@ -12,8 +12,9 @@ namespace zvonika {
 
 namespace {
 
-/// What a journal calls its workbook becomes the name of a file; it must not lead anywhere else.
-bool isBareName(const QString& name) {
+/// What a journal calls its workbook becomes the name of a file; it must be shown as it is and lead nowhere
+/// else.
+bool mayNameFile(const QString& name) {
     return !name.isEmpty() && !name.startsWith(QLatin1Char('.')) && name == shownName(name) &&
            !name.contains(QLatin1Char('/')) && !name.contains(QLatin1Char('\\'));
 }
@@ -35,7 +36,7 @@ std::unique_ptr<Document> Opening::open(const QString& nativePath) {
 void Opening::recoverUnsaved() {
     for (auto& pending : offers_.pending({})) {
         const QString name = pending.contents.base.name;
-        const bool usable = isBareName(name) && !session_.find(name);
+        const bool usable = mayNameFile(name) && !session_.find(name);
         auto document = std::make_unique<Document>(usable ? name : session_.nextName(), journals_);
         offer(*document, std::move(pending));
         if (document->journal().hasRecovered()) session_.add(std::move(document));
