@@ -1,8 +1,8 @@
-#include "spreadsheet/libreoffice/PatientCalls.h"
+#include "platform/waiting/PatientCalls.h"
 
 #include "platform/RuntimeError.h"
-#include "spreadsheet/libreoffice/CallThread.h"
-#include "spreadsheet/libreoffice/HeldEvents.h"
+#include "platform/waiting/CallThread.h"
+#include "platform/waiting/HeldEvents.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
