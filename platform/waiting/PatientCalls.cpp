@@ -20,7 +20,6 @@ using std::chrono::milliseconds;
 
 constexpr milliseconds unfelt{80};      ///< a wait this long needs no window
 constexpr milliseconds signPeriod{100}; ///< between signs of a longer one
-constexpr milliseconds untilBroken{3000};
 
 void wakeEventLoop() {
     if (auto* application = QCoreApplication::instance())
@@ -117,7 +116,7 @@ bool PatientCalls::State::waitWithWindow(milliseconds patience) {
 
 void PatientCalls::State::breakOff() {
     customs.breakOff();
-    if (!thread.waitFor(untilBroken)) {
+    if (!thread.waitFor(customs.untilBroken)) {
         thread.giveUp();
         lost = true;
     }

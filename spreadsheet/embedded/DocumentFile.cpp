@@ -17,9 +17,14 @@ DocumentFile::DocumentFile(const QString& nativePath, QByteArray hash, bool oldF
       hash_(std::move(hash)), oldFormat_(oldFormat) {}
 
 bool DocumentFile::isChangedOnDisk() const {
-    if (path_.isEmpty() || !QFileInfo::exists(path_)) return false;
-    const QByteArray now = contentHashOfFile(path_);
-    return now != hash_ && now != writingHash_;
+    if (path_.isEmpty()) return false;
+    bool there = false;
+    QByteArray now;
+    work_([&] {
+        there = QFileInfo::exists(path_);
+        if (there) now = contentHashOfFile(path_);
+    });
+    return there && now != hash_ && now != writingHash_;
 }
 
 bool DocumentFile::isAt(const QString& nativePath) const {
@@ -39,9 +44,11 @@ void DocumentFile::store(const QString& nativePath, const Source& source) {
         QByteArray hash = contentHash(pieces);
         source.announce(nativePath, hash);
         writingHash_ = hash;
-        writeAtomically(nativePath, pieces);
+        work_([&] {
+            writeAtomically(nativePath, pieces);
+            qCInfo(savingLog).noquote() << nativePath << "uložen, bajtů" << image.size();
+        });
         hash_ = std::move(hash);
-        qCInfo(savingLog).noquote() << nativePath << "uložen, bajtů" << image.size();
     });
 }
 

@@ -40,6 +40,10 @@ public:
 
     void markModified() { setModified(true); }
 
+    /// Carries out what works on the file itself, and comes back when it is done. At once, where none is set.
+    using Work = std::function<void(const std::function<void()>& work)>;
+    void setWork(Work work) { work_ = std::move(work); }
+
     struct Source {
         std::function<xls::FileImage()> contents;
         /// Told of what will be written, and where, before it is.
@@ -66,6 +70,7 @@ private:
     QByteArray writingHash_; ///< of what a save has tried to write; it may be there although the save failed
     bool modified_ = false;
     bool oldFormat_ = false;
+    Work work_ = [](const std::function<void()>& work) { work(); };
 };
 
 } // namespace zvonika

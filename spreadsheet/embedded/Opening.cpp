@@ -26,11 +26,20 @@ Opening::Opening(Session& session, JournalFolder journals)
 }
 
 std::unique_ptr<Document> Opening::open(const QString& nativePath) {
+    // The first question to a folder that may not answer.
+    session_.files().read(nativePath, [nativePath] { QFileInfo::exists(nativePath); });
     auto document =
-        Document::open(nativePath, journals_, lockToOpen(session_.dialogs(), jmenoTabulky, nativePath));
+        Document::open(nativePath, journals_, lockToOpen(session_.dialogs(), jmenoTabulky, nativePath),
+                       [this](const QString& path) { return read(path); });
     for (auto& pending : offers_.pending(nativePath))
         offer(*document, std::move(pending));
     return document;
+}
+
+WorkbookFile Opening::read(const QString& nativePath) {
+    const auto read = std::make_shared<std::optional<WorkbookFile>>();
+    session_.files().read(nativePath, [read, nativePath] { *read = readWorkbook(nativePath); });
+    return std::move(**read);
 }
 
 void Opening::recoverUnsaved() {

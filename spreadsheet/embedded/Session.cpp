@@ -43,6 +43,7 @@ Document& Session::add(std::unique_ptr<Document> document) {
             if (listener_) listener_->troubleChanged();
         },
         Qt::QueuedConnection);
+    document->setFileWork([this](const std::function<void()>& work) { files_.write(work); });
     documents_.push_back(std::move(document));
     activate(*documents_.back());
     return *active_;
