@@ -36,6 +36,7 @@ public:
     SheetCursor& cursor() { return cursor_; }
     const SheetCursor& cursor() const { return cursor_; }
     const DocumentFile& file() const { return file_; }
+    void unlockFile() { file_.unlock(); }
     void setFileWork(DocumentFile::Work work) { file_.setWork(std::move(work)); }
     WorkbookJournal& journal() { return journal_; }
     const WorkbookJournal& journal() const { return journal_; }

@@ -59,18 +59,27 @@ void DocumentFile::save(const Source& source) {
 
 void DocumentFile::saveAs(const QString& nativePath, const Source& source) {
     const bool sameFile = isAt(nativePath);
-    FileLock lock = sameFile ? std::move(lock_) : FileLock::acquire(nativePath);
+    FileLock lock;
+    if (sameFile)
+        lock = std::move(lock_);
+    else
+        work_([&] { lock = FileLock::acquire(nativePath); });
     try {
         store(nativePath, source);
     } catch (...) {
         if (sameFile) lock_ = std::move(lock);
         throw;
     }
+    unlock();
     lock_ = std::move(lock);
     path_ = nativePath;
     name_ = QFileInfo(nativePath).fileName();
     Q_EMIT nameChanged();
     becomeSaved();
+}
+
+void DocumentFile::unlock() {
+    if (lock_.isHeld()) work_([this] { lock_ = {}; });
 }
 
 void DocumentFile::becomeSaved() {

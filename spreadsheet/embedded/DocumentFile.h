@@ -54,6 +54,9 @@ public:
     /// As `save`, under a new name that the workbook has from then on; an existing file is replaced.
     void saveAs(const QString& nativePath, const Source& source);
 
+    /// The workbook is being closed: nobody is kept from its file any more.
+    void unlock();
+
 Q_SIGNALS:
     void nameChanged();
     void modifiedChanged();

@@ -28,9 +28,10 @@ Opening::Opening(Session& session, JournalFolder journals)
 std::unique_ptr<Document> Opening::open(const QString& nativePath) {
     // The first question to a folder that may not answer.
     session_.files().read(nativePath, [nativePath] { QFileInfo::exists(nativePath); });
-    auto document =
-        Document::open(nativePath, journals_, lockToOpen(session_.dialogs(), jmenoTabulky, nativePath),
-                       [this](const QString& path) { return read(path); });
+    const auto beside = [this](const std::function<void()>& work) { session_.files().write(work); };
+    auto document = Document::open(nativePath, journals_,
+                                   lockToOpen(session_.dialogs(), jmenoTabulky, nativePath, beside),
+                                   [this](const QString& path) { return read(path); });
     for (auto& pending : offers_.pending(nativePath))
         offer(*document, std::move(pending));
     return document;

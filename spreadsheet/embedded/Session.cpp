@@ -62,6 +62,7 @@ void Session::remove(Document& document) {
     documents_.erase(found);
     active_ = documents_.empty() ? nullptr : documents_.back().get();
     showActive();
+    gone->unlockFile();
 }
 
 void Session::refuseTwin(const QString& name, const Document* self) const {
