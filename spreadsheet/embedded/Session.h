@@ -66,6 +66,8 @@ public:
     void setListener(SpreadsheetListener* listener) { listener_ = listener; }
     /// Tells the listener what the user has done: at once, or after the program's call if one is under way.
     void report(bool edited, bool moved);
+    /// ... that he has given a workbook of this name another one, or another folder.
+    void reportRenamed(const QString& before, const DocumentFile& file);
 
     /// A call of the program that leaves what is shown, writes to it or reads all of it: begins by taking
     /// what the user is just typing. The listener hears of that when the call is over.

@@ -89,6 +89,7 @@ private:
     void recoverUnsaved();
     void restore(RecordedWorkbook& workbook, PendingJournal pending);
     void look();
+    void see(RecordedWorkbook& workbook, WorkbookImage image);
     void noteSave();
 
     std::unique_ptr<LiveSpreadsheet> live_;
