@@ -89,6 +89,8 @@ bool Program::krokPedalu(bool dopredu) {
 void Program::workbookRenamed(const QString& before, const QString& now, const QString& fullName) {
     if (modely_.pisen.aktualniPisen.compare(before, Qt::CaseInsensitive) != 0) return;
     konverzace_.pisen().zivotPisne.prejmenujPisen(now, fullName);
+    if (modely_.pisen.aplikaceExcel)
+        modely_.pisen.aplikaceExcel->stepsChanged(); // those of the song by its new name
     udalosti_.ukazStav();
 }
 
