@@ -6,6 +6,7 @@
 #include "app/RozmisteniOken.h"
 #include "app/TabulkaLibreOffice.h"
 #include "app/ui/IkonaProgramu.h"
+#include "app/ui/UkazatelCekani.h"
 #include "platform/HomeDrive.h"
 #include "platform/IniSettingsStore.h"
 #include "platform/PluginFolders.h"
@@ -107,14 +108,17 @@ struct Sestava::Casti {
     }
 
     std::unique_ptr<SpreadsheetApplication> novaTabulka() {
-        return std::make_unique<EmbeddedApplication>(
+        auto tabulka = std::make_unique<EmbeddedApplication>(
             drive, dialogs, *nastaveniTabulky, zaznamy,
             [this](SheetCommands& prikazy) { return oknoTabulky(prikazy); });
+        tabulka->keepWindow([this] { cekani.ceka(); }, [this] { cekani.konec(); });
+        return tabulka;
     }
 
     std::unique_ptr<SheetView> oknoTabulky(SheetCommands& prikazy) {
         auto okno = std::make_unique<SheetWindow>(prikazy, popisSloupcu());
         QObject::connect(okno.get(), &SheetWindow::f6Pressed, &program, &Program::prejdiNaHlavniOkno);
+        okno->takePageKey = [this](bool dolu) { return program.krokPedalu(dolu); };
         umisti(*okno, okna.tabulka);
         return okno;
     }
@@ -140,6 +144,7 @@ struct Sestava::Casti {
     DesktopShell shell;
     QtWakeUpClock hodiny;
     RozmisteniOken okna;
+    UkazatelCekani cekani;
     TabulkaLibreOffice libreOffice;
     Program program;
 };
