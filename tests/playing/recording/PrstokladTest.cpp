@@ -74,6 +74,19 @@ TEST_F(ZadaniPrstuTest, ADoubleClickOnAMarkedButtonChangesNothingElseAndAsksNoth
     EXPECT_TRUE(diskant.oznacen(2));
 }
 
+TEST_F(ZadaniPrstuTest, AFingerTakesThePlaceOfTheOneTakenOverUntilItIsTakenBack) {
+    prstoklad.prevezmi("l12;1\\l9;2\\s12;3\\");
+    prstoklad.pridej(u'l', 12, "5");
+    EXPECT_EQ(prstoklad.prstoklad(), "l9;2\\s12;3\\l12;5\\");
+    prstoklad.pridej(u'l', 12, "4"); // two that were entered stay two
+    EXPECT_EQ(prstoklad.prstoklad(), "l9;2\\s12;3\\l12;5\\l12;4\\");
+    prstoklad.odeberPosledni();
+    prstoklad.odeberPosledni();
+    EXPECT_EQ(prstoklad.prstoklad(), "l12;1\\l9;2\\s12;3\\");
+    prstoklad.odeberPosledni();
+    EXPECT_EQ(prstoklad.prstoklad(), "l12;1\\l9;2\\");
+}
+
 TEST_F(ZadaniPrstuTest, WhatWaitsIsListedWithTheButtonsThatAreNotMarked) {
     QStringList seznamy;
     QObject::connect(&prstoklad, &Prstoklad::zmeneno, [&] { seznamy << ceka(); });
