@@ -251,9 +251,8 @@ TEST_F(FileChoice, StartsInTheNearestFolderThereIsAndOffersSongsOnly) {
 
 TEST_F(FileChoice, ANameWithoutItsEndingIsFound) {
     ASSERT_TRUE(QFile::copy(folder.filePath("kočka.xls"), folder.filePath("1. Ach synku.xls")));
-    const std::pair<const char*, const char*> cases[] = {
-        {"kočka", "kočka.xls"}, {"1. Ach synku", "1. Ach synku.xls"}, {"VELKÁ", "VELKÁ.XLS"}};
-    for (const auto& [typed, chosen] : cases)
+    for (const auto& [typed, chosen] :
+         {std::pair("kočka", "kočka.xls"), {"1. Ach synku", "1. Ach synku.xls"}, {"VELKÁ", "VELKÁ.XLS"}})
         for (const bool byMouse : {false, true}) {
             whenOpen<QFileDialog>([&, typed = typed](QFileDialog& box) {
                 typeName(box, typed, byMouse ? Qt::Key_End : Qt::Key_Return);
