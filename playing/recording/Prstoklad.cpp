@@ -1,5 +1,7 @@
 #include "playing/recording/Prstoklad.h"
 
+#include <algorithm>
+
 namespace zvonika {
 
 namespace {
@@ -19,28 +21,54 @@ QStringList rozdel(const QString& prstoklad) {
 } // namespace
 
 void Prstoklad::pridej(QChar druh, int knoflik, const QString& prst) {
-    zmen(zaznamy_ + QStringList{druh + QString::number(knoflik) + u';' + prst + konecZaznamu});
+    predtim_.push_back(stav_);
+    const QString kNemu = druh + QString::number(knoflik) + u';';
+    Stav stav = stav_;
+    QStringList prevzate = stav.zaznamy.first(stav.prevzatych);
+    prevzate.removeIf([&](const QString& zaznam) { return zaznam.startsWith(kNemu); });
+    stav.zaznamy = prevzate + stav.zaznamy.sliced(stav.prevzatych) + QStringList{kNemu + prst + konecZaznamu};
+    stav.prevzatych = prevzate.size();
+    zmen(stav);
 }
 
 void Prstoklad::odeberPosledni() {
-    if (!prazdny()) zmen(zaznamy_.first(zaznamy_.size() - 1));
+    if (prazdny()) return;
+    Stav stav;
+    if (predtim_.empty()) {
+        stav.zaznamy = stav_.zaznamy.first(stav_.zaznamy.size() - 1);
+        stav.prevzatych = std::min(stav_.prevzatych, stav.zaznamy.size());
+    } else {
+        stav = predtim_.back();
+        predtim_.pop_back();
+    }
+    zmen(stav);
 }
 
 QString Prstoklad::odeber() {
     const QString prstoklad = this->prstoklad();
-    zmen({});
+    zacniZnovu({});
     return prstoklad;
 }
 
 void Prstoklad::nastav(const QString& prstoklad) {
     // An answer with a backslash in it is one entry as long as it waits here.
-    if (prstoklad != this->prstoklad()) zmen(rozdel(prstoklad));
+    if (prstoklad != this->prstoklad()) zacniZnovu({rozdel(prstoklad), 0});
 }
 
-void Prstoklad::zmen(const QStringList& zaznamy) {
-    if (zaznamy == zaznamy_) return;
-    zaznamy_ = zaznamy;
-    Q_EMIT zmeneno();
+void Prstoklad::prevezmi(const QString& prstoklad) {
+    const QStringList zaznamy = rozdel(prstoklad);
+    zacniZnovu({zaznamy, zaznamy.size()});
+}
+
+void Prstoklad::zacniZnovu(const Stav& stav) {
+    predtim_.clear();
+    zmen(stav);
+}
+
+void Prstoklad::zmen(const Stav& stav) {
+    const bool jine = stav.zaznamy != stav_.zaznamy;
+    stav_ = stav;
+    if (jine) Q_EMIT zmeneno();
 }
 
 } // namespace zvonika

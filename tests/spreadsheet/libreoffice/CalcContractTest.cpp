@@ -70,18 +70,9 @@ public:
     }
 
 private:
-    struct Listener : SpreadsheetListener {
-        void cursorMoved() override {}
-        void cellsEdited() override { ++edited; }
-        void workbookRenamed(const QString& before, const QString& now, const QString& fullName) override {
-            renamed << before << now << fullName;
-        }
-        QStringList renamed;
-        int edited = 0;
-    };
     CalcWorld world_;
     QTemporaryDir journals_;
-    Listener listener_;
+    RigListener listener_;
 };
 
 std::unique_ptr<SpreadsheetRig> makeCalcRig() {
