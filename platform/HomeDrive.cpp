@@ -10,25 +10,34 @@ namespace zvonika {
 
 namespace {
 
-#ifndef Q_OS_WIN
 QString withSlashes(QString path) {
     return path.replace(QLatin1Char('\\'), QLatin1Char('/'));
 }
-#endif
+
+/// A native path of a system with drives, which the root then has as well.
+bool isWithin(const QString& root, const QString& path) {
+    if (!hasDrive(root)) return false;
+    const QString folder = QDir::cleanPath(withSlashes(root)), file = QDir::cleanPath(withSlashes(path));
+    return (file + QLatin1Char('/')).startsWith(folder + QLatin1Char('/'), Qt::CaseInsensitive);
+}
 
 } // namespace
 
 HomeDrive::HomeDrive(const QString& root, const QString& programFolder)
     : root_(root), programFolder_(programFolder) {}
 
-QString HomeDrive::nativePath(const QString& path) const {
+QString HomeDrive::ofTheUser() {
 #ifdef Q_OS_WIN
-    return path;
+    return {};
 #else
-    if (!hasDrive(path)) return path;
+    return QDir::homePath();
+#endif
+}
+
+QString HomeDrive::nativePath(const QString& path) const {
+    if (root_.isEmpty() || !hasDrive(path) || isWithin(root_, path)) return path;
     if (path.at(0).toUpper() != QLatin1Char('C')) return {};
     return QDir::cleanPath(root_ + QLatin1Char('/') + withSlashes(path.mid(2)));
-#endif
 }
 
 bool HomeDrive::fileExists(const QString& path) const {

@@ -11,14 +11,17 @@
 
 #include <csignal>
 #include <gtest/gtest.h>
+#include <span>
 #include <sys/stat.h>
 
 namespace zvonika {
 namespace {
 
 TEST(HomeDrive, TurnsPathsIntoNativeOnes) {
-    const HomeDrive drive(QStringLiteral("/home/eva"), QStringLiteral("/usr/share/zvonika"));
-    const std::pair<QString, QString> cases[] = {
+    struct Case {
+        QString path, native;
+    };
+    const Case inFolder[] = {
         {pracovniAdresar, QStringLiteral("/home/eva/Dokumenty/Heligonka/Zvonika")},
         {QStringLiteral("c:/Dokumenty\\Kočka.xls"), QStringLiteral("/home/eva/Dokumenty/Kočka.xls")},
         {QStringLiteral("C:"), QStringLiteral("/home/eva")},
@@ -27,9 +30,24 @@ TEST(HomeDrive, TurnsPathsIntoNativeOnes) {
         {QStringLiteral("/srv/písně/a\\b.xls"), QStringLiteral("/srv/písně/a\\b.xls")},
         {QString(), QString()},
     };
-    for (const auto& [path, native] : cases)
-        EXPECT_EQ(drive.nativePath(path).toStdString(), native.toStdString()) << path.toStdString();
-    EXPECT_EQ(drive.programFolder(), QStringLiteral("/usr/share/zvonika"));
+    const Case amongDrives[] = {
+        {pracovniAdresar, QStringLiteral("D:/zkouška/Dokumenty/Heligonka/Zvonika")},
+        {QStringLiteral("C:\\zkouška\\a.xls"), QStringLiteral("D:/zkouška/zkouška/a.xls")},
+        {QStringLiteral("d:\\Zkouška\\a.xls"), QStringLiteral("d:\\Zkouška\\a.xls")},
+        {QStringLiteral("D:/zkouška"), QStringLiteral("D:/zkouška")},
+        {QStringLiteral("D:/zkouška jiná/a.xls"), QString()},
+        {QStringLiteral("D:/zkouška/../a.xls"), QString()},
+    };
+    const Case system[] = {{QStringLiteral("C:\\a.xls"), QStringLiteral("C:\\a.xls")},
+                           {QStringLiteral("D:\\a.xls"), QStringLiteral("D:\\a.xls")}};
+    const std::pair<QString, std::span<const Case>> roots[] = {
+        {QStringLiteral("/home/eva"), inFolder}, {QStringLiteral("D:\\zkouška"), amongDrives}, {{}, system}};
+    for (const auto& [root, cases] : roots) {
+        const HomeDrive drive(root, QStringLiteral("/usr/share/zvonika"));
+        for (const auto& [path, native] : cases)
+            EXPECT_EQ(drive.nativePath(path).toStdString(), native.toStdString()) << path.toStdString();
+        EXPECT_EQ(drive.programFolder(), QStringLiteral("/usr/share/zvonika"));
+    }
 }
 
 TEST(HomeDrive, CreatesOneFolderAtATimeAndTellsFilesFromFolders) {
