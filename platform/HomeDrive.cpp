@@ -1,5 +1,7 @@
 #include "platform/HomeDrive.h"
 
+#include "platform/ShownText.h"
+#include "platform/files/FileLock.h"
 #include "platform/files/SetAsideFile.h"
 
 #include <QDir>
@@ -37,7 +39,7 @@ QString HomeDrive::ofTheUser() {
 QString HomeDrive::nativePath(const QString& path) const {
     if (root_.isEmpty() || !hasDrive(path) || isWithin(root_, path)) return path;
     if (path.at(0).toUpper() != QLatin1Char('C')) return {};
-    return QDir::cleanPath(root_ + QLatin1Char('/') + withSlashes(path.mid(2)));
+    return QDir::cleanPath(withSlashes(root_) + QLatin1Char('/') + withSlashes(path.mid(2)));
 }
 
 bool HomeDrive::fileExists(const QString& path) const {
@@ -76,6 +78,14 @@ QString HomeDrive::readOnlyBecause(const QString& path) const {
     if (!file.isWritable()) return QStringLiteral("Soubor „%1“ je jen pro čtení.").arg(name);
     if (QFileInfo(file.absolutePath()).isWritable()) return {};
     return QStringLiteral("Do složky, ve které je soubor „%1“, nemáte právo zapisovat.").arg(name);
+}
+
+QString HomeDrive::unlockedBecause(const QString& path) const {
+    const QString native = nativePath(path);
+    if (FileLock::holder(native)) return {};
+    return QStringLiteral("Soubor „%1“ nejde zamknout: kdyby ho otevřel ještě někdo, nikdo z Vás by se to "
+                          "nedozvěděl.")
+        .arg(shownFileName(native));
 }
 
 } // namespace zvonika

@@ -22,6 +22,7 @@ public:
     std::unique_ptr<SetAside> setAside(const QString& path) override;
     QStringList bringBackSetAside(const QString& folder) override;
     QString readOnlyBecause(const QString& path) const override;
+    QString unlockedBecause(const QString& path) const override;
     QString programFolder() const override { return programFolder_; }
 
 private:
