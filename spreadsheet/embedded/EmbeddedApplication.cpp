@@ -51,6 +51,7 @@ void EmbeddedApplication::setVisible(bool visible) {
 
 void EmbeddedApplication::quit() {
     const Session::ProgramCall call(session_);
+    endStep();
     Saving(session_).offerUnsaved();
     const Session::State before = session_.state();
     session_.end(Session::State::Ended);
@@ -100,7 +101,9 @@ void EmbeddedApplication::saveUnder(const QString& nativePath) {
     const QFileInfo target(nativePath);
     Saving saving(session_);
     saving.makeRoom(target.fileName(), &saved);
-    if (target.isFile() && !mayReplace(session_.dialogs(), jmenoTabulky, target.fileName()))
+    bool replaces = false;
+    session_.files().write([&] { replaces = target.isFile(); });
+    if (replaces && !mayReplace(session_.dialogs(), jmenoTabulky, target.fileName()))
         refuseNotReplaced(target.fileName());
     if (!saving.mayConvert(saved)) refuse(notConverted(nativePath));
     saved.saveAs(nativePath);
@@ -122,6 +125,7 @@ void EmbeddedApplication::saveInPlace(Document& saved, const QString& nativePath
 void EmbeddedApplication::closeActiveWorkbook() {
     const Session::ProgramCall call(session_);
     Document& closed = document();
+    endStep();
     if (!closed.journal().hasRecovered()) closed.journal().giveUp();
     session_.remove(closed);
 }

@@ -25,6 +25,10 @@ public:
     /// The user's side, as the window has it.
     SheetCommands& commands() { return commands_; }
     const Session& session() const { return session_; }
+    /// As `SlowFiles::keepWindow`, for files that let the user wait.
+    void keepWindow(std::function<void()> waiting, std::function<void()> over) {
+        session_.files().keepWindow(std::move(waiting), std::move(over));
+    }
 
     QString defaultFilePath() const override;
     void setDefaultFilePath(const QString& path) override;
@@ -74,6 +78,16 @@ public:
 
     CellBlock readBlock(const QString& address) const override;
     void writeBlock(const QString& address, const CellBlock& block) override;
+
+    /// 1004 when a formula or, moving down, the last row is in the way.
+    void insertRow(int row) override;
+    void deleteRow(int row) override;
+    void putBack(const QString& address, const CellBlock& block) override;
+
+    void beginStep() override;
+    void endStep() override;
+    void setStepKeeper(StepKeeper* keeper) override { session_.setStepKeeper(keeper); }
+    void stepsChanged() override { session_.stepsChanged(); }
 
     void finishWriting() override {}
     bool userIsTyping() const override { return session_.userIsTyping(); }

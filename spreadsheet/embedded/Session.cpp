@@ -3,6 +3,7 @@
 #include "platform/ShownText.h"
 #include "spreadsheet/Refusals.h"
 #include "spreadsheet/SpreadsheetApplication.h"
+#include "spreadsheet/StepKeeper.h"
 
 #include <algorithm>
 #include <utility>
@@ -43,6 +44,7 @@ Document& Session::add(std::unique_ptr<Document> document) {
             if (listener_) listener_->troubleChanged();
         },
         Qt::QueuedConnection);
+    document->setFileWork([this](const std::function<void()>& work) { files_.write(work); });
     documents_.push_back(std::move(document));
     activate(*documents_.back());
     return *active_;
@@ -61,6 +63,7 @@ void Session::remove(Document& document) {
     documents_.erase(found);
     active_ = documents_.empty() ? nullptr : documents_.back().get();
     showActive();
+    gone->unlockFile();
 }
 
 void Session::refuseTwin(const QString& name, const Document* self) const {
@@ -92,6 +95,19 @@ void Session::report(bool edited, bool moved) {
     if (programCalls_ > 0) return;
     if (std::exchange(owesEdited_, false) && listener_) listener_->cellsEdited();
     if (std::exchange(owesMoved_, false) && listener_) listener_->cursorMoved();
+}
+
+void Session::setStepKeeper(StepKeeper* keeper) {
+    keeper_ = keeper;
+    stepsChanged();
+}
+
+StepKeeper* Session::keeperOf(const Document& document) const {
+    return keeper_ && keeper_->keeps(document.file().name()) ? keeper_ : nullptr;
+}
+
+void Session::stepsChanged() {
+    if (active_) Q_EMIT active_->historyChanged();
 }
 
 // By the event loop and not here, where the program is still in its own step. A box may run that loop within

@@ -3,6 +3,7 @@
 #include "platform/Dialogs.h"
 #include "spreadsheet/embedded/Document.h"
 #include "spreadsheet/embedded/SheetView.h"
+#include "spreadsheet/embedded/SlowFiles.h"
 
 #include <functional>
 #include <memory>
@@ -11,6 +12,7 @@
 namespace zvonika {
 
 class SpreadsheetListener;
+class StepKeeper;
 
 /// What the built-in application calls itself in its own boxes.
 inline const QString jmenoTabulky = QStringLiteral("Tabulka Zvoniky");
@@ -21,7 +23,7 @@ class Session {
 public:
     enum class State { Running, QuitByUser, Ended };
 
-    explicit Session(Dialogs& dialogs) : dialogs_(dialogs) {}
+    explicit Session(Dialogs& dialogs) : dialogs_(dialogs), files_(dialogs) {}
 
     // --- workbooks ---
     Document* active() const { return active_; } ///< nullptr without a workbook
@@ -63,9 +65,15 @@ public:
 
     // --- others ---
     Dialogs& dialogs() const { return dialogs_; }
+    SlowFiles& files() { return files_; }
     void setListener(SpreadsheetListener* listener) { listener_ = listener; }
     /// Tells the listener what the user has done: at once, or after the program's call if one is under way.
     void report(bool edited, bool moved);
+    void setStepKeeper(StepKeeper* keeper);
+    /// Who takes back what is done in this workbook; nullptr: its own history.
+    StepKeeper* keeperOf(const Document& document) const;
+    void stepsChanged(); ///< of the keeper
+    bool inProgramCall() const { return programCalls_ > 0; }
 
     /// A call of the program that leaves what is shown, writes to it or reads all of it: begins by taking
     /// what the user is just typing. The listener hears of that when the call is over.
@@ -85,7 +93,9 @@ private:
     void tellOwed();
 
     Dialogs& dialogs_;
+    SlowFiles files_;
     SpreadsheetListener* listener_ = nullptr;
+    StepKeeper* keeper_ = nullptr;
     int programCalls_ = 0;
     bool owesEdited_ = false; ///< the listener is still to be told
     bool owesMoved_ = false;
