@@ -159,8 +159,16 @@ public:
     }
 };
 
+/// The box that the user knows from his other programs, where there is one of the system's own; elsewhere the
+/// toolkit would take that of whatever desktop runs.
+#ifdef Q_OS_WIN
+constexpr bool ownBox = false;
+#else
+constexpr bool ownBox = true;
+#endif
+
 void setUp(QFileDialog& dialog, const QString& filter, const QString& folder) {
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setOption(QFileDialog::DontUseNativeDialog, ownBox);
     dialog.setNameFilter(qtFilter(filter));
     dialog.setDirectory(nearestExistingFolder(folder));
     dialog.setViewMode(QFileDialog::Detail);

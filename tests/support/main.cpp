@@ -19,6 +19,7 @@ int main(int argc, char* argv[]) {
 #ifndef Q_OS_WIN // where a program need not have that platform in it
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
 #endif
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); // no test could press their buttons
     Application application(argc, argv);
 #ifdef QT_WIDGETS_LIB
     const zvonika::testing::BoxWatch watch;

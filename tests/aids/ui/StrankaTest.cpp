@@ -172,10 +172,15 @@ TEST_F(StrankaTest, TheLighterViewSaysWhyItStandsIn) {
         tvurce = volbaProhlizece(slozky, piskoviste);
         EXPECT_TRUE(postav(Zobrazeni::Dane));
         EXPECT_TRUE(okno->findChild<QTextBrowser*>("brwWebBrowser"));
-        return text("lblNahrada");
+        const auto* nahrada = okno->findChild<QLabel*>("lblNahrada");
+        return nahrada ? nahrada->text() : QString();
     };
     pis("libzvonika_webengine.so", "this is no library");
+#ifdef Q_OS_WIN
+    const QString zadna; // nobody can have it there
+#else
     const QString zadna = "Zjednodušené zobrazení: není nainstalována součást Qt WebEngine.";
+#endif
     const auto vPoradku = [] { return WebSandbox::Usable; };
     EXPECT_EQ(duvod({slozka.filePath("neni")}, vPoradku), zadna);
     EXPECT_EQ(duvod({slozka.filePath("neni"), slozka.path()}, vPoradku), zadna);
