@@ -19,12 +19,12 @@ void check(BOOL done) {
 }
 
 /// Others may look at the file while it is open here: a scanner, a backup. Whose it is, its lock tells.
-HANDLE openFile(const QString& path, DWORD disposition) {
+HANDLE openFile(const QString& path, DWORD access, DWORD disposition) {
     constexpr DWORD everybody = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     const WindowsPath name(path);
     HANDLE file = INVALID_HANDLE_VALUE;
     const auto error = Patience().ask([&]() -> unsigned long {
-        file = CreateFileW(name, GENERIC_READ | GENERIC_WRITE | DELETE, everybody, nullptr, disposition,
+        file = CreateFileW(name, access, everybody, nullptr, disposition,
                            FILE_ATTRIBUTE_HIDDEN | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
         return file == INVALID_HANDLE_VALUE ? GetLastError() : ERROR_SUCCESS;
     });
@@ -65,20 +65,40 @@ void writeAll(HANDLE file, const QByteArray& bytes) {
     if (written != DWORD(bytes.size())) throw std::system_error(windowsError(ERROR_DISK_FULL));
 }
 
-bool rename(HANDLE file, const QString& path) {
+constexpr DWORD readAndWrite = GENERIC_READ | GENERIC_WRITE;
+
+/// For a step that others would stand in the way of if it were open for that from the beginning.
+class ToBeRemoved {
+public:
+    explicit ToBeRemoved(const QString& path) : file_(openFile(path, DELETE, OPEN_EXISTING)) {}
+    ~ToBeRemoved() {
+        if (file_ != INVALID_HANDLE_VALUE) CloseHandle(file_);
+    }
+    ToBeRemoved(const ToBeRemoved&) = delete;
+    ToBeRemoved& operator=(const ToBeRemoved&) = delete;
+
+    bool change(FILE_INFO_BY_HANDLE_CLASS what, void* info, std::size_t size) const {
+        return SetFileInformationByHandle(file_, what, info, DWORD(size)) != 0;
+    }
+
+private:
+    HANDLE file_;
+};
+
+bool rename(const ToBeRemoved& file, const QString& path) {
     const WindowsPath target(path);
     const std::size_t length = std::wcslen(target) * sizeof(wchar_t);
     std::vector<std::byte> room(sizeof(FILE_RENAME_INFO) + length);
     auto* info = reinterpret_cast<FILE_RENAME_INFO*>(room.data());
     info->FileNameLength = DWORD(length);
     std::memcpy(info->FileName, static_cast<const wchar_t*>(target), length + sizeof(wchar_t));
-    return SetFileInformationByHandle(file, FileRenameInfo, info, DWORD(room.size())) != 0;
+    return file.change(FileRenameInfo, info, room.size());
 }
 
 } // namespace
 
 JournalFile JournalFile::create(const QString& path, const QByteArray& contents) {
-    const HANDLE file = openFile(path, CREATE_NEW);
+    const HANDLE file = openFile(path, readAndWrite, CREATE_NEW);
     check(file != INVALID_HANDLE_VALUE);
     JournalFile result(path, file);
     // Another program that looks for journals may have been quicker; it clears the empty file away.
@@ -98,9 +118,8 @@ std::optional<JournalFile> JournalFile::open(const QString& path, std::error_cod
         if (failure) *failure = std::make_error_code(std::errc::is_a_directory);
         return {};
     }
-    const HANDLE file = openFile(path, OPEN_EXISTING);
-    const std::error_code reason =
-        windowsError(file == INVALID_HANDLE_VALUE ? GetLastError() : ERROR_SUCCESS);
+    const HANDLE file = openFile(path, readAndWrite, OPEN_EXISTING);
+    std::error_code reason = windowsError(file == INVALID_HANDLE_VALUE ? GetLastError() : ERROR_SUCCESS);
     if (reason && reason != std::errc::no_such_file_or_directory && failure) *failure = reason;
     if (reason) return {};
     JournalFile result(path, file);
@@ -147,15 +166,14 @@ void JournalFile::flush() {
 void JournalFile::remove() {
     if (handle_ == INVALID_HANDLE_VALUE) return;
     FILE_DISPOSITION_INFO disposition{TRUE};
-    SetFileInformationByHandle(handle_, FileDispositionInfo, &disposition, sizeof disposition);
+    ToBeRemoved(path_).change(FileDispositionInfo, &disposition, sizeof disposition);
     close();
 }
 
 bool JournalFile::moveTo(const QString& path) {
-    const auto error = Patience().ask(
-        [&]() -> unsigned long { return rename(handle_, path) ? ERROR_SUCCESS : GetLastError(); });
-    if (error == ERROR_SUCCESS) close();
-    return error == ERROR_SUCCESS;
+    const bool moved = rename(ToBeRemoved(path_), path);
+    if (moved) close();
+    return moved;
 }
 
 void JournalFile::close() {

@@ -168,7 +168,8 @@ TEST_F(Boxes, AskForOneLineOfText) {
 }
 
 TEST(CzechTranslator, HasTheToolkitsTextsBesideItsOwnWords) {
-    const CzechTranslator whole({"/není", QLibraryInfo::path(QLibraryInfo::TranslationsPath)}),
+    const CzechTranslator whole(
+        {"/není", QLibraryInfo::path(QLibraryInfo::TranslationsPath), ZVONIKA_PLUGINS "/.."}),
         bare({"/není"});
     const struct {
         const char *context, *text, *czech;

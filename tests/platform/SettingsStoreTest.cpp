@@ -42,7 +42,7 @@ TEST_F(SettingsFile, KeepsTextsBySectionAndKey) {
 
 TEST_F(SettingsFile, IsAnIniFileThatAUserCanWrite) {
     IniSettingsStore(file).save(section, "1", "True");
-    EXPECT_EQ(contents(), "[Zabrany]\n1=True\n");
+    EXPECT_EQ(contents().replace("\r\n", "\n"), "[Zabrany]\n1=True\n");
     write("[PopisKnof]\nIndex=žluťoučký, kůň\n");
     EXPECT_EQ(IniSettingsStore(file).get("PopisKnof", "Index"), "žluťoučký, kůň");
 }

@@ -5,9 +5,11 @@
 #include <cstddef>
 
 #ifdef _WIN32
+#define WIN32_LEAN_AND_MEAN // the rest has names that are ours, too
 #include <malloc.h>
-#include <psapi.h>
 #include <windows.h>
+// after windows.h, which it needs
+#include <psapi.h>
 #else
 #include <malloc.h>
 #include <sys/resource.h>

@@ -127,13 +127,14 @@ TEST_F(WindowsFilesTest, AJournalIsItsOwnersFromBeginningToEnd) {
     EXPECT_EQ(contents(place), "začátek") << "others may look";
     EXPECT_FALSE(JournalFile::open(place));
     EXPECT_THROW(JournalFile::create(place, {}), std::system_error);
-    const Onlooker onlooker(place, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
+    Onlooker onlooker(place, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
     journal.appendAt(9, " a konec");
     EXPECT_TRUE(journal.moveTo(aside));
     EXPECT_FALSE(QFile::exists(place));
     auto found = JournalFile::open(aside);
     ASSERT_TRUE(found);
     EXPECT_EQ(found->readAll(), "začátek a konec");
+    onlooker.leave();
     found->remove();
     found.reset();
     EXPECT_FALSE(JournalFile::open(aside));

@@ -22,7 +22,7 @@ protected:
     }
     QStringList kept(const QString& subfolder = {}) const {
         return QDir(state.filePath(QStringLiteral("zaznamy/")) + subfolder)
-            .entryList(QDir::Files, QDir::Name);
+            .entryList(QDir::Files | QDir::Hidden, QDir::Name);
     }
     /// A process that dies leaves its journal.
     void crash(int rows, const JournalBase& of) {
