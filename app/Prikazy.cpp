@@ -103,7 +103,10 @@ const QVector<Menu>& menuPrikazu() {
         {"Pošta", {{"mnuMailAutorovi", "Poslat zprávu autorovi", "mnuMailAutorovi"}}},
         {"Nápověda",
          {{"mnuhtm", "Ovládání Tamíka", "mnuhtm", false, "F1"}, {"mnuOProgramu", "O programu", "cmdOPrg"}}},
-        {"Doplňky", {{"mnuTabulka", "Tabulkový program", "mnuTabulka"}}},
+        {"Doplňky",
+         {{"mnuVzitPrst", "Vzít zpět čekající prst", "mnuVzitPrst", false, "Shift+F2"},
+          {},
+          {"mnuTabulka", "Tabulkový program", "mnuTabulka"}}},
     };
     return tabulka;
 }

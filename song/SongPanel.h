@@ -39,6 +39,7 @@ public:
     QString zapsano;        ///< the grip that the last command has recorded, one sentence
     QString upozorneni;     ///< what the last command has to tell besides its boxes
     QString stav;           ///< status line: what to do next, warnings
+    QString prstokladCeka;  ///< the fingers that wait for the next grip; "" where none does
     int zapsanychHmatu = 0; ///< grips recorded in this run
 
     /// What stands first in the status line, emphasised; "" as a rule.

@@ -30,6 +30,10 @@ void PoZapisu::oznamZapis(int radek, SmerMechu smer) {
                                .arg(smer == SmerMechu::Tlak ? QStringLiteral("tlak") : QStringLiteral("tah"));
 }
 
+void PoZapisu::upozorni(const QString& veta) {
+    okoli_.panel.upozorneni = QStringList{veta, okoli_.panel.upozorneni}.join(u' ').trimmed();
+}
+
 void PoZapisu::obnovOkno() {
     list_.VyberBunkuB();
     PovolZpet(okoli_.prikazy); // the cursor has left the first row

@@ -20,6 +20,8 @@ public:
     void zapocitejHmat() { ++okoli_.panel.zapsanychHmatu; }
     /// Has it said that the grip of this row is recorded.
     void oznamZapis(int radek, SmerMechu smer);
+    /// Has it said besides, before what the shown row has to tell; nothing for "".
+    void upozorni(const QString& veta);
 
 private:
     void ukazNovyRadek(int radek);

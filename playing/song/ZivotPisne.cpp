@@ -45,6 +45,12 @@ void ZivotPisne::prevezmiPisen() {
     if (okoli_.pisen.AktivujPisen()) vOkne_.ukazOtevrenou();
 }
 
+void ZivotPisne::prejmenujPisen(const QString& nazev, const QString& plneJmeno) {
+    okoli_.pisen.aktualniPisen = nazev;
+    okoli_.pisen.plneJmeno = plneJmeno;
+    vOkne_.ukazJmeno();
+}
+
 void ZivotPisne::Combo1Click(const QString& list) {
     try {
         ukazList(list);

@@ -46,6 +46,12 @@ bool isStillThere(HANDLE file) {
     return GetFileInformationByHandleEx(file, FileStandardInfo, &info, sizeof info) && !info.DeletePending;
 }
 
+qint64 sizeOf(HANDLE file) {
+    LARGE_INTEGER size{};
+    check(GetFileSizeEx(file, &size));
+    return size.QuadPart;
+}
+
 bool isLinkOrFolder(HANDLE file) {
     FILE_BASIC_INFO info{};
     constexpr DWORD others = FILE_ATTRIBUTE_REPARSE_POINT | FILE_ATTRIBUTE_DIRECTORY;
@@ -120,9 +126,10 @@ std::optional<JournalFile> JournalFile::open(const QString& path, std::error_cod
     }
     const HANDLE file = openFile(path, readAndWrite, OPEN_EXISTING);
     std::error_code reason = windowsError(file == INVALID_HANDLE_VALUE ? GetLastError() : ERROR_SUCCESS);
+    JournalFile result(path, file);
+    if (!reason && sizeOf(file) > largestJournal) reason = std::make_error_code(std::errc::file_too_large);
     if (reason && reason != std::errc::no_such_file_or_directory && failure) *failure = reason;
     if (reason) return {};
-    JournalFile result(path, file);
     if (isLinkOrFolder(file) || !lock(file) || !isStillThere(file)) return {};
     return result;
 }
@@ -141,10 +148,9 @@ JournalFile::~JournalFile() {
 }
 
 QByteArray JournalFile::readAll() const {
-    LARGE_INTEGER size;
-    check(GetFileSizeEx(handle_, &size));
-    if (size.QuadPart > largestJournal) throw std::system_error(windowsError(ERROR_FILE_TOO_LARGE));
-    QByteArray bytes(static_cast<qsizetype>(size.QuadPart), Qt::Uninitialized);
+    const qint64 size = sizeOf(handle_);
+    if (size > largestJournal) throw std::system_error(windowsError(ERROR_FILE_TOO_LARGE));
+    QByteArray bytes(static_cast<qsizetype>(size), Qt::Uninitialized);
     DWORD read = 0;
     seek(handle_, 0);
     check(ReadFile(handle_, bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr));

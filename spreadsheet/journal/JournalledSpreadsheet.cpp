@@ -31,6 +31,7 @@ void JournalledSpreadsheet::setVisible(bool visible) {
 
 // What is not settled by then stays in its journal.
 void JournalledSpreadsheet::quit() {
+    endStep();
     look();
     live_->quit();
     forgetPlace();
@@ -61,12 +62,14 @@ void JournalledSpreadsheet::openWorkbook(const QString& fullName) {
 
 void JournalledSpreadsheet::saveActiveWorkbookAs(const SaveAsArguments& arguments) {
     active();
+    endStep();
     live_->saveActiveWorkbookAs(arguments);
     noteSave();
 }
 
 void JournalledSpreadsheet::saveActiveWorkbook() {
     active();
+    endStep();
     live_->saveActiveWorkbook();
     noteSave();
 }
@@ -86,6 +89,7 @@ void JournalledSpreadsheet::noteSave() {
 
 void JournalledSpreadsheet::closeActiveWorkbook() {
     const int closed = place().workbook;
+    endStep();
     live_->closeActiveWorkbook();
     forgetPlace();
     RecordedWorkbook* workbook = find(closed);
@@ -158,10 +162,17 @@ void JournalledSpreadsheet::look() {
     if (!std::exchange(lookDue_, false)) return;
     try {
         for (const auto& workbook : workbooks_)
-            if (auto image = live_->image(workbook->id())) workbook->seen(std::move(*image));
+            if (auto image = live_->image(workbook->id())) see(*workbook, std::move(*image));
     } catch (const AutomationError& failure) {
         lookDue_ = failure.number() != error::objectNotSet;
     }
+}
+
+void JournalledSpreadsheet::see(RecordedWorkbook& workbook, WorkbookImage image) {
+    const QString name = workbook.image().name, path = workbook.image().path;
+    workbook.seen(std::move(image));
+    const WorkbookImage& now = workbook.image();
+    if (now.path != path && listener_) listener_->workbookRenamed(name, now.name, now.path);
 }
 
 void JournalledSpreadsheet::workbookSettled(int workbook) {
