@@ -79,7 +79,7 @@ struct Sestava::Casti {
     explicit Casti(const Umisteni& umisteni)
         : nastaveniProgramu(nastaveni(QStringLiteral("Tonavox12"), umisteni)),
           nastaveniTabulky(nastaveni(zvonika::nastaveniTabulky, umisteni)), zaznamy(slozkaZaznamu(umisteni)),
-          drive(umisteni.domov.isEmpty() ? QDir::homePath() : umisteni.domov, slozkaProgramu()),
+          drive(umisteni.domov.isEmpty() ? HomeDrive::ofTheUser() : umisteni.domov, slozkaProgramu()),
           media(systemMedia(drive, pluginFolders())),
           libreOffice(drive, dialogs, nastaveni(QStringLiteral("Calc Zvoniky"), umisteni),
                       profilyLibreOffice(umisteni), zaznamy),

@@ -13,6 +13,15 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 # The architecture test asks them what a folder can include.
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
+# Where an installation has the program, and its tables, manual and songs.
+if(WIN32)
+  set(ZVONIKA_PROGRAM_FOLDER .)
+  set(ZVONIKA_DATA_FOLDER .)
+else()
+  set(ZVONIKA_PROGRAM_FOLDER bin)
+  set(ZVONIKA_DATA_FOLDER share/zvonika)
+endif()
+
 # Opens HEADERS of this folder to whoever links `target`, under their path from the root: by a header of one line in a
 # search folder of the target's own.
 function(zvonika_open_headers target visibility)

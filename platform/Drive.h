@@ -48,9 +48,11 @@ public:
     /// have now, without folder.
     virtual QStringList bringBackSetAside(const QString& folder) = 0;
     /// Why a save in this existing file would be refused, as the disk shows it beforehand: one Czech
-    /// sentence;
-    /// "" when nothing is in its way.
+    /// sentence; "" when nothing is in its way.
     virtual QString readOnlyBecause(const QString& path) const = 0;
+    /// What to know of a file that is open here although no lock tells others so: one Czech sentence; "" when
+    /// one does.
+    virtual QString unlockedBecause(const QString& path) const = 0;
 
     /// The program's own folder (tables, manual), native.
     virtual QString programFolder() const = 0;

@@ -1,5 +1,7 @@
 #include "platform/HomeDrive.h"
 
+#include "platform/ShownText.h"
+#include "platform/files/FileLock.h"
 #include "platform/files/SetAsideFile.h"
 
 #include <QDir>
@@ -10,25 +12,34 @@ namespace zvonika {
 
 namespace {
 
-#ifndef Q_OS_WIN
 QString withSlashes(QString path) {
     return path.replace(QLatin1Char('\\'), QLatin1Char('/'));
 }
-#endif
+
+/// A native path of a system with drives, which the root then has as well.
+bool isWithin(const QString& root, const QString& path) {
+    if (!hasDrive(root)) return false;
+    const QString folder = QDir::cleanPath(withSlashes(root)), file = QDir::cleanPath(withSlashes(path));
+    return (file + QLatin1Char('/')).startsWith(folder + QLatin1Char('/'), Qt::CaseInsensitive);
+}
 
 } // namespace
 
 HomeDrive::HomeDrive(const QString& root, const QString& programFolder)
     : root_(root), programFolder_(programFolder) {}
 
-QString HomeDrive::nativePath(const QString& path) const {
+QString HomeDrive::ofTheUser() {
 #ifdef Q_OS_WIN
-    return path;
+    return {};
 #else
-    if (!hasDrive(path)) return path;
-    if (path.at(0).toUpper() != QLatin1Char('C')) return {};
-    return QDir::cleanPath(root_ + QLatin1Char('/') + withSlashes(path.mid(2)));
+    return QDir::homePath();
 #endif
+}
+
+QString HomeDrive::nativePath(const QString& path) const {
+    if (root_.isEmpty() || !hasDrive(path) || isWithin(root_, path)) return path;
+    if (path.at(0).toUpper() != QLatin1Char('C')) return {};
+    return QDir::cleanPath(withSlashes(root_) + QLatin1Char('/') + withSlashes(path.mid(2)));
 }
 
 bool HomeDrive::fileExists(const QString& path) const {
@@ -67,6 +78,14 @@ QString HomeDrive::readOnlyBecause(const QString& path) const {
     if (!file.isWritable()) return QStringLiteral("Soubor „%1“ je jen pro čtení.").arg(name);
     if (QFileInfo(file.absolutePath()).isWritable()) return {};
     return QStringLiteral("Do složky, ve které je soubor „%1“, nemáte právo zapisovat.").arg(name);
+}
+
+QString HomeDrive::unlockedBecause(const QString& path) const {
+    const QString native = nativePath(path);
+    if (FileLock::holder(native)) return {};
+    return QStringLiteral("Soubor „%1“ nejde zamknout: kdyby ho otevřel ještě někdo, nikdo z Vás by se to "
+                          "nedozvěděl.")
+        .arg(shownFileName(native));
 }
 
 } // namespace zvonika

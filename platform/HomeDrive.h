@@ -4,11 +4,13 @@
 
 namespace zvonika {
 
-/// Drive C: is one native folder, the user's home as a rule; there are no other drives. On Windows, where
-/// drives exist, paths are passed on as they are. Slashes and backslashes are both accepted after a drive; a
-/// path without a drive is native already.
+/// Drive C: is one native folder, the root; there are no other drives. Slashes and backslashes are both
+/// accepted after a drive; a path without a drive is native already, and so is one that lies in the root.
+/// With no root the drives are those of the system, and paths are passed on as they are.
 class HomeDrive : public Drive {
 public:
+    /// The root of a run that works with what the user has: the home folder, none on Windows.
+    static QString ofTheUser();
     /// `root`: the native folder that is C:; `programFolder`: where tables and manual live, native.
     HomeDrive(const QString& root, const QString& programFolder);
 
@@ -20,6 +22,7 @@ public:
     std::unique_ptr<SetAside> setAside(const QString& path) override;
     QStringList bringBackSetAside(const QString& folder) override;
     QString readOnlyBecause(const QString& path) const override;
+    QString unlockedBecause(const QString& path) const override;
     QString programFolder() const override { return programFolder_; }
 
 private:

@@ -25,6 +25,9 @@ constexpr SaveReason saveReasons[] = {
     {std::errc::file_too_large, reason::diskFull},
     {std::errc::not_enough_memory, u"nestačí paměť počítače"},
     {std::errc::is_a_directory, reason::isFolder},
+    {std::errc::text_file_busy, reason::openElsewhere},
+    {std::errc::state_not_recoverable,
+     u"disk ho uprostřed výměny přestal vydávat; jeho dosavadní podoba se vrátí na místo při příštím startu"},
     {std::errc::no_such_device, u"pod tímto jménem není obyčejný soubor"},
     {std::errc::too_many_symbolic_link_levels, u"odkaz, který na něj vede, nikam nevede"},
 };

@@ -19,6 +19,7 @@ inline constexpr char16_t damaged[] = u"je poškozený";
 inline constexpr char16_t mayNotWrite[] = u"nemáte oprávnění k zápisu";
 inline constexpr char16_t readOnlyDisk[] = u"disk je jen pro čtení";
 inline constexpr char16_t diskFull[] = u"na disku není dost místa";
+inline constexpr char16_t openElsewhere[] = u"má ho otevřený jiný program";
 inline constexpr char16_t isFolder[] = u"pod tímto jménem je na disku složka";
 QString folderMissing(const QString& nativePath); ///< names the folder of this file
 QString ofDisk(const std::error_code& error);     ///< why the system refuses to write

@@ -33,6 +33,7 @@ int prehraj(QApplication& aplikace, const QDir& slozka, zvonika::Tabulka tabulka
 } // namespace
 
 int main(int argc, char* argv[]) {
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); // the player could not press their buttons
     QApplication aplikace(argc, argv);
     QCommandLineParser zadano;
     zadano.setApplicationDescription("Plays the demonstration and leaves its song and pictures in FOLDER.");

@@ -10,7 +10,12 @@ namespace zvonika {
 
 namespace {
 
+/// Nothing is said where nobody can have it.
+#ifdef Q_OS_WIN
+const QString nenainstalovano;
+#else
 const QString nenainstalovano = QStringLiteral("není nainstalována součást Qt WebEngine");
+#endif
 
 QString duvod(WebSandbox stav) {
     switch (stav) {

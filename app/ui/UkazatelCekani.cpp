@@ -1,5 +1,6 @@
 #include "app/ui/UkazatelCekani.h"
 
+#include <QCursor>
 #include <QGuiApplication>
 
 #include <utility>

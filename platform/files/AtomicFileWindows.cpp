@@ -1,24 +1,22 @@
 #include "platform/files/AtomicFile.h"
 #include "platform/files/Checksum.h"
+#include "platform/files/Patience.h"
+#include "platform/files/Replacement.h"
+#include "platform/files/SetAsideFile.h"
+#include "platform/files/SystemFile.h"
+#include "platform/files/WindowsErrors.h"
+#include "platform/files/WindowsPath.h"
 
-#include <QDir>
-#include <QFileInfo>
 #include <QRandomGenerator>
 
 #include <algorithm>
-#include <system_error>
-#include <windows.h>
 
 namespace zvonika {
 
 namespace {
 
 [[noreturn]] void fail(DWORD code) {
-    throw std::system_error(static_cast<int>(code), std::system_category());
-}
-
-const wchar_t* wide(const QString& text) {
-    return reinterpret_cast<const wchar_t*>(text.utf16());
+    throw std::system_error(windowsError(code));
 }
 
 void writeAll(HANDLE file, std::span<const std::uint8_t> bytes) {
@@ -37,50 +35,78 @@ QString temporaryPrefix(const QString& target) {
 
 QString temporaryName(const QString& target) {
     const auto chance = QString::number(QRandomGenerator::system()->generate64(), 36);
-    const QString name = temporaryPrefix(target) + chance + QStringLiteral(".tmp");
-    return QDir::toNativeSeparators(QFileInfo(target).absolutePath() + QLatin1Char('/') + name);
+    return QFileInfo(target).absolutePath() + QLatin1Char('/') + temporaryPrefix(target) + chance +
+           QStringLiteral(".tmp");
 }
 
 /// The file behind the symbolic links, which need not exist.
 QString behindLinks(const QString& nativePath) {
-    const QFileInfo given(nativePath);
-    const QString canonical = given.canonicalFilePath();
-    const QString target = !canonical.isEmpty() ? canonical
-                           : given.isSymLink()  ? given.symLinkTarget()
-                                                : nativePath;
-    return QDir::toNativeSeparators(target);
+    QFileInfo file(nativePath);
+    for (int links = 0; file.isSymLink(); ++links) {
+        if (links == 40) fail(ERROR_CANT_RESOLVE_FILENAME);
+        file = QFileInfo(file.symLinkTarget());
+    }
+    return file.absoluteFilePath();
 }
 
-/// A new file beside the target, removed again unless it takes the target's place.
+/// Replacing must not get round a file's own write protection, nor turn a folder or a device into a file.
+void checkTarget(const QString& target) {
+    if (target.contains(QChar(u'\0'))) fail(ERROR_INVALID_NAME);
+    if (QFileInfo(target).fileName().size() > 255) fail(ERROR_FILENAME_EXCED_RANGE);
+    const QFileInfo above(QFileInfo(target).absolutePath());
+    if (above.exists() && !above.isDir()) fail(ERROR_DIRECTORY);
+    const DWORD attributes = GetFileAttributesW(WindowsPath(target));
+    if (attributes == INVALID_FILE_ATTRIBUTES) return;
+    if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
+        throw std::system_error(std::make_error_code(std::errc::is_a_directory));
+    if ((attributes & FILE_ATTRIBUTE_READONLY) != 0) fail(ERROR_ACCESS_DENIED);
+    if ((attributes & FILE_ATTRIBUTE_DEVICE) != 0)
+        throw std::system_error(std::make_error_code(std::errc::no_such_device));
+}
+
+class Disk : public DiskSteps {
+public:
+    bool exists(const QString& path) override {
+        return GetFileAttributesW(WindowsPath(path)) != INVALID_FILE_ATTRIBUTES;
+    }
+    unsigned long replace(const QString& target, const QString& fresh, const QString& backup) override {
+        return failureOf(ReplaceFileW(WindowsPath(target), WindowsPath(fresh), WindowsPath(backup),
+                                      REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr));
+    }
+    unsigned long move(const QString& from, const QString& to, bool over) override {
+        const DWORD flags = MOVEFILE_WRITE_THROUGH | (over ? MOVEFILE_REPLACE_EXISTING : 0);
+        return failureOf(MoveFileExW(WindowsPath(from), WindowsPath(to), flags));
+    }
+    void remove(const QString& path) override { removeFile(path); }
+
+private:
+    static unsigned long failureOf(BOOL done) { return done ? ERROR_SUCCESS : GetLastError(); }
+};
+
+/// A new hidden file beside the target, removed again unless it is complete.
 class Temporary {
 public:
     explicit Temporary(const QString& target)
-        : path_(temporaryName(target)), file_(CreateFileW(wide(path_), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
-                                                          FILE_ATTRIBUTE_NORMAL, nullptr)) {
+        : path_(temporaryName(target)), file_(CreateFileW(WindowsPath(path_), GENERIC_WRITE, 0, nullptr,
+                                                          CREATE_NEW, FILE_ATTRIBUTE_HIDDEN, nullptr)) {
         if (file_ == INVALID_HANDLE_VALUE) fail(GetLastError());
     }
     ~Temporary() {
         close();
-        if (!placed_) DeleteFileW(wide(path_));
+        if (!complete_) DeleteFileW(WindowsPath(path_));
     }
     Temporary(const Temporary&) = delete;
     Temporary& operator=(const Temporary&) = delete;
 
     void write(std::span<const std::uint8_t> bytes) { writeAll(file_, bytes); }
+    /// From now on it is a copy that must not get lost.
     void finish() {
         if (!FlushFileBuffers(file_)) fail(GetLastError());
         close();
+        complete_ = true;
+        SetFileAttributesW(WindowsPath(path_), FILE_ATTRIBUTE_NORMAL);
     }
-
-    /// ReplaceFile keeps rights and owner of the file that is there.
-    void place(const QString& target) {
-        const bool exists = QFileInfo::exists(target);
-        const BOOL done = exists ? ReplaceFileW(wide(target), wide(path_), nullptr,
-                                                REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr)
-                                 : MoveFileExW(wide(path_), wide(target), MOVEFILE_WRITE_THROUGH);
-        if (!done) fail(GetLastError());
-        placed_ = true;
-    }
+    const QString& path() const { return path_; }
 
 private:
     void close() {
@@ -90,7 +116,7 @@ private:
 
     QString path_;
     HANDLE file_;
-    bool placed_ = false;
+    bool complete_ = false;
 };
 
 } // namespace
@@ -99,13 +125,25 @@ void writeAtomically(const QString& nativePath, std::span<const std::uint8_t> by
     writeAtomically(nativePath, [bytes](const auto& take) { take(bytes); });
 }
 
+// The old file waits under its own name in a folder, where the next start finds it if the program does not
+// come to an end.
 void writeAtomically(const QString& nativePath, const BytePieces& contents) {
     const QString target = behindLinks(nativePath);
-    if (QFileInfo(target).isDir()) fail(ERROR_DIRECTORY);
+    checkTarget(target);
     Temporary file(target);
     contents([&](std::span<const std::uint8_t> piece) { file.write(piece); });
     file.finish();
-    file.place(target);
+    const QString aside = newReplacedFolder(target);
+    const bool replaces = QFileInfo::exists(target);
+    if (const auto refused = replaces ? makeHiddenFolder(aside) : std::error_code()) {
+        removeFile(file.path());
+        throw std::system_error(refused);
+    }
+    Disk disk;
+    const auto error =
+        putInPlace(disk, Patience(), target, file.path(), aside + u'/' + QFileInfo(target).fileName());
+    if (replaces) RemoveDirectoryW(WindowsPath(aside)); // an empty one
+    if (error != 0) fail(error);
 }
 
 void removeLeftovers(const QString& nativePath) {

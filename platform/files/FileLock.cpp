@@ -3,15 +3,20 @@
 #include "platform/RuntimeError.h"
 #include "platform/files/Checksum.h"
 #include "platform/files/ExclusiveFile.h"
+#include "platform/files/FileNames.h"
 #include "platform/files/LockSentences.h"
 #include "platform/files/OfficeLock.h"
 #include "platform/files/ProcessStart.h"
 #include "platform/files/RegularFile.h"
+#include "platform/files/SameFile.h"
+#include "platform/files/SystemFile.h"
+#include "platform/files/UserName.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QMessageAuthenticationCode>
+#include <QMutex>
 #include <QStringList>
 #include <QSysInfo>
 #include <QThread>
@@ -26,12 +31,6 @@ const QString formName = QStringLiteral("Tabulka Zvoniky 1");
 constexpr qint64 largestLock = 4096; ///< bytes
 constexpr int attempts = 40;
 constexpr unsigned long pauseBetween = 5; ///< ms; a lock is written in much less
-
-/// Two links to one file mean one lock.
-QFileInfo lockedFile(const QString& nativePath) {
-    const QString canonical = QFileInfo(nativePath).canonicalFilePath();
-    return QFileInfo(canonical.isEmpty() ? nativePath : canonical);
-}
 
 /// Equal for equal identifiers, and tells nothing else of them: a lock lies where others read it.
 QString veiled(const QByteArray& identifier) {
@@ -58,7 +57,7 @@ LockHolder ourselves() {
     static const QString machine = veiled(QSysInfo::machineUniqueId());
     static const QString boot = veiled(QSysInfo::bootUniqueId());
     const qint64 process = QCoreApplication::applicationPid();
-    return {{},
+    return {userOfFiles(),
             QSysInfo::machineHostName(),
             QCoreApplication::applicationName(),
             process,
@@ -70,7 +69,8 @@ LockHolder ourselves() {
 /// One line each, so that a text that is not whole shows.
 QByteArray textOf(const LockHolder& holder) {
     const QStringList lines{formName,     holder.host, holder.program, QString::number(holder.process),
-                            holder.start, holder.boot, holder.machine, QString()};
+                            holder.start, holder.boot, holder.machine, holder.user,
+                            QString()};
     return lines.join(QLatin1Char('\n')).toUtf8();
 }
 
@@ -78,7 +78,7 @@ QByteArray textOf(const LockHolder& holder) {
 std::optional<LockHolder> parsed(const QByteArray& text) {
     const QStringList lines = QString::fromUtf8(text).split(QLatin1Char('\n'));
     if (lines.size() < 8 || lines[0] != formName) return {};
-    return LockHolder{{}, lines[1], lines[2], lines[3].toLongLong(), lines[6], lines[5], lines[4]};
+    return LockHolder{lines[7], lines[1], lines[2], lines[3].toLongLong(), lines[6], lines[5], lines[4]};
 }
 
 /// Copies of one installation have one identifier on many computers.
@@ -95,7 +95,42 @@ bool isGone(const LockHolder& holder) {
     return !start || (!holder.start.isEmpty() && !start->isEmpty() && *start != holder.start);
 }
 
-enum class State { Free, Held, Dead, Meaningless, BeingWritten };
+/// The locks that this process could not delete when it gave them back. They are no more locks than before;
+/// what belongs to a process is kept for the process.
+class GivenBack {
+public:
+    static void add(const QString& path) {
+        const QMutexLocker locker(&mutex());
+        if (!paths().contains(path)) paths() << path;
+    }
+    static bool contains(const QString& path) {
+        const QMutexLocker locker(&mutex());
+        return paths().contains(path);
+    }
+    static void remove(const QString& path) {
+        const QMutexLocker locker(&mutex());
+        paths().removeAll(path);
+    }
+
+private:
+    static QStringList& paths() {
+        static QStringList paths;
+        return paths;
+    }
+    static QMutex& mutex() {
+        static QMutex mutex;
+        return mutex;
+    }
+};
+
+enum class State {
+    Free,
+    Held,
+    Dead,
+    Ours, ///< given back, but not deleted
+    Meaningless,
+    BeingWritten
+};
 
 struct Found {
     State state = State::Free;
@@ -116,10 +151,13 @@ Found look(const QString& path) {
     if (lock.bytes.isEmpty()) return {State::BeingWritten, {}, {}};
     const auto holder = parsed(lock.bytes);
     if (!holder) return {State::Meaningless, lock.bytes, {}};
+    if (lock.bytes == textOf(ourselves()) && GivenBack::contains(path))
+        return {State::Ours, lock.bytes, *holder};
     return {isGone(*holder) ? State::Dead : State::Held, lock.bytes, *holder};
 }
 
-/// Of a link it would be the owner of what it leads to.
+/// What the disk says of it cannot be made up; where it says nothing, the lock itself has to. Of a link it
+/// would be the owner of what it leads to.
 QString ownerOf(const QString& path) {
     const QFileInfo file(path);
     return file.isSymLink() ? QString() : file.owner();
@@ -132,13 +170,14 @@ Found lookWhenWritten(const QString& path) {
         QThread::msleep(pauseBetween);
         found = look(path);
     }
-    if (found.counts()) found.holder.user = ownerOf(path);
+    if (!found.counts()) return found;
+    if (const QString owner = ownerOf(path); !owner.isEmpty()) found.holder.user = owner;
     return found;
 }
 
-// A name with NUL is no file's.
+// A name with NUL is no file's, and there are others.
 bool isNoName(const QString& nativePath) {
-    return nativePath.contains(QChar(u'\0'));
+    return nativePath.contains(QChar(u'\0')) || !forbiddenName(nativePath).isEmpty();
 }
 
 [[noreturn]] void refuse(const QString& nativePath, const LockHolder& holder) {
@@ -157,7 +196,7 @@ bool LockHolder::isThisProcess() const {
 }
 
 QString FileLock::lockName(const QString& nativePath) {
-    const QFileInfo file = lockedFile(nativePath);
+    const QFileInfo file(trueName(nativePath)); // two links to one file mean one lock
     return file.absolutePath() + QLatin1Char('/') + nameOfLock(file.fileName());
 }
 
@@ -175,6 +214,10 @@ FileLock FileLock::acquire(const QString& nativePath) {
     for (int i = 0; i < attempts; ++i) {
         const Found found = lookWhenWritten(path);
         if (found.counts()) refuse(nativePath, found.holder);
+        if (found.state == State::Ours) {
+            lock.keep(path, found.text);
+            return lock;
+        }
         Exclusive step = found.state == State::Free ? Exclusive::Done : removeExclusively(path, found.text);
         if (step == Exclusive::Done) {
             lock.foundStale_ = lock.foundStale_ || found.state == State::Dead;
@@ -190,18 +233,21 @@ FileLock FileLock::takeOver(const QString& nativePath) {
     FileLock lock;
     if (isNoName(nativePath)) return lock;
     const QString path = lockName(nativePath);
-    QFile::remove(path);
+    removeFile(path);
     lock.make(path);
     return lock;
+}
+
+void FileLock::keep(const QString& path, const QByteArray& text) {
+    GivenBack::remove(path);
+    path_ = path;
+    text_ = text;
 }
 
 Exclusive FileLock::make(const QString& path) {
     const QByteArray text = textOf(ourselves());
     const Exclusive made = makeExclusively(path, text);
-    if (made == Exclusive::Done) {
-        path_ = path;
-        text_ = text;
-    }
+    if (made == Exclusive::Done) keep(path, text);
     return made;
 }
 
@@ -221,7 +267,7 @@ FileLock::~FileLock() {
 
 // Another one may have taken the lock over.
 void FileLock::release() {
-    if (isHeld() && look(path_).text == text_) QFile::remove(path_);
+    if (isHeld() && removeExclusively(path_, text_) == Exclusive::Impossible) GivenBack::add(path_);
 }
 
 } // namespace zvonika

@@ -22,7 +22,8 @@ struct LockHolder {
 /// Tells others that a file is open here, by a hidden file ".~<name>.zamek" beside it. The lock of a process
 /// of this computer that is gone counts for nothing, also when its number is in use again; one that cannot be
 /// read counts, be it another user's, a link, a pipe or too long for a lock, and so does the lock of an
-/// office program (OfficeLock.h). Where no such file can be made (folder not writable), the file stays
+/// office program (OfficeLock.h). One that its owner could not delete when he gave it back counts for nothing
+/// in his process. Where no such file can be made (folder not writable), the file stays
 /// unlocked.
 class FileLock {
 public:
@@ -47,6 +48,7 @@ public:
 
 private:
     Exclusive make(const QString& path);
+    void keep(const QString& path, const QByteArray& text);
     void release();
 
     QString path_;

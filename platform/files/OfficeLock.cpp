@@ -1,6 +1,7 @@
 #include "platform/files/OfficeLock.h"
 
 #include "platform/files/RegularFile.h"
+#include "platform/files/SameFile.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -59,8 +60,7 @@ bool isFromBefore(const QFileInfo& lock) {
 } // namespace
 
 QString officeLockName(const QString& nativePath) {
-    const QString canonical = QFileInfo(nativePath).canonicalFilePath();
-    const QFileInfo file(canonical.isEmpty() ? nativePath : canonical);
+    const QFileInfo file(trueName(nativePath));
     return file.absolutePath() + QStringLiteral("/.~lock.%1#").arg(file.fileName());
 }
 

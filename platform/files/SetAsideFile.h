@@ -25,6 +25,11 @@ private:
     FileLock lock_;
 };
 
+/// A hidden folder beside this file, not made yet, where the old one may stand under its name while a new one
+/// takes its place. Where a kill leaves it there, `bringBackSetAside` puts it back if the new one does not
+/// stand, and deletes it otherwise.
+QString newReplacedFolder(const QString& nativePath);
+
 /// Puts back what killed programs have set aside in this folder, see `Drive::bringBackSetAside`.
 QStringList bringBackSetAside(const QString& nativeFolder);
 

@@ -1,6 +1,8 @@
 #include "platform/media/SystemMedia.h"
 
 #ifdef Q_OS_WIN
+#include "platform/media/MediaCommand.h"
+
 #include <windows.h>
 // after windows.h, which it needs
 #include <mmsystem.h>
@@ -16,16 +18,21 @@ namespace {
 
 class WindowsMedia : public Media {
 public:
+    explicit WindowsMedia(const Drive& drive) : drive_(drive) {}
     int sendString(const QString& command) override {
+        const QString text = systemCommand(command, drive_);
         return static_cast<int>(
-            mciSendStringW(reinterpret_cast<const wchar_t*>(command.utf16()), nullptr, 0, nullptr));
+            mciSendStringW(reinterpret_cast<const wchar_t*>(text.utf16()), nullptr, 0, nullptr));
     }
+
+private:
+    const Drive& drive_;
 };
 
 } // namespace
 
-std::unique_ptr<Media> systemMedia(const Drive&, const QStringList&) {
-    return std::make_unique<WindowsMedia>();
+std::unique_ptr<Media> systemMedia(const Drive& drive, const QStringList&) {
+    return std::make_unique<WindowsMedia>(drive);
 }
 
 #else

@@ -161,6 +161,14 @@ public:
     }
 };
 
+/// The box that the user knows from his other programs, where there is one of the system's own; elsewhere the
+/// toolkit would take that of whatever desktop runs.
+#ifdef Q_OS_WIN
+constexpr bool ownBox = false;
+#else
+constexpr bool ownBox = true;
+#endif
+
 /// A choice among files that are there. One is found by its name without the ending, too.
 class FileToOpen : public QFileDialog {
 public:
@@ -168,6 +176,7 @@ public:
 
     /// The box itself lets a name be chosen only when it is there to the letter.
     void watchName() {
+        if (!nameEdit()) return; // the system's own box, which completes names itself
         connect(nameEdit(), &QLineEdit::textChanged, this, [this] {
             auto* buttons = findChild<QDialogButtonBox*>();
             if (buttons && !completed().isEmpty()) buttons->button(QDialogButtonBox::Open)->setEnabled(true);
@@ -185,7 +194,7 @@ private:
 
     /// The name that was typed, with its ending; "" where it needs none or no such file is there.
     QString completed() const {
-        const QString name = nameEdit()->text();
+        const QString name = nameEdit() ? nameEdit()->text() : QString();
         const QString file = directory().absoluteFilePath(name);
         if (name.isEmpty() || QFileInfo::exists(file)) return {};
         for (const char* ending : {".xls", ".XLS"})
@@ -195,7 +204,7 @@ private:
 };
 
 void setUp(QFileDialog& dialog, const QString& filter, const QString& folder) {
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setOption(QFileDialog::DontUseNativeDialog, ownBox);
     dialog.setNameFilter(qtFilter(filter));
     dialog.setDirectory(nearestExistingFolder(folder));
     dialog.setViewMode(QFileDialog::Detail);

@@ -30,10 +30,14 @@ void ZivotPisne::otevri(const QString& soubor) {
 }
 
 void ZivotPisne::oznamJenKeCteni() {
-    const QString pricina = drive_.readOnlyBecause(okoli_.pisen.plneJmeno);
-    if (pricina.isEmpty()) return;
-    okoli_.panel.vystraha =
-        pricina + QStringLiteral(" Změny uložte z okna tabulky jinam (F6, Uložit jako…).");
+    const QString& soubor = okoli_.pisen.plneJmeno;
+    QString vystraha = drive_.readOnlyBecause(soubor);
+    if (!vystraha.isEmpty())
+        vystraha += QStringLiteral(" Změny uložte z okna tabulky jinam (F6, Uložit jako…).");
+    else
+        vystraha = drive_.unlockedBecause(soubor);
+    if (vystraha.isEmpty()) return;
+    okoli_.panel.vystraha = vystraha;
     okoli_.panel.oznamZmenu();
 }
 

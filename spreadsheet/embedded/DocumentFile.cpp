@@ -3,6 +3,7 @@
 #include "platform/Log.h"
 #include "platform/RuntimeError.h"
 #include "platform/files/AtomicFile.h"
+#include "platform/files/SameFile.h"
 #include "spreadsheet/embedded/WorkbookFile.h"
 #include "spreadsheet/journal/ContentHash.h"
 
@@ -28,7 +29,7 @@ bool DocumentFile::isChangedOnDisk() const {
 }
 
 bool DocumentFile::isAt(const QString& nativePath) const {
-    return !path_.isEmpty() && FileLock::lockName(nativePath) == FileLock::lockName(path_);
+    return !path_.isEmpty() && sameFileKey(nativePath) == sameFileKey(path_);
 }
 
 void DocumentFile::setModified(bool modified) {
@@ -58,6 +59,7 @@ void DocumentFile::save(const Source& source) {
 }
 
 void DocumentFile::saveAs(const QString& nativePath, const Source& source) {
+    refuseForbiddenName(nativePath);
     const bool sameFile = isAt(nativePath);
     FileLock lock;
     if (sameFile)

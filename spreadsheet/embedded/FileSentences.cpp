@@ -61,6 +61,8 @@ QString openReason(std::errc error) {
         return QStringLiteral("není to obyčejný soubor");
     case std::errc::permission_denied:
         return QStringLiteral("nemáte oprávnění ho číst");
+    case std::errc::text_file_busy:
+        return QString::fromUtf16(reason::openElsewhere);
     case std::errc::file_too_large:
         return QStringLiteral("je příliš velký");
     case std::errc::not_enough_memory:

@@ -2,7 +2,9 @@
 
 #include "platform/Log.h"
 #include "platform/RuntimeError.h"
+#include "platform/files/FileNames.h"
 #include "platform/files/RegularFile.h"
+#include "spreadsheet/FileRefusals.h"
 #include "spreadsheet/Refusals.h"
 #include "spreadsheet/embedded/FileSentences.h"
 #include "spreadsheet/journal/ContentHash.h"
@@ -72,6 +74,11 @@ WorkbookFile readWorkbook(const QString& nativePath) {
         logRefusal(nativePath, failure);
         refuse(openRefused(nativePath, xls::Refusal::Damaged));
     }
+}
+
+void refuseForbiddenName(const QString& nativePath) {
+    if (const QString reason = forbiddenName(nativePath); !reason.isEmpty())
+        refuseSave(nativePath, cannotSave(nativePath, reason));
 }
 
 void refusingToSave(const QString& nativePath, const std::function<void()>& steps) {

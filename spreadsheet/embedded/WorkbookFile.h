@@ -18,6 +18,8 @@ struct WorkbookFile {
 /// Reads a workbook. Every refusal, here and below, is AutomationError 1004 with one sentence for the user.
 WorkbookFile readWorkbook(const QString& nativePath);
 using WorkbookReader = std::function<WorkbookFile(const QString& nativePath)>;
+/// Refuses a name that no file of this system has, before anything is made under it.
+void refuseForbiddenName(const QString& nativePath);
 /// Runs the steps of a save; whatever they throw becomes such a refusal.
 void refusingToSave(const QString& nativePath, const std::function<void()>& steps);
 

@@ -13,7 +13,7 @@ namespace zvonika {
 /// std::system_error.
 class JournalFile {
 public:
-    /// A new file with these contents. Fails with EEXIST (Windows: ERROR_FILE_EXISTS) when there is one.
+    /// A new file with these contents. Fails with file_exists when there is one.
     static JournalFile create(const QString& path, const QByteArray& contents);
     /// A file that is there; nothing when another one has it open, or when it is gone. `failure`: set when
     /// the system does not give it.

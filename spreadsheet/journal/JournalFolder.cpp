@@ -1,6 +1,7 @@
 #include "spreadsheet/journal/JournalFolder.h"
 
 #include "platform/files/PrivateFolder.h"
+#include "platform/files/SameFile.h"
 #include "spreadsheet/journal/ContentHash.h"
 
 #include <QCryptographicHash>
@@ -21,18 +22,10 @@ const QString asideName = QStringLiteral("odmitnute");
 const QString neverSaved = QStringLiteral("novy");
 constexpr int mostOfOneSong = 1000;
 
-/// Without links in it, also of a song that is not there.
-QString canonical(const QString& song) {
-    const QFileInfo file(song);
-    const QString path = file.canonicalFilePath();
-    return path.isEmpty() ? QFileInfo(file.path()).canonicalFilePath() + QLatin1Char('/') + file.fileName()
-                          : path;
-}
-
 /// What the names of a song's journals begin with.
 QString key(const QString& song) {
     if (song.isEmpty()) return neverSaved;
-    const auto hash = QCryptographicHash::hash(canonical(song).toUtf8(), QCryptographicHash::Sha1);
+    const auto hash = QCryptographicHash::hash(sameFileKey(song).toUtf8(), QCryptographicHash::Sha1);
     return QString::fromLatin1(hash.toHex().left(20));
 }
 
@@ -54,7 +47,8 @@ QByteArray readable(const JournalFile& file) {
 }
 
 void pruneAside(QDir aside) {
-    const auto files = aside.entryInfoList({QLatin1Char('*') + ending}, QDir::Files, QDir::Time);
+    const auto files =
+        aside.entryInfoList({QLatin1Char('*') + ending}, QDir::Files | QDir::Hidden, QDir::Time);
     for (qsizetype i = JournalFolder::keptAside; i < files.size(); ++i)
         aside.remove(files[i].fileName());
 }
@@ -104,7 +98,7 @@ JournalFile JournalFolder::begin(const QString& song, const QByteArray& contents
 }
 
 QStringList JournalFolder::names(const QString& pattern) const {
-    return isOff() ? QStringList() : QDir(path_).entryList({pattern + ending}, QDir::Files);
+    return isOff() ? QStringList() : QDir(path_).entryList({pattern + ending}, QDir::Files | QDir::Hidden);
 }
 
 std::optional<JournalFile> JournalFolder::opened(const QString& name, Unusable* unusable) const {

@@ -3,22 +3,24 @@
 #include "platform/RuntimeError.h"
 #include "platform/files/FileLock.h"
 #include "tests/platform/files/OtherUser.h"
+#include "tests/support/OtherProcess.h"
 #include "tests/support/PrintQt.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <csignal>
 #include <gtest/gtest.h>
-#include <sys/stat.h>
+#include <span>
 
 namespace zvonika {
 namespace {
 
 TEST(HomeDrive, TurnsPathsIntoNativeOnes) {
-    const HomeDrive drive(QStringLiteral("/home/eva"), QStringLiteral("/usr/share/zvonika"));
-    const std::pair<QString, QString> cases[] = {
+    struct Case {
+        QString path, native;
+    };
+    const Case inFolder[] = {
         {pracovniAdresar, QStringLiteral("/home/eva/Dokumenty/Heligonka/Zvonika")},
         {QStringLiteral("c:/Dokumenty\\Kočka.xls"), QStringLiteral("/home/eva/Dokumenty/Kočka.xls")},
         {QStringLiteral("C:"), QStringLiteral("/home/eva")},
@@ -27,9 +29,24 @@ TEST(HomeDrive, TurnsPathsIntoNativeOnes) {
         {QStringLiteral("/srv/písně/a\\b.xls"), QStringLiteral("/srv/písně/a\\b.xls")},
         {QString(), QString()},
     };
-    for (const auto& [path, native] : cases)
-        EXPECT_EQ(drive.nativePath(path).toStdString(), native.toStdString()) << path.toStdString();
-    EXPECT_EQ(drive.programFolder(), QStringLiteral("/usr/share/zvonika"));
+    const Case amongDrives[] = {
+        {pracovniAdresar, QStringLiteral("D:/zkouška/Dokumenty/Heligonka/Zvonika")},
+        {QStringLiteral("C:\\zkouška\\a.xls"), QStringLiteral("D:/zkouška/zkouška/a.xls")},
+        {QStringLiteral("d:\\Zkouška\\a.xls"), QStringLiteral("d:\\Zkouška\\a.xls")},
+        {QStringLiteral("D:/zkouška"), QStringLiteral("D:/zkouška")},
+        {QStringLiteral("D:/zkouška jiná/a.xls"), QString()},
+        {QStringLiteral("D:/zkouška/../a.xls"), QString()},
+    };
+    const Case system[] = {{QStringLiteral("C:\\a.xls"), QStringLiteral("C:\\a.xls")},
+                           {QStringLiteral("D:\\a.xls"), QStringLiteral("D:\\a.xls")}};
+    const std::pair<QString, std::span<const Case>> roots[] = {
+        {QStringLiteral("/home/eva"), inFolder}, {QStringLiteral("D:\\zkouška"), amongDrives}, {{}, system}};
+    for (const auto& [root, cases] : roots) {
+        const HomeDrive drive(root, QStringLiteral("/usr/share/zvonika"));
+        for (const auto& [path, native] : cases)
+            EXPECT_EQ(drive.nativePath(path).toStdString(), native.toStdString()) << path.toStdString();
+        EXPECT_EQ(drive.programFolder(), QStringLiteral("/usr/share/zvonika"));
+    }
 }
 
 TEST(HomeDrive, CreatesOneFolderAtATimeAndTellsFilesFromFolders) {
@@ -60,11 +77,23 @@ TEST(HomeDrive, CreatesOneFolderAtATimeAndTellsFilesFromFolders) {
     EXPECT_FALSE(drive.deleteFile("C:\\a.xls"));
 }
 
+// For as long as the process lives.
+bool setsAside(const QString& file) {
+    static const auto aside = HomeDrive(QFileInfo(file).path(), {}).setAside(file);
+    return aside != nullptr;
+}
+bool locks(const QString& file) {
+    static const FileLock lock = FileLock::acquire(file);
+    return lock.isHeld();
+}
+[[maybe_unused]] const bool known =
+    testing::OtherProcess::know(setsAside) && testing::OtherProcess::know(locks);
+
 /// A folder as drive C: with one song in it.
 class SongOnDrive : public ::testing::Test {
 protected:
     SongOnDrive() {
-        ::chmod(QFile::encodeName(folder.path()), 0777);
+        testing::setMode(folder.path(), 0777);
         put("Polka.xls", "hmaty");
     }
     void put(const QString& name, const QByteArray& contents) const {
@@ -79,29 +108,6 @@ protected:
     QStringList names() const {
         return QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
     }
-    /// In a process of its own that says when it is done and then stays until it is killed.
-    template <typename Action>
-    static pid_t stay(Action action) {
-        int pipe[2];
-        EXPECT_EQ(::pipe(pipe), 0);
-        const pid_t child = ::fork();
-        if (child == 0) {
-            [[maybe_unused]] const auto kept = action();
-            (void)!::write(pipe[1], "x", 1);
-            for (;;)
-                ::pause();
-        }
-        char told = 0;
-        EXPECT_EQ(::read(pipe[0], &told, 1), 1);
-        ::close(pipe[0]);
-        ::close(pipe[1]);
-        return child;
-    }
-    static void kill(pid_t child) {
-        ::kill(child, SIGKILL);
-        ::waitpid(child, nullptr, 0);
-    }
-
     const QTemporaryDir folder;
     HomeDrive drive{folder.path(), {}};
     const QString song = "C:\\Polka.xls";
@@ -130,11 +136,12 @@ TEST_F(SongOnDrive, AFileSetAsideComesBackUnlessItIsGivenUp) {
 
 TEST_F(SongOnDrive, WhatAKilledProgramHasSetAsideIsPutBackAtTheNextStart) {
     for (const bool taken : {false, true}) {
-        const pid_t other = stay([this] { return drive.setAside(song).release(); });
+        testing::OtherProcess other(setsAside, folder.filePath("Polka.xls"));
+        ASSERT_TRUE(other.held);
         EXPECT_EQ(drive.bringBackSetAside("C:\\"), QStringList()) << "its owner will do it";
         EXPECT_FALSE(drive.fileExists(song));
         if (taken) put("Polka.xls", "nová");
-        kill(other);
+        other.kill();
         EXPECT_EQ(drive.bringBackSetAside("C:\\"), QStringList(taken ? "Polka (původní).xls" : "Polka.xls"));
         EXPECT_EQ(contents(taken ? "Polka (původní).xls" : "Polka.xls"), "hmaty");
         EXPECT_EQ(names().filter("odlozeno"), QStringList());
@@ -152,11 +159,13 @@ TEST_F(SongOnDrive, AFileOfSomebodyElseOrOfAClosedFolderStaysAndTheCauseIsTold) 
         }
         return QString();
     };
-    const pid_t other =
-        stay([this] { return new FileLock(FileLock::acquire(folder.filePath("Polka.xls"))); });
+    testing::OtherProcess other(locks, folder.filePath("Polka.xls"));
+    ASSERT_TRUE(other.held);
     EXPECT_TRUE(cause().startsWith("Soubor „Polka.xls“ je už otevřen jinde (")) << cause().toStdString();
-    kill(other);
+    other.kill();
     EXPECT_EQ(cause(), "") << "the lock of a dead process counts for nothing";
+    SKIPPED_ON_WINDOWS("rights are no bits of a mode, and the user who tests has them all");
+    using namespace testing;
     const struct {
         mode_t folder, file;
         const char *setAside, *readOnly;
@@ -165,8 +174,8 @@ TEST_F(SongOnDrive, AFileOfSomebodyElseOrOfAClosedFolderStaysAndTheCauseIsTold) 
                   "Do složky, ve které je soubor „Polka.xls“, nemáte právo zapisovat."},
                  {0777, 0444, "", "Soubor „Polka.xls“ je jen pro čtení."}};
     for (const auto& mode : modes) {
-        ::chmod(QFile::encodeName(folder.filePath("Polka.xls")), mode.file);
-        ::chmod(QFile::encodeName(folder.path()), mode.folder);
+        setMode(folder.filePath("Polka.xls"), mode.file);
+        setMode(folder.path(), mode.folder);
         EXPECT_EQ(testing::asOrdinaryUser([&] {
                       const QString told = cause();
                       if (!told.contains(mode.setAside) || told.isEmpty() != (*mode.setAside == 0)) return 1;
@@ -174,7 +183,7 @@ TEST_F(SongOnDrive, AFileOfSomebodyElseOrOfAClosedFolderStaysAndTheCauseIsTold) 
                   }),
                   0)
             << mode.folder << ' ' << mode.file;
-        ::chmod(QFile::encodeName(folder.path()), 0777);
+        setMode(folder.path(), 0777);
         EXPECT_EQ(contents("Polka.xls"), "hmaty");
     }
 }

@@ -1,6 +1,7 @@
 // Sound by command strings: what the strings do, and that a song written here can really be heard.
 #include "platform/HomeDrive.h"
 #include "platform/media/FluidMedia.h"
+#include "platform/media/MediaCommand.h"
 #include "platform/media/MidiFile.h"
 
 #include <QDir>
@@ -205,6 +206,23 @@ TEST_F(MediaTest, TheDefaultSoundFontThenTheSmallest) {
     for (const QString& font : soundFonts({folder.filePath("neni"), folder.path()}))
         names << QFileInfo(font).fileName();
     EXPECT_EQ(names, QStringList({"default-GM.sf2", "b.sf3", "a.sf2"}));
+}
+
+TEST(MediaCommand, NamesTheFileAsTheSystemsOwnInterfaceTakesIt) {
+    const HomeDrive drive({}, {});
+    const std::pair<const char*, const char*> commands[] = {
+        {"open C:\\a.mid type sequencer", "open C:\\a.mid type sequencer"},
+        {"open C:\\Kočka leze.mid type sequencer", "open \"C:\\Kočka leze.mid\" type sequencer"},
+        {"open C:\\a type b.mid type sequencer", "open \"C:\\a type b.mid\" type sequencer"},
+        {"play C:\\Kočka leze.mid", "play \"C:\\Kočka leze.mid\""},
+        {"stop \"C:\\a b.mid\"", "stop \"C:\\a b.mid\""},
+        {"close all", "close all"},
+        {"", ""},
+    };
+    for (const auto& [command, told] : commands)
+        EXPECT_EQ(systemCommand(command, drive).toStdString(), QDir::toNativeSeparators(told).toStdString());
+    EXPECT_EQ(systemCommand("play C:\\a.mid", HomeDrive("/home/eva", {})).toStdString(),
+              "play " + QDir::toNativeSeparators("/home/eva/a.mid").toStdString());
 }
 
 } // namespace zvonika::testing

@@ -5,6 +5,7 @@
 #include "platform/IniSettingsStore.h"
 #include "platform/XmlTable.h"
 #include "platform/media/FluidMedia.h"
+#include "tests/support/System.h"
 
 #include <QDir>
 #include <QFile>
@@ -78,6 +79,7 @@ TEST(Table, OfAHostileKindIsRefusedOrReadAndNeverEndsTheProgram) {
 }
 
 TEST(Settings, AreTheUsersAlone) {
+    SKIPPED_ON_WINDOWS("rights are no bits of a mode; the settings are in the registry");
     const QTemporaryDir folder;
     const QString file = folder.filePath("Tonavox12.ini");
     constexpr auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;

@@ -2,6 +2,7 @@
 #include "platform/UserSettings.h"
 
 #include <QFile>
+#include <QSettings>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -41,7 +42,7 @@ TEST_F(SettingsFile, KeepsTextsBySectionAndKey) {
 
 TEST_F(SettingsFile, IsAnIniFileThatAUserCanWrite) {
     IniSettingsStore(file).save(section, "1", "True");
-    EXPECT_EQ(contents(), "[Zabrany]\n1=True\n");
+    EXPECT_EQ(contents().replace("\r\n", "\n"), "[Zabrany]\n1=True\n");
     write("[PopisKnof]\nIndex=žluťoučký, kůň\n");
     EXPECT_EQ(IniSettingsStore(file).get("PopisKnof", "Index"), "žluťoučký, kůň");
 }
@@ -68,7 +69,20 @@ TEST_F(SettingsFile, ThatCannotBeWrittenKeepsTheValueForTheRun) {
     EXPECT_EQ(store.get(section, QStringLiteral("1")), QStringLiteral("True"));
 }
 
-#ifndef Q_OS_WIN
+#ifdef Q_OS_WIN
+TEST(UserSettings, AreTextsInTheRegistry) {
+    const QString application = QStringLiteral("Zvonika Zkouška");
+    const QString place = QStringLiteral("HKEY_CURRENT_USER\\Software\\VB and VBA Program Settings");
+    for (const char* value : {"True", "12", "C:\\Písně", ""}) {
+        userSettings(application)->save(QStringLiteral("Zabrany"), QStringLiteral("1"), value);
+        EXPECT_EQ(userSettings(application)->get(QStringLiteral("Zabrany"), QStringLiteral("1")), value);
+        QSettings registry(place, QSettings::NativeFormat);
+        EXPECT_EQ(registry.value(application + QStringLiteral("/Zabrany/1")).typeId(), QMetaType::QString);
+    }
+    EXPECT_FALSE(userSettings(application)->get(QStringLiteral("Zabrany"), QStringLiteral("2")));
+    QSettings(place, QSettings::NativeFormat).remove(application);
+}
+#else
 TEST_F(SettingsFile, LiesInTheUsersConfigurationFolder) {
     const QByteArray before = qgetenv("XDG_CONFIG_HOME");
     qputenv("XDG_CONFIG_HOME", folder.path().toUtf8());

@@ -19,6 +19,7 @@ public:
     std::unique_ptr<SetAside> setAside(const QString&) override { return nullptr; }
     QStringList bringBackSetAside(const QString&) override { return {}; }
     QString readOnlyBecause(const QString&) const override { return {}; }
+    QString unlockedBecause(const QString&) const override { return {}; }
     QString programFolder() const override { return {}; }
 };
 

@@ -1,13 +1,17 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDir>
+#include <QFile>
 
+#ifndef Q_OS_WIN
 #include <cstring>
 #include <fcntl.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
 #include <unistd.h>
+#endif
 
 namespace zvonika::testing {
 
@@ -20,6 +24,15 @@ struct Neighbour {
 
 namespace neighbour {
 
+inline bool folder(const QByteArray& path) {
+    return QDir().mkdir(QFile::decodeName(path));
+}
+inline bool threeGigabytes(const QByteArray& path) {
+    return QFile(QFile::decodeName(path)).open(QIODevice::WriteOnly) &&
+           QFile::resize(QFile::decodeName(path), qint64{3} << 30);
+}
+
+#ifndef Q_OS_WIN
 inline bool link(const char* to, const QByteArray& path) {
     return ::symlink(to, path) == 0;
 }
@@ -39,19 +52,13 @@ inline bool socket(const QByteArray& path) {
     ::close(end);
     return bound;
 }
-inline bool folder(const QByteArray& path) {
-    return ::mkdir(path, 0777) == 0;
-}
-inline bool threeGigabytes(const QByteArray& path) {
-    const int file = ::open(path, O_WRONLY | O_CREAT, 0644);
-    const bool grown = ::ftruncate(file, off_t{3} << 30) == 0;
-    ::close(file);
-    return grown;
-}
+#endif
 
 } // namespace neighbour
 
+/// On Windows pipes and devices stand in no folder.
 inline const Neighbour neighbours[] = {
+#ifndef Q_OS_WIN
     {"a pipe", neighbour::pipe},
     {"a link to a pipe", neighbour::linkToPipe},
     {"a socket", neighbour::socket},
@@ -61,8 +68,9 @@ inline const Neighbour neighbours[] = {
     {"a link to the terminal", [](const QByteArray& path) { return neighbour::link("/dev/tty", path); }},
     {"a link to a process's memory",
      [](const QByteArray& path) { return neighbour::link("/proc/self/mem", path); }},
-    {"a folder", neighbour::folder},
     {"a link to a folder", [](const QByteArray& path) { return neighbour::link("/", path); }},
+#endif
+    {"a folder", neighbour::folder},
     {"three gigabytes of nothing", neighbour::threeGigabytes},
 };
 

@@ -1,5 +1,6 @@
 // The help window as a player uses it, with both browser controls.
 #include "tests/aids/ui/Napoveda.h"
+#include "tests/support/System.h"
 
 namespace zvonika::testing {
 
@@ -124,9 +125,9 @@ TEST_P(FrmBrowserTest, AMissingPageEndsOnAnErrorPageAndTheWindowGoesOn) {
 }
 
 TEST_P(FrmBrowserTest, FilesOutsideTheManualsFolderAreRefused) {
-    QFile::link(slozka.filePath("tajne.htm"), cesta("odkaz.htm"));
-    for (const QString& napsana :
-         {cesta("../tajne.htm"), cesta("odkaz.htm"), QString("file:///etc/passwd")}) {
+    QStringList odmitane{cesta("../tajne.htm"), "file:///etc/passwd"};
+    if (linkTo(slozka.filePath("tajne.htm"), cesta("odkaz.htm"))) odmitane << cesta("odkaz.htm");
+    for (const QString& napsana : odmitane) {
         napisAdresu(napsana);
         EXPECT_TRUE(dokud([&] { return text("lblStav").contains("mimo příručku"); }))
             << napsana.toStdString();

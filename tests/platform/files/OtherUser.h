@@ -1,10 +1,24 @@
 #pragma once
 
+#include "tests/support/System.h"
+
+#ifndef Q_OS_WIN
 #include <grp.h>
-#include <sys/wait.h>
-#include <unistd.h>
+#endif
 
 namespace zvonika::testing {
+
+#ifdef Q_OS_WIN
+
+template <typename Action>
+int asOrdinaryUser(Action action) {
+    return action();
+}
+inline bool giveAway(const QString&) {
+    return false;
+}
+
+#else
 
 constexpr uid_t nobody = 65534; ///< user and group without rights of their own
 
@@ -22,5 +36,12 @@ int asOrdinaryUser(Action action) {
     ::waitpid(child, &status, 0);
     return WIFEXITED(status) ? WEXITSTATUS(status) : 255;
 }
+
+/// Makes another user the owner of a file; false where that is not allowed.
+inline bool giveAway(const QString& file) {
+    return ::geteuid() == 0 && ::chown(QFile::encodeName(file), nobody, nobody) == 0;
+}
+
+#endif
 
 } // namespace zvonika::testing

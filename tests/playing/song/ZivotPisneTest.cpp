@@ -1,8 +1,6 @@
 #include "platform/Contact.h"
 #include "tests/playing/SongFixture.h"
-
-#include <sys/wait.h>
-#include <unistd.h>
+#include "tests/support/System.h"
 
 namespace zvonika::testing {
 
@@ -114,6 +112,10 @@ TEST_F(ZivotPisneTest, AFailureAnywhereInANewSongLeavesNoSongAndTheOneItWasToRep
         }
 }
 
+#ifdef Q_OS_WIN
+NOT_ON_WINDOWS(ZivotPisneTest, AKillAnywhereInANewSongLeavesTheOneItWasToReplaceForTheNextStart,
+               "a process cannot be copied; HomeDriveTest kills one that was started anew")
+#else
 TEST_F(ZivotPisneTest, AKillAnywhereInANewSongLeavesTheOneItWasToReplaceForTheNextStart) {
     for (const char* krok : {"addWorkbook", "saveActiveWorkbookAs", "activeWorkbookName", "renameActiveSheet",
                              "activeSheetName", "readBlock"}) {
@@ -137,6 +139,7 @@ TEST_F(ZivotPisneTest, AKillAnywhereInANewSongLeavesTheOneItWasToReplaceForTheNe
             drive.deleteFile(slozkaPisni + soubor);
     }
 }
+#endif
 
 TEST_F(ZivotPisneTest, OpeningShowsTheRowAtWhichTheSongWasSaved) {
     CellBlock radky(5, QVector<CellValue>(23));

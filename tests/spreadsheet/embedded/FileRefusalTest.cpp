@@ -1,4 +1,5 @@
 #include "platform/ShownText.h"
+#include "platform/files/FileNames.h"
 #include "spreadsheet/embedded/Document.h"
 #include "spreadsheet/embedded/FileSentences.h"
 #include "spreadsheet/embedded/WorkbookFile.h"
@@ -9,7 +10,6 @@
 
 #include <functional>
 #include <stdexcept>
-#include <unistd.h>
 
 namespace zvonika::testing {
 
@@ -27,6 +27,14 @@ protected:
         return refusalOf([&] { document.saveAs(target); });
     }
 
+    /// That the system takes for this file's; the last one is not there on every system.
+    QStringList otherNamesOf(const QString& file) const {
+        QStringList names{QFileInfo(file).path() + QStringLiteral("/./") + QFileInfo(file).fileName()};
+        if (linkTo(file, path(QStringLiteral("odkaz.xls")))) names << path(QStringLiteral("odkaz.xls"));
+        if (QFile::exists(file.toUpper())) names << file.toUpper();
+        return names;
+    }
+
     const QString good = path(QStringLiteral("dobrá.xls"));
     QByteArray saved;
 };
@@ -35,17 +43,19 @@ protected:
 
 TEST_F(FileRefusalTest, WhatIsNoRegularFileIsRefusedAtOnce) {
     for (const Neighbour& neighbour : neighbours) {
-        const QString song = path(QStringLiteral("%1\n.xls").arg(QString::fromLatin1(neighbour.what)));
+        const QString sign = forbiddenName(QStringLiteral("\n")).isEmpty() ? QStringLiteral("\n") : QString();
+        const QString song = path(QStringLiteral("%1%2.xls").arg(QString::fromLatin1(neighbour.what), sign));
         ASSERT_TRUE(neighbour.put(QFile::encodeName(song))) << neighbour.what;
         const QString refusal = refusalOf([&] { Document::open(song); });
-        EXPECT_TRUE(refusal.startsWith(
-            QStringLiteral("1004 Soubor „%1↵.xls“ nelze otevřít: ").arg(QString::fromLatin1(neighbour.what))))
+        EXPECT_TRUE(
+            refusal.startsWith(QStringLiteral("1004 Soubor „%1“ nelze otevřít: ").arg(shownFileName(song))))
             << refusal.toStdString();
         EXPECT_TRUE(contentHashOfFile(song).isEmpty()) << neighbour.what;
     }
     const QString link = path(QStringLiteral("odkaz.xls"));
-    ASSERT_TRUE(QFile::link(good, link));
-    EXPECT_TRUE(Document::open(link)) << "a song may be a link";
+    if (linkTo(good, link)) {
+        EXPECT_TRUE(Document::open(link)) << "a song may be a link";
+    }
 }
 
 TEST_F(FileRefusalTest, OpeningSaysWhatIsWrong) {
@@ -78,8 +88,10 @@ TEST_F(FileRefusalTest, OpeningSaysWhatIsWrong) {
         EXPECT_EQ(refusalOf([&] { Document::open(path(QString::fromUtf8(name))); }),
                   QStringLiteral("1004 Soubor „%1“ nelze otevřít: %2")
                       .arg(QString::fromUtf8(name), QString::fromUtf8(reason)));
-    EXPECT_EQ(refusalOf([&] { Document::open(QStringLiteral("/dev/null")); }),
-              QStringLiteral("1004 Soubor „null“ nelze otevřít: není to obyčejný soubor."));
+    if (const QString device = QStringLiteral("/dev/null"); QFile::exists(device)) {
+        EXPECT_EQ(refusalOf([&] { Document::open(device); }),
+                  QStringLiteral("1004 Soubor „null“ nelze otevřít: není to obyčejný soubor."));
+    }
     EXPECT_TRUE(files().filter(QStringLiteral(".zamek")).isEmpty());
 }
 
@@ -101,10 +113,10 @@ TEST_F(FileRefusalTest, AHugeFileOfAnotherKindIsNotRead) {
 TEST_F(FileRefusalTest, AFileThatIsOpenInTheSameProcessIsNotOpenedTwice) {
     const auto open = Document::open(good);
     const QString refusal = QStringLiteral("1004 Soubor „%1“ je už otevřen v této tabulce (");
-    ASSERT_TRUE(QFile::link(good, path(QStringLiteral("odkaz.xls"))));
-    EXPECT_TRUE(refusalOf([&] {
-                    Document::open(path(QStringLiteral("odkaz.xls")));
-                }).startsWith(refusal.arg(QStringLiteral("odkaz.xls"))));
+    for (const QString& name : otherNamesOf(good))
+        EXPECT_TRUE(
+            refusalOf([&] { Document::open(name); }).startsWith(refusal.arg(QFileInfo(name).fileName())))
+            << name.toStdString();
     Document other(QStringLiteral("Sešit2"));
     EXPECT_TRUE(saving(other, good).startsWith(refusal.arg(QStringLiteral("dobrá.xls"))));
     EXPECT_EQ(contents(good), saved);
@@ -116,15 +128,19 @@ TEST_F(FileRefusalTest, SavingSaysWhatIsWrongAndChangesNothing) {
     document->editing().write(1, {1, 2}, {{QStringLiteral("d")}});
     const QStringList before = files();
     const QString longName = QString(300, u'x') + QStringLiteral(".xls");
-    const std::pair<QString, QString> cases[] = {
-        {QStringLiteral("není/x.xls"),
-         QStringLiteral("složka „%1“ neexistuje").arg(path(QStringLiteral("není")))},
-        {QStringLiteral("dobrá.xls/x.xls"), QStringLiteral("„%1“ není složka").arg(good)},
+    std::vector<std::pair<QString, QString>> cases = {
+        {QStringLiteral("není/x.xls"), QStringLiteral("složka „%1“ neexistuje")
+                                           .arg(QDir::toNativeSeparators(path(QStringLiteral("není"))))},
+        {QStringLiteral("dobrá.xls/x.xls"),
+         QStringLiteral("„%1“ není složka").arg(QDir::toNativeSeparators(good))},
         {QStringLiteral("složka.xls"), QStringLiteral("pod tímto jménem je na disku složka")},
         {longName, QStringLiteral("jeho jméno je příliš dlouhé")},
         {QStringLiteral("a%1b.xls").arg(QChar(u'\0')),
-         QStringLiteral("v jeho jménu je znak, který tam být nesmí")},
-        {QStringLiteral("/dev/full"), QStringLiteral("pod tímto jménem není obyčejný soubor")}};
+         forbiddenName(QString(QChar(u'\0'))).isEmpty()
+             ? QStringLiteral("v jeho jménu je znak, který tam být nesmí")
+             : forbiddenName(QString(QChar(u'\0')))}};
+    if (QFile::exists(QStringLiteral("/dev/full")))
+        cases.emplace_back("/dev/full", "pod tímto jménem není obyčejný soubor");
     for (const auto& [name, reason] : cases) {
         const QString target = name.startsWith(QLatin1Char('/')) ? name : path(name);
         const QString expected =
@@ -152,7 +168,11 @@ TEST_F(FileRefusalTest, WhateverFailsInASaveIsARefusal) {
         {[] { throw std::length_error("x"); }, "obsah sešitu se nepodařilo sestavit"},
         {system(EACCES), "nemáte oprávnění k zápisu"},
         {system(EROFS), "disk je jen pro čtení"},
+        {system(ENOSPC), "na disku není dost místa"},
+        {system(ETXTBSY), "má ho otevřený jiný program"},
+#ifdef EDQUOT
         {system(EDQUOT), "na disku není dost místa"},
+#endif
         {system(EIO), "při zápisu na disk nastala chyba 5"},
     };
     for (const auto& [steps, reason] : cases)

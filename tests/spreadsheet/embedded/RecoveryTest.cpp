@@ -45,7 +45,8 @@ protected:
     }
     Document& document() { return *app->session().active(); }
     int journalCount(const char* folder = "zaznamy") const {
-        return int(QDir(state.filePath(QString::fromLatin1(folder))).entryList(QDir::Files).size());
+        return int(
+            QDir(state.filePath(QString::fromLatin1(folder))).entryList(QDir::Files | QDir::Hidden).size());
     }
 
     const QString song = path(QStringLiteral("Kočka.xls"));
@@ -202,7 +203,7 @@ TEST_F(RecoveryTest, WhoChangesHisMindWhileQuittingGivesNothingUp) {
 TEST_F(RecoveryTest, ADamagedJournalIsToldOfWithItsPlace) {
     crashWith("B2", "d");
     const QDir records(state.filePath(QStringLiteral("zaznamy")));
-    store(records.filePath(records.entryList(QDir::Files).value(0)), "co to je?");
+    store(records.filePath(records.entryList(QDir::Files | QDir::Hidden).value(0)), "co to je?");
     dialogs.expect(title, QStringLiteral("Záznam neuložených změn sešitu „Kočka.xls“ je poškozený"));
     open();
     const QString place =

@@ -91,7 +91,8 @@ inline QByteArray contents(const QString& path) {
 
 inline void store(const QString& path, const QByteArray& bytes) {
     QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate)) << path.toStdString();
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite)) << path.toStdString(); // a hidden one, too
+    file.resize(0);
     file.write(bytes);
 }
 

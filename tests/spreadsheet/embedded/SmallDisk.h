@@ -1,9 +1,17 @@
 #pragma once
 
-#include <csignal>
-#include <sys/resource.h>
+#include "tests/support/System.h"
 
 namespace zvonika::testing {
+
+#ifdef Q_OS_WIN
+
+/// No process can be limited so there; the cases are left out.
+struct SmallDisk {
+    explicit SmallDisk(quint64) {}
+};
+
+#else
 
 /// While it lives, writes of this process beyond `bytes` of a file fail with EFBIG, as on a full disk.
 class SmallDisk {
@@ -24,5 +32,7 @@ private:
     void (*handler_)(int);
     rlimit before_{};
 };
+
+#endif
 
 } // namespace zvonika::testing

@@ -1,11 +1,27 @@
 #pragma once
 
+#include "tests/support/ProcessMemory.h"
+#include "tests/support/System.h"
+
 #include <cstdio>
-#include <malloc.h>
-#include <sys/resource.h>
-#include <unistd.h>
 
 namespace zvonika::testing {
+
+#ifdef Q_OS_WIN
+
+/// What it is for is measured there by the peak of the process: it may take so many more bytes.
+class SmallMemory {
+public:
+    explicit SmallMemory(std::size_t more) : most_(peakKilobytes() + long(more >> 10)) {}
+    ~SmallMemory() { EXPECT_LE(peakKilobytes(), most_); }
+    SmallMemory(const SmallMemory&) = delete;
+    SmallMemory& operator=(const SmallMemory&) = delete;
+
+private:
+    long most_;
+};
+
+#else
 
 /// While it lives, this process gets about so many more bytes of memory and no more.
 class SmallMemory {
@@ -32,5 +48,7 @@ private:
 
     rlimit before_{};
 };
+
+#endif
 
 } // namespace zvonika::testing

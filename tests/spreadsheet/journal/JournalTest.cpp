@@ -22,7 +22,7 @@ protected:
     }
     QStringList kept(const QString& subfolder = {}) const {
         return QDir(state.filePath(QStringLiteral("zaznamy/")) + subfolder)
-            .entryList(QDir::Files, QDir::Name);
+            .entryList(QDir::Files | QDir::Hidden, QDir::Name);
     }
     /// A process that dies leaves its journal.
     void crash(int rows, const JournalBase& of) {
@@ -49,8 +49,10 @@ TEST_F(JournalTest, IsFoundByItsSongOnceItsOwnerIsGone) {
         EXPECT_TRUE(journals.pending(song).empty()) << "still in use";
         EXPECT_EQ(contents(state.filePath(QStringLiteral("zaznamy/")) + kept().value(0)).left(4), "ZVJ1");
     }
-    ASSERT_TRUE(QFile::link(song, path(QStringLiteral("odkaz.xls"))));
-    EXPECT_EQ(journals.pending(path(QStringLiteral("odkaz.xls"))).size(), 1U);
+    if (linkTo(song, path(QStringLiteral("odkaz.xls")))) {
+        EXPECT_EQ(journals.pending(path(QStringLiteral("odkaz.xls"))).size(), 1U);
+    }
+    EXPECT_EQ(journals.pending(path(QStringLiteral("./píseň.xls"))).size(), 1U);
     EXPECT_TRUE(journals.pending(path(QStringLiteral("jiná.xls"))).empty());
     EXPECT_TRUE(journals.pending({}).empty());
 }
@@ -197,9 +199,8 @@ TEST_F(JournalTest, WhatIsSavedIsNotOffered) {
 TEST_F(JournalTest, OnlyTheUsersOwnRegularFilesAreJournals) {
     crash(1, base());
     const QString folder = state.filePath(QStringLiteral("zaznamy"));
-    EXPECT_EQ(QFile::permissions(folder) &
-                  (QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther),
-              QFile::Permissions());
+    const auto ofOthers = QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
+    EXPECT_TRUE(!UserMask::counts || !(QFile::permissions(folder) & ofOthers));
     const QString file = folder + QLatin1Char('/') + kept().value(0);
     const QByteArray whole = contents(file);
     for (const Neighbour& neighbour : neighbours) {
@@ -217,7 +218,7 @@ TEST_F(JournalTest, OnlyTheUsersOwnRegularFilesAreJournals) {
     QFile::remove(file);
     store(file, whole);
     EXPECT_EQ(journals.pending(song).size(), 1U);
-    if (::geteuid() != 0 || ::chown(QFile::encodeName(file), nobody, nobody) != 0) return;
+    if (!giveAway(file)) return;
     EXPECT_TRUE(journals.pending(song).empty()) << "planted by another user";
 }
 
@@ -231,6 +232,7 @@ TEST_F(JournalTest, TurnedDownOnesAreKeptAsideButNotForEver) {
 }
 
 TEST_F(JournalTest, OnAFullDiskChangesWaitUntilThereIsRoom) {
+    SKIPPED_ON_WINDOWS("a process cannot be limited in what it writes");
     {
         Journal journal(journals, base());
         {

@@ -1,13 +1,14 @@
 // Small files that claim to be large: reading them costs neither much time nor much memory.
 #include "tests/spreadsheet/xls/XlsFiles.h"
+#include "tests/support/ProcessMemory.h"
 
 #include <algorithm>
 #include <ctime>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 using namespace zvonika::xls;
 using namespace xlstest;
+using zvonika::testing::peakKilobytes;
 
 namespace {
 
@@ -129,12 +130,6 @@ void openChangeSave(const Bytes& file) {
         Workbook::open(book.save());
     } catch (const FormatError&) {
     }
-}
-
-long peakKilobytes() {
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    return usage.ru_maxrss;
 }
 
 TEST(HostileFiles, CostLittleTimeAndMemory) {

@@ -1,11 +1,11 @@
 // How much memory a large song takes while it is opened, changed and saved.
 #include "tests/spreadsheet/xls/XlsFiles.h"
+#include "tests/support/ProcessMemory.h"
 
 #include <algorithm>
 #include <atomic>
 #include <cstdlib>
 #include <gtest/gtest.h>
-#include <malloc.h>
 #include <new>
 
 using namespace zvonika::xls;
@@ -18,7 +18,7 @@ std::atomic<std::size_t> held{0}, peak{0};
 void* taken(std::size_t size) {
     void* memory = std::malloc(size);
     if (!memory) return nullptr;
-    const std::size_t now = held += ::malloc_usable_size(memory);
+    const std::size_t now = held += zvonika::testing::sizeOf(memory);
     if (now > peak) peak = now;
     return memory;
 }
@@ -38,7 +38,7 @@ void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
 }
 
 void operator delete(void* memory) noexcept {
-    held -= ::malloc_usable_size(memory);
+    held -= zvonika::testing::sizeOf(memory);
     std::free(memory);
 }
 
