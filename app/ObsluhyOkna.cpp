@@ -41,6 +41,8 @@ ObsluhyPrikazu prikazyPisne(const CastiProgramu& c) {
         {"cmdJakDal", [k] { k.navigace.cmdJakDal(); }},
         {"cmdJakDalZpet", [k] { k.navigace.cmdJakDalZpet(); }},
         {"cmdTimer", [c] { c.automat.cmdTimer(); }},
+        {"mnuZpet", [c] { c.konverzace.vraceni().mnuZpet(); }},
+        {"mnuZnovu", [c] { c.konverzace.vraceni().mnuZnovu(); }},
     };
 }
 
@@ -52,6 +54,9 @@ ObsluhyPrikazu prikazyZapisu(const CastiProgramu& c) {
         {"cmdTlak", [k] { k.zapisHmatu.cmdTlak(); }},
         {"cmdTahNoty", [k] { k.zapisHmatuZNot.cmdTahNoty(); }},
         {"cmdTlakNoty", [k] { k.zapisHmatuZNot.cmdTlakNoty(); }},
+        {"mnuPrevzitHmat", [k] { k.prevzeti.mnuPrevzitHmat(); }},
+        {"mnuVlozitHmat", [k] { k.radky.mnuVlozitHmat(); }},
+        {"mnuSmazatHmat", [k] { k.radky.mnuSmazatHmat(); }},
     };
     for (const PrikazUvolneni& radek : prikazyUvolneni())
         obsluhy.insert(radek.tlacitko, [k, tlacitko = radek.tlacitko] { k.uvolneni.proved(tlacitko); });

@@ -230,7 +230,8 @@ void Form1::pridejPolozku(QMenu& menu, const PolozkaMenu& polozka) {
     QAction* akce = menu.addAction(polozka.popisek);
     akce->setObjectName(polozka.jmeno);
     akce->setCheckable(polozka.zaskrtavaci);
-    akce->setShortcut(QKeySequence(polozka.zkratka));
+    akce->setShortcuts(QKeySequence::listFromString(polozka.zkratka));
+    akce->setAutoRepeat(false); // a key held down must not delete row after row
     akce->setEnabled(stavy_.povolen(polozka.jmeno));
     connect(akce, &QAction::triggered, this, [this, p = polozka.prikaz] {
         Q_EMIT prikaz(p);
@@ -254,6 +255,17 @@ void Form1::ukazPanel() {
     ukazVarovani();
     ukazListy();
     ukazBarvuKroku();
+    ukazKroky();
+}
+
+/// What would be taken back stands beside the entry's own caption.
+void Form1::ukazKroky() {
+    const auto popis = [](const char* popisek, const QString& krok) {
+        const QString text = QString::fromUtf8(popisek);
+        return krok.isEmpty() ? text : text + QStringLiteral(": ") + shownName(krok);
+    };
+    akce_[QStringLiteral("mnuZpet")]->setText(popis("Zpět", panel_.krokZpet));
+    akce_[QStringLiteral("mnuZnovu")]->setText(popis("Znovu", panel_.krokZnovu));
 }
 
 /// The hint gives way to a warning as a whole: half a sentence of each would tell neither.

@@ -20,13 +20,18 @@ public:
     /// The collected entries, which are given away.
     QString odeber();
     /// Exchanges the entries for those of another time.
-    void nastav(const QString& prstoklad) { prstoklad_ = prstoklad; }
+    void nastav(const QString& prstoklad);
+    /// Exchanges them for those of a grip that is to be put right: the finger that is then entered for a
+    /// button takes the place of the one that it had.
+    void prevezmi(const QString& prstoklad);
 
 private:
     void pridej(QChar druh, int n);
+    void nahradPrevzaty(const QString& knoflik);
 
     Dialogs& dialogs_;
     QString prstoklad_;
+    qsizetype prevzato_ = 0; ///< so much of the entries, from the first on, was taken over
 };
 
 } // namespace zvonika

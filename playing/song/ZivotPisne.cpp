@@ -38,7 +38,7 @@ void ZivotPisne::oznamJenKeCteni() {
 }
 
 void ZivotPisne::prevezmiPisen() {
-    if (okoli_.pisen.AktivujPisen()) vOkne_.ukazOtevrenou();
+    if (okoli_.pisen.AktivujPisen()) vOkne_.ukazKopii();
 }
 
 void ZivotPisne::Combo1Click(const QString& list) {

@@ -90,6 +90,16 @@ public:
         on("writeBlock").writeBlock(address, block);
     }
 
+    void insertRow(int row) override { on("insertRow").insertRow(row); }
+    void deleteRow(int row) override { on("deleteRow").deleteRow(row); }
+    void putBack(const QString& address, const CellBlock& block) override {
+        on("putBack").putBack(address, block);
+    }
+    void beginStep() override { app_->beginStep(); }
+    void endStep() override { app_->endStep(); }
+    void setStepKeeper(StepKeeper* keeper) override { app_->setStepKeeper(keeper); }
+    void stepsChanged() override { app_->stepsChanged(); }
+
     void finishWriting() override { on("finishWriting").finishWriting(); }
     bool userIsTyping() const override { return on("userIsTyping").userIsTyping(); }
 
