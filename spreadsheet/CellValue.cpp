@@ -23,6 +23,10 @@ bool isEmpty(const CellValue& value) {
     return std::holds_alternative<std::monostate>(value);
 }
 
+bool isSame(const CellValue& a, const CellValue& b) {
+    return a == b || (isEmpty(a) && isEmpty(b));
+}
+
 QString cellText(const CellValue& value) {
     return std::visit(Texts(), value);
 }

@@ -20,6 +20,8 @@ using CellValue = std::variant<std::monostate, double, bool, CellError, QString>
 using CellBlock = QVector<QVector<CellValue>>;
 
 bool isEmpty(const CellValue& value); ///< nothing, or the empty text
+/// Equal; nothing and the empty text are one.
+bool isSame(const CellValue& a, const CellValue& b);
 /// The value as the program reads it: numbers in their shortest form with a decimal point, truth as
 /// "True"/"False", an empty cell as "".
 QString cellText(const CellValue& value);

@@ -56,6 +56,11 @@ CellRange cellsAt(const QString& address) {
     refuse(QStringLiteral("„%1“ není adresa buněk.").arg(shownName(address)));
 }
 
+int rowAt(int row) {
+    if (row < 1 || row > lastRow) refuse(QStringLiteral("Řádek %1 na listu není.").arg(row));
+    return row;
+}
+
 CellRange handedOver(const CellRange& range) {
     if (qint64{range.rows()} * range.columns() > largestBlock)
         refuse(QStringLiteral("Oblast je příliš velká."));

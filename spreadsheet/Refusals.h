@@ -24,6 +24,8 @@ namespace zvonika {
 
 /// The cells of an address ("B7", "B1:B500"); refuses what is no address.
 CellRange cellsAt(const QString& address);
+/// The row itself; 1004 where the sheet has none of that number.
+int rowAt(int row);
 /// The range itself; refuses one of more cells than are handed over in one call (1,048,576).
 CellRange handedOver(const CellRange& range);
 /// The cell so many rows and columns away; refuses the way over the edge of the sheet.

@@ -121,7 +121,7 @@ public:
 
     // --- rows of the active sheet ---
     /// Rows from `row` on move down (up) by one, in the active sheet alone. 1004 when the application
-    /// refuses.
+    /// refuses; behind the last row that is used there is nothing to move.
     virtual void insertRow(int row) { static_cast<void>(row); }
     virtual void deleteRow(int row) { static_cast<void>(row); }
     /// As `writeBlock`, with what stood there before: where the file holds a formula that showed this value,
@@ -130,13 +130,14 @@ public:
 
     // --- steps ---
     /// What is written from `beginStep` to `endStep` belongs together: a crash leaves all of it or nothing.
-    /// One at a time; neither raises.
+    /// One at a time; what saves or closes a workbook or renames a sheet in between ends it first. Takes over
+    /// what the user is typing where that is a step of the keeper's. Neither raises.
     virtual void beginStep() {}
     virtual void endStep() {}
     /// Who keeps the list of steps; outlives the application. Applications that leave what the user does in
     /// their window to a list of their own do not ask it.
     virtual void setStepKeeper(StepKeeper* keeper) { static_cast<void>(keeper); }
-    /// The keeper's labels have changed.
+    /// The keeper's labels, or what it keeps, have changed.
     virtual void stepsChanged() {}
 
     // --- writing and the user ---

@@ -38,18 +38,21 @@ struct WorkStep {
 /// The list of what can be taken back in the workbooks that the program works on. A spreadsheet in whose own
 /// window steps are taken back hands over what the user did there, and leaves the taking back to this list;
 /// so there is one order of what the program wrote and what the user typed. Called on the user-interface
-/// thread, outside of any call of the port.
+/// thread.
 class StepKeeper {
 public:
     virtual ~StepKeeper() = default;
 
     /// False: the workbook is none of the program's, and its steps are the spreadsheet's own.
     virtual bool keeps(const QString& workbook) const = 0;
-    /// The user has done this in the active workbook, which is kept.
+    /// The user has done this in the active workbook, which is kept. Comes at once, before the listener hears
+    /// of it, and also within a call of the port that takes over what he was typing: calls nothing of the
+    /// port but `stepsChanged`.
     virtual void done(WorkStep step) = 0;
     virtual QString undoLabel() const = 0; ///< "" when there is nothing to take back
     virtual QString redoLabel() const = 0; ///< "" when there is nothing to do again
-    /// Take back (do again) the last step. Questions and failures are the keeper's to show.
+    /// Take back (do again) the last step. Questions and failures are the keeper's to show. Called outside of
+    /// any call of the port.
     virtual void undo() = 0;
     virtual void redo() = 0;
 };

@@ -25,9 +25,26 @@ qsizetype widest(const CellBlock& block) {
 }
 
 bool differs(const SheetCells& cells, int sheet, CellPosition cell, const CellValue& value) {
-    const CellValue now = cells.value(sheet, cell);
-    const bool same = now == value || (isEmpty(now) && isEmpty(value));
-    return !same || cells.isFormula(sheet, cell);
+    return !isSame(cells.value(sheet, cell), value) || cells.isFormula(sheet, cell);
+}
+
+bool mayBePutBack(const SheetCells& cells, int sheet, CellPosition cell, const CellValue& value) {
+    return !isSame(cells.value(sheet, cell), value) || !cells.isFormula(sheet, cell);
+}
+
+/// What becomes of the cells of a block for which `changes` says so.
+template <typename Changes>
+std::vector<CellChange> changesOf(const SheetCells& cells, int sheet, CellPosition first,
+                                  const CellBlock& block, Changes changes) {
+    std::vector<CellChange> result;
+    for (qsizetype row = 0; row < block.size(); ++row)
+        for (qsizetype column = 0; column < block[row].size(); ++column) {
+            const CellPosition cell{first.row + static_cast<int>(row),
+                                    first.column + static_cast<int>(column)};
+            const CellValue& after = block[row][column];
+            if (changes(cells, sheet, cell, after)) result.push_back(changeTo(cells, sheet, cell, after));
+        }
+    return result;
 }
 
 /// What of a range needs to be gone through to empty it; may be nothing (no rows or no columns).
@@ -54,15 +71,12 @@ CellChange changeTo(const SheetCells& cells, int sheet, CellPosition cell, const
 
 std::vector<CellChange> changesBy(const SheetCells& cells, int sheet, CellPosition first,
                                   const CellBlock& block) {
-    std::vector<CellChange> changes;
-    for (qsizetype row = 0; row < block.size(); ++row)
-        for (qsizetype column = 0; column < block[row].size(); ++column) {
-            const CellPosition cell{first.row + static_cast<int>(row),
-                                    first.column + static_cast<int>(column)};
-            const CellValue& after = block[row][column];
-            if (differs(cells, sheet, cell, after)) changes.push_back(changeTo(cells, sheet, cell, after));
-        }
-    return changes;
+    return changesOf(cells, sheet, first, block, differs);
+}
+
+std::vector<CellChange> changesBack(const SheetCells& cells, int sheet, CellPosition first,
+                                    const CellBlock& block) {
+    return changesOf(cells, sheet, first, block, mayBePutBack);
 }
 
 std::vector<CellChange> changesBy(const SheetCells& cells, int sheet, const CellRange& range,

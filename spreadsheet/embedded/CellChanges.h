@@ -22,6 +22,9 @@ std::vector<CellChange> changesBy(const SheetCells& cells, int sheet, CellPositi
 /// is emptied.
 std::vector<CellChange> changesBy(const SheetCells& cells, int sheet, const CellRange& range,
                                   const CellValue& after);
+/// What putting this block back may change: also a cell that shows its value already, if by no formula.
+std::vector<CellChange> changesBack(const SheetCells& cells, int sheet, CellPosition first,
+                                    const CellBlock& block);
 CellChange changeTo(const SheetCells& cells, int sheet, CellPosition cell, const CellValue& after);
 
 /// The smallest range with all of them; there must be one.

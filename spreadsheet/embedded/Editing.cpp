@@ -28,72 +28,102 @@ std::exception_ptr Editing::putAll(int sheet, std::vector<CellChange>& changes) 
     return nullptr;
 }
 
-void Editing::writeAll(int sheet, const CellRange& place, std::vector<CellChange> changes) {
-    const auto refusal = putAll(sheet, changes);
-    if (!refusal || !changes.empty()) {
-        history_.forget(sheet, place);
-        Q_EMIT historyChanged();
-    }
-    if (!changes.empty()) {
-        changed_(written(sheet, changes));
-        Q_EMIT cellsChanged(sheet, around(changes));
-    }
-    if (refusal) std::rethrow_exception(refusal);
-}
-
 void Editing::write(int sheet, CellPosition first, const CellBlock& block) {
-    const CellRange place = placeFor(first, block);
-    writeAll(sheet, place, changesBy(cells_, sheet, first, block));
+    placeFor(first, block);
+    commitCells({UndoStep::Kind::Cells, {}, sheet, 0, changesBy(cells_, sheet, first, block)}, By::Program);
 }
 
 void Editing::fill(int sheet, const CellRange& range, const CellValue& value) {
-    writeAll(sheet, range, changesBy(cells_, sheet, range, value));
+    commitCells({UndoStep::Kind::Cells, {}, sheet, 0, changesBy(cells_, sheet, range, value)}, By::Program);
 }
 
 bool Editing::edit(int sheet, CellPosition first, const CellBlock& block, const QString& label) {
     placeFor(first, block);
-    return commitCells({UndoStep::Kind::Cells, label, sheet, 0, changesBy(cells_, sheet, first, block)});
+    return commitCells({UndoStep::Kind::Cells, label, sheet, 0, changesBy(cells_, sheet, first, block)},
+                       By::User);
 }
 
 bool Editing::editFill(int sheet, const CellRange& range, const CellValue& after, const QString& label) {
-    return commitCells({UndoStep::Kind::Cells, label, sheet, 0, changesBy(cells_, sheet, range, after)});
+    return commitCells({UndoStep::Kind::Cells, label, sheet, 0, changesBy(cells_, sheet, range, after)},
+                       By::User);
 }
 
-bool Editing::commitCells(UndoStep step) {
+bool Editing::commitCells(UndoStep step, By by) {
     const auto refusal = putAll(step.sheet, step.changes);
     const bool any = !step.changes.empty();
     if (any) {
         changed_(written(step.sheet, step.changes));
         Q_EMIT cellsChanged(step.sheet, around(step.changes));
-        history_.add(std::move(step));
-        Q_EMIT historyChanged();
     }
+    if (any || !refusal) keep(std::move(step), by);
     if (refusal) std::rethrow_exception(refusal);
     return any;
 }
 
-bool Editing::commit(UndoStep step) {
-    exchange(step, false);
+void Editing::forgetSteps() {
+    if (history_.clear()) Q_EMIT historyChanged();
+}
+
+// Also where the program writes what stands there already: from now on it is a recorded grip.
+void Editing::keep(UndoStep step, By by) {
+    if (by == By::Program) return forgetSteps();
+    if (step.kind == UndoStep::Kind::Cells && step.changes.empty()) return;
     history_.add(std::move(step));
     Q_EMIT historyChanged();
+}
+
+/// As `putAll`; leaves in `changes` what has changed, as it would have been taken back.
+std::exception_ptr Editing::putAllBack(int sheet, std::vector<CellChange>& changes) {
+    std::vector<CellChange> done;
+    std::exception_ptr refusal;
+    for (const auto& change : changes) {
+        try {
+            cells_.putBack(sheet, change.cell, change.after);
+        } catch (const RuntimeError&) {
+            refusal = std::current_exception();
+            break;
+        }
+        const bool isFormula = cells_.isFormula(sheet, change.cell);
+        if (!isSame(change.before, change.after) || change.wasFormula != isFormula)
+            done.push_back({change.cell, change.after, {}, isFormula});
+    }
+    changes = std::move(done);
+    return refusal;
+}
+
+void Editing::putBack(int sheet, CellPosition first, const CellBlock& block) {
+    placeFor(first, block);
+    std::vector<CellChange> changes = changesBack(cells_, sheet, first, block);
+    const auto refusal = putAllBack(sheet, changes);
+    if (!changes.empty()) {
+        changed_(takenBack(sheet, changes));
+        Q_EMIT cellsChanged(sheet, around(changes));
+        forgetSteps();
+    }
+    if (refusal) std::rethrow_exception(refusal);
+}
+
+bool Editing::commitRow(UndoStep step, By by) {
+    exchange(step, false);
+    keep(std::move(step), by);
     return true;
 }
 
-bool Editing::insertRow(int sheet, int row) {
+bool Editing::insertRow(int sheet, int row, By by) {
     if (row > cells_.usedRows(sheet)) return false;
     refuseFormulas(sheet, row);
     if (cells_.usedRows(sheet) == lastRow)
         refuse(QStringLiteral("Řádek nelze vložit: poslední řádek listu není prázdný."));
-    return commit({UndoStep::Kind::InsertRow, QStringLiteral("Vložení řádku"), sheet, row, {}});
+    return commitRow({UndoStep::Kind::InsertRow, QStringLiteral("Vložení řádku"), sheet, row, {}}, by);
 }
 
-bool Editing::deleteRow(int sheet, int row) {
+bool Editing::deleteRow(int sheet, int row, By by) {
     if (row > cells_.usedRows(sheet)) return false;
     refuseFormulas(sheet, row);
     UndoStep step{UndoStep::Kind::DeleteRow, QStringLiteral("Odstranění řádku"), sheet, row, {}};
     forCells({{row, 1}, {row, cells_.usedColumns(sheet)}},
              [&](CellPosition cell) { step.changes.push_back(changeTo(cells_, sheet, cell, {})); });
-    return commit(std::move(step));
+    return commitRow(std::move(step), by);
 }
 
 /// A formula speaks of other cells by their place; moved as a value it would be lost.

@@ -51,6 +51,7 @@ void EmbeddedApplication::setVisible(bool visible) {
 
 void EmbeddedApplication::quit() {
     const Session::ProgramCall call(session_);
+    endStep();
     Saving(session_).offerUnsaved();
     const Session::State before = session_.state();
     session_.end(Session::State::Ended);
@@ -122,6 +123,7 @@ void EmbeddedApplication::saveInPlace(Document& saved, const QString& nativePath
 void EmbeddedApplication::closeActiveWorkbook() {
     const Session::ProgramCall call(session_);
     Document& closed = document();
+    endStep();
     if (!closed.journal().hasRecovered()) closed.journal().giveUp();
     session_.remove(closed);
 }

@@ -75,6 +75,16 @@ public:
     CellBlock readBlock(const QString& address) const override;
     void writeBlock(const QString& address, const CellBlock& block) override;
 
+    /// 1004 when a formula or, moving down, the last row is in the way.
+    void insertRow(int row) override;
+    void deleteRow(int row) override;
+    void putBack(const QString& address, const CellBlock& block) override;
+
+    void beginStep() override;
+    void endStep() override;
+    void setStepKeeper(StepKeeper* keeper) override { session_.setStepKeeper(keeper); }
+    void stepsChanged() override { session_.stepsChanged(); }
+
     void finishWriting() override {}
     bool userIsTyping() const override { return session_.userIsTyping(); }
 

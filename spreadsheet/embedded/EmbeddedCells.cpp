@@ -38,6 +38,7 @@ QString EmbeddedApplication::activeSheetName() const {
 
 void EmbeddedApplication::renameActiveSheet(const QString& name) {
     Document& active = document();
+    endStep();
     active.editing().renameSheet(active.cursor().activeSheet(), name);
 }
 
@@ -151,6 +152,35 @@ void EmbeddedApplication::writeBlock(const QString& address, const CellBlock& bl
     const Session::ProgramCall call(session_);
     Document& active = document();
     active.editing().write(active.cursor().activeSheet(), cellsAt(address).first, block);
+}
+
+void EmbeddedApplication::insertRow(int row) {
+    const Session::ProgramCall call(session_);
+    Document& active = document();
+    active.editing().insertRow(active.cursor().activeSheet(), rowAt(row), Editing::By::Program);
+}
+
+void EmbeddedApplication::deleteRow(int row) {
+    const Session::ProgramCall call(session_);
+    Document& active = document();
+    active.editing().deleteRow(active.cursor().activeSheet(), rowAt(row), Editing::By::Program);
+}
+
+void EmbeddedApplication::putBack(const QString& address, const CellBlock& block) {
+    const Session::ProgramCall call(session_);
+    Document& active = document();
+    active.editing().putBack(active.cursor().activeSheet(), cellsAt(address).first, block);
+}
+
+void EmbeddedApplication::beginStep() {
+    const Session::ProgramCall call(session_);
+    for (const auto& document : session_.documents())
+        document->journal().beginGroup();
+}
+
+void EmbeddedApplication::endStep() {
+    for (const auto& document : session_.documents())
+        document->journal().endGroup();
 }
 
 } // namespace zvonika

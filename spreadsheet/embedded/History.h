@@ -26,8 +26,8 @@ struct UndoStep {
     std::vector<CellChange> changes; ///< cells changed, or what stood in the row taken out (as `before`)
 };
 
-/// What the user did and can take back, newest last. What the program writes is not in it; where the program
-/// has written, the user's steps no longer reach (`forget`), so taking back never undoes a recorded grip.
+/// What the user did and can take back, newest last. What the program writes is not in it, and ends what was
+/// there before, so taking back never undoes a recorded grip.
 class History {
 public:
     static constexpr std::size_t longest = 200; ///< steps kept
@@ -40,9 +40,10 @@ public:
     const UndoStep* back();
     const UndoStep* again();
 
-    /// The program has written into these cells: drops them from every step, and a step that would put the
-    /// row in question in or out, with the steps beyond it.
-    void forget(int sheet, const CellRange& range);
+    /// False when there was nothing.
+    bool clear();
+    /// What was done, which somebody else is going to keep.
+    std::vector<UndoStep> take();
 
     QString backLabel() const;  ///< "" when nothing can be taken back
     QString againLabel() const; ///< "" when nothing can be done again

@@ -3,6 +3,7 @@
 #include "platform/ShownText.h"
 #include "spreadsheet/Refusals.h"
 #include "spreadsheet/SpreadsheetApplication.h"
+#include "spreadsheet/StepKeeper.h"
 
 #include <algorithm>
 #include <utility>
@@ -92,6 +93,19 @@ void Session::report(bool edited, bool moved) {
     if (programCalls_ > 0) return;
     if (std::exchange(owesEdited_, false) && listener_) listener_->cellsEdited();
     if (std::exchange(owesMoved_, false) && listener_) listener_->cursorMoved();
+}
+
+void Session::setStepKeeper(StepKeeper* keeper) {
+    keeper_ = keeper;
+    stepsChanged();
+}
+
+StepKeeper* Session::keeperOf(const Document& document) const {
+    return keeper_ && keeper_->keeps(document.file().name()) ? keeper_ : nullptr;
+}
+
+void Session::stepsChanged() {
+    if (active_) Q_EMIT active_->historyChanged();
 }
 
 // By the event loop and not here, where the program is still in its own step. A box may run that loop within

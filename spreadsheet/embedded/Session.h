@@ -11,6 +11,7 @@
 namespace zvonika {
 
 class SpreadsheetListener;
+class StepKeeper;
 
 /// What the built-in application calls itself in its own boxes.
 inline const QString jmenoTabulky = QStringLiteral("Tabulka Zvoniky");
@@ -66,6 +67,11 @@ public:
     void setListener(SpreadsheetListener* listener) { listener_ = listener; }
     /// Tells the listener what the user has done: at once, or after the program's call if one is under way.
     void report(bool edited, bool moved);
+    void setStepKeeper(StepKeeper* keeper);
+    /// Who takes back what is done in this workbook; nullptr: its own history.
+    StepKeeper* keeperOf(const Document& document) const;
+    void stepsChanged(); ///< of the keeper
+    bool inProgramCall() const { return programCalls_ > 0; }
 
     /// A call of the program that leaves what is shown, writes to it or reads all of it: begins by taking
     /// what the user is just typing. The listener hears of that when the call is over.
@@ -86,6 +92,7 @@ private:
 
     Dialogs& dialogs_;
     SpreadsheetListener* listener_ = nullptr;
+    StepKeeper* keeper_ = nullptr;
     int programCalls_ = 0;
     bool owesEdited_ = false; ///< the listener is still to be told
     bool owesMoved_ = false;

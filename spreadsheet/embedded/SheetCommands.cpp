@@ -2,6 +2,7 @@
 
 #include "spreadsheet/embedded/CellEntry.h"
 #include "spreadsheet/embedded/Failures.h"
+#include "spreadsheet/embedded/HandedSteps.h"
 #include "spreadsheet/embedded/Session.h"
 #include "spreadsheet/embedded/TabSeparatedText.h"
 
@@ -69,10 +70,32 @@ bool SheetCommands::attempt(Action action) {
     const Place before = place();
     bool edited = false;
     const auto touched = QObject::connect(document, &Document::cellsChanged, [&edited] { edited = true; });
-    runForUser(session_.dialogs(), [&] { edited = action(*document); }); // a refusal may come half-way
+    // A refusal may come half-way.
+    runForUser(session_.dialogs(), [&] { edited = keepSteps(*document, action); });
     QObject::disconnect(touched);
     session_.report(edited, !(place() == before));
     return edited;
+}
+
+/// Hands over what was done where somebody else keeps the steps: before the box of a refusal, which lets the
+/// program go on.
+template <typename Action>
+bool SheetCommands::keepSteps(Document& document, Action action) {
+    StepKeeper* const keeper = session_.keeperOf(document);
+    if (!keeper) return action(document);
+    document.editing().forgetSteps(); // from before it was kept
+    const auto handOver = [&] {
+        for (const UndoStep& step : document.editing().takeSteps())
+            keeper->done(workStep(step, document.cells().sheetName(step.sheet)));
+    };
+    try {
+        const bool edited = action(document);
+        handOver();
+        return edited;
+    } catch (...) {
+        handOver();
+        throw;
+    }
 }
 
 SheetCommands::Place SheetCommands::place() const {
@@ -173,11 +196,36 @@ void SheetCommands::deleteRow() {
 }
 
 void SheetCommands::undo() {
-    attempt([](Document& document) { return document.editing().undo(); });
+    if (StepKeeper* const keeper = this->keeper())
+        exchangeKept([keeper] { keeper->undo(); });
+    else
+        attempt([](Document& document) { return document.editing().undo(); });
 }
 
 void SheetCommands::redo() {
-    attempt([](Document& document) { return document.editing().redo(); });
+    if (StepKeeper* const keeper = this->keeper())
+        exchangeKept([keeper] { keeper->redo(); });
+    else
+        attempt([](Document& document) { return document.editing().redo(); });
+}
+
+StepKeeper* SheetCommands::keeper() const {
+    return session_.active() ? session_.keeperOf(*session_.active()) : nullptr;
+}
+
+// The keeper does it by calls of the program, which do not go together with one that is under way.
+void SheetCommands::exchangeKept(const std::function<void()>& exchange) {
+    if (!session_.inProgramCall()) runForUser(session_.dialogs(), exchange);
+}
+
+QString SheetCommands::undoLabel() const {
+    if (const StepKeeper* const kept = keeper()) return kept->undoLabel();
+    return session_.active() ? session_.active()->editing().undoLabel() : QString();
+}
+
+QString SheetCommands::redoLabel() const {
+    if (const StepKeeper* const kept = keeper()) return kept->redoLabel();
+    return session_.active() ? session_.active()->editing().redoLabel() : QString();
 }
 
 void SheetCommands::renameSheet(int sheet, const QString& name) {

@@ -7,9 +7,12 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 namespace zvonika {
 
 class Session;
+class StepKeeper;
 
 /// What the user does in the sheet window, each method one action on the active document (without one,
 /// nothing happens). Tells the program's listener; refusals and failures of every kind are shown in a box,
@@ -41,8 +44,11 @@ public:
     void paste(const QString& tabbedText);
     void insertRow(); ///< above the active cell
     void deleteRow(); ///< of the active cell
+    /// The last step of the workbook's own history, or of who keeps its steps.
     void undo();
     void redo();
+    QString undoLabel() const; ///< "" when there is nothing to take back
+    QString redoLabel() const;
 
     void renameSheet(int sheet, const QString& name);
     /// Not reported to the program.
@@ -59,7 +65,11 @@ private:
 
     template <typename Action>
     bool attempt(Action action);
+    template <typename Action>
+    bool keepSteps(Document& document, Action action);
     Place place() const;
+    StepKeeper* keeper() const; ///< of the active document; nullptr: its own history
+    void exchangeKept(const std::function<void()>& exchange);
 
     Session& session_;
     FileCommands files_;

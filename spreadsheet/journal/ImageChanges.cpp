@@ -9,8 +9,7 @@ namespace {
 bool differs(const SheetImage& before, const SheetImage& after, CellPosition cell) {
     const QString formula = after.formula(cell);
     if (!formula.isEmpty()) return formula != before.formula(cell);
-    const CellValue was = before.value(cell), is = after.value(cell);
-    return !before.formula(cell).isEmpty() || (was != is && !(isEmpty(was) && isEmpty(is)));
+    return !before.formula(cell).isEmpty() || !isSame(before.value(cell), after.value(cell));
 }
 
 CellPosition larger(CellPosition a, CellPosition b) {

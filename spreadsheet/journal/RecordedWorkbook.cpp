@@ -26,9 +26,7 @@ void RecordedWorkbook::note(std::vector<JournalChange> changes) {
 void RecordedWorkbook::write(std::vector<JournalChange>& changes, int sheet, CellPosition cell,
                              const CellValue& value) {
     SheetImage& image = image_.sheets[sheet - 1];
-    const CellValue was = image.value(cell);
-    const bool same = was == value || (isEmpty(was) && isEmpty(value));
-    if (same && image.formula(cell).isEmpty()) return;
+    if (isSame(image.value(cell), value) && image.formula(cell).isEmpty()) return;
     image.put(cell, value);
     changes.emplace_back(CellWritten{sheet, cell, value});
 }

@@ -17,6 +17,10 @@ public:
     ~WorkbookJournal() override;
 
     void note(std::vector<JournalChange> changes);
+    /// What is noted from here to `endGroup` comes back as a whole or not at all. One at a time; a save ends
+    /// it first.
+    void beginGroup();
+    void endGroup();
     /// The workbook has made the changes of this journal, which goes on as its own.
     void takeOver(PendingJournal pending);
     bool hasRecovered() const { return recovered_; } ///< since the last save
@@ -26,7 +30,7 @@ public:
     QString trouble() const;
 
     /// Everything so far is about to be put into a file of these contents ...
-    void saving(const QString& nativePath, const QByteArray& hash) { journal_.saving(nativePath, hash); }
+    void saving(const QString& nativePath, const QByteArray& hash);
     /// ... and has been: the workbook is based on `base` from now on.
     void saved(const JournalBase& base);
     /// Journals of a former song of this name, which is no more.
@@ -36,9 +40,12 @@ Q_SIGNALS:
     void troubleChanged();
 
 private:
+    void record(std::vector<JournalChange> changes);
     void flush();
 
     Journal journal_;
+    bool grouping_ = false;
+    std::vector<JournalChange> group_; ///< not in the journal yet
     bool flushDue_ = false;
     bool recovered_ = false;
     bool givenUp_ = false;

@@ -90,15 +90,16 @@ void SheetMenu::setDocument(Document* document) {
     for (QAction* entry : needDocument_)
         entry->setEnabled(document != nullptr);
     if (!document) return;
-    connect(document, &Document::historyChanged, this, [this] { showHistory(*document_); });
-    showHistory(*document);
+    connect(document, &Document::historyChanged, this, &SheetMenu::showHistory);
+    showHistory();
 }
 
-void SheetMenu::showHistory(const Document& document) {
-    undo_->setText(withLabel(undoText, document.editing().undoLabel()));
-    undo_->setEnabled(!document.editing().undoLabel().isEmpty());
-    redo_->setText(withLabel(redoText, document.editing().redoLabel()));
-    redo_->setEnabled(!document.editing().redoLabel().isEmpty());
+void SheetMenu::showHistory() {
+    const QString undo = commands_.undoLabel(), redo = commands_.redoLabel();
+    undo_->setText(withLabel(undoText, undo));
+    undo_->setEnabled(!undo.isEmpty());
+    redo_->setText(withLabel(redoText, redo));
+    redo_->setEnabled(!redo.isEmpty());
 }
 
 void SheetMenu::showWorkbooks() {

@@ -28,7 +28,7 @@ private:
     void fillEdit(QMenu* menu);
     QAction* add(QMenu* menu, const QString& name, const QString& text, const QList<QKeySequence>& keys,
                  std::function<void()> action);
-    void showHistory(const Document& document);
+    void showHistory();
     void showWorkbooks();
 
     SheetCommands& commands_;

@@ -88,6 +88,13 @@ TEST_F(ArrayFormulaTest, WhatTheUserDidBeforeTheRefusalIsToldAndCanBeTakenBack) 
     EXPECT_EQ(listener.take(), QStringLiteral("b"));
     app.commands().undo();
     EXPECT_EQ(app.value(QStringLiteral("A1")), before);
+    Keeper keeper(listener.heard);
+    keeper.kept = app.activeWorkbookName();
+    app.setStepKeeper(&keeper);
+    dialogs.expect(jmenoTabulky, QStringLiteral("maticovému vzorci"));
+    app.commands().paste(QStringLiteral("1\t2\n3\t4"));
+    ASSERT_EQ(listener.take(), QStringLiteral("bhb"));
+    EXPECT_EQ(keeper.steps.back().parts.size(), 1U);
 }
 
 } // namespace zvonika::testing

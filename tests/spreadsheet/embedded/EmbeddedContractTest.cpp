@@ -1,5 +1,6 @@
 #include "spreadsheet/Address.h"
-#include "tests/spreadsheet/contract/RecoveryContract.h"
+#include "tests/spreadsheet/contract/FileContract.h"
+#include "tests/spreadsheet/contract/StepContract.h"
 #include "tests/spreadsheet/embedded/Rig.h"
 
 namespace zvonika::testing {

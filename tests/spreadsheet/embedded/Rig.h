@@ -2,6 +2,7 @@
 
 #include "platform/HomeDrive.h"
 #include "spreadsheet/SpreadsheetApplication.h"
+#include "spreadsheet/StepKeeper.h"
 #include "spreadsheet/embedded/EmbeddedApplication.h"
 #include "tests/support/MemorySettings.h"
 #include "tests/support/PrintQt.h"
@@ -24,6 +25,25 @@ public:
     /// What came since the last call: "k" for the cursor, "b" for cells.
     QString take() { return std::exchange(heard, {}); }
     QString heard;
+};
+
+/// Keeps the steps of the workbooks of one name.
+class Keeper : public StepKeeper {
+public:
+    bool keeps(const QString& workbook) const override { return workbook == kept; }
+    void done(WorkStep step) override {
+        heard += QStringLiteral("h");
+        steps.push_back(std::move(step));
+    }
+    QString undoLabel() const override { return steps.empty() ? QString() : QStringLiteral("Hmat 1"); }
+    QString redoLabel() const override { return QStringLiteral("Hmat 2"); }
+    void undo() override { heard += QStringLiteral("z"); }
+    void redo() override { heard += QStringLiteral("v"); }
+
+    QString kept;
+    QString& heard; ///< "h" for a step handed over, "z" and "v" for one to be taken back and done again
+    std::vector<WorkStep> steps;
+    explicit Keeper(QString& log) : heard(log) {}
 };
 
 /// Shows nothing; gives over what the user has typed and not committed.

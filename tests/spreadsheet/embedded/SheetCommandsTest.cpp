@@ -86,6 +86,69 @@ TEST_F(SheetCommandsTest, TheProgramsCallTakesTheTypingAndReportsItWhenItIsOver)
     EXPECT_EQ(cellText(opened->cells().value(1, {1, 1})), QStringLiteral("le"));
 }
 
+TEST_F(SheetCommandsTest, StepsOfAWorkbookThatIsKeptAreHandedOver) {
+    Keeper keeper(listener.heard);
+    const QString list = app.activeSheetName();
+    const CellValue nothing, a = QStringLiteral("a"), b = QStringLiteral("b");
+    const CellPosition a1{1, 1}, b1{1, 2};
+    const auto turned = [&](CellPosition cell, const CellValue& before, const CellValue& after) {
+        return CellTurned{list, cell, before, after};
+    };
+    user.type({9, 9}, QStringLiteral("dříve")); // the workbook's own
+    keeper.kept = app.activeWorkbookName();
+    app.setStepKeeper(&keeper);
+    const struct {
+        std::function<void()> act;
+        WorkStep step;
+    } acts[] = {
+        {[&] { user.type(a1, QStringLiteral("a")); }, {QStringLiteral("Psaní"), {turned(a1, nothing, a)}}},
+        {[&] { user.paste(QStringLiteral("b\ta")); },
+         {QStringLiteral("Vložení"), {turned(a1, a, b), turned(b1, nothing, a)}}},
+        {[&] { user.insertRow(); }, {QStringLiteral("Vložení řádku"), {RowMoved{list, 1, true, {}}}}},
+        {[&] { user.deleteRow(); }, {QStringLiteral("Odstranění řádku"), {RowMoved{list, 1, false, {}}}}},
+        {[&] { user.deleteRow(); },
+         {QStringLiteral("Odstranění řádku"),
+          {RowMoved{list, 1, false, {turned(a1, b, nothing), turned(b1, a, nothing)}}}}},
+        {[&] { user.type(a1, QStringLiteral("b")); }, {QStringLiteral("Psaní"), {turned(a1, nothing, b)}}},
+        {[&] { user.cut(); }, {QStringLiteral("Vyjmutí"), {turned(a1, b, nothing)}}},
+        {[&] { user.type(a1, QStringLiteral("b")); }, {QStringLiteral("Psaní"), {turned(a1, nothing, b)}}},
+        {[&] { user.clear(); }, {QStringLiteral("Vymazání"), {turned(a1, b, nothing)}}},
+    };
+    for (const auto& [act, step] : acts) {
+        select("A1");
+        act();
+        EXPECT_EQ(listener.take(), QStringLiteral("hb")) << step.label.toStdString();
+        ASSERT_FALSE(keeper.steps.empty());
+        EXPECT_EQ(keeper.steps.back(), step) << step.label.toStdString();
+    }
+    user.undo();
+    user.redo();
+    EXPECT_EQ(listener.take(), QStringLiteral("zv"));
+    EXPECT_EQ(user.undoLabel() + user.redoLabel(), QStringLiteral("Hmat 1Hmat 2"));
+    keeper.kept.clear();
+    EXPECT_EQ(user.undoLabel(), QString()) << "nothing is left that would reach a recorded grip";
+    user.type(a1, QStringLiteral("c"));
+    EXPECT_EQ(listener.take(), QStringLiteral("b"));
+    user.undo();
+    EXPECT_EQ(cellText(app.value(QStringLiteral("A1"))), QString());
+}
+
+TEST_F(SheetCommandsTest, WhatAStepTakesOverComesBeforeIt) {
+    Keeper keeper(listener.heard);
+    keeper.kept = app.activeWorkbookName();
+    app.setStepKeeper(&keeper);
+    typing = [this] {
+        user.type({1, 1}, QStringLiteral("Koc"));
+        user.undo(); // within a call of the program
+    };
+    app.beginStep();
+    EXPECT_EQ(listener.take(), QStringLiteral("h"));
+    EXPECT_EQ(cellText(app.value(QStringLiteral("A1"))), QStringLiteral("Koc"));
+    app.endStep();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(listener.take(), QStringLiteral("b"));
+}
+
 TEST_F(SheetCommandsTest, TypingMeansNumbersAndTexts) {
     for (const char* typed : {"3,5", "15", "'15", "=A1"})
         user.type({1, app.session().active()->cells().usedColumns(1) + 1}, QString::fromLatin1(typed));

@@ -1,5 +1,6 @@
 #include "spreadsheet/journal/JournalledSpreadsheet.h"
-#include "tests/spreadsheet/contract/RecoveryContract.h"
+#include "tests/spreadsheet/contract/FileContract.h"
+#include "tests/spreadsheet/contract/StepContract.h"
 #include "tests/spreadsheet/libreoffice/CalcWorld.h"
 
 #include <QTest>
