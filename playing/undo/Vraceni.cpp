@@ -108,7 +108,9 @@ void Vraceni::obnovPopisy() {
     const QString znovu = redoLabel();
     okoli_.prikazy.povol(QStringLiteral("mnuZpet"), !zpet.isEmpty());
     okoli_.prikazy.povol(QStringLiteral("mnuZnovu"), !znovu.isEmpty());
-    if (panel.krokZpet == zpet && panel.krokZnovu == znovu) return;
+    const QString sesit = okoli_.pisen.aktualniPisen;
+    if (panel.krokZpet == zpet && panel.krokZnovu == znovu && ohlaseny_ == sesit) return;
+    ohlaseny_ = sesit;
     panel.krokZpet = zpet;
     panel.krokZnovu = znovu;
     panel.oznamZmenu();

@@ -47,6 +47,7 @@ private:
     SongSheet list_;
     SeznamyKroku& kroky_;
     Navigace& navigace_;
+    QString ohlaseny_; ///< the workbook that the spreadsheet was told of last
     std::function<void(const std::function<void()>&)> udalost_ = [](const auto& procedura) { procedura(); };
 };
 

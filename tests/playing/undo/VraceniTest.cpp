@@ -2,6 +2,8 @@
 
 #include "playing/stepping/Navigace.h"
 #include "tests/playing/recording/ZapisovaniFixture.h"
+#include "tests/support/NahodnyHrac.h"
+#include "tests/support/RukaVestavene.h"
 
 namespace zvonika {
 namespace {
@@ -185,6 +187,31 @@ TEST_F(VraceniTest, TheListHoldsAThousandSteps) {
         vraceni.mnuZpet();
     EXPECT_EQ(vraceno, SeznamKroku::nejvice);
     EXPECT_EQ(s(excel->text("A1")), "4");
+}
+
+/// Short; `tools/steps` does the same for as long as one likes.
+TEST_F(VraceniTest, WhateverIsDoneIsTakenBackAndDoneAgain) {
+    const QString jmeno = QStringLiteral("C:\\Dokumenty\\Dva listy.xls");
+    store(jmeno, {{QStringLiteral("Tonavox XII"), {{{}, QStringLiteral("c1,")}}},
+                  {QStringLiteral("G dur"), {{{}, QStringLiteral("g1,")}}}});
+    excel->openWorkbook(jmeno);
+    pisen.aktualniPisen = excel->activeWorkbookName();
+    pisen.plneJmeno = jmeno;
+    for (const unsigned seminko : {1U, 2U, 3U}) {
+        excel->selectSheet(1);
+        testing::NahodnyHrac hrac(pisen, dialogs, drive, testing::rukaVestavene(excel->app()), seminko);
+        const auto predtim = hrac.obraz();
+        for (int i = 0; i < 200; ++i)
+            hrac.akce();
+        hrac.vse(SmerKroku::Znovu);
+        const auto potom = hrac.obraz();
+        for (int kolo = 0; kolo < 2; ++kolo) {
+            EXPECT_GT(hrac.vse(SmerKroku::Zpet), 50);
+            EXPECT_EQ(hrac.obraz(), predtim) << seminko;
+            hrac.vse(SmerKroku::Znovu);
+            EXPECT_EQ(hrac.obraz(), potom) << seminko;
+        }
+    }
 }
 
 } // namespace
