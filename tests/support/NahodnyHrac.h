@@ -76,6 +76,9 @@ public:
         excel.selectSheet(aktivni);
         return listy;
     }
+    /// What was done till now cannot be taken back any more.
+    void zapomen() { kroky_.zapomen(pisen_.plneJmeno); }
+    /// Takes all back (does all again): so many steps.
     int vse(SmerKroku smer) {
         int kroku = 0;
         for (; !kroky_.popis(smer).isEmpty(); ++kroku)
