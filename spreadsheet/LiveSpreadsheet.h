@@ -25,12 +25,19 @@ public:
         int sheet = 1;    ///< place in the workbook, hidden sheets counted too
     };
     virtual Place place() const = 0;
+    virtual bool alive() const = 0; ///< false once it is known to be gone
     /// How many acts of the user have been heard of, on whichever thread. What was asked holds until the
     /// number grows.
     virtual unsigned acts() const = 0;
     /// The workbook as it stands; nothing when it is not open any more.
     virtual std::optional<WorkbookImage> image(int workbook) = 0;
     virtual void setWatcher(WorkbookWatcher* watcher) = 0;
+
+    /// What a step is, its record knows; what the user does in the window is taken back there.
+    void beginStep() override {}
+    void endStep() override {}
+    void setStepKeeper(StepKeeper* keeper) override { static_cast<void>(keeper); }
+    void stepsChanged() override {}
 };
 
 } // namespace zvonika

@@ -122,23 +122,23 @@ public:
     // --- rows of the active sheet ---
     /// Rows from `row` on move down (up) by one, in the active sheet alone. 1004 when the application
     /// refuses; behind the last row that is used there is nothing to move.
-    virtual void insertRow(int row) { static_cast<void>(row); }
-    virtual void deleteRow(int row) { static_cast<void>(row); }
+    virtual void insertRow(int row) = 0;
+    virtual void deleteRow(int row) = 0;
     /// As `writeBlock`, with what stood there before: where the file holds a formula that showed this value,
     /// and the application can, the formula is there again.
-    virtual void putBack(const QString& address, const CellBlock& block) { writeBlock(address, block); }
+    virtual void putBack(const QString& address, const CellBlock& block) = 0;
 
     // --- steps ---
     /// What is written from `beginStep` to `endStep` belongs together: a crash leaves all of it or nothing.
     /// One at a time; what saves or closes a workbook or renames a sheet in between ends it first. Takes over
     /// what the user is typing where that is a step of the keeper's. Neither raises.
-    virtual void beginStep() {}
-    virtual void endStep() {}
+    virtual void beginStep() = 0;
+    virtual void endStep() = 0;
     /// Who keeps the list of steps; outlives the application. Applications that leave what the user does in
     /// their window to a list of their own do not ask it.
-    virtual void setStepKeeper(StepKeeper* keeper) { static_cast<void>(keeper); }
+    virtual void setStepKeeper(StepKeeper* keeper) = 0;
     /// The keeper's labels, or what it keeps, have changed.
-    virtual void stepsChanged() {}
+    virtual void stepsChanged() = 0;
 
     // --- writing and the user ---
     /// The application may take what is written a moment later, and all of it at once; whatever else it is

@@ -18,6 +18,15 @@ void growTo(CellBlock& cells, CellPosition cell) {
         if (row.size() < columns) row.resize(columns);
 }
 
+template <typename Rows>
+void moveRowsOf(Rows& rows, int row, bool down) {
+    if (row > rows.size()) return;
+    if (down)
+        rows.insert(row - 1, typename Rows::value_type(rows.first().size()));
+    else
+        rows.remove(row - 1);
+}
+
 } // namespace
 
 CellValue SheetImage::value(CellPosition cell) const {
@@ -35,6 +44,11 @@ void SheetImage::put(CellPosition cell, const CellValue& value) {
         growTo(cells, cell);
     }
     cells[cell.row - 1][cell.column - 1] = value;
+}
+
+void SheetImage::moveRows(int row, bool down) {
+    moveRowsOf(cells, row, down);
+    moveRowsOf(formulas, row, down);
 }
 
 CellPosition SheetImage::used() const {

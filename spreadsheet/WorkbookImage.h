@@ -19,6 +19,8 @@ struct SheetImage {
     QString formula(CellPosition cell) const; ///< "" where there is none
     /// The cell gets a value, and loses its formula.
     void put(CellPosition cell, const CellValue& value);
+    /// Rows from `row` on go down (up) by one; formulas go with them as they are.
+    void moveRows(int row, bool down);
     CellPosition used() const; ///< last row and column of `cells`; 0 where there are none
 };
 

@@ -29,16 +29,6 @@ void addDifferences(const SheetImage& before, const SheetImage& after, int sheet
                 changes.emplace_back(CellWritten{sheet, cell, after.value(cell)});
 }
 
-/// Rows from this one on go up or down; formulas go with them.
-template <typename Rows>
-void moveRows(Rows& rows, int row, bool down) {
-    if (row > rows.size()) return;
-    if (down)
-        rows.insert(row - 1, typename Rows::value_type(rows.first().size()));
-    else
-        rows.remove(row - 1);
-}
-
 struct Change {
     WorkbookImage& image;
     const WorkbookImage& file; ///< as it was before the first of the changes
@@ -51,17 +41,14 @@ struct Change {
         if (asInFile && change.cell.row <= sheet.formulas.size())
             sheet.formulas[change.cell.row - 1][change.cell.column - 1] = before.formula(change.cell);
     }
-    void operator()(const RowInserted& change) const { move(change.sheet, change.row, true); }
-    void operator()(const RowDeleted& change) const { move(change.sheet, change.row, false); }
+    void operator()(const RowInserted& change) const {
+        image.sheets[change.sheet - 1].moveRows(change.row, true);
+    }
+    void operator()(const RowDeleted& change) const {
+        image.sheets[change.sheet - 1].moveRows(change.row, false);
+    }
     void operator()(const SheetRenamed& change) const { image.sheets[change.sheet - 1].name = change.name; }
     void operator()(const ColumnResized&) const {}
-
-private:
-    void move(int number, int row, bool down) const {
-        SheetImage& sheet = image.sheets[number - 1];
-        moveRows(sheet.cells, row, down);
-        moveRows(sheet.formulas, row, down);
-    }
 };
 
 } // namespace

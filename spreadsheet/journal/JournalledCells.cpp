@@ -23,6 +23,7 @@ void JournalledSpreadsheet::selectNextSheet() {
 void JournalledSpreadsheet::renameActiveSheet(const QString& name) {
     RecordedWorkbook* workbook = active();
     const int sheet = place_.sheet;
+    endStep();
     live_->renameActiveSheet(name);
     if (workbook) workbook->renamed(sheet, name);
 }
@@ -54,6 +55,46 @@ void JournalledSpreadsheet::writeBlock(const QString& address, const CellBlock& 
     const int sheet = place_.sheet;
     live_->writeBlock(address, block);
     if (workbook) workbook->wrote(sheet, cellsAt(address).first, block);
+}
+
+void JournalledSpreadsheet::putBack(const QString& address, const CellBlock& block) {
+    RecordedWorkbook* workbook = active();
+    const int sheet = place_.sheet;
+    live_->putBack(address, block);
+    if (workbook) workbook->wrote(sheet, cellsAt(address).first, block);
+}
+
+void JournalledSpreadsheet::moveRows(int row, bool insert) {
+    RecordedWorkbook* workbook = active();
+    const int sheet = place_.sheet;
+    insert ? live_->insertRow(row) : live_->deleteRow(row);
+    if (workbook) workbook->movedRows(sheet, row, insert);
+}
+
+void JournalledSpreadsheet::insertRow(int row) {
+    moveRows(row, true);
+}
+
+void JournalledSpreadsheet::deleteRow(int row) {
+    moveRows(row, false);
+}
+
+// A workbook whose record begins within the step would have no part in it.
+void JournalledSpreadsheet::beginStep() {
+    try {
+        active();
+    } catch (const AutomationError&) { // it writes nothing then either
+    }
+    for (const auto& workbook : workbooks_)
+        workbook->journal().beginGroup();
+    live_->beginStep();
+}
+
+void JournalledSpreadsheet::endStep() {
+    const bool whole = live_->alive();
+    for (const auto& workbook : workbooks_)
+        whole ? workbook->journal().endGroup() : workbook->journal().dropGroup();
+    live_->endStep();
 }
 
 // Where it goes and how far depends on what is marked and what the clipboard holds.

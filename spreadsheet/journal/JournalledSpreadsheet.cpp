@@ -31,6 +31,7 @@ void JournalledSpreadsheet::setVisible(bool visible) {
 
 // What is not settled by then stays in its journal.
 void JournalledSpreadsheet::quit() {
+    endStep();
     look();
     live_->quit();
     forgetPlace();
@@ -61,12 +62,14 @@ void JournalledSpreadsheet::openWorkbook(const QString& fullName) {
 
 void JournalledSpreadsheet::saveActiveWorkbookAs(const SaveAsArguments& arguments) {
     active();
+    endStep();
     live_->saveActiveWorkbookAs(arguments);
     noteSave();
 }
 
 void JournalledSpreadsheet::saveActiveWorkbook() {
     active();
+    endStep();
     live_->saveActiveWorkbook();
     noteSave();
 }
@@ -86,6 +89,7 @@ void JournalledSpreadsheet::noteSave() {
 
 void JournalledSpreadsheet::closeActiveWorkbook() {
     const int closed = place().workbook;
+    endStep();
     live_->closeActiveWorkbook();
     forgetPlace();
     RecordedWorkbook* workbook = find(closed);

@@ -69,6 +69,16 @@ public:
     CellBlock readBlock(const QString& address) const override { return live_->readBlock(address); }
     void writeBlock(const QString& address, const CellBlock& block) override;
 
+    void insertRow(int row) override;
+    void deleteRow(int row) override;
+    void putBack(const QString& address, const CellBlock& block) override;
+
+    void beginStep() override;
+    /// Of a step in which the spreadsheet has gone nothing comes back.
+    void endStep() override;
+    void setStepKeeper(StepKeeper* keeper) override { live_->setStepKeeper(keeper); }
+    void stepsChanged() override { live_->stepsChanged(); }
+
     void finishWriting() override { live_->finishWriting(); }
     bool userIsTyping() const override { return live_->userIsTyping(); }
 
@@ -90,6 +100,7 @@ private:
     void restore(RecordedWorkbook& workbook, PendingJournal pending);
     void look();
     void noteSave();
+    void moveRows(int row, bool insert);
 
     std::unique_ptr<LiveSpreadsheet> live_;
     JournalFolder journals_;

@@ -52,6 +52,12 @@ void RecordedWorkbook::filled(int sheet, const CellRange& range, const CellValue
     note(std::move(changes));
 }
 
+void RecordedWorkbook::movedRows(int sheet, int row, bool inserted) {
+    if (!image_.hasSheet(sheet) || row > image_.sheets.at(sheet - 1).used().row) return;
+    image_.sheets[sheet - 1].moveRows(row, inserted);
+    note({inserted ? JournalChange(RowInserted{sheet, row}) : JournalChange(RowDeleted{sheet, row})});
+}
+
 void RecordedWorkbook::renamed(int sheet, const QString& name) {
     if (!image_.hasSheet(sheet) || image_.sheets.at(sheet - 1).name == name) return;
     image_.sheets[sheet - 1].name = name;

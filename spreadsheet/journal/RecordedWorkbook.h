@@ -20,6 +20,8 @@ public:
     void wrote(int sheet, CellPosition first, const CellBlock& block);
     /// ... this value into every cell of the range.
     void filled(int sheet, const CellRange& range, const CellValue& value);
+    /// ... has put a row in or taken it out; those from it on have moved.
+    void movedRows(int sheet, int row, bool inserted);
     void renamed(int sheet, const QString& name);
     /// It stands like this now; what is new is the user's doing. One that is not modified has been saved.
     void seen(WorkbookImage image);

@@ -52,6 +52,11 @@ void WorkbookJournal::endGroup() {
     if (!group_.empty()) record(std::exchange(group_, {}));
 }
 
+void WorkbookJournal::dropGroup() {
+    grouping_ = false;
+    group_.clear();
+}
+
 // One flush for all that a command of the program changes: it is queued, so it comes when the command is
 // done. Painting has a lower priority and comes behind it.
 void WorkbookJournal::record(std::vector<JournalChange> changes) {

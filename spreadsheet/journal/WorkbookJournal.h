@@ -21,6 +21,7 @@ public:
     /// it first.
     void beginGroup();
     void endGroup();
+    void dropGroup(); ///< ... of which nothing comes back
     /// The workbook has made the changes of this journal, which goes on as its own.
     void takeOver(PendingJournal pending);
     bool hasRecovered() const { return recovered_; } ///< since the last save

@@ -60,7 +60,8 @@ struct OpenWorkbook {
 
 /// One running Calc, by its own notions: the layer that knows UNO and nothing of the program. All calls but
 /// `connected` come from one thread, the one that made the connection. Rows, columns and sheets count from 1.
-/// Failures are AutomationError: 91 when Calc or the active workbook is gone, 1004 when Calc refuses.
+/// Failures are AutomationError: 91 when Calc or the active workbook is gone, 1004 when Calc refuses. What is
+/// written is none of the steps that the user can take back in Calc.
 class CalcEngine {
 public:
     virtual ~CalcEngine() = default;    ///< ends the connection; Calc itself goes on
@@ -105,6 +106,10 @@ public:
     virtual QVector<QStringList> formulas(const CellRange& range) = 0;  ///< "" where a cell has none
     virtual void write(CellPosition first, const CellBlock& block) = 0; ///< rows of equal length, not empty
     virtual void clear(const CellRange& range) = 0;
+    /// Rows of the active sheet from this one on move down (up). What the user did before he cannot take back
+    /// any more: his steps would reach other rows.
+    virtual void insertRow(int row) = 0;
+    virtual void deleteRow(int row) = 0;
 
     /// The sheet that is active now is from now on the one that `writeHeld` writes to. True when writing a
     /// block of it does what writing its cells one by one does, and no cell depends on another.
@@ -124,7 +129,7 @@ struct CalcAddress {
 };
 
 /// Raised with every change of the classes above: a plug-in built for others is not used.
-constexpr int calcPluginVersion = 5;
+constexpr int calcPluginVersion = 6;
 
 /// What a plug-in exports: "zvonikaCalcPluginVersion" and "zvonikaConnectToCalc". The latter returns when
 /// Calc has answered, or nullptr when `keepTrying` gave up; AutomationError 429 when the connection cannot be

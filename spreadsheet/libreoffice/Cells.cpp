@@ -150,6 +150,21 @@ void Cells::write(const QString& address, const CellBlock& block) {
     calls_.ask([first, block](CalcEngine& calc) { calc.write(first, block); });
 }
 
+void Cells::insertRow(int row) {
+    calls_.ask([row = rowAt(row)](CalcEngine& calc) {
+        const int used = calc.used().row;
+        if (row > used) return;
+        if (used >= lastRow) refuse(QStringLiteral("Řádek nelze vložit: poslední řádek listu není prázdný."));
+        calc.insertRow(row);
+    });
+}
+
+void Cells::deleteRow(int row) {
+    calls_.ask([row = rowAt(row)](CalcEngine& calc) {
+        if (row <= calc.used().row) calc.deleteRow(row);
+    });
+}
+
 void Cells::writeAtSelection(const CellBlock& block) {
     calls_.ask([block](CalcEngine& calc) {
         const CellRange selected = calc.selection();

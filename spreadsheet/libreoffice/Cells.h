@@ -22,6 +22,8 @@ public:
 
     CellBlock read(const QString& address);
     void write(const QString& address, const CellBlock& block);
+    void insertRow(int row);
+    void deleteRow(int row);
     /// A block as it was read; a single cell fills the selection.
     void writeAtSelection(const CellBlock& block);
     /// What was written is in Calc afterwards; raises what a write has met since.

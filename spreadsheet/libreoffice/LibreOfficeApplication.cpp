@@ -201,6 +201,16 @@ void LibreOfficeApplication::writeBlock(const QString& address, const CellBlock&
     parts_->cells.write(address, block);
 }
 
+// --- rows ---
+
+void LibreOfficeApplication::insertRow(int row) {
+    parts_->cells.insertRow(row);
+}
+
+void LibreOfficeApplication::deleteRow(int row) {
+    parts_->cells.deleteRow(row);
+}
+
 // --- for a record of the workbooks ---
 
 LiveSpreadsheet::Place LibreOfficeApplication::place() const {
@@ -208,6 +218,10 @@ LiveSpreadsheet::Place LibreOfficeApplication::place() const {
         const int workbook = calc.active().id;
         return Place{workbook, workbook == 0 ? 1 : calc.activePlace()};
     });
+}
+
+bool LibreOfficeApplication::alive() const {
+    return parts_->calls.alive();
 }
 
 unsigned LibreOfficeApplication::acts() const {

@@ -60,10 +60,15 @@ public:
     CellBlock readBlock(const QString& address) const override;
     void writeBlock(const QString& address, const CellBlock& block) override;
 
+    void insertRow(int row) override;
+    void deleteRow(int row) override;
+    void putBack(const QString& address, const CellBlock& block) override { writeBlock(address, block); }
+
     void finishWriting() override;
     bool userIsTyping() const override;
 
     Place place() const override;
+    bool alive() const override;
     unsigned acts() const override;
     std::optional<WorkbookImage> image(int workbook) override;
     void setWatcher(WorkbookWatcher* watcher) override;

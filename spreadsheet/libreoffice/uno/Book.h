@@ -3,6 +3,7 @@
 #include "spreadsheet/libreoffice/CalcEngine.h"
 #include "spreadsheet/libreoffice/uno/Entry.h"
 #include "spreadsheet/libreoffice/uno/UserEvents.h"
+#include "spreadsheet/libreoffice/uno/UsersSteps.h"
 #include "spreadsheet/libreoffice/uno/Values.h"
 
 #include <chrono>
@@ -66,6 +67,7 @@ public:
     QVector<QStringList> formulas(const CellRange& range) const;
     void write(CellPosition first, const CellBlock& block);
     void clear(const CellRange& range);
+    void moveRows(int row, bool down); ///< from this one on, and takes the user's steps away
     bool holdSheet();
     void writeHeld(const QVector<PlacedBlock>& blocks);
 
@@ -99,6 +101,7 @@ private:
     Ref<css::sheet::XSpreadsheet> held_;
     Values values_;
     Entry entry_;
+    UsersSteps steps_;
     std::chrono::steady_clock::time_point noEntry_; ///< when the user was last seen not typing
     rtl::Reference<UserEvents> events_;
 };

@@ -14,6 +14,7 @@
 #include <com/sun/star/sheet/XSheetAnnotationsSupplier.hpp>
 #include <com/sun/star/sheet/XSheetOperation.hpp>
 #include <com/sun/star/sheet/XUsedAreaCursor.hpp>
+#include <com/sun/star/table/XColumnRowRange.hpp>
 #include <com/sun/star/util/XProtectable.hpp>
 
 namespace zvonika {
@@ -90,6 +91,7 @@ QStringList Book::sheetNames() const {
 
 // A name that Calc does not take is passed over in silence.
 void Book::rename(const QString& name) {
+    const UsersSteps::Aside aside(steps_);
     const auto named = as<css::container::XNamed>(sheet());
     named->setName(toUno(name));
     if (fromUno(named->getName()) != name)
@@ -162,6 +164,7 @@ void Book::commitEntryIn(const CellRange& written) {
 
 void Book::write(CellPosition first, const CellBlock& block) {
     commitEntryIn(sized(first, static_cast<int>(block.size()), static_cast<int>(block.first().size())));
+    const UsersSteps::Aside aside(steps_);
     values_.write(sheet(), first, block);
 }
 
@@ -177,12 +180,33 @@ void Book::writeHeld(const QVector<PlacedBlock>& blocks) {
     const auto target = held_.is() ? held_ : sheet();
     for (const auto& [first, cells] : blocks) {
         commitEntryIn(sized(first, static_cast<int>(cells.size()), static_cast<int>(cells.first().size())));
+        const UsersSteps::Aside aside(steps_);
         values_.write(target, first, cells);
     }
 }
 
+// What Calc does not move it says by a failure without a word.
+void Book::moveRows(int row, bool down) {
+    commitEntry();
+    const auto target = sheet();
+    try {
+        const UsersSteps::Aside aside(steps_);
+        const auto rows = keeper_.keep(as<css::table::XColumnRowRange>(target)->getRows());
+        down ? rows->insertByIndex(row - 1, 1) : rows->removeByIndex(row - 1, 1);
+    } catch (const css::lang::DisposedException&) {
+        throw;
+    } catch (const css::uno::Exception& failure) {
+        logFailure(failure);
+        refuse(
+            QStringLiteral("LibreOffice Calc řádky neposunul: list je zamčený, nebo stojí v cestě maticový "
+                           "vzorec."));
+    }
+    steps_.forget();
+}
+
 void Book::clear(const CellRange& range) {
     commitEntryIn(range);
+    const UsersSteps::Aside aside(steps_);
     namespace flags = css::sheet::CellFlags;
     as<css::sheet::XSheetOperation>(cellsOf(sheet(), range, keeper_))
         ->clearContents(flags::VALUE | flags::DATETIME | flags::STRING | flags::FORMULA);

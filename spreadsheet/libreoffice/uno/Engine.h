@@ -51,6 +51,8 @@ public:
     QVector<QStringList> formulas(const CellRange& range) override;
     void write(CellPosition first, const CellBlock& block) override;
     void clear(const CellRange& range) override;
+    void insertRow(int row) override;
+    void deleteRow(int row) override;
     bool holdSheet() override;
     void writeHeld(const QVector<PlacedBlock>& blocks) override;
     bool typing() override;

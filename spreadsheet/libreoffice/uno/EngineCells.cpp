@@ -59,6 +59,14 @@ void Engine::clear(const CellRange& range) {
     onBook([&](Book& book) { book.clear(range); });
 }
 
+void Engine::insertRow(int row) {
+    onBook([&](Book& book) { book.moveRows(row, true); });
+}
+
+void Engine::deleteRow(int row) {
+    onBook([&](Book& book) { book.moveRows(row, false); });
+}
+
 std::optional<WorkbookImage> Engine::image(int id) {
     return guarded([&]() -> std::optional<WorkbookImage> {
         if (!connected()) throw css::lang::DisposedException();

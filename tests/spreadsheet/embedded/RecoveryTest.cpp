@@ -231,6 +231,50 @@ TEST_F(RecoveryTest, WhatCouldNotBeSavedAtTheEndIsOfferedAgain) {
     open();
 }
 
+TEST_F(RecoveryTest, AStepCutShortByTheEndOfItsWorkbookIsOffered) {
+    const std::function<void()> ends[] = {
+        [&] { app->closeActiveWorkbook(); },
+        [&] {
+            dialogs.expect(title, QStringLiteral("má neuložené změny"), Answer::Yes)
+                .expect(title, QStringLiteral("změnil jiný program"), Answer::No)
+                .expectFile(QStringLiteral("Uložit jako"), {});
+            store(song, "cizí");
+            app->quit();
+            store(song, saved);
+        },
+    };
+    for (const auto& end : ends) {
+        crashWith("B2", "d");
+        dialogs.expect(title, QStringLiteral("1 neuložená"), Answer::Yes);
+        open();
+        app->beginStep();
+        write("B3", "e");
+        end();
+        crash();
+        start();
+        dialogs.expect(title, QStringLiteral("2 neuložené"), Answer::Yes);
+        open();
+        EXPECT_EQ(text("B2") + text("B3"), QStringLiteral("de"));
+        document().journal().giveUp();
+    }
+}
+
+TEST_F(RecoveryTest, AFormulaThatTheProgramHasPutBackComesBack) {
+    ASSERT_TRUE(QFile::remove(song) && QFile::copy(QStringLiteral(XLS_DATA "/libreoffice.xls"), song));
+    start();
+    open();
+    const CellValue shown = app->value(QStringLiteral("F1"));
+    write("F1", "x");
+    app->putBack(QStringLiteral("F1"), {{shown}});
+    EXPECT_TRUE(document().cells().isFormula(1, {1, 6}));
+    write("B2", "d");
+    crash();
+    start();
+    dialogs.expect(title, QStringLiteral("2 neuložené"), Answer::Yes);
+    open();
+    EXPECT_TRUE(document().cells().isFormula(1, {1, 6}));
+}
+
 TEST_F(RecoveryTest, AJournalOfAFormerSongOfThatNameIsNotOffered) {
     crashWith("B2", "d");
     QFile::remove(song);

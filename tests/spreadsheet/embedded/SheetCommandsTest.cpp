@@ -121,6 +121,7 @@ TEST_F(SheetCommandsTest, StepsOfAWorkbookThatIsKeptAreHandedOver) {
         ASSERT_FALSE(keeper.steps.empty());
         EXPECT_EQ(keeper.steps.back(), step) << step.label.toStdString();
     }
+    EXPECT_EQ(keeper.steps.size(), std::size(acts));
     user.undo();
     user.redo();
     EXPECT_EQ(listener.take(), QStringLiteral("zv"));
@@ -131,6 +132,11 @@ TEST_F(SheetCommandsTest, StepsOfAWorkbookThatIsKeptAreHandedOver) {
     EXPECT_EQ(listener.take(), QStringLiteral("b"));
     user.undo();
     EXPECT_EQ(cellText(app.value(QStringLiteral("A1"))), QString());
+    for (const auto& move : {&EmbeddedApplication::insertRow, &EmbeddedApplication::deleteRow}) {
+        user.type(a1, QStringLiteral("c"));
+        (app.*move)(1);
+        EXPECT_EQ(user.undoLabel(), QString());
+    }
 }
 
 TEST_F(SheetCommandsTest, WhatAStepTakesOverComesBeforeIt) {

@@ -2,6 +2,7 @@
 
 #include "spreadsheet/journal/ContentHash.h"
 #include "spreadsheet/journal/JournalFormat.h"
+#include "spreadsheet/journal/WorkbookJournal.h"
 #include "tests/platform/files/OtherUser.h"
 #include "tests/spreadsheet/embedded/Rig.h"
 #include "tests/spreadsheet/embedded/SmallDisk.h"
@@ -136,6 +137,49 @@ TEST_F(JournalTest, ASongThatHasMovedIsKnownByItsContentsAlone) {
         store(song, "obsah");
         for (const QString& file : kept())
             QFile::remove(state.filePath(QStringLiteral("zaznamy/")) + file);
+    }
+}
+
+TEST_F(JournalTest, AGroupIsWrittenWhenItEndsOrIsSaved) {
+    using Groups = std::vector<std::vector<JournalChange>>;
+    const std::vector<JournalChange> both{written(1).front(), written(2).front()};
+    const struct {
+        const char* name;
+        std::function<void(WorkbookJournal&)> then;
+        Groups groups;
+    } cases[] = {
+        {"it goes on", [](auto&) {}, {}},
+        {"its end", [](auto& journal) { journal.endGroup(); }, {both}},
+        {"another one", [](auto& journal) { journal.beginGroup(); }, {both}},
+        {"a save begins", [this](auto& journal) { journal.saving(song, "jiný"); }, {both}},
+        {"a save",
+         [this](auto& journal) {
+             journal.saved(base());
+             journal.endGroup();
+         },
+         {}},
+        {"a change after a save",
+         [this](auto& journal) {
+             journal.saved(base());
+             journal.note(written(3));
+         },
+         {written(3)}},
+    };
+    for (const auto& [name, then, groups] : cases) {
+        {
+            WorkbookJournal journal(journals, base());
+            journal.beginGroup();
+            journal.note(written(1));
+            journal.note(written(2));
+            then(journal);
+        }
+        Groups found;
+        for (auto& pending : journals.pending(song)) {
+            for (const auto& group : pending.contents.groups)
+                found.push_back(group.changes);
+            pending.file.remove();
+        }
+        EXPECT_EQ(found, groups) << name;
     }
 }
 

@@ -53,6 +53,8 @@ public:
     QVector<QStringList> formulas(const CellRange&) override { return {{QString()}}; }
     void write(CellPosition first, const CellBlock&) override { note("write " + absoluteAddress(first)); }
     void clear(const CellRange& range) override { note("clear " + absoluteAddress(range)); }
+    void insertRow(int row) override { note("insertRow " + QString::number(row)); }
+    void deleteRow(int row) override { note("deleteRow " + QString::number(row)); }
     bool holdSheet() override { return takesBlocks; }
     void writeHeld(const QVector<PlacedBlock>& blocks) override {
         QStringList places;
