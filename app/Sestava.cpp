@@ -6,6 +6,7 @@
 #include "app/RozmisteniOken.h"
 #include "app/TabulkaLibreOffice.h"
 #include "app/ui/IkonaProgramu.h"
+#include "app/ui/UkazatelCekani.h"
 #include "platform/HomeDrive.h"
 #include "platform/IniSettingsStore.h"
 #include "platform/PluginFolders.h"
@@ -107,9 +108,11 @@ struct Sestava::Casti {
     }
 
     std::unique_ptr<SpreadsheetApplication> novaTabulka() {
-        return std::make_unique<EmbeddedApplication>(
+        auto tabulka = std::make_unique<EmbeddedApplication>(
             drive, dialogs, *nastaveniTabulky, zaznamy,
             [this](SheetCommands& prikazy) { return oknoTabulky(prikazy); });
+        tabulka->keepWindow([this] { cekani.ceka(); }, [this] { cekani.konec(); });
+        return tabulka;
     }
 
     std::unique_ptr<SheetView> oknoTabulky(SheetCommands& prikazy) {
@@ -140,6 +143,7 @@ struct Sestava::Casti {
     DesktopShell shell;
     QtWakeUpClock hodiny;
     RozmisteniOken okna;
+    UkazatelCekani cekani;
     TabulkaLibreOffice libreOffice;
     Program program;
 };

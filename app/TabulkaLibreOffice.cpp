@@ -1,18 +1,16 @@
 #include "app/TabulkaLibreOffice.h"
 
 #include "app/ui/PrubehSpusteni.h"
+#include "app/ui/UkazatelCekani.h"
 #include "spreadsheet/journal/JournalledSpreadsheet.h"
 #include "spreadsheet/libreoffice/LibreOfficeApplication.h"
 
-#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QScreen>
 
 namespace zvonika {
 
 namespace {
-
-constexpr int nenapadneCekani = 400; ///< ms; a longer wait shows in the mouse pointer
 
 /// Calc counts in pixels of the screen.
 QRect naObrazovce(const QRect& misto) {
@@ -26,8 +24,7 @@ QRect naObrazovce(const QRect& misto) {
 /// What is shown of the waiting: a window at the start, the pointer later.
 struct TabulkaLibreOffice::Prubeh {
     std::unique_ptr<PrubehSpusteni> okno;
-    QElapsedTimer cekani;
-    bool ukazatel = false;
+    UkazatelCekani ukazatel;
 };
 
 TabulkaLibreOffice::TabulkaLibreOffice(Drive& drive, Dialogs& dialogs,
@@ -36,9 +33,7 @@ TabulkaLibreOffice::TabulkaLibreOffice(Drive& drive, Dialogs& dialogs,
     : drive_(drive), dialogs_(dialogs), nastaveni_(std::move(nastaveni)), profily_(profily),
       zaznamy_(std::move(zaznamy)), prubeh_(std::make_unique<Prubeh>()) {}
 
-TabulkaLibreOffice::~TabulkaLibreOffice() {
-    konecCekani();
-}
+TabulkaLibreOffice::~TabulkaLibreOffice() = default;
 
 std::unique_ptr<SpreadsheetApplication> TabulkaLibreOffice::spust() {
     if (!prubeh_->okno)
@@ -49,7 +44,7 @@ std::unique_ptr<SpreadsheetApplication> TabulkaLibreOffice::spust() {
                                       profily_,    naObrazovce(misto_),
                                       {},          {}};
         okoli.sign = [this] { posun(); };
-        okoli.signOver = [this] { konecCekani(); };
+        okoli.signOver = [this] { prubeh_->ukazatel.konec(); };
         return std::make_unique<JournalledSpreadsheet>(std::make_unique<LibreOfficeApplication>(okoli),
                                                        dialogs_, jmenoCalcu, zaznamy_);
     } catch (...) {
@@ -63,19 +58,7 @@ void TabulkaLibreOffice::spusteno() {
 }
 
 void TabulkaLibreOffice::posun() {
-    if (prubeh_->okno) {
-        prubeh_->okno->posun();
-        return;
-    }
-    if (!prubeh_->cekani.isValid()) prubeh_->cekani.start();
-    if (prubeh_->ukazatel || !prubeh_->cekani.hasExpired(nenapadneCekani)) return;
-    prubeh_->ukazatel = true;
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-}
-
-void TabulkaLibreOffice::konecCekani() {
-    prubeh_->cekani.invalidate();
-    if (std::exchange(prubeh_->ukazatel, false)) QGuiApplication::restoreOverrideCursor();
+    prubeh_->okno ? prubeh_->okno->posun() : prubeh_->ukazatel.ceka();
 }
 
 NabidkaTabulky nabidkaLibreOffice() {

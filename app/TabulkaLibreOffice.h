@@ -29,7 +29,6 @@ public:
 
 private:
     void posun();
-    void konecCekani();
 
     Drive& drive_;
     Dialogs& dialogs_;

@@ -5,7 +5,6 @@
 #include "spreadsheet/Refusals.h"
 #include "spreadsheet/embedded/FileSentences.h"
 #include "spreadsheet/embedded/Replay.h"
-#include "spreadsheet/embedded/WorkbookFile.h"
 #include "spreadsheet/journal/ImageChanges.h"
 
 namespace zvonika {
@@ -47,9 +46,10 @@ std::unique_ptr<Document> Document::open(const QString& nativePath, JournalFolde
     return open(nativePath, std::move(journals), FileLock::acquire(nativePath));
 }
 
-std::unique_ptr<Document> Document::open(const QString& nativePath, JournalFolder journals, FileLock lock) {
+std::unique_ptr<Document> Document::open(const QString& nativePath, JournalFolder journals, FileLock lock,
+                                         const WorkbookReader& read) {
     if (lock.foundStale()) removeLeftovers(nativePath);
-    WorkbookFile file = readWorkbook(nativePath);
+    WorkbookFile file = read(nativePath);
     if (file.book.sheetCount() == 0) refuse(openRefused(nativePath, xls::Refusal::Damaged));
     qCInfo(openingLog).noquote() << nativePath << "otevřen, listů" << file.book.sheetCount();
     return std::unique_ptr<Document>(

@@ -4,6 +4,7 @@
 #include "spreadsheet/embedded/Editing.h"
 #include "spreadsheet/embedded/SheetCells.h"
 #include "spreadsheet/embedded/SheetCursor.h"
+#include "spreadsheet/embedded/WorkbookFile.h"
 #include "spreadsheet/journal/WorkbookJournal.h"
 
 #include <QObject>
@@ -11,8 +12,6 @@
 #include <memory>
 
 namespace zvonika {
-
-struct WorkbookFile;
 
 /// One open workbook of the built-in spreadsheet: its parts, and what takes several of them. Refusals are
 /// AutomationError 1004 with a sentence for the user.
@@ -27,7 +26,9 @@ public:
     explicit Document(const QString& name, JournalFolder journals = {});
     /// Opens a file and locks it for others. 1004 when it cannot be read or is open elsewhere.
     static std::unique_ptr<Document> open(const QString& nativePath, JournalFolder journals = {});
-    static std::unique_ptr<Document> open(const QString& nativePath, JournalFolder journals, FileLock lock);
+    /// `read` is `readWorkbook`, whichever way it is carried out.
+    static std::unique_ptr<Document> open(const QString& nativePath, JournalFolder journals, FileLock lock,
+                                          const WorkbookReader& read = readWorkbook);
 
     const SheetCells& cells() const { return cells_; }
     Editing& editing() { return editing_; }
@@ -35,6 +36,8 @@ public:
     SheetCursor& cursor() { return cursor_; }
     const SheetCursor& cursor() const { return cursor_; }
     const DocumentFile& file() const { return file_; }
+    void unlockFile() { file_.unlock(); }
+    void setFileWork(DocumentFile::Work work) { file_.setWork(std::move(work)); }
     WorkbookJournal& journal() { return journal_; }
     const WorkbookJournal& journal() const { return journal_; }
 

@@ -17,9 +17,14 @@ DocumentFile::DocumentFile(const QString& nativePath, QByteArray hash, bool oldF
       hash_(std::move(hash)), oldFormat_(oldFormat) {}
 
 bool DocumentFile::isChangedOnDisk() const {
-    if (path_.isEmpty() || !QFileInfo::exists(path_)) return false;
-    const QByteArray now = contentHashOfFile(path_);
-    return now != hash_ && now != writingHash_;
+    if (path_.isEmpty()) return false;
+    bool there = false;
+    QByteArray now;
+    work_([&] {
+        there = QFileInfo::exists(path_);
+        if (there) now = contentHashOfFile(path_);
+    });
+    return there && now != hash_ && now != writingHash_;
 }
 
 bool DocumentFile::isAt(const QString& nativePath) const {
@@ -39,9 +44,11 @@ void DocumentFile::store(const QString& nativePath, const Source& source) {
         QByteArray hash = contentHash(pieces);
         source.announce(nativePath, hash);
         writingHash_ = hash;
-        writeAtomically(nativePath, pieces);
+        work_([&] {
+            writeAtomically(nativePath, pieces);
+            qCInfo(savingLog).noquote() << nativePath << "uložen, bajtů" << image.size();
+        });
         hash_ = std::move(hash);
-        qCInfo(savingLog).noquote() << nativePath << "uložen, bajtů" << image.size();
     });
 }
 
@@ -52,18 +59,27 @@ void DocumentFile::save(const Source& source) {
 
 void DocumentFile::saveAs(const QString& nativePath, const Source& source) {
     const bool sameFile = isAt(nativePath);
-    FileLock lock = sameFile ? std::move(lock_) : FileLock::acquire(nativePath);
+    FileLock lock;
+    if (sameFile)
+        lock = std::move(lock_);
+    else
+        work_([&] { lock = FileLock::acquire(nativePath); });
     try {
         store(nativePath, source);
     } catch (...) {
         if (sameFile) lock_ = std::move(lock);
         throw;
     }
+    unlock();
     lock_ = std::move(lock);
     path_ = nativePath;
     name_ = QFileInfo(nativePath).fileName();
     Q_EMIT nameChanged();
     becomeSaved();
+}
+
+void DocumentFile::unlock() {
+    if (lock_.isHeld()) work_([this] { lock_ = {}; });
 }
 
 void DocumentFile::becomeSaved() {

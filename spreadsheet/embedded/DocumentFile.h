@@ -40,6 +40,10 @@ public:
 
     void markModified() { setModified(true); }
 
+    /// Carries out what works on the file itself, and comes back when it is done. At once, where none is set.
+    using Work = std::function<void(const std::function<void()>& work)>;
+    void setWork(Work work) { work_ = std::move(work); }
+
     struct Source {
         std::function<xls::FileImage()> contents;
         /// Told of what will be written, and where, before it is.
@@ -49,6 +53,9 @@ public:
     void save(const Source& source);
     /// As `save`, under a new name that the workbook has from then on; an existing file is replaced.
     void saveAs(const QString& nativePath, const Source& source);
+
+    /// The workbook is being closed: nobody is kept from its file any more.
+    void unlock();
 
 Q_SIGNALS:
     void nameChanged();
@@ -66,6 +73,7 @@ private:
     QByteArray writingHash_; ///< of what a save has tried to write; it may be there although the save failed
     bool modified_ = false;
     bool oldFormat_ = false;
+    Work work_ = [](const std::function<void()>& work) { work(); };
 };
 
 } // namespace zvonika

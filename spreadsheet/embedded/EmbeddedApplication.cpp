@@ -101,7 +101,9 @@ void EmbeddedApplication::saveUnder(const QString& nativePath) {
     const QFileInfo target(nativePath);
     Saving saving(session_);
     saving.makeRoom(target.fileName(), &saved);
-    if (target.isFile() && !mayReplace(session_.dialogs(), jmenoTabulky, target.fileName()))
+    bool replaces = false;
+    session_.files().write([&] { replaces = target.isFile(); });
+    if (replaces && !mayReplace(session_.dialogs(), jmenoTabulky, target.fileName()))
         refuseNotReplaced(target.fileName());
     if (!saving.mayConvert(saved)) refuse(notConverted(nativePath));
     saved.saveAs(nativePath);

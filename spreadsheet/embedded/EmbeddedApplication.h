@@ -25,6 +25,10 @@ public:
     /// The user's side, as the window has it.
     SheetCommands& commands() { return commands_; }
     const Session& session() const { return session_; }
+    /// As `SlowFiles::keepWindow`, for files that let the user wait.
+    void keepWindow(std::function<void()> waiting, std::function<void()> over) {
+        session_.files().keepWindow(std::move(waiting), std::move(over));
+    }
 
     QString defaultFilePath() const override;
     void setDefaultFilePath(const QString& path) override;

@@ -65,6 +65,8 @@ QString openReason(std::errc error) {
         return QStringLiteral("je příliš velký");
     case std::errc::not_enough_memory:
         return QStringLiteral("nestačí paměť počítače");
+    case std::errc::timed_out:
+        return QStringLiteral("disk nebo síť, kde leží, neodpovídá");
     default:
         return QStringLiteral("při čtení z disku nastala chyba");
     }

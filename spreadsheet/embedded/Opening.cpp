@@ -12,8 +12,9 @@ namespace zvonika {
 
 namespace {
 
-/// What a journal calls its workbook becomes the name of a file; it must not lead anywhere else.
-bool isBareName(const QString& name) {
+/// What a journal calls its workbook becomes the name of a file; it must be shown as it is and lead nowhere
+/// else.
+bool mayNameFile(const QString& name) {
     return !name.isEmpty() && !name.startsWith(QLatin1Char('.')) && name == shownName(name) &&
            !name.contains(QLatin1Char('/')) && !name.contains(QLatin1Char('\\'));
 }
@@ -25,17 +26,27 @@ Opening::Opening(Session& session, JournalFolder journals)
 }
 
 std::unique_ptr<Document> Opening::open(const QString& nativePath) {
-    auto document =
-        Document::open(nativePath, journals_, lockToOpen(session_.dialogs(), jmenoTabulky, nativePath));
+    // The first question to a folder that may not answer.
+    session_.files().read(nativePath, [nativePath] { QFileInfo::exists(nativePath); });
+    const auto beside = [this](const std::function<void()>& work) { session_.files().write(work); };
+    auto document = Document::open(nativePath, journals_,
+                                   lockToOpen(session_.dialogs(), jmenoTabulky, nativePath, beside),
+                                   [this](const QString& path) { return read(path); });
     for (auto& pending : offers_.pending(nativePath))
         offer(*document, std::move(pending));
     return document;
 }
 
+WorkbookFile Opening::read(const QString& nativePath) {
+    const auto read = std::make_shared<std::optional<WorkbookFile>>();
+    session_.files().read(nativePath, [read, nativePath] { *read = readWorkbook(nativePath); });
+    return std::move(**read);
+}
+
 void Opening::recoverUnsaved() {
     for (auto& pending : offers_.pending({})) {
         const QString name = pending.contents.base.name;
-        const bool usable = isBareName(name) && !session_.find(name);
+        const bool usable = mayNameFile(name) && !session_.find(name);
         auto document = std::make_unique<Document>(usable ? name : session_.nextName(), journals_);
         offer(*document, std::move(pending));
         if (document->journal().hasRecovered()) session_.add(std::move(document));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "spreadsheet/embedded/WorkbookFile.h"
 #include "spreadsheet/journal/RecoveryOffers.h"
 
 #include <QString>
@@ -25,6 +26,7 @@ public:
     void recoverUnsaved();
 
 private:
+    WorkbookFile read(const QString& nativePath);
     void offer(Document& document, PendingJournal pending);
 
     Session& session_;

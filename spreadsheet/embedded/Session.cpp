@@ -44,6 +44,7 @@ Document& Session::add(std::unique_ptr<Document> document) {
             if (listener_) listener_->troubleChanged();
         },
         Qt::QueuedConnection);
+    document->setFileWork([this](const std::function<void()>& work) { files_.write(work); });
     documents_.push_back(std::move(document));
     activate(*documents_.back());
     return *active_;
@@ -62,6 +63,7 @@ void Session::remove(Document& document) {
     documents_.erase(found);
     active_ = documents_.empty() ? nullptr : documents_.back().get();
     showActive();
+    gone->unlockFile();
 }
 
 void Session::refuseTwin(const QString& name, const Document* self) const {

@@ -3,6 +3,7 @@
 #include "platform/Dialogs.h"
 #include "spreadsheet/embedded/Document.h"
 #include "spreadsheet/embedded/SheetView.h"
+#include "spreadsheet/embedded/SlowFiles.h"
 
 #include <functional>
 #include <memory>
@@ -22,7 +23,7 @@ class Session {
 public:
     enum class State { Running, QuitByUser, Ended };
 
-    explicit Session(Dialogs& dialogs) : dialogs_(dialogs) {}
+    explicit Session(Dialogs& dialogs) : dialogs_(dialogs), files_(dialogs) {}
 
     // --- workbooks ---
     Document* active() const { return active_; } ///< nullptr without a workbook
@@ -64,6 +65,7 @@ public:
 
     // --- others ---
     Dialogs& dialogs() const { return dialogs_; }
+    SlowFiles& files() { return files_; }
     void setListener(SpreadsheetListener* listener) { listener_ = listener; }
     /// Tells the listener what the user has done: at once, or after the program's call if one is under way.
     void report(bool edited, bool moved);
@@ -91,6 +93,7 @@ private:
     void tellOwed();
 
     Dialogs& dialogs_;
+    SlowFiles files_;
     SpreadsheetListener* listener_ = nullptr;
     StepKeeper* keeper_ = nullptr;
     int programCalls_ = 0;

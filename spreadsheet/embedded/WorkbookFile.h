@@ -17,6 +17,7 @@ struct WorkbookFile {
 
 /// Reads a workbook. Every refusal, here and below, is AutomationError 1004 with one sentence for the user.
 WorkbookFile readWorkbook(const QString& nativePath);
+using WorkbookReader = std::function<WorkbookFile(const QString& nativePath)>;
 /// Runs the steps of a save; whatever they throw becomes such a refusal.
 void refusingToSave(const QString& nativePath, const std::function<void()>& steps);
 

@@ -2,7 +2,7 @@
 
 #include "spreadsheet/libreoffice/CalcEngine.h"
 #include "spreadsheet/libreoffice/Patience.h"
-#include "spreadsheet/libreoffice/PatientCalls.h"
+#include "platform/waiting/PatientCalls.h"
 #include "spreadsheet/libreoffice/UserNotices.h"
 
 #include <QScopeGuard>

@@ -2,10 +2,10 @@
 
 #include "platform/files/OfficeLock.h"
 #include "platform/files/OpeningLock.h"
+#include "platform/files/RegularFile.h"
 #include "spreadsheet/libreoffice/LibreOfficeSurroundings.h"
 
 #include <QCryptographicHash>
-#include <QFile>
 #include <QFileInfo>
 #include <QSet>
 
@@ -34,11 +34,9 @@ QString keyOf(const QString& nativePath) {
 } // namespace
 
 OpenFiles::Known OpenFiles::look(const QString& nativePath) {
-    const QFileInfo info(nativePath);
-    QFile file(nativePath);
-    if (!info.isFile() || info.size() > largestFile || !file.open(QIODevice::ReadOnly)) return {};
-    const QByteArray contents = file.readAll();
-    return {QCryptographicHash::hash(contents, QCryptographicHash::Sha256), !isOurs(contents)};
+    const ReadBytes file = readRegular(nativePath, Links::Follow, largestFile);
+    if (file.trouble) return {};
+    return {QCryptographicHash::hash(file.bytes, QCryptographicHash::Sha256), !isOurs(file.bytes)};
 }
 
 void OpenFiles::learn(const QString& nativePath) {

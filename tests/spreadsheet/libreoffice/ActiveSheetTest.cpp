@@ -134,6 +134,22 @@ TEST_F(ActiveSheet, ATextThatCalcMayChangeIsReadBack) {
     }
 }
 
+/// Calc with its workbooks, at the end.
+struct UnsavedWorld : FakeCalcWorld {
+    explicit UnsavedWorld(const QString& folder) : drive(folder, {}) {}
+    void offer(const std::function<void(int)>& settled = [](int) {}) {
+        UnsavedWorkbooks(calls, workbooks, dialogs, places, settled).offer();
+    }
+
+    ReadAhead seen;
+    ScriptedDialogs dialogs;
+    MemorySettings settings;
+    HomeDrive drive;
+    WorkbookPlaces places{drive, settings};
+    OpenFiles files{{}};
+    Workbooks workbooks{calls, seen, dialogs, places, files};
+};
+
 TEST(UnsavedWorkbooks, ARefusedSaveIsToldAndOfferedElsewhere) {
     QTemporaryDir folder;
     const QString own = folder.filePath("Kočka.xls"), elsewhere = folder.filePath("Jinam");
@@ -158,24 +174,17 @@ TEST(UnsavedWorkbooks, ARefusedSaveIsToldAndOfferedElsewhere) {
     };
     for (const auto& one : cases) {
         SCOPED_TRACE(one.name);
-        FakeCalcWorld world;
-        ReadAhead seen;
-        ScriptedDialogs dialogs;
-        MemorySettings settings;
-        HomeDrive drive(folder.path(), {});
-        const WorkbookPlaces places(drive, settings);
-        OpenFiles files({});
-        Workbooks workbooks(world.calls, seen, dialogs, places, files);
+        UnsavedWorld world(folder.path());
         world.calc->open_ = {one.workbook};
         if (one.refused)
             world.calc->first = [](const QString& call) {
                 if (call == "save") throw RuntimeError(1004, "Nejde to.");
             };
-        dialogs.expect(jmeno, "má neuložené změny", Answer::Yes);
-        if (one.refused) dialogs.expect(jmeno, "Nejde to.");
-        dialogs.expectFile("Uložit jako", one.chosen);
+        world.dialogs.expect(jmeno, "má neuložené změny", Answer::Yes);
+        if (one.refused) world.dialogs.expect(jmeno, "Nejde to.");
+        world.dialogs.expectFile("Uložit jako", one.chosen);
         QVector<int> settled;
-        UnsavedWorkbooks(world.calls, workbooks, dialogs, places, [&](int id) { settled << id; }).offer();
+        world.offer([&](int id) { settled << id; });
         EXPECT_EQ(world.calc->asked, one.asked);
         EXPECT_EQ(settled, one.chosen ? QVector<int>{one.workbook.id} : QVector<int>());
     }
@@ -187,23 +196,16 @@ TEST(UnsavedWorkbooks, WhatWouldLoseItsFormatOrPasswordIsLeftToItsOwner) {
     for (const OpenWorkbook& workbook :
          {OpenWorkbook{1, "tajné.ods", own, true, WorkbookFormat::Other, false},
           OpenWorkbook{1, "tajné.xls", own, true, WorkbookFormat::Xls, true}}) {
-        FakeCalcWorld world;
-        ReadAhead seen;
-        ScriptedDialogs dialogs;
-        MemorySettings settings;
-        HomeDrive drive(folder.path(), {});
-        const WorkbookPlaces places(drive, settings);
-        OpenFiles files({});
-        Workbooks workbooks(world.calls, seen, dialogs, places, files);
+        UnsavedWorld world(folder.path());
         world.calc->open_ = {workbook};
         world.calc->others = {"Dopis"};
         world.calc->first = [](const QString& call) {
             if (call == "save") throw RuntimeError(1004, "Nejde to.");
         };
-        dialogs.expect(jmeno, "má neuložené změny", Answer::Yes).expect(jmeno, "Nejde to.");
-        dialogs.expect(jmeno, question, Answer::Yes).expect(jmeno, question, Answer::No);
-        dialogs.expect(jmeno, "„Dopis“ má v LibreOffice neuložené změny", Answer::No);
-        UnsavedWorkbooks(world.calls, workbooks, dialogs, places, [](int) {}).offer();
+        world.dialogs.expect(jmeno, "má neuložené změny", Answer::Yes).expect(jmeno, "Nejde to.");
+        world.dialogs.expect(jmeno, question, Answer::Yes).expect(jmeno, question, Answer::No);
+        world.dialogs.expect(jmeno, "„Dopis“ má v LibreOffice neuložené změny", Answer::No);
+        world.offer();
         EXPECT_EQ(world.calc->asked, QStringList{"activate 1"});
     }
 }

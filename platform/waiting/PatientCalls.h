@@ -10,8 +10,9 @@ namespace zvonika {
 struct WaitingCustoms {
     std::function<void()>
         sign; ///< the wait goes on: about ten times a second, from the first moment it is felt
-    std::function<bool()> waitOn;   ///< the time is over: true to wait as long again
-    std::function<void()> breakOff; ///< makes the call fail soon, by ending what it waits for
+    std::function<bool()> waitOn;                ///< the time is over: true to wait as long again
+    std::function<void()> breakOff;              ///< makes the call fail soon, by ending what it waits for
+    std::chrono::milliseconds untilBroken{3000}; ///< how soon; a call that takes longer is left behind
 };
 
 /// Carries calls out on a thread of their own while the user-interface thread waits, so that a program which

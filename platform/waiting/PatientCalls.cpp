@@ -1,8 +1,8 @@
-#include "spreadsheet/libreoffice/PatientCalls.h"
+#include "platform/waiting/PatientCalls.h"
 
 #include "platform/RuntimeError.h"
-#include "spreadsheet/libreoffice/CallThread.h"
-#include "spreadsheet/libreoffice/HeldEvents.h"
+#include "platform/waiting/CallThread.h"
+#include "platform/waiting/HeldEvents.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -20,7 +20,6 @@ using std::chrono::milliseconds;
 
 constexpr milliseconds unfelt{80};      ///< a wait this long needs no window
 constexpr milliseconds signPeriod{100}; ///< between signs of a longer one
-constexpr milliseconds untilBroken{3000};
 
 void wakeEventLoop() {
     if (auto* application = QCoreApplication::instance())
@@ -117,7 +116,7 @@ bool PatientCalls::State::waitWithWindow(milliseconds patience) {
 
 void PatientCalls::State::breakOff() {
     customs.breakOff();
-    if (!thread.waitFor(untilBroken)) {
+    if (!thread.waitFor(customs.untilBroken)) {
         thread.giveUp();
         lost = true;
     }

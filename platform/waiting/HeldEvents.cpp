@@ -1,4 +1,4 @@
-#include "spreadsheet/libreoffice/HeldEvents.h"
+#include "platform/waiting/HeldEvents.h"
 
 #include <QCoreApplication>
 

@@ -1,4 +1,4 @@
-#include "spreadsheet/libreoffice/CallThread.h"
+#include "platform/waiting/CallThread.h"
 
 #include <condition_variable>
 #include <mutex>
