@@ -12,7 +12,7 @@ OkoliPisne okoliPisne(Modely& modely, Dialogs& dialogs) {
 
 Konverzace::Konverzace(Modely& modely, const Prostredi& prostredi, std::function<void()> otevriVyberStupnice)
     : modely_(modely), dialogs_(prostredi.dialogs), notyZapis_(modely.zapisovaciOsnova, prostredi.dialogs),
-      prstoklad_(prostredi.dialogs), zobrazeniPrstokladu_(modely.diskant, prostredi.dialogs),
+      zobrazeniPrstokladu_(modely.diskant, prostredi.dialogs),
       uvolneni_(modely.diskant, modely.basy, modely.zapisovaciOsnova, modely.zobrazovaciOsnova),
       zobrazeniHmatu_(
           modely.pisen,
@@ -31,13 +31,14 @@ Konverzace::Konverzace(Modely& modely, const Prostredi& prostredi, std::function
       klikDiskantu_(modely.diskant, notyZapis_, modely.tonina, prostredi.dialogs,
                     {std::move(otevriVyberStupnice),
                      [&modely](const QString& veta) { modely.panel.upozorneni = veta; }}),
+      zadaniPrstu_(klikDiskantu_, modely.prstoklad, prostredi.dialogs),
       zapisNoty_(modely.zapisovaciOsnova, klikDiskantu_),
       zapisBasu_(modely.basy, modely.tabulkaBasu, prostredi.dialogs),
       poZapisu_(okoliPisne(modely, prostredi.dialogs), zobrazeniHmatu_, pasPisne_),
       zapisHmatu_(okoliZapisu(), modely.diskant),
-      zapisHmatuZNot_(okoliZapisu(), modely.zapisovaciOsnova, notyZapis_),
+      zapisHmatuZNot_(okoliZapisu(), modely.zapisovaciOsnova, notyZapis_, modely.diskant),
       prevzeti_(okoliPisne(modely, prostredi.dialogs),
-                {modely.diskant, modely.basy, modely.zapisovaciOsnova, notyZapis_, prstoklad_},
+                {modely.diskant, modely.basy, modely.zapisovaciOsnova, notyZapis_, modely.prstoklad},
                 modely.tabulkaBasu, modely.tonina),
       radky_(okoliPisne(modely, prostredi.dialogs), kroky_, navigace_),
       intervaly_({modely.pisen, prostredi.dialogs, modely.panel, modely.diskant, modely.zobrazovaciOsnova,
@@ -49,7 +50,7 @@ Konverzace::Konverzace(Modely& modely, const Prostredi& prostredi, std::function
 }
 
 OkoliZapisu Konverzace::okoliZapisu() {
-    return {modely_.pisen, dialogs_, prstoklad_, zapisBasu_, poZapisu_, kroky_, modely_.tonina};
+    return {modely_.pisen, dialogs_, modely_.prstoklad, zapisBasu_, poZapisu_, kroky_, modely_.tonina};
 }
 
 } // namespace zvonika

@@ -8,6 +8,7 @@
 #include "playing/recording/PrevzetiHmatu.h"
 #include "playing/recording/RadkyHmatu.h"
 #include "playing/recording/Uvolneni.h"
+#include "playing/recording/ZadaniPrstu.h"
 #include "playing/recording/ZapisHmatu.h"
 #include "playing/recording/ZapisHmatuZNot.h"
 #include "playing/recording/ZapisNoty.h"
@@ -37,6 +38,7 @@ struct KonverzacePisne {
 struct KonverzaceZapisu {
     clsNotyZapis& notyZapis;
     Prstoklad& prstoklad;
+    ZadaniPrstu& zadaniPrstu;
     Uvolneni& uvolneni;
     KlikDiskantu& klikDiskantu;
     ZapisNoty& zapisNoty;
@@ -62,8 +64,8 @@ public:
 
     KonverzacePisne pisen() { return {navigace_, zvuk_, zivotPisne_, ukonceniExcelu_, neulozenePisne_}; }
     KonverzaceZapisu zapis() {
-        return {notyZapis_,  prstoklad_,      uvolneni_, klikDiskantu_, zapisNoty_,
-                zapisHmatu_, zapisHmatuZNot_, prevzeti_, radky_};
+        return {notyZapis_, modely_.prstoklad, zadaniPrstu_,    uvolneni_, klikDiskantu_,
+                zapisNoty_, zapisHmatu_,       zapisHmatuZNot_, prevzeti_, radky_};
     }
     Vraceni& vraceni() { return vraceni_; }
     KonverzacePomucek pomucky() { return {intervaly_, volbaStupnice_, volbyHmatniku_}; }
@@ -74,7 +76,6 @@ private:
     Modely& modely_;
     Dialogs& dialogs_;
     clsNotyZapis notyZapis_;
-    Prstoklad prstoklad_;
     ZobrazeniPrstokladu zobrazeniPrstokladu_;
     Uvolneni uvolneni_;
     ZobrazeniHmatu zobrazeniHmatu_;
@@ -86,6 +87,7 @@ private:
     ZivotPisne zivotPisne_;
     NeulozenePisne neulozenePisne_;
     KlikDiskantu klikDiskantu_;
+    ZadaniPrstu zadaniPrstu_;
     ZapisNoty zapisNoty_;
     ZapisBasu zapisBasu_;
     PoZapisu poZapisu_;

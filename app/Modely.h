@@ -3,6 +3,7 @@
 #include "board/BassBoard.h"
 #include "board/BassTable.h"
 #include "board/TrebleBoard.h"
+#include "playing/recording/Prstoklad.h"
 #include "playing/stepping/Timer1.h"
 #include "song/CommandStates.h"
 #include "song/Pas.h"
@@ -29,6 +30,7 @@ struct Modely {
     BassTable tabulkaBasu;
     NotovaOsnova zapisovaciOsnova;
     ZobrazovaciOsnova zobrazovaciOsnova;
+    Prstoklad prstoklad;
     Pas pas;
     int krokyIntervalu = 2; ///< the interval that is chosen, in scale steps, 1..14
 };

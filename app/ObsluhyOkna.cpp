@@ -8,6 +8,7 @@
 #include "app/OknoNapovedy.h"
 #include "app/UdalostiOkna.h"
 #include "app/ui/Form1.h"
+#include "playing/recording/CekajiciPrsty.h"
 #include "playing/stepping/Automat.h"
 
 namespace zvonika {
@@ -46,12 +47,20 @@ ObsluhyPrikazu prikazyPisne(const CastiProgramu& c) {
     };
 }
 
+void mnuVzitPrst(Prstoklad& prstoklad, SongPanel& panel) {
+    if (prstoklad.prazdny()) return;
+    panel.upozorneni = QStringLiteral("Vzato zpět: %1. Tento prst se nezapíše.")
+                           .arg(slovyPrst(prstoklad.zaznamy().constLast()));
+    prstoklad.odeberPosledni();
+}
+
 ObsluhyPrikazu prikazyZapisu(const CastiProgramu& c) {
     const KonverzaceZapisu k = c.konverzace.zapis();
     ObsluhyPrikazu obsluhy = {
         {"cmdStupnice", [c] { cmdStupnice(c.okno, c.konverzace.pomucky().volbaStupnice, c.modely.tonina); }},
         {"cmdTah", [k] { k.zapisHmatu.cmdTah(); }},
         {"cmdTlak", [k] { k.zapisHmatu.cmdTlak(); }},
+        {"mnuVzitPrst", [c] { mnuVzitPrst(c.modely.prstoklad, c.modely.panel); }},
         {"cmdTahNoty", [k] { k.zapisHmatuZNot.cmdTahNoty(); }},
         {"cmdTlakNoty", [k] { k.zapisHmatuZNot.cmdTlakNoty(); }},
         {"mnuPrevzitHmat", [k] { k.prevzeti.mnuPrevzitHmat(); }},

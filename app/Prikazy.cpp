@@ -110,6 +110,8 @@ const QVector<Menu>& menuPrikazu() {
           {"mnuZnovu", "Znovu", "mnuZnovu", false, "Ctrl+Y; Ctrl+Shift+Z"},
           {},
           {"mnuPrevzitHmat", "Převzít ukázaný hmat", "mnuPrevzitHmat", false, "F5"},
+          {"mnuVzitPrst", "Vzít zpět čekající prst", "mnuVzitPrst", false, "Shift+F2"},
+          {},
           {"mnuVlozitHmat", "Vložit hmat", "mnuVlozitHmat", false, "Ctrl+Ins"},
           {"mnuSmazatHmat", "Smazat hmat", "mnuSmazatHmat", false, "Ctrl+Del"}}},
     };

@@ -70,6 +70,30 @@ int Program::aktualniRadek() const {
     }
 }
 
+bool Program::jePisenVpredu() const {
+    try {
+        return modely_.pisen.otevrena() &&
+               modely_.pisen.excel().activeWorkbookName() == modely_.pisen.aktualniPisen;
+    } catch (const RuntimeError&) {
+        return false;
+    }
+}
+
+bool Program::krokPedalu(bool dopredu) {
+    if (!jePisenVpredu()) return false;
+    proved(dopredu ? QStringLiteral("cmdJakDal") : QStringLiteral("cmdJakDalZpet"));
+    return true;
+}
+
+// Also while a box is up: what is asked of the spreadsheet next must name the song as it is called by now.
+void Program::workbookRenamed(const QString& before, const QString& now, const QString& fullName) {
+    if (modely_.pisen.aktualniPisen.compare(before, Qt::CaseInsensitive) != 0) return;
+    konverzace_.pisen().zivotPisne.prejmenujPisen(now, fullName);
+    if (modely_.pisen.aplikaceExcel)
+        modely_.pisen.aplikaceExcel->stepsChanged(); // those of the song by its new name
+    udalosti_.ukazStav();
+}
+
 void Program::cursorMoved() {
     automat_.odpocin();
     udalosti_.nasleduj([this] { konverzace_.pisen().navigace.sledujKurzor(); });

@@ -34,6 +34,10 @@ public:
     /// keyboard.
     void prejdiNaHlavniOkno();
 
+    /// The pedal was pressed in the sheet's window: a step onward (back) by the bellows where the song is in
+    /// front there; false, and nothing, where it is not.
+    bool krokPedalu(bool dopredu);
+
     QString tonina() const { return modely_.tonina.stupnice().text(); }
     /// Row of the sheet's cursor, 1..; 0: there is none to tell.
     int aktualniRadek() const;
@@ -45,9 +49,11 @@ private:
     bool volnoProKrok() const;
     void nabidniNeulozene();
     bool hracPise() const;
+    bool jePisenVpredu() const;
 
     void cursorMoved() override;
     void cellsEdited() override { cursorMoved(); }
+    void workbookRenamed(const QString& before, const QString& now, const QString& fullName) override;
     void troubleChanged() override { udalosti_.ukazStav(); }
 
     Prostredi prostredi_;

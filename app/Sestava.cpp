@@ -118,6 +118,7 @@ struct Sestava::Casti {
     std::unique_ptr<SheetView> oknoTabulky(SheetCommands& prikazy) {
         auto okno = std::make_unique<SheetWindow>(prikazy, popisSloupcu());
         QObject::connect(okno.get(), &SheetWindow::f6Pressed, &program, &Program::prejdiNaHlavniOkno);
+        okno->takePageKey = [this](bool dolu) { return program.krokPedalu(dolu); };
         umisti(*okno, okna.tabulka);
         return okno;
     }

@@ -10,6 +10,7 @@
 #include "app/ui/Form1.h"
 #include "app/ui/SevrenyVyber.h"
 #include "board/ui/Hmatnik.h"
+#include "playing/recording/CekajiciPrsty.h"
 #include "playing/stepping/Automat.h"
 #include "song/ui/PanelTextu.h"
 #include "song/ui/PasWidget.h"
@@ -23,6 +24,8 @@
 #include <QMenuBar>
 #include <QMultiMap>
 #include <QShortcut>
+
+#include <utility>
 
 namespace zvonika {
 
@@ -45,8 +48,7 @@ void ZapojeniOkna::umisti(QWidget* prvek, const QRect& twips) {
 void ZapojeniOkna::postavHmatnik() {
     const KonverzaceZapisu k = c_.konverzace.zapis();
     const Umisti kam = [this](QWidget* prvek, const QRect& twips) { umisti(prvek, twips); };
-    // Without the comma that ends every name.
-    const auto nazev = [](int n) { return nazevTonu(CisloTonu(n)).text().chopped(1); };
+    const auto nazev = [](int n) { return nazevTonu(CisloTonu(n)).bezCarky(); };
     const ObsluhaDiskantu diskant{
         [this, k](int n) { c_.udalosti.proved([k, n] { k.klikDiskantu.klik(n); }); },
         [this](int n, bool pomocny) { klikPrstu(n, pomocny); }, nazev};
@@ -56,8 +58,8 @@ void ZapojeniOkna::postavHmatnik() {
 
 void ZapojeniOkna::klikPrstu(int knoflik, bool pomocny) {
     c_.udalosti.proved([this, knoflik, pomocny] {
-        Prstoklad& prstoklad = c_.konverzace.zapis().prstoklad;
-        pomocny ? prstoklad.dvojklikLblSynchro(knoflik) : prstoklad.dvojklikLbl(knoflik);
+        ZadaniPrstu& zadani = c_.konverzace.zapis().zadaniPrstu;
+        pomocny ? zadani.dvojklikLblSynchro(knoflik) : zadani.dvojklikLbl(knoflik);
     });
 }
 
@@ -124,10 +126,8 @@ void ZapojeniOkna::pripojOsnovuZapisu(const ZapisovaciOsnova& osnova) {
 }
 
 void ZapojeniOkna::prejdiNaPozici(int pozice) {
-    c_.udalosti.proved([&] {
-        SongSheet(c_.modely.pisen).vyberRadek(c_.modely.pas.prvniRadekPasu + pozice - 1);
-        c_.konverzace.pisen().navigace.sledujKurzor();
-    });
+    c_.udalosti.proved(
+        [&] { c_.konverzace.pisen().navigace.naRadek(c_.modely.pas.prvniRadekPasu + pozice - 1); });
 }
 
 void ZapojeniOkna::pripojModely() {
@@ -136,6 +136,11 @@ void ZapojeniOkna::pripojModely() {
         ukazToninu();
     });
     ukazToninu();
+    connect(&c_.modely.prstoklad, &Prstoklad::zmeneno, this, &ZapojeniOkna::ukazPrstoklad);
+    connect(&c_.modely.diskant, &TrebleBoard::knoflikZmenen, this, [this] {
+        if (!c_.modely.prstoklad.prazdny()) ukazPrstoklad(); // which of their buttons are marked
+    });
+    ukazPrstoklad();
     c_.konverzace.pisen().navigace.nastavZastaveniCasovace([this] { c_.automat.zastav(); });
     Vraceni& vraceni = c_.konverzace.vraceni();
     c_.udalosti.nastavObnovu([&vraceni] { vraceni.obnovPopisy(); });
@@ -149,6 +154,12 @@ void ZapojeniOkna::ukazToninu() {
         tlacitko->setText(tonina);
         tlacitko->setAccessibleName(QStringLiteral("Zapsaná stupnice: ") + tonina);
     }
+}
+
+void ZapojeniOkna::ukazPrstoklad() {
+    c_.modely.stavy.povol(QStringLiteral("mnuVzitPrst"), !c_.modely.prstoklad.prazdny());
+    const QString veta = cekajiciPrsty(c_.modely.prstoklad, c_.modely.diskant);
+    if (std::exchange(c_.modely.panel.prstokladCeka, veta) != veta) c_.modely.panel.oznamZmenu();
 }
 
 void ZapojeniOkna::pripojZkratky() {

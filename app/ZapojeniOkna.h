@@ -35,6 +35,7 @@ private:
     void umisti(QWidget* prvek, const QRect& twips);
     void klikPrstu(int knoflik, bool pomocny);
     void ukazToninu();
+    void ukazPrstoklad();
     void prejdiNaPozici(int pozice);
 
     CastiProgramu c_;

@@ -18,6 +18,9 @@ struct Message {
     Buttons buttons = Buttons::Ok;
     /// The button chosen by Enter; the first one where nothing is set.
     std::optional<Answer> defaultAnswer = {};
+    /// A page-turner pedal chooses that button too: PageDown or PageUp, pressed afresh and not repeated by a
+    /// key that is held.
+    bool pedal = false;
 };
 
 /// Every box and every file choice that the user meets. Calls return when the user has answered.

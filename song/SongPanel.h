@@ -41,6 +41,7 @@ public:
     QString krokZpet;       ///< the step that is taken back next, a label; "" where there is none
     QString krokZnovu;      ///< the step that is done again next
     QString stav;           ///< status line: what to do next, warnings
+    QString prstokladCeka;  ///< the fingers that wait for the next grip; "" where none does
     int zapsanychHmatu = 0; ///< grips recorded in this run
 
     /// What stands first in the status line, emphasised; "" as a rule.

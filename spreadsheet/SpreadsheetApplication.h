@@ -24,8 +24,13 @@ using AutomationError = RuntimeError;
 class SpreadsheetListener {
 public:
     virtual ~SpreadsheetListener() = default;
-    virtual void cursorMoved() = 0;  ///< another active cell or sheet
-    virtual void cellsEdited() = 0;  ///< cells, or the name of a sheet, have changed
+    virtual void cursorMoved() = 0; ///< another active cell or sheet
+    virtual void cellsEdited() = 0; ///< cells, or the name of a sheet, have changed
+    /// The user has saved a workbook under another name or in another folder; it stays open under that name.
+    /// `before` and `now` as `SpreadsheetApplication::activeWorkbookName`, `fullName` native.
+    virtual void workbookRenamed(const QString& before, const QString& now, const QString& fullName) {
+        static_cast<void>(before), static_cast<void>(now), static_cast<void>(fullName);
+    }
     virtual void troubleChanged() {} ///< `SpreadsheetApplication::trouble` says something else than before
 };
 

@@ -19,6 +19,8 @@ public:
     static ToneName nejde() { return ToneName(QStringLiteral("nejde")); }
 
     const QString& text() const { return text_; }
+    /// As a sentence says it: the comma is no part of it there.
+    QString bezCarky() const { return text_.endsWith(u',') ? text_.chopped(1) : text_; }
     bool jePrazdny() const { return text_.isEmpty(); }
 
     friend bool operator==(const ToneName&, const ToneName&) = default;

@@ -48,8 +48,11 @@ bool clsIntervaly::zna(const ToneName& ton, const Key& stupnice) const {
 
 std::optional<int> clsIntervaly::pozice(const ToneName& ton, const QString& prvek) const {
     const int posledni = std::min(posledniVychozi, tabulka_.pocetStupnu() - 1);
-    for (int i = prvniVychozi; i <= posledni; ++i)
-        if (stupen(i, prvek) == ton) return i;
+    for (int i = prvniVychozi; i <= posledni; ++i) {
+        const auto nazev = stupen(i, prvek);
+        if (!nazev) return std::nullopt;
+        if (*nazev == ton) return i;
+    }
     // The steps of a whole table end where they are marked to end.
     const bool vsechny = posledni == posledniVychozi || tabulka_.pocetStupnu() < tabulka_.pocet();
     return vsechny ? std::optional(nenalezen) : std::nullopt;

@@ -33,7 +33,7 @@ public:
     const QString& chyba() const { return tabulka_.chyba(); }
 
 private:
-    /// 0: not in the scale. Nothing: the table ends before that is known.
+    /// 0: not in the scale. Nothing: the table ends, or an entry lacks the key, before that is known.
     std::optional<int> pozice(const ToneName& ton, const QString& prvek) const;
     std::optional<ToneName> stupen(int pozice, const QString& prvek) const;
     void ohlasMimoRozsah(const ToneName& nota, const Key& stupnice) const;

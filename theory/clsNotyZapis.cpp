@@ -83,6 +83,18 @@ void clsNotyZapis::odeberTon(CisloTonu ton) {
     if (const auto slot = osnova_.slotTonu(ton)) osnova_.odeberNotu(*slot);
 }
 
+std::optional<OdlozenaNota> clsNotyZapis::misto(CisloTonu ton) const {
+    const auto slot = osnova_.slotTonu(ton);
+    if (!slot) return std::nullopt;
+    return OdlozenaNota{*slot, *osnova_.nota(*slot), osnova_.vybranySlot() == slot};
+}
+
+void clsNotyZapis::vrat(const OdlozenaNota& misto) {
+    if (osnova_.nota(misto.slot) || osnova_.slotTonu(misto.nota.ton)) return;
+    osnova_.polozNotu(misto.slot, misto.nota);
+    if (misto.vybrana) osnova_.vyberSlot(misto.slot);
+}
+
 std::optional<NotaOsnovy> clsNotyZapis::prectiNotu(const PolohaNoty& poloha) const {
     const CisloTonu ton = tonNaOsnove(poloha, osnova_.predznamenani());
     return ton.jeVRozsahu() ? std::optional(NotaOsnovy{poloha, ton}) : std::nullopt;

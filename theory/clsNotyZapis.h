@@ -8,6 +8,13 @@
 
 namespace zvonika {
 
+/// A note of the entry staff and where it stands.
+struct OdlozenaNota {
+    int slot = 0;
+    NotaOsnovy nota;
+    bool vybrana = false;
+};
+
 /// Note entry: what the notes of the entry staff mean, and the rules by which they are put there with the
 /// mouse and from the board. Keeps nothing of its own; the staff holds the notes. No tone stands on the staff
 /// twice.
@@ -51,6 +58,11 @@ public:
     /// player asked for it or where the key signature would make another tone of it.
     std::optional<int> zakresliNotu(const KreslenaNota& nota);
     void odeberTon(CisloTonu ton);
+    /// Where the tone stands on the staff; nothing where it does not.
+    std::optional<OdlozenaNota> misto(CisloTonu ton) const;
+    /// Puts a note back to the place from which it was taken; nothing happens where another one stands there
+    /// by now.
+    void vrat(const OdlozenaNota& misto);
 
 private:
     std::optional<NotaOsnovy> prectiNotu(const PolohaNoty& poloha) const;

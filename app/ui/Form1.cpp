@@ -21,6 +21,7 @@
 #include <QShortcut>
 #include <QStatusBar>
 
+#include <algorithm>
 #include <optional>
 
 namespace zvonika {
@@ -92,6 +93,7 @@ void Form1::postavStavovyRadek() {
     varovani_->nastavTucne(true);
     varovani_->nastavBarvu(barvaVarovani);
     stav_ = radekStavu(QStringLiteral("lblStav"), 2);
+    prstoklad_ = radekStavu(QStringLiteral("lblPrstoklad"), 0);
     statusBar()->setSizeGripEnabled(false);
 }
 
@@ -252,6 +254,7 @@ void Form1::ukazPanel() {
     lblTon_->setText(panel_.lblTon);
     lblLadeni_->nastavText(shownName(panel_.lblLadeni));
     stav_->nastavText(shownName(panel_.stav, nejdelsiStav));
+    ukazPrstoklad();
     ukazVarovani();
     ukazListy();
     ukazBarvuKroku();
@@ -268,11 +271,21 @@ void Form1::ukazKroky() {
     akce_[QStringLiteral("mnuZnovu")]->setText(popis("Znovu", panel_.krokZnovu));
 }
 
+/// As wide as it is long, up to half of the line.
+void Form1::ukazPrstoklad() {
+    const QString text = shownName(panel_.prstokladCeka, nejdelsiStav);
+    const int sirka = prstoklad_->fontMetrics().horizontalAdvance(text) + 2;
+    prstoklad_->setFixedWidth(std::min(sirka, statusBar()->width() / 2));
+    prstoklad_->setVisible(!text.isEmpty());
+    prstoklad_->nastavText(text);
+}
+
 /// The hint gives way to a warning as a whole: half a sentence of each would tell neither.
 bool Form1::vejdeSeVedle(const QString& varovani) const {
     const int sirka = varovani_->fontMetrics().horizontalAdvance(varovani) +
                       stav_->fontMetrics().horizontalAdvance(panel_.stav);
-    return sirka + 4 * varovani_->fontMetrics().averageCharWidth() < statusBar()->width();
+    const int prstoklad = panel_.prstokladCeka.isEmpty() ? 0 : prstoklad_->width();
+    return sirka + prstoklad + 4 * varovani_->fontMetrics().averageCharWidth() < statusBar()->width();
 }
 
 void Form1::ukazVarovani() {

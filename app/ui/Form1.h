@@ -63,6 +63,7 @@ private:
     void postavStavovyRadek();
     ElidovanyPopisek* radekStavu(const QString& jmeno, int dil);
     void ukazPanel();
+    void ukazPrstoklad();
     void ukazVarovani();
     bool vejdeSeVedle(const QString& varovani) const;
     void ukazListy();
@@ -83,6 +84,7 @@ private:
     ElidovanyPopisek* varovani_ =
         nullptr; ///< before it in the status line; hidden where there is nothing to warn of
     ElidovanyPopisek* stav_ = nullptr;
+    ElidovanyPopisek* prstoklad_ = nullptr; ///< behind it; hidden where no finger waits
 };
 
 /// Extent of the main window's scene in twips.

@@ -21,6 +21,7 @@ public:
     const QString& popis() const { return napis_.text(); }
 
 protected:
+    void druhyStisk() override { Q_EMIT dvojklik(); }
     void paintEvent(QPaintEvent* event) override;
 
 private:

@@ -42,11 +42,24 @@ void nakresliCernou(QPainter& painter, const QRectF& misto, const QColor& lic) {
     painter.fillPath(obrys(misto, v * 0.25), lic.darker(190));
     // The raised top is narrower than the foot: light falls on its far side and its front slopes down.
     const QRectF hreben = misto.adjusted(0, v * 0.09, -v * 0.42, -v * 0.24);
+    if (lic == barvy::oznacenaKlavesa) return painter.fillPath(obrys(hreben, v * 0.2), lic);
     QLinearGradient prechod(hreben.topLeft(), hreben.bottomLeft());
     prechod.setColorAt(0, lic.lighter(lic.lightness() < 60 ? 300 : 135));
     prechod.setColorAt(0.35, lic.lighter(lic.lightness() < 60 ? 160 : 108));
     prechod.setColorAt(1, lic);
     painter.fillPath(obrys(hreben, v * 0.2), prechod);
+}
+
+/// Disc with a dark edge: seen without the colour of the key.
+void nakresliOznaceni(QPainter& painter, const QRectF& misto, const QColor& barva) {
+    const qreal okraj = std::max(1.2, misto.height() * 0.12);
+    const qreal o = misto.height() * 0.14;
+    painter.setPen(QPen(barvy::okrajZnaku, okraj));
+    painter.setBrush(barva);
+    painter.drawEllipse(misto.adjusted(o, o, -o, -o));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(barvy::okrajZnaku);
+    painter.drawEllipse(misto.center(), misto.height() * 0.13, misto.height() * 0.13);
 }
 
 } // namespace
@@ -64,7 +77,11 @@ void nakresliKlavesu(QPainter& painter, const QRectF& misto, const PodobaPrvku& 
     const qreal strana = misto.height() * 0.86;
     const qreal odKraje = misto.height() * (cerna ? 0.6 : 0.3);
     const QRectF uKraje(misto.right() - strana - odKraje, misto.center().y() - strana / 2, strana, strana);
-    nakresliZnak(painter, uKraje.translated(0, cerna ? -misto.height() * 0.06 : 0), podoba, barvy.znak);
+    const QRectF znak = uKraje.translated(0, cerna ? -misto.height() * 0.06 : 0);
+    if (podoba.vyznam == VyznamPrvku::Oznaceny)
+        nakresliOznaceni(painter, znak, barvy.znak);
+    else
+        nakresliZnak(painter, znak, podoba, barvy.znak);
 }
 
 } // namespace zvonika

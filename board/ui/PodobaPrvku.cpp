@@ -33,7 +33,10 @@ QColor barvaNapisu(const PodobaPrvku& podoba) {
     return podoba.vyznam == VyznamPrvku::Interval ? barvy.lic : barvy.znak;
 }
 
+// Nothing stands on pure red with enough contrast for every eye: the mark of a marked key is white and brings
+// its own dark edge.
 BarvyPrvku barvyKlavesy(VyznamPrvku vyznam, bool cerna) {
+    if (vyznam == VyznamPrvku::Oznaceny) return {barvy::oznacenaKlavesa, Qt::white};
     if (vyznam == VyznamPrvku::Volny)
         return cerna ? BarvyPrvku{{30, 28, 27}, Qt::white} : BarvyPrvku{{254, 254, 252}, Qt::black};
     return barvyKnofliku(vyznam, cerna);

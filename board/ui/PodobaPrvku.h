@@ -40,6 +40,8 @@ BarvyPrvku barvyKlavesy(VyznamPrvku vyznam, bool cerna);
 
 namespace barvy {
 inline constexpr QColor oznaceni{214, 40, 34};
+inline constexpr QColor oznacenaKlavesa{255, 0, 0};
+inline constexpr QColor okrajZnaku{40, 0, 0};   ///< around the mark of a marked key
 inline constexpr QColor zamereni{255, 196, 64}; ///< focus ring
 } // namespace barvy
 

@@ -81,8 +81,10 @@ void StiskaciPrvek::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void StiskaciPrvek::mouseDoubleClickEvent(QMouseEvent* event) {
-    // The second press of a double click is no click of its own: a button must not toggle twice.
-    if (event->button() == Qt::LeftButton) Q_EMIT dvojklik();
+    if (event->button() == Qt::LeftButton)
+        druhyStisk();
+    else
+        event->ignore();
 }
 
 void StiskaciPrvek::keyPressEvent(QKeyEvent* event) {
@@ -93,11 +95,12 @@ void StiskaciPrvek::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Select:
         if (!event->isAutoRepeat()) click();
         return;
-    case Qt::Key_F2:
-        Q_EMIT dvojklik();
-        return;
     default:
         break;
+    }
+    if (event->key() == Qt::Key_F2 && event->modifiers() == Qt::NoModifier) {
+        Q_EMIT dvojklik();
+        return;
     }
     const bool samotna = !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
     QWidget* soused = ostrov_ && samotna ? ostrov_->soused(this, event->key()) : nullptr;

@@ -12,9 +12,9 @@ class ObrazyPrvku;
 class OstrovFokusu;
 
 /// A part of the instrument that is pressed. `clicked` comes with the press, from mouse, Space, Enter or
-/// assistive technology; its checked state is the mark in the model and changes with the model only. A double
-/// click gives one `clicked` and then one `dvojklik`; F2 gives `dvojklik`. Arrow keys move the focus within
-/// the island.
+/// assistive technology; its checked state is the mark in the model and changes with the model only. However
+/// quickly, each press is a click; where a double click means something, the part makes `dvojklik` of its
+/// second press. F2 gives `dvojklik`. Arrow keys move the focus within the island.
 class StiskaciPrvek : public QAbstractButton {
     Q_OBJECT
 public:
@@ -34,6 +34,9 @@ protected:
     const PodobaPrvku& podoba() const { return podoba_; }
     void kresliObraz(QPainter& painter, const QRect& misto);
     void kresliZamereni(QPainter& painter, const QRectF& obrys, qreal polomer) const;
+
+    /// The second press of a double click.
+    virtual void druhyStisk() { click(); }
 
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;

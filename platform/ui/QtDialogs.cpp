@@ -3,6 +3,7 @@
 #include "platform/ShownText.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -12,6 +13,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSpacerItem>
 #include <QStyledItemDelegate>
 #include <QTreeView>
@@ -90,6 +92,14 @@ void addButtons(QMessageBox& box, const Message& message) {
     box.setEscapeButton(box.button(buttonText(answers.back()).button));
 }
 
+void addPedal(QMessageBox& box) {
+    for (const Qt::Key key : {Qt::Key_PageDown, Qt::Key_PageUp}) {
+        auto* pedal = new QShortcut(key, &box);
+        pedal->setAutoRepeat(false); // the press that has brought the box may still be held
+        QObject::connect(pedal, &QShortcut::activated, box.defaultButton(), &QPushButton::click);
+    }
+}
+
 // A message box takes its width from its layout, not from a minimum size of its own.
 void widen(QMessageBox& box) {
     auto* grid = qobject_cast<QGridLayout*>(box.layout());
@@ -159,6 +169,39 @@ public:
     }
 };
 
+/// A choice among files that are there. One is found by its name without the ending, too.
+class FileToOpen : public QFileDialog {
+public:
+    using QFileDialog::QFileDialog;
+
+    /// The box itself lets a name be chosen only when it is there to the letter.
+    void watchName() {
+        connect(nameEdit(), &QLineEdit::textChanged, this, [this] {
+            auto* buttons = findChild<QDialogButtonBox*>();
+            if (buttons && !completed().isEmpty()) buttons->button(QDialogButtonBox::Open)->setEnabled(true);
+        });
+    }
+
+protected:
+    void accept() override {
+        if (const QString name = completed(); !name.isEmpty()) nameEdit()->setText(name);
+        QFileDialog::accept();
+    }
+
+private:
+    QLineEdit* nameEdit() const { return findChild<QLineEdit*>(QStringLiteral("fileNameEdit")); }
+
+    /// The name that was typed, with its ending; "" where it needs none or no such file is there.
+    QString completed() const {
+        const QString name = nameEdit()->text();
+        const QString file = directory().absoluteFilePath(name);
+        if (name.isEmpty() || QFileInfo::exists(file)) return {};
+        for (const char* ending : {".xls", ".XLS"})
+            if (QFileInfo(file + QLatin1String(ending)).isFile()) return name + QLatin1String(ending);
+        return {};
+    }
+};
+
 void setUp(QFileDialog& dialog, const QString& filter, const QString& folder) {
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setNameFilter(qtFilter(filter));
@@ -212,6 +255,7 @@ Answer QtDialogs::message(const Message& message) {
     box.setIcon(iconOf(message.icon));
     addButtons(box, message);
     if (message.text.size() > longText) widen(box);
+    if (message.pedal) addPedal(box);
     return answerOf(box.exec());
 }
 
@@ -231,9 +275,10 @@ QString QtDialogs::input(const QString& title, const QString& prompt) {
 
 std::optional<QString> QtDialogs::openFile(const QString& title, const QString& filter,
                                            const QString& folder) {
-    QFileDialog dialog(parentWindow());
+    FileToOpen dialog(parentWindow());
     prepare(dialog, QStringLiteral("vyberSouboru"), title);
     setUp(dialog, filter, folder);
+    dialog.watchName();
     dialog.setFileMode(QFileDialog::ExistingFile);
     nameTheParts(dialog, QStringLiteral("Otevřít"));
     return chosenFile(dialog);

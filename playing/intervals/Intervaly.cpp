@@ -32,26 +32,21 @@ QString naZacatekVety(QString text) {
     return text;
 }
 
-/// A sentence needs no comma behind the name.
-QString veVete(const ToneName& nazev) {
-    return nazev.text().chopped(1);
-}
-
 QString vysledek(const VychodiskoIntervalu& vychodisko, const ZadaniIntervalu& zadani, const ToneName& nota) {
-    const QString od = veVete(vychodisko.nazev), interval = naZacatekVety(nazevIntervalu(zadani.kroky));
+    const QString od = vychodisko.nazev.bezCarky(), interval = naZacatekVety(nazevIntervalu(zadani.kroky));
     if (!vychodisko.mimoStupnici)
         return QStringLiteral("%1 od tónu %2 ve stupnici %3 je %4.")
-            .arg(interval, od, zadani.stupnice.text(), veVete(nota));
+            .arg(interval, od, zadani.stupnice.text(), nota.bezCarky());
     const QString oktava = vychodisko.posun < 0   ? QStringLiteral(" o oktávu níž")
                            : vychodisko.posun > 0 ? QStringLiteral(" o oktávu výš")
                                                   : QString();
     return QStringLiteral("Odhad: %1 do stupnice %2 nepatří, stupně se počítají od %3%6. %4 od %1 je %5.")
-        .arg(od, zadani.stupnice.text(), veVete(vychodisko.opora), interval, veVete(nota), oktava);
+        .arg(od, zadani.stupnice.text(), vychodisko.opora.bezCarky(), interval, nota.bezCarky(), oktava);
 }
 
 QString neniVeStupnici(const VychodiskoIntervalu& vychodisko, const Key& stupnice) {
     return QStringLiteral("Tón %1 ve stupnici %2 není, interval od něj nejde určit.")
-        .arg(veVete(vychodisko.nazev), stupnice.text());
+        .arg(vychodisko.nazev.bezCarky(), stupnice.text());
 }
 
 Message zadnaSkladba() {

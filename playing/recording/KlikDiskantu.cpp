@@ -1,7 +1,6 @@
 #include "playing/recording/KlikDiskantu.h"
 
 #include "theory/Tonina.h"
-#include "theory/clsNotyZapis.h"
 
 #include <QScopedValueRollback>
 
@@ -16,10 +15,25 @@ KlikDiskantu::KlikDiskantu(TrebleBoard& diskant, clsNotyZapis& noty, const Tonin
 
 void KlikDiskantu::klik(int n) {
     if (overujeSe_) return;
-    if (diskant_.oznacen(n))
-        uvolni(n);
-    else
-        oznac(n);
+    pusteny_.reset();
+    if (!diskant_.oznacen(n)) return oznac(n);
+    pusteny_ = Pusteny{n, diskant_.znacky(), {}, noty_.misto(CisloTonu(n))};
+    uvolni(n);
+    pusteny_->potom = diskant_.znacky();
+}
+
+bool KlikDiskantu::dvojklik(int n) {
+    if (overujeSe_) return false;
+    if (!diskant_.oznacen(n) && !vratPusteny(n)) oznac(n);
+    pusteny_.reset();
+    return diskant_.oznacen(n);
+}
+
+bool KlikDiskantu::vratPusteny(int n) {
+    if (!pusteny_ || pusteny_->n != n || pusteny_->potom != diskant_.znacky()) return false;
+    diskant_.ukazZnacky(pusteny_->predtim);
+    if (pusteny_->nota) noty_.vrat(*pusteny_->nota);
+    return true;
 }
 
 void KlikDiskantu::notaPridana(CisloTonu ton) {
@@ -55,7 +69,7 @@ void KlikDiskantu::zakresliNotu(const KreslenaNota& nota) {
     okno_.oznam(
         QStringLiteral("Osnova pro zápis má jen pět not. Tón %1 je označen na knoflíku, ale na osnovu se "
                        "už nevejde.")
-            .arg(nota.nazev.text()));
+            .arg(nota.nazev.bezCarky()));
 }
 
 void KlikDiskantu::vratTlacitko(CisloTonu ton) {

@@ -38,7 +38,11 @@ void PoZapisu::vyprazdneno(int radek, bool smazan) {
     pas_.obnov(vyrez);
     const QString veta = smazan ? QStringLiteral("Hmat %1 smazán, nic nebylo označeno. Ctrl+Z ho vrátí.")
                                 : QStringLiteral("Není co zapsat, hmat %1 zůstává prázdný.");
-    okoli_.panel.upozorneni = (veta.arg(radek) + u' ' + okoli_.panel.upozorneni).trimmed();
+    upozorni(veta.arg(radek));
+}
+
+void PoZapisu::upozorni(const QString& veta) {
+    okoli_.panel.upozorneni = QStringList{veta, okoli_.panel.upozorneni}.join(u' ').trimmed();
 }
 
 void PoZapisu::obnovOkno() {

@@ -24,6 +24,8 @@ public:
     /// Nothing was recorded, and so the row, that of the cursor, is empty now; `smazan`: it was not. Shows
     /// what is in it.
     void vyprazdneno(int radek, bool smazan);
+    /// Has it said besides, before what the shown row has to tell; nothing for "".
+    void upozorni(const QString& veta);
 
 private:
     void ukazNovyRadek(int radek);

@@ -64,7 +64,7 @@ std::vector<int> PrevzetiHmatu::ocislujTony(const QStringList& tony, QStringList
         if (cislo.jeVRozsahu())
             cisla.push_back(cislo.hodnota());
         else
-            cizi.append(ton);
+            cizi.append(ToneName(ton).bezCarky());
     }
     return cisla;
 }

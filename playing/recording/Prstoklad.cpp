@@ -1,42 +1,64 @@
 #include "playing/recording/Prstoklad.h"
 
-#include <utility>
+#include <algorithm>
 
 namespace zvonika {
 
+namespace {
+
+constexpr QChar konecZaznamu = u'\\';
+
+QStringList rozdel(const QString& prstoklad) {
+    QStringList zaznamy;
+    for (qsizetype od = 0, za = 0; od < prstoklad.size(); od = za) {
+        const auto konec = prstoklad.indexOf(konecZaznamu, od);
+        za = konec < 0 ? prstoklad.size() : konec + 1;
+        zaznamy << prstoklad.mid(od, za - od);
+    }
+    return zaznamy;
+}
+
+} // namespace
+
+void Prstoklad::pridej(QChar druh, int knoflik, const QString& prst) {
+    const QString ci = druh + QString::number(knoflik) + u';';
+    zmen(bezPrevzateho(ci) + QStringList{ci + prst + konecZaznamu});
+}
+
+QStringList Prstoklad::bezPrevzateho(const QString& knoflik) {
+    QStringList prevzate = zaznamy_.first(prevzato_);
+    prevzate.removeIf([&knoflik](const QString& zaznam) { return zaznam.startsWith(knoflik); });
+    const QStringList zadane = zaznamy_.sliced(prevzato_);
+    prevzato_ = prevzate.size();
+    return prevzate + zadane;
+}
+
+void Prstoklad::odeberPosledni() {
+    if (!prazdny()) zmen(zaznamy_.first(zaznamy_.size() - 1));
+}
+
 QString Prstoklad::odeber() {
-    prevzato_ = 0;
-    return std::exchange(prstoklad_, {});
+    const QString prstoklad = this->prstoklad();
+    zmen({});
+    return prstoklad;
 }
 
 void Prstoklad::nastav(const QString& prstoklad) {
-    prstoklad_ = prstoklad;
+    // An answer with a backslash in it is one entry as long as it waits here.
+    if (prstoklad != this->prstoklad()) zmen(rozdel(prstoklad));
     prevzato_ = 0;
 }
 
 void Prstoklad::prevezmi(const QString& prstoklad) {
     nastav(prstoklad);
-    prevzato_ = prstoklad.size();
+    prevzato_ = zaznamy_.size();
 }
 
-void Prstoklad::nahradPrevzaty(const QString& knoflik) {
-    const QStringList zaznamy = prstoklad_.left(prevzato_).split(u'\\');
-    QStringList zbyle;
-    for (const QString& zaznam : zaznamy)
-        if (!zaznam.startsWith(knoflik)) zbyle.append(zaznam);
-    const QString prevzate = zbyle.join(u'\\');
-    prstoklad_.replace(0, prevzato_, prevzate);
-    prevzato_ = prevzate.size();
-}
-
-void Prstoklad::pridej(QChar druh, int n) {
-    const QString prst = dialogs_.input(
-        QStringLiteral("Označení prstokladu"),
-        QStringLiteral("Zadejte číslo prstu, kterým má být mačkán tento knoflík. 1 = palec až 5 = malíček."));
-    if (prst.isEmpty()) return;
-    const QString knoflik = druh + QString::number(n) + u';';
-    nahradPrevzaty(knoflik);
-    prstoklad_ += knoflik + prst + u'\\';
+void Prstoklad::zmen(const QStringList& zaznamy) {
+    prevzato_ = std::min(prevzato_, zaznamy.size());
+    if (zaznamy == zaznamy_) return;
+    zaznamy_ = zaznamy;
+    Q_EMIT zmeneno();
 }
 
 } // namespace zvonika

@@ -1,37 +1,42 @@
 #pragma once
 
-#include "platform/Dialogs.h"
-
-#include <QString>
+#include <QObject>
+#include <QStringList>
 
 namespace zvonika {
 
-/// Fingering marks collected for the grip being recorded: entries "l12;1\" (main button 12, thumb) and
-/// "s14;4\" (auxiliary button 14, ring finger) in the order of entering. Only a
-/// recorded grip empties them.
-class Prstoklad {
+/// Fingering marks that wait for the grip being recorded: entries "l12;1\" (main button 12, thumb) and
+/// "s14;4\" (auxiliary button 14, ring finger) in the order of entering, as they were typed. Only a recorded
+/// grip empties them.
+class Prstoklad : public QObject {
+    Q_OBJECT
 public:
-    explicit Prstoklad(Dialogs& dialogs) : dialogs_(dialogs) {}
+    using QObject::QObject;
 
-    void dvojklikLbl(int n) { pridej(u'l', n); }        ///< asks for the finger of main button n
-    void dvojklikLblSynchro(int n) { pridej(u's', n); } ///< asks for the finger of auxiliary button n
+    QString prstoklad() const { return zaznamy_.join(QString()); } ///< as it is recorded
+    bool prazdny() const { return zaznamy_.isEmpty(); }
+    const QStringList& zaznamy() const { return zaznamy_; } ///< entry by entry
 
-    const QString& prstoklad() const { return prstoklad_; }
+    /// `druh`: 'l' for main button `knoflik`, 's' for its auxiliary one. Any text is a finger.
+    void pridej(QChar druh, int knoflik, const QString& prst);
+    void odeberPosledni(); ///< nothing where none waits
     /// The collected entries, which are given away.
     QString odeber();
     /// Exchanges the entries for those of another time.
     void nastav(const QString& prstoklad);
-    /// Exchanges them for those of a grip that is to be put right: the finger that is then entered for a
-    /// button takes the place of the one that it had.
+    /// Exchanges them for those of a stored grip that is to be put right: the finger that is then entered for
+    /// a button takes the place of the one that it had.
     void prevezmi(const QString& prstoklad);
 
-private:
-    void pridej(QChar druh, int n);
-    void nahradPrevzaty(const QString& knoflik);
+Q_SIGNALS:
+    void zmeneno();
 
-    Dialogs& dialogs_;
-    QString prstoklad_;
-    qsizetype prevzato_ = 0; ///< so much of the entries, from the first on, was taken over
+private:
+    void zmen(const QStringList& zaznamy);
+    QStringList bezPrevzateho(const QString& knoflik);
+
+    QStringList zaznamy_;
+    qsizetype prevzato_ = 0; ///< so many of the entries, from the first on, are of a stored grip
 };
 
 } // namespace zvonika

@@ -29,6 +29,7 @@ Message prilisMnohoNot() {
 void ZapisHmatuZNot::ZapisHmatZNot(SmerMechu smer) {
     SongSheet list(okoli_.pisen);
     const int radek = list.zacniZapis();
+    const QString nezapsane = vetaONevejitych();
     ZapisRadku zapis(okoli_.pisen, okoli_.kroky, radek);
     Grip hmat;
     if (!zapisTony(list, radek, hmat)) return;
@@ -45,6 +46,20 @@ void ZapisHmatuZNot::ZapisHmatZNot(SmerMechu smer) {
     okoli_.poZapisu.naDalsiRadek();
     okoli_.poZapisu.obnovOkno();
     okoli_.poZapisu.oznamZapis(radek, smer, smazan);
+    okoli_.poZapisu.upozorni(nezapsane);
+}
+
+/// What is recorded here are the notes; a sixth marked button has none.
+QString ZapisHmatuZNot::vetaONevejitych() const {
+    if (osnova_.volnySlot()) return {};
+    QStringList tony;
+    for (const int n : diskant_.oznacene())
+        if (!osnova_.slotTonu(CisloTonu(n)))
+            tony << nazevTonu(CisloTonu(n), okoli_.tonina.stupnice()).nazev.bezCarky();
+    if (tony.isEmpty()) return {};
+    return QStringLiteral(
+               "Osnova má jen pět not, nezapsáno: %1. Všechny označené knoflíky zapíše F7 nebo F8.")
+        .arg(tony.join(QStringLiteral(", ")));
 }
 
 bool ZapisHmatuZNot::zapisTony(SongSheet& list, int radek, Grip& hmat) {

@@ -11,8 +11,10 @@ class clsNotyZapis;
 /// written so far then stays.
 class ZapisHmatuZNot {
 public:
-    ZapisHmatuZNot(OkoliZapisu okoli, const NotovaOsnova& osnova, const clsNotyZapis& noty)
-        : okoli_(okoli), osnova_(osnova), noty_(noty) {}
+    /// `diskant`: whose marks may be more than the staff has places for.
+    ZapisHmatuZNot(OkoliZapisu okoli, const NotovaOsnova& osnova, const clsNotyZapis& noty,
+                   const TrebleBoard& diskant)
+        : okoli_(okoli), osnova_(osnova), noty_(noty), diskant_(diskant) {}
 
     void cmdTahNoty() { ZapisHmatZNot(SmerMechu::Tah); }
     void cmdTlakNoty() { ZapisHmatZNot(SmerMechu::Tlak); }
@@ -25,10 +27,12 @@ private:
     /// False after a note that is no tone.
     bool zapisTony(SongSheet& list, int radek, Grip& hmat);
     bool pridejTon(QStringList& tony, int slot);
+    QString vetaONevejitych() const;
 
     OkoliZapisu okoli_;
     const NotovaOsnova& osnova_;
     const clsNotyZapis& noty_;
+    const TrebleBoard& diskant_;
 };
 
 } // namespace zvonika

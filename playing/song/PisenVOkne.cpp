@@ -34,6 +34,11 @@ void PisenVOkne::ukazOtevrenou() {
     pripomenToninu();
 }
 
+void PisenVOkne::ukazJmeno() {
+    okoli_.panel.titulek = okoli_.pisen.aktualniPisen;
+    s_.zvuk.najdiSoubory();
+}
+
 /// What is recorded next gets the key of the button, not that of the song.
 void PisenVOkne::pripomenToninu() {
     const QString veta = rozdilTonin(okoli_.panel.lblStupnice, s_.tonina.stupnice());

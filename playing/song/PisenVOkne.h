@@ -36,6 +36,9 @@ public:
     /// Another sheet of it is active: the cursor's row on the side of its direction. Throws AutomationError.
     void ukazRadekListu();
 
+    /// The name of the song alone, and what hangs on it: title and sounds.
+    void ukazJmeno();
+
     /// No song is open any more, or yet. The board is left as it is.
     void stavBezPisne();
     /// Releases the board and takes away what it shows of a grip.

@@ -25,6 +25,9 @@ public:
     /// The current song is open under another name than the window shows (a conversion has made a copy of
     /// it): shows it as if it had been opened. Nothing where it is not open. Throws AutomationError.
     void prevezmiPisen();
+    /// The player has saved the song's workbook under another name, and it goes on as the song. Asks nothing
+    /// of the spreadsheet.
+    void prejmenujPisen(const QString& nazev, const QString& plneJmeno);
     /// The state without a song, as after its end (the board is left as it is): also the state in which the
     /// program starts.
     void stavBezPisne() { vOkne_.stavBezPisne(); }
@@ -36,6 +39,7 @@ private:
     OkoliPisne okoli_;
     const Drive& drive_;
     SongSheet list_;
+    SeznamyKroku& kroky_;
     PisenVOkne vOkne_;
     ZalozeniPisne zalozeni_;
     KonecPisne konec_;

@@ -18,7 +18,10 @@ void Zvuk::NajdiZvuk() {
     okoli_.prikazy.povol(QStringLiteral("Combo1"));
     okoli_.panel.lblLadeni = okoli_.pisen.excel().activeSheetName();
     okoli_.panel.Combo1 = okoli_.panel.lblLadeni;
+    najdiSoubory();
+}
 
+void Zvuk::najdiSoubory() {
     // The working folder also for a song that was opened from elsewhere. The dot of ".xls" stays.
     const QString zaklad = pracovniAdresar + u'\\' + okoli_.pisen.aktualniPisen.chopped(3);
     for (qsizetype i = 0; i < pripony().size(); ++i)

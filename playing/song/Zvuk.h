@@ -16,6 +16,8 @@ public:
     /// enables the sheet list, shows the active sheet's name, and enables cmdZvuk(0) for the song's mp3, (1)
     /// for its mid and (2) for its wav file where the working folder has it. May throw AutomationError.
     void NajdiZvuk();
+    /// Enables the sound buttons for the files that there are beside a song of this name.
+    void najdiSoubory();
 
     /// Click on a sound button: fails with error 9 at once. Nothing traps it, so the click ends the program.
     [[noreturn]] void cmdZvuk(int index) const;

@@ -155,6 +155,14 @@ void Navigace::cmdJakDalZpet() {
     UrciSmerMechu(predchozi());
 }
 
+void Navigace::naRadek(int radek) {
+    okoli_.pisen.excel().activateWindow(okoli_.pisen.aktualniPisen);
+    uvolniAVyberBunkuB();
+    list_.vyberRadek(radek);
+    sledujList();
+    sledujRadek();
+}
+
 void Navigace::UrciSmerMechu(const VyrezPisne& vyrez) {
     const SmerMechu smer = smerMechu(vyrez.hmat().smer);
     if (smer == SmerMechu::Neuveden) {
@@ -167,9 +175,11 @@ void Navigace::UrciSmerMechu(const VyrezPisne& vyrez) {
 
 void Navigace::ohlasChybejiciSmer() {
     zastavTimer1_();
-    okoli_.dialogs.message({QStringLiteral("Neprovedeno."),
-                            QStringLiteral("Další záznam neuveden, nebo chybí informace o směru tahu měchu."),
-                            Icon::Critical});
+    okoli_.dialogs.message(
+        {.title = QStringLiteral("Neprovedeno."),
+         .text = QStringLiteral("Další záznam neuveden, nebo chybí informace o směru tahu měchu."),
+         .icon = Icon::Critical,
+         .pedal = true});
     obarvi(BarvaKroku::Neznamy);
     diskant_.vyprazdniTonyKlaves();
 }

@@ -40,6 +40,9 @@ public:
     void cmdReadTlak() { zobrazeni_.cmdReadTlak(); }
     void cmdJakDal();
     void cmdJakDalZpet();
+    /// To a row that the player has chosen, on the side of its column I; without a direction the side stays,
+    /// and nothing is asked.
+    void naRadek(int radek);
 
     /// Shows the cursor's row on the side of its column I and colours the stepping buttons. A missing
     /// direction stops automatic stepping with the message "Neprovedeno.".

@@ -12,7 +12,7 @@
 namespace zvonika {
 
 ZobrazeniHmatu::ZobrazeniHmatu(Pisen& pisen, const PlochyHmatu& plochy, UkazPrstoklad ukazPrstoklad)
-    : list_(pisen), plochy_(plochy), ukazPrstoklad_(std::move(ukazPrstoklad)) {}
+    : pisen_(pisen), list_(pisen), plochy_(plochy), ukazPrstoklad_(std::move(ukazPrstoklad)) {}
 
 void ZobrazeniHmatu::ZobrazHmat(const VyrezPisne& vyrez) {
     const UkazanyPrstoklad prstoklad{vyrez.radek, vyrez.hmat().prstoklad};
@@ -23,7 +23,14 @@ void ZobrazeniHmatu::ZobrazHmat(const VyrezPisne& vyrez) {
     if (ukazanUz) return;
     if (vPrikazu_) ukazanyPrstoklad_ = prstoklad;
     // Last, because it may show a box: everything else of the grip is visible behind it.
-    ukazPrstoklad_(prstoklad.zaznam);
+    ukazPrstoklad_(zaznamPrstokladu(vyrez));
+}
+
+QString ZobrazeniHmatu::zaznamPrstokladu(const VyrezPisne& vyrez) {
+    const bool jinySesit = pisen_.otevrena() && pisen_.excel().activeWorkbookName() != pisen_.aktualniPisen;
+    if (!jinySesit) return vyrez.hmat().prstoklad;
+    pisen_.excel().activateWindow(pisen_.aktualniPisen);
+    return list_.grip(list_.aktualniRadek()).prstoklad;
 }
 
 void ZobrazeniHmatu::ukazNaStrane(bool tlak, const VyrezPisne& vyrez) {
@@ -99,7 +106,7 @@ QStringList ZobrazeniHmatu::ukazTony(const QStringList& tony) {
         if (cislo.jeVRozsahu())
             plochy_.diskant.ukazHmat(cislo.hodnota(), zobrazenTlak_ ? StavKnofliku::Tlak : StavKnofliku::Tah);
         else
-            cizi.append(ton);
+            cizi.append(ToneName(ton).bezCarky());
     }
     return cizi;
 }

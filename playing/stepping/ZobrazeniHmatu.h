@@ -55,8 +55,9 @@ public:
     /// True when the board shows the push side.
     bool zobrazenTlak() const { return zobrazenTlak_; }
 
-    /// The grip of the current row on the side of `zobrazenTlak`. What it cannot show (foreign tones, unknown
-    /// basses, what follows an empty cell) stands in `panel.upozorneni`, which it always sets.
+    /// The grip of the current row on the side of `zobrazenTlak`. Its fingering is always the song's: where
+    /// another workbook is in front, the song comes to the front for it. What it cannot show (foreign tones,
+    /// unknown basses, what follows an empty cell) stands in `panel.upozorneni`, which it always sets.
     void ZobrazHmat(const VyrezPisne& vyrez);
     /// Pull side, then the cursor to column B.
     void cmdReadTah(const VyrezPisne& vyrez) { ukazNaStrane(false, vyrez); }
@@ -83,6 +84,7 @@ private:
         friend bool operator==(const UkazanyPrstoklad&, const UkazanyPrstoklad&) = default;
     };
 
+    QString zaznamPrstokladu(const VyrezPisne& vyrez);
     void ukazNaStrane(bool tlak, const VyrezPisne& vyrez);
     void ukazHmat(const VyrezPisne& vyrez);
     void ukazTexty(const VyrezPisne& vyrez);
@@ -93,6 +95,7 @@ private:
     QString jinaStrana(SmerMechu zapsany) const;
     QString upozorneni(const Grip& hmat, const QStringList& ciziTony, const QStringList& ciziBasy) const;
 
+    Pisen& pisen_;
     SongSheet list_;
     PlochyHmatu plochy_;
     UkazPrstoklad ukazPrstoklad_;

@@ -11,9 +11,12 @@ QString SeznamyKroku::klic(const QString& plneJmeno) const {
     return QDir::cleanPath(drive_.nativePath(plneJmeno));
 }
 
+QString SeznamyKroku::klicOtevrene() const {
+    return pisen_.plneJmeno.isEmpty() ? pisen_.aktualniPisen : klic(pisen_.plneJmeno);
+}
+
 SeznamKroku* SeznamyKroku::otevrene() {
-    if (!pisen_.otevrena()) return nullptr;
-    return &seznamy_[pisen_.plneJmeno.isEmpty() ? pisen_.aktualniPisen : klic(pisen_.plneJmeno)];
+    return pisen_.otevrena() ? &seznamy_[klicOtevrene()] : nullptr;
 }
 
 QString SeznamyKroku::popis(SmerKroku smer) const {
@@ -30,9 +33,8 @@ void SeznamyKroku::zapomen(const QString& plneJmeno) {
     seznamy_.remove(klic(plneJmeno));
 }
 
-void SeznamyKroku::prejmenuj(const QString& puvodni, const QString& nove) {
-    if (klic(puvodni) == klic(nove)) return;
-    seznamy_.insert(klic(nove), seznamy_.take(klic(puvodni)));
+void SeznamyKroku::prejmenuj(const QString& plneJmeno) {
+    seznamy_.insert(klic(plneJmeno), seznamy_.take(klicOtevrene()));
 }
 
 } // namespace zvonika

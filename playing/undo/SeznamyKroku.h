@@ -24,11 +24,12 @@ public:
 
     /// The file of this full name is another song from now on.
     void zapomen(const QString& plneJmeno);
-    /// The song has got another full name, and takes its steps along.
-    void prejmenuj(const QString& puvodni, const QString& nove);
+    /// The open song is about to get another full name, and takes its steps along.
+    void prejmenuj(const QString& plneJmeno);
 
 private:
     QString klic(const QString& plneJmeno) const;
+    QString klicOtevrene() const;
 
     const Pisen& pisen_;
     const Drive& drive_;

@@ -7,13 +7,22 @@
 namespace zvonika {
 
 bool FileCommands::save() {
-    Document* document = session_.active();
-    return document && Saving(session_).save(*document);
+    return store(&Saving::save);
 }
 
 bool FileCommands::saveAs() {
+    return store(&Saving::saveAs);
+}
+
+bool FileCommands::store(bool (Saving::*how)(Document& document)) {
     Document* document = session_.active();
-    return document && Saving(session_).saveAs(*document);
+    if (!document) return false;
+    const QString name = document->file().name(), path = document->file().path();
+    Saving saving(session_);
+    if (!(saving.*how)(*document)) return false;
+    if (session_.isOpen(*document) && document->file().path() != path)
+        session_.reportRenamed(name, document->file());
+    return true;
 }
 
 bool FileCommands::mayClose(Document& document, std::vector<Document*>& unwanted) {

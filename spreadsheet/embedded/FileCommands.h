@@ -5,6 +5,7 @@
 namespace zvonika {
 
 class Document;
+class Saving;
 class Session;
 
 /// What the user does with the files of the sheet window, each method one action on the active document
@@ -22,6 +23,7 @@ public:
     bool quit();
 
 private:
+    bool store(bool (Saving::*how)(Document& document));
     /// Adds a document whose changes the user does not want to `unwanted`.
     bool mayClose(Document& document, std::vector<Document*>& unwanted);
     void giveUp(const std::vector<Document*>& unwanted);

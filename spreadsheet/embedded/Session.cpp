@@ -89,6 +89,10 @@ void Session::end(State state) {
 }
 
 // The listener may do anything, so each call asks for it anew.
+void Session::reportRenamed(const QString& before, const DocumentFile& file) {
+    if (listener_) listener_->workbookRenamed(before, file.name(), file.path());
+}
+
 void Session::report(bool edited, bool moved) {
     owesEdited_ |= edited;
     owesMoved_ |= moved;

@@ -69,6 +69,8 @@ public:
     void setListener(SpreadsheetListener* listener) { listener_ = listener; }
     /// Tells the listener what the user has done: at once, or after the program's call if one is under way.
     void report(bool edited, bool moved);
+    /// ... that he has given a workbook of this name another one, or another folder.
+    void reportRenamed(const QString& before, const DocumentFile& file);
     void setStepKeeper(StepKeeper* keeper);
     /// Who takes back what is done in this workbook; nullptr: its own history.
     StepKeeper* keeperOf(const Document& document) const;

@@ -162,10 +162,17 @@ void JournalledSpreadsheet::look() {
     if (!std::exchange(lookDue_, false)) return;
     try {
         for (const auto& workbook : workbooks_)
-            if (auto image = live_->image(workbook->id())) workbook->seen(std::move(*image));
+            if (auto image = live_->image(workbook->id())) see(*workbook, std::move(*image));
     } catch (const AutomationError& failure) {
         lookDue_ = failure.number() != error::objectNotSet;
     }
+}
+
+void JournalledSpreadsheet::see(RecordedWorkbook& workbook, WorkbookImage image) {
+    const QString name = workbook.image().name, path = workbook.image().path;
+    workbook.seen(std::move(image));
+    const WorkbookImage& now = workbook.image();
+    if (now.path != path && listener_) listener_->workbookRenamed(name, now.name, now.path);
 }
 
 void JournalledSpreadsheet::workbookSettled(int workbook) {

@@ -99,6 +99,7 @@ private:
     void recoverUnsaved();
     void restore(RecordedWorkbook& workbook, PendingJournal pending);
     void look();
+    void see(RecordedWorkbook& workbook, WorkbookImage image);
     void noteSave();
     void moveRows(int row, bool insert);
 

@@ -65,8 +65,8 @@ void RecordedWorkbook::renamed(int sheet, const QString& name) {
 }
 
 void RecordedWorkbook::seen(WorkbookImage image) {
-    const bool wasModified = image_.modified;
-    if (!image.modified && (unsaved_ || wasModified)) return saved(std::move(image));
+    const bool stored = unsaved_ || image_.modified || image.path != image_.path;
+    if (!image.modified && stored) return saved(std::move(image));
     auto changes = differences(image_, image);
     image_ = std::move(image);
     note(std::move(changes));

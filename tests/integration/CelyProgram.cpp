@@ -76,6 +76,7 @@ std::unique_ptr<SpreadsheetApplication> CelyProgram::novaTabulka() {
             auto okno = std::make_unique<SheetWindow>(prikazy, popisSloupcu());
             QObject::connect(okno.get(), &SheetWindow::f6Pressed, program.get(),
                              &Program::prejdiNaHlavniOkno);
+            okno->takePageKey = [this](bool dolu) { return program->krokPedalu(dolu); };
             tabulka = okno.get();
             return okno;
         });

@@ -82,7 +82,7 @@ TEST_F(CiziObsahTest, SteppingShowsWhatCanBeShown) {
     ocekavejVeStavu("Neznámý bas v tabulce: Nic.");
     krok({});
     EXPECT_EQ(knoflik(16), StavKnofliku::Tlak);
-    ocekavejVeStavu("Neznámý tón v tabulce: c 1 C1,.");
+    ocekavejVeStavu("Neznámý tón v tabulce: c 1 C1.");
     krok({neprovedeno}); // beyond the last grip
 }
 

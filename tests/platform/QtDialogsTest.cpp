@@ -122,6 +122,21 @@ TEST_F(Boxes, GiveTheAnswerOfAButtonEscapeOrEnter) {
     }
 }
 
+TEST_F(Boxes, APedalClosesThemByAFreshPressOnly) {
+    for (const bool pedal : {true, false})
+        for (const Qt::Key key : {Qt::Key_PageDown, Qt::Key_PageUp}) {
+            whenOpen<QMessageBox>([&](QMessageBox& box) {
+                ASSERT_TRUE(QTest::qWaitForWindowActive(&box));
+                for (int held = 0; held < 3; ++held)
+                    QTest::simulateEvent(box.windowHandle(), true, key, {}, {}, true);
+                EXPECT_TRUE(box.isVisible()) << "the key of the step is still held";
+                QTest::keyClick(box.windowHandle(), key);
+                EXPECT_EQ(box.isVisible(), !pedal);
+            });
+            dialogs.message({.title = "T", .text = "x", .pedal = pedal});
+        }
+}
+
 TEST_F(Boxes, ShowTheMessageAboveAWindowKeptOnTop) {
     QWidget main;
     main.setWindowFlag(Qt::WindowStaysOnTopHint);
@@ -191,7 +206,7 @@ protected:
             ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         }
     }
-    static void typeName(QFileDialog& box, const QString& name) {
+    static void typeName(QFileDialog& box, const QString& name, Qt::Key end = Qt::Key_Return) {
         auto* edit = box.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
         ASSERT_NE(edit, nullptr);
         box.activateWindow();
@@ -199,7 +214,7 @@ protected:
         edit->setFocus();
         edit->clear();
         edit->insert(name);
-        QTest::keyClick(edit, Qt::Key_Return);
+        QTest::keyClick(edit, end);
     }
 
     const QString title = QStringLiteral("Výběr písně");
@@ -223,6 +238,20 @@ TEST_F(FileChoice, StartsInTheNearestFolderThereIsAndOffersSongsOnly) {
     }
     whenOpen<QFileDialog>([](QFileDialog& box) { QTest::keyClick(&box, Qt::Key_Escape); });
     EXPECT_EQ(dialogs.openFile(title, filter, folder.path()), std::nullopt);
+}
+
+TEST_F(FileChoice, ANameWithoutItsEndingIsFound) {
+    ASSERT_TRUE(QFile::copy(folder.filePath("kočka.xls"), folder.filePath("1. Ach synku.xls")));
+    const std::pair<const char*, const char*> cases[] = {
+        {"kočka", "kočka.xls"}, {"1. Ach synku", "1. Ach synku.xls"}, {"VELKÁ", "VELKÁ.XLS"}};
+    for (const auto& [typed, chosen] : cases)
+        for (const bool byMouse : {false, true}) {
+            whenOpen<QFileDialog>([&, typed = typed](QFileDialog& box) {
+                typeName(box, typed, byMouse ? Qt::Key_End : Qt::Key_Return);
+                if (byMouse) QTest::mouseClick(buttonNamed(box, "Otevřít"), Qt::LeftButton);
+            });
+            EXPECT_EQ(dialogs.openFile(title, filter, folder.path()), folder.filePath(chosen)) << typed;
+        }
 }
 
 TEST_F(FileChoice, SavingAddsTheEndingAndAsksBeforeOverwriting) {

@@ -135,7 +135,7 @@ private:
     ZobrazovaciOsnova zobrazovaci_;
     Pas pas_;
     clsNotyZapis noty_{osnova_, dialogs_};
-    Prstoklad prstoklad_{dialogs_};
+    Prstoklad prstoklad_;
     BassTable tabulka_{QStringLiteral(ZVONIKA_RESOURCES), 120};
     ZapisBasu zapisBasu_{basy_, tabulka_, dialogs_};
     ZobrazeniHmatu zobrazeni_{
@@ -145,7 +145,7 @@ private:
     PoZapisu poZapisu_{okoliPisne_, zobrazeni_, pasPisne_};
     OkoliZapisu okoli_{pisen_, dialogs_, prstoklad_, zapisBasu_, poZapisu_, kroky_, tonina_};
     ZapisHmatu zapis_{okoli_, diskant_};
-    ZapisHmatuZNot zapisZNot_{okoli_, osnova_, noty_};
+    ZapisHmatuZNot zapisZNot_{okoli_, osnova_, noty_, diskant_};
     Navigace navigace_{okoliPisne_, zobrazeni_, pasPisne_, diskant_, [] {}};
     Vraceni vraceni_{okoliPisne_, kroky_, navigace_};
     RadkyHmatu radky_{okoliPisne_, kroky_, navigace_};

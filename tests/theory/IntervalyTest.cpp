@@ -23,13 +23,14 @@ protected:
         intervaly.UrciInterval(ToneName(ton), Key(stupnice), std::int16_t(kroky), bezKontroly, vysledek);
         return vysledek.text();
     }
-    /// A table of C dur alone.
+    /// A table of C dur alone; for "" an entry without it.
     QString slozkaSTabulkou(const QStringList& tony) {
         QFile soubor(slozka.filePath(QStringLiteral("konverze.xml")));
         if (!soubor.open(QIODevice::WriteOnly)) return {};
         soubor.write("<t>");
         for (const QString& ton : tony)
-            soubor.write(QStringLiteral("<nota><Cdur>%1</Cdur></nota>").arg(ton).toUtf8());
+            soubor.write(ton.isEmpty() ? "<nota><Gdur>x</Gdur></nota>"
+                                       : QStringLiteral("<nota><Cdur>%1</Cdur></nota>").arg(ton).toUtf8());
         soubor.write("</t>");
         return slozka.path();
     }
@@ -71,6 +72,7 @@ TEST_F(IntervalyTest, StepsOfTheScale) {
     for (const auto& [stupnice, kroky] : radky)
         for (const QString& krok : kroky.split(' ')) {
             const auto c = tvar.match(krok);
+            if (!najdiToninu(Key(stupnice))) dialogs.expect("", mimoTabulku); // no entry has such a key
             EXPECT_EQ(urci(intervaly, c.captured(1), stupnice, c.captured(2).toInt()), c.captured(3))
                 << stupnice << ' ' << qPrintable(krok);
             EXPECT_EQ(intervaly.zna(ToneName(c.captured(1)), Key(stupnice)), !c.captured(3).isEmpty());
@@ -126,6 +128,12 @@ TEST_F(IntervalyTest, WithoutMarksEveryEntryIsAStep) {
     EXPECT_EQ(urci(kratka, "c1,", "C dur", 1), "d1,");
     dialogs.expect("", mimoTabulku); // the search meets the table's end
     EXPECT_EQ(urci(kratka, "h1,", "C dur", 1), "");
+
+    tony[2].clear();
+    const clsIntervaly deravy(slozkaSTabulkou(tony), dialogs);
+    dialogs.expect("", mimoTabulku);
+    EXPECT_EQ(urci(deravy, "g1,", "C dur", 1), "") << "the search meets an entry without the key";
+    EXPECT_EQ(urci(deravy, "c1,", "C dur", 2), "g1,") << "a tone before it is found before";
 }
 
 TEST_F(IntervalyTest, AStartOutsideTheScaleLeansOnTheToneOfItsLine) {

@@ -26,7 +26,7 @@ QString popisSlotu(int slot, const NotovaOsnova& osnova, const clsNotyZapis& zap
 } // namespace
 
 QString nazevNoty(const ToneName& nazev) {
-    return nazev.text().endsWith(u',') ? nazev.text().chopped(1) : nazev.text();
+    return nazev.bezCarky();
 }
 
 QString popisOsnovy(const NotovaOsnova& osnova, const clsNotyZapis& zapis) {

@@ -151,6 +151,14 @@ void SheetTable::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint
     if (hint == Delegate::EditPreviousItem) step(0, -1);
 }
 
+void SheetTable::page(bool down) {
+    commitPending();
+    if (!active_.isValid()) return;
+    selectionModel()->setCurrentIndex(active_, QItemSelectionModel::NoUpdate);
+    selectionModel()->setCurrentIndex(moveCursor(down ? MovePageDown : MovePageUp, Qt::NoModifier),
+                                      QItemSelectionModel::ClearAndSelect);
+}
+
 void SheetTable::step(int rows, int columns) {
     if (!active_.isValid()) return;
     const int row = std::clamp(active_.row() + rows, 0, model()->rowCount() - 1);

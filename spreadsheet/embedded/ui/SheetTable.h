@@ -27,6 +27,7 @@ public:
     void commitPending();
     /// The user goes on to a cell, from outside of the table.
     void step(int rows, int columns);
+    void page(bool down); ///< as many rows as the window shows; ends the editing of a cell first
     /// The cell with the frame; with several cells selected it is the one in which typing starts.
     QModelIndex activeCell() const { return active_; }
     void reset() override;

@@ -122,6 +122,19 @@ void SheetWindow::wireUser() {
         [this](int tab, const QString& name) { return renameSheet(sheetOfTab(tab), name); });
     connect(new QShortcut(QKeySequence(Qt::Key_F6), this), &QShortcut::activated, this,
             &SheetWindow::f6Pressed);
+    wirePageKeys();
+}
+
+void SheetWindow::wirePageKeys() {
+    wirePageKey(true, Qt::Key_PageDown, Qt::ALT | Qt::Key_PageDown);
+    wirePageKey(false, Qt::Key_PageUp, Qt::ALT | Qt::Key_PageUp);
+}
+
+void SheetWindow::wirePageKey(bool down, const QKeySequence& offered, const QKeySequence& own) {
+    connect(new QShortcut(offered, this), &QShortcut::activated, this, [this, down] {
+        if (!takePageKey || !takePageKey(down)) table_->page(down);
+    });
+    connect(new QShortcut(own, this), &QShortcut::activated, this, [this, down] { table_->page(down); });
 }
 
 void SheetWindow::setVisible(bool visible) {

@@ -5,6 +5,8 @@
 
 #include <QMainWindow>
 
+#include <functional>
+
 class QStackedWidget;
 
 namespace zvonika {
@@ -32,6 +34,10 @@ public:
     bool isTyping() const override;
     void commitPending() override;
 
+    /// PageDown (`down`) and PageUp are offered here first; false, or nobody: the sheet turns its page. With
+    /// Alt it always does.
+    std::function<bool(bool down)> takePageKey;
+
 Q_SIGNALS:
     void f6Pressed(); ///< the user wants to go to the program's window
 
@@ -44,6 +50,8 @@ private:
     QWidget* makePages();
     void takeFocus();
     void wireUser();
+    void wirePageKeys();
+    void wirePageKey(bool down, const QKeySequence& offered, const QKeySequence& own);
     void wireDocument();
     void showTitle();
     void showSheets();

@@ -24,6 +24,9 @@ void FileEvents::documentEventOccured(const css::document::DocumentEvent& event)
     const QString path = model.is() ? nativePath(keeper_.keep(model)->getURL()) : QString();
     if (path.isEmpty() || path == QStringLiteral(".")) return;
     happened == Happened::Opened ? observer_.fileOpened(path) : observer_.fileClosed(path);
+    // A workbook under a new name is looked at as one whose cells have changed.
+    if (event.EventName == "OnSaveAsDone" && std::this_thread::get_id() != engineThread_)
+        observer_.cellsEdited();
 }
 
 } // namespace zvonika

@@ -6,13 +6,17 @@
 #include <atomic>
 #include <com/sun/star/document/XDocumentEventListener.hpp>
 #include <cppuhelper/implbase1.hxx>
+#include <thread>
 
 namespace zvonika {
 
-/// Tells of the files that the office opens, saves and closes, whoever has asked it to.
+/// Tells of the files that the office opens, saves and closes, whoever has asked it to; and of a workbook
+/// that gets another file otherwise than by the program's calls, which come on the thread where this was
+/// made.
 class FileEvents : public cppu::WeakImplHelper1<css::document::XDocumentEventListener> {
 public:
-    FileEvents(CalcObserver& observer, Keeper& keeper) : observer_(observer), keeper_(keeper) {}
+    FileEvents(CalcObserver& observer, Keeper& keeper)
+        : observer_(observer), keeper_(keeper), engineThread_(std::this_thread::get_id()) {}
 
     /// Nothing more reaches the observer.
     void stop() { stopped_ = true; }
@@ -23,6 +27,7 @@ public:
 private:
     CalcObserver& observer_;
     Keeper& keeper_;
+    std::thread::id engineThread_;
     std::atomic<bool> stopped_ = false;
 };
 

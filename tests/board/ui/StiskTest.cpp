@@ -77,7 +77,9 @@ TEST_F(Stisk, kazdyPrvekSeStiskneJednouZeVsechStran) {
         EXPECT_TRUE(s.dvojkliky.isEmpty());
         ocekavej(2, "presses of the left button");
         QTest::mouseDClick(okno(), Qt::LeftButton, {}, stred(jmeno));
-        ocekavej(1, "double click");
+        ocekavej(s.dvojkliky.isEmpty() ? 2 : 1,
+                 "double click: a quick second one is a click, or the finger's");
+        EXPECT_EQ(s.dvojkliky.isEmpty(), !QString(jmeno).startsWith("lbl"));
         s.dvojkliky.clear();
         s.prvek(jmeno)->setFocus();
         stiskni(Qt::Key_Space);
@@ -96,6 +98,7 @@ TEST_F(Stisk, dvojklikAF2OteviraPrstoklad) {
     QTest::mouseDClick(okno(), Qt::LeftButton, {}, stred("lbl(12)"));
     QTest::mouseDClick(okno(), Qt::LeftButton, {}, stred("lblSynchro(14)"));
     stiskni(Qt::Key_F2);
+    stiskni(Qt::Key_F2, Qt::ShiftModifier); // takes a finger back
     const QVector<std::pair<int, bool>> cekane{{12, false}, {14, true}, {14, true}};
     EXPECT_EQ(s.dvojkliky, cekane);
     EXPECT_EQ(s.kliky, (QVector<int>{12, 14})) << "the first press of each is a click, F2 is none";

@@ -69,7 +69,7 @@ TEST_F(PrevzetiHmatuTest, SaysWhatItCannotTakeAndWhatIsOtherThanChosen) {
          "Hmat je v G dur, pro zápis je zvolena C dur. Hmat 1 je převzat"},
         {"Vyberte tóninu", "G dur", "c1,", "C", "Hmat je v G dur, tónina pro zápis zvolena není. Hmat 1"},
         {"C dur", "Vyberte tóninu", "c1, prd c9,", "Žádný",
-         "< Tah nebo > Tlak. Označit nejde a zápisem zmizí: tón prd c9,, bas Žádný."},
+         "< Tah nebo > Tlak. Označit nejde a zápisem zmizí: tón prd c9, bas Žádný."},
     };
     for (const auto& [zvolena, toninaRadku, tony, bas, veta] : radky) {
         excel->put("A1:W1", "");

@@ -1,10 +1,10 @@
 #include "playing/recording/Prstoklad.h"
 
-#include "board/TrebleBoard.h"
+#include "playing/recording/CekajiciPrsty.h"
+#include "playing/recording/RozepsanyHmat.h"
+#include "playing/recording/ZadaniPrstu.h"
 #include "playing/stepping/ZobrazeniPrstokladu.h"
-#include "tests/support/ScriptedDialogs.h"
-
-#include <gtest/gtest.h>
+#include "tests/playing/recording/ZapisovaniFixture.h"
 
 namespace zvonika {
 namespace {
@@ -20,27 +20,82 @@ const QString texty[] = {
                    "celý obsah buňky. Data o aktuálním hmatu zůstanou zachována. Prstoklad pak včetně "
                    "potvrzení hmatu můžete zapsat znovu.")};
 
-TEST(Prstoklad, EntriesGrowInTheOrderOfEnteringAsTyped) {
-    testing::ScriptedDialogs dialogs;
-    Prstoklad prstoklad(dialogs);
+/// The board with a key in which f is asked about.
+class ZadaniPrstuTest : public testing::Zapisovani {
+protected:
+    /// The two presses of a double click, as the window hands them on.
+    void dvojklik(int n, bool pomocny = false) {
+        klik.klik(n);
+        pomocny ? zadani.dvojklikLblSynchro(n) : zadani.dvojklikLbl(n);
+    }
+    QString ceka() const { return cekajiciPrsty(prstoklad, diskant); }
+
+    KlikDiskantu klik{diskant, noty, tonina, dialogs, {[] {}, [](const QString&) {}}};
+    ZadaniPrstu zadani{klik, prstoklad, dialogs};
+};
+
+TEST_F(ZadaniPrstuTest, EntriesGrowInTheOrderOfEnteringAsTyped) {
     dialogs.expectInput(oznaceni, "1").expectInput(oznaceni, "4").expectInput(oznaceni, "9;x\\");
-    prstoklad.dvojklikLbl(12);
-    prstoklad.dvojklikLblSynchro(14);
-    prstoklad.dvojklikLbl(1);
+    dvojklik(12);
+    dvojklik(14, true);
+    dvojklik(1);
     EXPECT_EQ(prstoklad.prstoklad(), QStringLiteral("l12;1\\s14;4\\l1;9;x\\\\"));
     EXPECT_EQ(dialogs.lastPrompt,
               QStringLiteral("Zadejte číslo prstu, kterým má být mačkán tento knoflík. 1 = palec "
                              "až 5 = malíček."));
+    dialogs.expectInput(oznaceni, "");
+    dvojklik(5);
+    EXPECT_EQ(prstoklad.odeber(), QStringLiteral("l12;1\\s14;4\\l1;9;x\\\\"))
+        << "an empty answer adds nothing";
+    EXPECT_TRUE(prstoklad.prazdny());
 }
 
-TEST(Prstoklad, AnEmptyAnswerAddsNothing) {
-    testing::ScriptedDialogs dialogs;
-    Prstoklad prstoklad(dialogs);
-    dialogs.expectInput(oznaceni, "2").expectInput(oznaceni, "");
-    prstoklad.dvojklikLbl(5);
-    prstoklad.dvojklikLbl(5);
-    EXPECT_EQ(prstoklad.odeber(), QStringLiteral("l5;2\\"));
-    EXPECT_EQ(prstoklad.prstoklad(), QString());
+TEST_F(ZadaniPrstuTest, ADoubleClickOnAMarkedButtonChangesNothingElseAndAsksNothingElse) {
+    zvolToninu("G dur");
+    dialogs.expect("Nota je mimo stupnici.", "f,", Answer::Yes);
+    for (const int n : {9, 2, 13})
+        klik.klik(n);
+    osnova.vyberSlot(osnova.slotTonu(CisloTonu(2)));
+    const RozepsanyHmat predtim = odecti({diskant, basy, osnova, noty, prstoklad});
+    dialogs.expectInput(oznaceni, "");
+    dvojklik(2);
+    EXPECT_TRUE(odecti({diskant, basy, osnova, noty, prstoklad}) == predtim)
+        << "mark, order, note and natural";
+    EXPECT_EQ(osnova.vybranySlot(), osnova.slotTonu(CisloTonu(2)));
+
+    klik.klik(2); // a slow second click: each is one of its own
+    dialogs.expect("Nota je mimo stupnici.", "f,", Answer::Cancel);
+    klik.klik(2);
+    EXPECT_FALSE(diskant.oznacen(2));
+    dialogs.expect("Nota je mimo stupnici.", "f,", Answer::Cancel);
+    zadani.dvojklikLbl(2); // no finger for a button that stays free
+    dialogs.expect("Nota je mimo stupnici.", "f,", Answer::Yes).expectInput(oznaceni, "2");
+    zadani.dvojklikLbl(2);
+    EXPECT_TRUE(diskant.oznacen(2));
+}
+
+TEST_F(ZadaniPrstuTest, WhatWaitsIsListedWithTheButtonsThatAreNotMarked) {
+    QStringList seznamy;
+    QObject::connect(&prstoklad, &Prstoklad::zmeneno, [&] { seznamy << ceka(); });
+    oznacTony({12, 14});
+    prstoklad.pridej(u'l', 12, "1");
+    prstoklad.pridej(u's', 14, "4");
+    prstoklad.pridej(u'l', 5, "x\\");
+    EXPECT_EQ(seznamy, (QStringList{"Prstoklad čeká: 12 = 1.", "Prstoklad čeká: 12 = 1, pomocný 14 = 4.",
+                                    "Prstoklad čeká: 12 = 1, pomocný 14 = 4, 5 = x\\. Neoznačeno: 5."}));
+    diskant.uvolniDiskant();
+    EXPECT_EQ(ceka(), "Prstoklad čeká: 12 = 1, pomocný 14 = 4, 5 = x\\. Neoznačeno: 12, 14, 5.");
+    prstoklad.odeberPosledni();
+    EXPECT_EQ(ceka(), "Prstoklad čeká: 12 = 1, pomocný 14 = 4. Neoznačeno: 12, 14.");
+    prstoklad.nastav("l9;2\\s1;3\\cizi\\l60;1"); // of a stranger's song: nothing is dropped
+    EXPECT_EQ(ceka(), "Prstoklad čeká: 9 = 2, pomocný 1 = 3, cizi\\, 60 = 1. Neoznačeno: 9, 1.");
+    EXPECT_EQ(prstoklad.prstoklad(), "l9;2\\s1;3\\cizi\\l60;1");
+    oznacTony({9});
+    zapis.cmdTah();
+    EXPECT_EQ(ceka(), "") << "recorded";
+    EXPECT_EQ(excel->text("V1"), "l9;2\\s1;3\\cizi\\l60;1");
+    prstoklad.odeberPosledni(); // where none waits
+    EXPECT_EQ(seznamy.size(), 6) << "of each change once";
 }
 
 class ZobrazeniPrstokladuTest : public ::testing::Test {

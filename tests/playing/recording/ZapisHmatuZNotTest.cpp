@@ -50,6 +50,19 @@ TEST_F(ZapisHmatuZNotTest, EmptySlotsAreSkippedAndMarksOfTheBoardIgnored) {
     EXPECT_EQ(s(bunky(1, u'B', u'E')), "e, e1, - -");
 }
 
+TEST_F(ZapisHmatuZNotTest, TonesForWhichTheStaffHasNoPlaceAreNamed) {
+    zvolToninu("F dur");
+    polozTony({2, 6, 9, 13, 16});
+    oznacTony({2, 6, 9, 13, 16});
+    zapisZNot.cmdTahNoty();
+    EXPECT_EQ(s(panel.upozorneni), "") << "all five are written";
+    oznacTony({3, 21});
+    zapisZNot.cmdTahNoty();
+    EXPECT_EQ(s(bunky(2, u'B', u'H')), "f, a, c1, e1, g1, - -");
+    EXPECT_EQ(s(panel.upozorneni),
+              "Osnova má jen pět not, nezapsáno: ges, c2. Všechny označené knoflíky zapíše F7 nebo F8.");
+}
+
 TEST_F(ZapisHmatuZNotTest, ANoteThatIsNoToneEndsTheRecordingAtOnce) {
     zvolToninu("C dur");
     osnova.polozNotu(0, {{Znamenko::Zadne, 420}, CisloTonu(9)});

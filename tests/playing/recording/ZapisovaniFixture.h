@@ -35,10 +35,7 @@ protected:
         for (const int bas : knofliky)
             basy.klik(bas);
     }
-    void pridejPrst(int n, const QString& prst) {
-        dialogs.expectInput(QStringLiteral("Označení prstokladu"), prst);
-        prstoklad.dvojklikLbl(n);
-    }
+    void pridejPrst(int n, const QString& prst) { prstoklad.pridej(u'l', n, prst); }
     void zvolToninu(const QString& stupnice) {
         tonina.nastavStupnici(Key(stupnice));
         noty.NastavStupnici(Key(stupnice));
@@ -64,7 +61,7 @@ protected:
     ZobrazovaciOsnova zobrazovaci;
     Pas pas;
     clsNotyZapis noty{osnova, dialogs};
-    Prstoklad prstoklad{dialogs};
+    Prstoklad prstoklad;
     BassTable tabulka{QStringLiteral(ZVONIKA_RESOURCES), 120};
     ZapisBasu zapisBasu{basy, tabulka, dialogs};
     ZobrazeniHmatu zobrazeni{pisen, {diskant, basy, tabulka, zobrazovaci, panel}, [](const QString&) {}};
@@ -73,7 +70,7 @@ protected:
     SeznamyKroku kroky{pisen, drive};
     OkoliZapisu okoli{pisen, dialogs, prstoklad, zapisBasu, poZapisu, kroky, tonina};
     ZapisHmatu zapis{okoli, diskant};
-    ZapisHmatuZNot zapisZNot{okoli, osnova, noty};
+    ZapisHmatuZNot zapisZNot{okoli, osnova, noty, diskant};
 };
 
 inline std::string s(const QString& text) {

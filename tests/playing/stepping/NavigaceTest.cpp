@@ -63,12 +63,12 @@ TEST_F(NavigaceTest, AMoveReadsOneBlockForBoardAndStrip) {
         std::function<void()> pohyb;
         int z, volani;
     } radky[] = {
-        {"inside the strip", [this] { navigace.cmdDalsi(); }, 5, 5},
-        {"out of the strip", [this] { navigace.cmdDalsi(); }, 16, 5},
-        {"with the direction", [this] { navigace.cmdJakDal(); }, 5, 7},
-        {"with the direction, out", [this] { navigace.cmdJakDal(); }, 16, 7},
-        {"back", [this] { navigace.cmdJakDalZpet(); }, 5, 8},
-        {"to the first", [this] { navigace.cmdPrvni(); }, 5, 5},
+        {"inside the strip", [this] { navigace.cmdDalsi(); }, 5, 6},
+        {"out of the strip", [this] { navigace.cmdDalsi(); }, 16, 6},
+        {"with the direction", [this] { navigace.cmdJakDal(); }, 5, 8},
+        {"with the direction, out", [this] { navigace.cmdJakDal(); }, 16, 8},
+        {"back", [this] { navigace.cmdJakDalZpet(); }, 5, 9},
+        {"to the first", [this] { navigace.cmdPrvni(); }, 5, 6},
         {"by the user", [this] { navigace.sledujKurzor(); }, 5, 5},
     };
     for (const auto& [co, pohyb, z, volani] : radky) {
@@ -81,6 +81,31 @@ TEST_F(NavigaceTest, AMoveReadsOneBlockForBoardAndStrip) {
         EXPECT_EQ(log.count("readBlock"), 1);
         EXPECT_EQ(log.calls.size(), volani) << log.calls.join(u' ').toStdString();
     }
+}
+
+TEST_F(NavigaceTest, AChosenRowReleasesTheMarksAndIsTheSongs) {
+    otevriPolku(5);
+    excel->app().addWorkbook();
+    diskant.nastavZnacku(20, true);
+    navigace.naRadek(4);
+    EXPECT_EQ(excel->activeWorkbookName(), "Polka.xls");
+    EXPECT_EQ(bunka(), "$B$4");
+    EXPECT_FALSE(diskant.oznacen(20));
+    EXPECT_EQ(diskant.stav(9), StavKnofliku::Tlak);
+    EXPECT_EQ(panel.barvaKroku, BarvaKroku::Tlak);
+}
+
+TEST_F(NavigaceTest, TheFingeringIsTheSongsWhateverIsInFront) {
+    otevriPolku(5);
+    excel->put("V3", "l9;3\\");
+    naRadek(3);
+    excel->app().addWorkbook();
+    excel->put("V1", "l9;1\\");
+    navigace.sledujKurzor();
+    EXPECT_NE(excel->activeWorkbookName(), "Polka.xls") << "who only follows brings nothing to the front";
+    zobrazeni.cmdReadTah();
+    EXPECT_EQ(excel->activeWorkbookName(), "Polka.xls");
+    EXPECT_EQ(diskant.popis(9), "3\r\n");
 }
 
 TEST_F(NavigaceTest, EachCommandReportsAFaultyFingeringOnce) {

@@ -134,7 +134,7 @@ TEST_F(VraceniTest, TheListSleepsWithItsSongAndIsNobodyElses) {
         pisen.plneJmeno = QString::fromUtf8(plneJmeno);
         EXPECT_EQ(s(vraceni.undoLabel()), popis) << plneJmeno;
     }
-    kroky.prejmenuj(pisen.plneJmeno, QStringLiteral("C:\\Jinam.xls"));
+    kroky.prejmenuj(QStringLiteral("C:\\Jinam.xls"));
     EXPECT_EQ(s(vraceni.undoLabel()), "");
     pisen.plneJmeno = QStringLiteral("C:\\Jinam.xls");
     EXPECT_EQ(s(vraceni.undoLabel()), "Zápis hmatu 1");

@@ -126,4 +126,19 @@ TEST_P(RecoveryContract, ASongRenamedMeanwhileIsKnownByItsContents) {
     app->openWorkbook(moved);
 }
 
+TEST_P(RecoveryContract, AWorkbookThatTheUserSavesElsewhereGoesOnUnderItsNewName) {
+    const QString dog = rig->folder() + QStringLiteral("/Pes.xls");
+    const QStringList heard{QStringLiteral("Kočka.xls"), QStringLiteral("Pes.xls"), dog};
+    EXPECT_EQ(rig->userSavesAs(*app, dog), heard);
+    app->activateWindow(QStringLiteral("Pes.xls"));
+    EXPECT_EQ(raised([&] { app->activateWindow(QStringLiteral("Kočka.xls")); }), 9);
+    put("B2", "e,");
+    killed();
+    comesAgain({});
+    EXPECT_EQ(text("B2"), QString()) << "the first file is as it was left";
+    rig->willBeOffered(QStringLiteral("„Pes.xls“ zůsta"), true);
+    app->openWorkbook(dog);
+    EXPECT_EQ(text("B1") + text("B2"), QStringLiteral("c,e,"));
+}
+
 } // namespace zvonika::testing

@@ -40,6 +40,9 @@ public:
     /// Into a cell of the active workbook, as if by its window; returns when the program has heard of it.
     virtual void userEnters(SpreadsheetApplication& application, const QString& cell,
                             const QString& text) = 0;
+    /// The active workbook under another name, from the application's menu. What the listener has heard of
+    /// it: name before, name now, full name.
+    virtual QStringList userSavesAs(SpreadsheetApplication& application, const QString& nativePath) = 0;
     /// The application ends without any closing step, or this program does, and the application with it.
     virtual void kill(std::unique_ptr<SpreadsheetApplication> application) = 0;
     /// The user's answer to the next offer of what a crash has left, which must contain these words.

@@ -50,6 +50,15 @@ public:
         EXPECT_TRUE(VirtualScreen::press(application.activeWorkbookName(), {"Return"}));
         EXPECT_TRUE(QTest::qWaitFor([&] { return listener_.edited > before; }, 30000));
     }
+    QStringList userSavesAs(SpreadsheetApplication& application, const QString& nativePath) override {
+        EXPECT_TRUE(VirtualScreen::press(application.activeWorkbookName(), {"ctrl+shift+s"}));
+        EXPECT_TRUE(QTest::qWaitFor([] { return VirtualScreen::hasWindow("Save As"); }, 30000));
+        EXPECT_TRUE(VirtualScreen::press("Save As", {"ctrl+a"}) &&
+                    VirtualScreen::type("Save As", nativePath) &&
+                    VirtualScreen::press("Save As", {"Return"}));
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !listener_.renamed.isEmpty(); }, 30000));
+        return std::exchange(listener_.renamed, {});
+    }
     void kill(std::unique_ptr<SpreadsheetApplication> application) override {
         if (const pid_t office = world_.office(); office > 0) ::kill(office, SIGKILL);
         EXPECT_TRUE(
@@ -63,6 +72,10 @@ private:
     struct Listener : SpreadsheetListener {
         void cursorMoved() override {}
         void cellsEdited() override { ++edited; }
+        void workbookRenamed(const QString& before, const QString& now, const QString& fullName) override {
+            renamed << before << now << fullName;
+        }
+        QStringList renamed;
         int edited = 0;
     };
     CalcWorld world_;

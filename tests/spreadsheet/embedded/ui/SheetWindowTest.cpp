@@ -179,6 +179,39 @@ TEST_F(SheetFile, SixthFunctionKeyGoesToTheProgram) {
     EXPECT_EQ(presses, 2);
 }
 
+TEST_F(SheetFile, PageKeysAreTheProgramsAsLongAsItTakesThem) {
+    bool takes = false;
+    QVector<bool> offered;
+    window->takePageKey = [&](bool down) {
+        offered << down;
+        return takes;
+    };
+    application.selectRange(QStringLiteral("B1"));
+    const struct {
+        Qt::Key key;
+        Qt::KeyboardModifiers with;
+        bool taken;
+        int turns; ///< a page down or up, or none
+    } cases[] = {
+        {Qt::Key_PageDown, {}, false, 1}, {Qt::Key_PageDown, Qt::AltModifier, true, 1},
+        {Qt::Key_PageUp, {}, true, 0},    {Qt::Key_PageUp, Qt::AltModifier, true, -1},
+        {Qt::Key_PageDown, {}, true, 0},  {Qt::Key_PageUp, {}, false, -1},
+    };
+    for (const auto& c : cases) {
+        takes = c.taken;
+        const int row = application.activeRow();
+        press(c.key, c.with);
+        const int moved = application.activeRow() - row;
+        EXPECT_EQ(moved == 0 ? 0 : moved > 2 ? 1 : moved < -2 ? -1 : 9, c.turns) << c.key << moved;
+    }
+    EXPECT_EQ(offered, (QVector<bool>{true, false, true, false}));
+    click("A1");
+    type("x");
+    press(Qt::Key_PageDown);
+    EXPECT_EQ(application.value(QStringLiteral("A1")), CellValue(QStringLiteral("x")))
+        << "what was typed is kept";
+}
+
 TEST_F(SheetFile, StatusSaysWhatIsShown) {
     application.setValue(QStringLiteral("B1"), QStringLiteral("c1,"));
     application.setValue(QStringLiteral("B2"), QStringLiteral("d1,"));
