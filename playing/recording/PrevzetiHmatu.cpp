@@ -25,6 +25,20 @@ QString vetaONeprevzatych(const QStringList& tony, const QStringList& basy) {
                : QStringLiteral("Označit nejde a zápisem zmizí: %1.").arg(co.join(QStringLiteral(", ")));
 }
 
+QString vetaOPrevzeti(int radek, SmerMechu smer) {
+    switch (smer) {
+    case SmerMechu::Tah:
+        return QStringLiteral("Hmat %1 na tah je převzat k opravě, zapíše ho F7, otočí na tlak F8.")
+            .arg(radek);
+    case SmerMechu::Tlak:
+        return QStringLiteral("Hmat %1 na tlak je převzat k opravě, zapíše ho F8, otočí na tah F7.")
+            .arg(radek);
+    case SmerMechu::Neuveden:
+        break;
+    }
+    return QStringLiteral("Hmat %1 je převzat k opravě, zapíše ho F7 na tah, F8 na tlak.").arg(radek);
+}
+
 } // namespace
 
 PrevzetiHmatu::PrevzetiHmatu(const OkoliPisne& okoli, const ModelyHmatu& modely, const BassTable& tabulka,
@@ -35,16 +49,12 @@ PrevzetiHmatu::PrevzetiHmatu(const OkoliPisne& okoli, const ModelyHmatu& modely,
 void PrevzetiHmatu::mnuPrevzitHmat() {
     const int radek = list_.zacniZapis();
     const Grip hmat = list_.grip(radek);
-    okoli_.panel.upozorneni =
-        hmat.prazdny()
-            ? QStringLiteral("Na řádku %1 žádný hmat není, není co převzít.").arg(radek)
-            : QStringList{rozdilTonin(hmat.tonina, tonina_.stupnice()),
-                          QStringLiteral(
-                              "Hmat %1 je převzat k opravě, zapíšete ho tlačítkem < Tah nebo > Tlak.")
-                              .arg(radek),
-                          prevezmi(hmat)}
-                  .join(u' ')
-                  .simplified();
+    okoli_.panel.upozorneni = hmat.prazdny()
+                                  ? QStringLiteral("Na řádku %1 žádný hmat není, není co převzít.").arg(radek)
+                                  : QStringList{rozdilTonin(hmat.tonina, tonina_.stupnice()),
+                                                vetaOPrevzeti(radek, smerMechu(hmat.smer)), prevezmi(hmat)}
+                                        .join(u' ')
+                                        .simplified();
 }
 
 /// What cannot be marked, in a sentence; "" where all of it can.

@@ -46,7 +46,7 @@ TEST_F(PrevzetiHmatuTest, TheStoredGripBecomesWhatIsMarkedAndIsRecordedAsItWas) 
     EXPECT_EQ(s(noty5()), "c1, dis1, fis1, - -");
     EXPECT_EQ(diskant.stav(15), StavKnofliku::Cerveny);
     EXPECT_EQ(s(diskant.tonKlavesy(12)), "dis1,");
-    EXPECT_EQ(s(panel.upozorneni), "Hmat 2 je převzat k opravě, zapíšete ho tlačítkem < Tah nebo > Tlak.");
+    EXPECT_EQ(s(panel.upozorneni), "Hmat 2 na tlak je převzat k opravě, zapíše ho F8, otočí na tah F7.");
     zapis.cmdTlak();
     EXPECT_EQ(s(bunky(2, u'A', u'W')), s(predtim));
     EXPECT_EQ(s(excel->activeAddress()), "$B$3");
@@ -69,7 +69,7 @@ TEST_F(PrevzetiHmatuTest, SaysWhatItCannotTakeAndWhatIsOtherThanChosen) {
          "Hmat je v G dur, pro zápis je zvolena C dur. Hmat 1 je převzat"},
         {"Vyberte tóninu", "G dur", "c1,", "C", "Hmat je v G dur, tónina pro zápis zvolena není. Hmat 1"},
         {"C dur", "Vyberte tóninu", "c1, prd c9,", "Žádný",
-         "< Tah nebo > Tlak. Označit nejde a zápisem zmizí: tón prd c9, bas Žádný."},
+         "zapíše ho F7 na tah, F8 na tlak. Označit nejde a zápisem zmizí: tón prd c9, bas Žádný."},
     };
     for (const auto& [zvolena, toninaRadku, tony, bas, veta] : radky) {
         excel->put("A1:W1", "");
