@@ -63,6 +63,7 @@ KrokySpusteni BehProgramu::krokySpusteni(const SpreadsheetLauncher& spoustec) {
         [this, &modely, spoustec] {
             SpustExcel(spoustec, modely.pisen, puvodniCesta());
             modely.pisen.excel().setListener(&posluchac_);
+            modely.pisen.excel().setStepKeeper(&c_.konverzace.vraceni());
         },
         [&modely](bool obracene) { modely.diskant.nastavObraceneCislovani(obracene); },
         [&modely](bool zapnuto) { modely.diskant.nastavNazvy(zapnuto, modely.tonina.stupnice().text()); },
@@ -80,7 +81,10 @@ PuvodniCesta BehProgramu::puvodniCesta() const {
 void BehProgramu::Form_Unload() {
     c_.automat.zastav();
     if (c_.modely.pisen.aplikaceExcel) puvodniCesta().zapamatuj(c_.modely.pisen.puvodniCestaExcelu);
-    if (c_.modely.pisen.aplikaceExcel) c_.modely.pisen.aplikaceExcel->setListener(nullptr);
+    if (c_.modely.pisen.aplikaceExcel) {
+        c_.modely.pisen.aplikaceExcel->setListener(nullptr);
+        c_.modely.pisen.aplikaceExcel->setStepKeeper(nullptr);
+    }
     c_.konverzace.pisen().ukonceniExcelu.UkonciExcel();
 }
 

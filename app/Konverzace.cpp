@@ -21,10 +21,12 @@ Konverzace::Konverzace(Modely& modely, const Prostredi& prostredi, std::function
       pasPisne_(modely.pisen, modely.pas),
       navigace_(okoliPisne(modely, prostredi.dialogs), zobrazeniHmatu_, pasPisne_, modely.diskant,
                 [this] { uvolneni_.uvolniVse(); }),
+      kroky_(modely.pisen, prostredi.drive),
+      vraceni_(okoliPisne(modely, prostredi.dialogs), kroky_, navigace_),
       zvuk_(okoliPisne(modely, prostredi.dialogs), prostredi.drive, prostredi.media),
-      zivotPisne_(
-          okoliPisne(modely, prostredi.dialogs), prostredi.drive,
-          {zobrazeniHmatu_, pasPisne_, navigace_, zvuk_, modely.tonina, [this] { uvolneni_.uvolniVse(); }}),
+      zivotPisne_(okoliPisne(modely, prostredi.dialogs), prostredi.drive,
+                  {zobrazeniHmatu_, pasPisne_, navigace_, zvuk_, kroky_, modely.tonina,
+                   [this] { uvolneni_.uvolniVse(); }}),
       neulozenePisne_(prostredi.zaznamy, prostredi.dialogs, zivotPisne_),
       klikDiskantu_(modely.diskant, notyZapis_, modely.tonina, prostredi.dialogs,
                     {std::move(otevriVyberStupnice),
@@ -35,6 +37,10 @@ Konverzace::Konverzace(Modely& modely, const Prostredi& prostredi, std::function
       poZapisu_(okoliPisne(modely, prostredi.dialogs), zobrazeniHmatu_, pasPisne_),
       zapisHmatu_(okoliZapisu(), modely.diskant),
       zapisHmatuZNot_(okoliZapisu(), modely.zapisovaciOsnova, notyZapis_, modely.diskant),
+      prevzeti_(okoliPisne(modely, prostredi.dialogs),
+                {modely.diskant, modely.basy, modely.zapisovaciOsnova, notyZapis_, modely.prstoklad},
+                modely.tabulkaBasu, modely.tonina),
+      radky_(okoliPisne(modely, prostredi.dialogs), kroky_, navigace_),
       intervaly_({modely.pisen, prostredi.dialogs, modely.panel, modely.diskant, modely.zobrazovaciOsnova,
                   modely.tonina, modely.krokyIntervalu, prostredi.drive.programFolder()}),
       volbaStupnice_(prostredi.dialogs, modely.tonina, modely.zapisovaciOsnova),
@@ -44,7 +50,7 @@ Konverzace::Konverzace(Modely& modely, const Prostredi& prostredi, std::function
 }
 
 OkoliZapisu Konverzace::okoliZapisu() {
-    return {modely_.pisen, dialogs_, modely_.prstoklad, zapisBasu_, poZapisu_, modely_.tonina};
+    return {modely_.pisen, dialogs_, modely_.prstoklad, zapisBasu_, poZapisu_, kroky_, modely_.tonina};
 }
 
 } // namespace zvonika

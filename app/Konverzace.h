@@ -5,6 +5,8 @@
 #include "app/Prostredi.h"
 #include "playing/intervals/Intervaly.h"
 #include "playing/recording/KlikDiskantu.h"
+#include "playing/recording/PrevzetiHmatu.h"
+#include "playing/recording/RadkyHmatu.h"
 #include "playing/recording/Uvolneni.h"
 #include "playing/recording/ZadaniPrstu.h"
 #include "playing/recording/ZapisHmatu.h"
@@ -15,6 +17,7 @@
 #include "playing/song/ZivotPisne.h"
 #include "playing/stepping/Navigace.h"
 #include "playing/stepping/ZobrazeniPrstokladu.h"
+#include "playing/undo/Vraceni.h"
 #include "theory/VolbaStupnice.h"
 #include "theory/clsNotyZapis.h"
 
@@ -41,6 +44,8 @@ struct KonverzaceZapisu {
     ZapisNoty& zapisNoty;
     ZapisHmatu& zapisHmatu;
     ZapisHmatuZNot& zapisHmatuZNot;
+    PrevzetiHmatu& prevzeti;
+    RadkyHmatu& radky;
 };
 
 struct KonverzacePomucek {
@@ -59,9 +64,10 @@ public:
 
     KonverzacePisne pisen() { return {navigace_, zvuk_, zivotPisne_, ukonceniExcelu_, neulozenePisne_}; }
     KonverzaceZapisu zapis() {
-        return {notyZapis_,    modely_.prstoklad, zadaniPrstu_, uvolneni_,
-                klikDiskantu_, zapisNoty_,        zapisHmatu_,  zapisHmatuZNot_};
+        return {notyZapis_, modely_.prstoklad, zadaniPrstu_,    uvolneni_, klikDiskantu_,
+                zapisNoty_, zapisHmatu_,       zapisHmatuZNot_, prevzeti_, radky_};
     }
+    Vraceni& vraceni() { return vraceni_; }
     KonverzacePomucek pomucky() { return {intervaly_, volbaStupnice_, volbyHmatniku_}; }
 
 private:
@@ -75,6 +81,8 @@ private:
     ZobrazeniHmatu zobrazeniHmatu_;
     PasPisne pasPisne_;
     Navigace navigace_;
+    SeznamyKroku kroky_;
+    Vraceni vraceni_;
     Zvuk zvuk_;
     ZivotPisne zivotPisne_;
     NeulozenePisne neulozenePisne_;
@@ -85,6 +93,8 @@ private:
     PoZapisu poZapisu_;
     ZapisHmatu zapisHmatu_;
     ZapisHmatuZNot zapisHmatuZNot_;
+    PrevzetiHmatu prevzeti_;
+    RadkyHmatu radky_;
     Intervaly intervaly_;
     VolbaStupnice volbaStupnice_;
     VolbyHmatniku volbyHmatniku_;

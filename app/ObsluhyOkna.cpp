@@ -42,6 +42,8 @@ ObsluhyPrikazu prikazyPisne(const CastiProgramu& c) {
         {"cmdJakDal", [k] { k.navigace.cmdJakDal(); }},
         {"cmdJakDalZpet", [k] { k.navigace.cmdJakDalZpet(); }},
         {"cmdTimer", [c] { c.automat.cmdTimer(); }},
+        {"mnuZpet", [c] { c.konverzace.vraceni().mnuZpet(); }},
+        {"mnuZnovu", [c] { c.konverzace.vraceni().mnuZnovu(); }},
     };
 }
 
@@ -61,6 +63,9 @@ ObsluhyPrikazu prikazyZapisu(const CastiProgramu& c) {
         {"mnuVzitPrst", [c] { mnuVzitPrst(c.modely.prstoklad, c.modely.panel); }},
         {"cmdTahNoty", [k] { k.zapisHmatuZNot.cmdTahNoty(); }},
         {"cmdTlakNoty", [k] { k.zapisHmatuZNot.cmdTlakNoty(); }},
+        {"mnuPrevzitHmat", [k] { k.prevzeti.mnuPrevzitHmat(); }},
+        {"mnuVlozitHmat", [k] { k.radky.mnuVlozitHmat(); }},
+        {"mnuSmazatHmat", [k] { k.radky.mnuSmazatHmat(); }},
     };
     for (const PrikazUvolneni& radek : prikazyUvolneni())
         obsluhy.insert(radek.tlacitko, [k, tlacitko = radek.tlacitko] { k.uvolneni.proved(tlacitko); });

@@ -18,15 +18,15 @@ const QVector<TlacitkoPrikazu>& tlacitkaPrikazu() {
          Druh::Bezne,
          "Ctrl+T"},
         // recording
-        {"cmdTahNoty", "< Tah", "Zapsat noty z osnovy na tah", {14330, 5350, 780, 430}, Druh::Tah, "Ctrl+F7"},
+        {"cmdTahNoty", "< Tah", "ZAPÍŠE noty z osnovy na tah", {14330, 5350, 780, 430}, Druh::Tah, "Ctrl+F7"},
         {"cmdTlakNoty",
          "> Tlak",
-         "Zapsat noty z osnovy na tlak",
+         "ZAPÍŠE noty z osnovy na tlak",
          {15150, 5350, 790, 430},
          Druh::Tlak,
          "Ctrl+F8"},
-        {"cmdTah", "< Tah", "Zapsat hmat na tah", {12060, 6350, 1920, 600}, Druh::Tah, "F7"},
-        {"cmdTlak", "> Tlak", "Zapsat hmat na tlak", {14020, 6350, 1920, 600}, Druh::Tlak, "F8"},
+        {"cmdTah", "< Tah", "ZAPÍŠE označený hmat na tah", {12060, 6350, 1920, 600}, Druh::Tah, "F7"},
+        {"cmdTlak", "> Tlak", "ZAPÍŠE označený hmat na tlak", {14020, 6350, 1920, 600}, Druh::Tlak, "F8"},
         // moving through the song
         {"cmdPrvni", "První", "První hmat", {12060, 7060, 940, 390}, Druh::Bezne, "Ctrl+Home"},
         {"cmdPredchozi", "Předchozí", "Předchozí hmat", {13040, 7060, 940, 390}, Druh::Bezne, "Ctrl+Up"},
@@ -104,9 +104,16 @@ const QVector<Menu>& menuPrikazu() {
         {"Nápověda",
          {{"mnuhtm", "Ovládání Tamíka", "mnuhtm", false, "F1"}, {"mnuOProgramu", "O programu", "cmdOPrg"}}},
         {"Doplňky",
-         {{"mnuVzitPrst", "Vzít zpět čekající prst", "mnuVzitPrst", false, "Shift+F2"},
+         {{"mnuTabulka", "Tabulkový program", "mnuTabulka"},
           {},
-          {"mnuTabulka", "Tabulkový program", "mnuTabulka"}}},
+          {"mnuZpet", "Zpět", "mnuZpet", false, "Ctrl+Z"},
+          {"mnuZnovu", "Znovu", "mnuZnovu", false, "Ctrl+Y; Ctrl+Shift+Z"},
+          {},
+          {"mnuPrevzitHmat", "Převzít ukázaný hmat", "mnuPrevzitHmat", false, "F5"},
+          {"mnuVzitPrst", "Vzít zpět čekající prst", "mnuVzitPrst", false, "Shift+F2"},
+          {},
+          {"mnuVlozitHmat", "Vložit hmat", "mnuVlozitHmat", false, "Ctrl+Ins"},
+          {"mnuSmazatHmat", "Smazat hmat", "mnuSmazatHmat", false, "Ctrl+Del"}}},
     };
     return tabulka;
 }

@@ -25,7 +25,7 @@ struct PolozkaMenu {
     QString popisek;
     QString prikaz; ///< the button whose click it calls, or its own name
     bool zaskrtavaci = false;
-    QString zkratka = {};
+    QString zkratka = {}; ///< keyboard shortcuts, separated by "; "
 };
 
 struct Menu {

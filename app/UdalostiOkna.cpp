@@ -39,6 +39,7 @@ void UdalostiOkna::ukazPricinu(const RuntimeError& chyba) {
 }
 
 void UdalostiOkna::ukazStav() {
+    obnova_();
     StavProgramu stav;
     stav.pisenOtevrena = modely_.pisen.otevrena();
     stav.automatBezi = modely_.timer1.zapnuty();

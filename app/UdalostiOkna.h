@@ -2,6 +2,9 @@
 
 #include "app/ObsluhaUdalosti.h"
 
+#include <functional>
+#include <utility>
+
 namespace zvonika {
 
 struct Modely;
@@ -26,12 +29,15 @@ public:
     bool bezi() const { return obsluha_.bezi(); }
     /// Says in the status line what the models have come to, and has the panel shown.
     void ukazStav();
+    /// What brings the models up to date before they are shown.
+    void nastavObnovu(std::function<void()> obnova) { obnova_ = std::move(obnova); }
 
 private:
     void ukazPricinu(const RuntimeError& chyba);
 
     Modely& modely_;
     ObsluhaUdalosti obsluha_;
+    std::function<void()> obnova_ = [] {};
 };
 
 } // namespace zvonika

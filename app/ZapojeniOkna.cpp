@@ -142,6 +142,9 @@ void ZapojeniOkna::pripojModely() {
     });
     ukazPrstoklad();
     c_.konverzace.pisen().navigace.nastavZastaveniCasovace([this] { c_.automat.zastav(); });
+    Vraceni& vraceni = c_.konverzace.vraceni();
+    c_.udalosti.nastavObnovu([&vraceni] { vraceni.obnovPopisy(); });
+    vraceni.nastavUdalost([this](const auto& procedura) { c_.udalosti.proved(procedura); });
     connect(&c_.modely.timer1, &Timer1::zmeneno, this, [this] { c_.udalosti.ukazStav(); });
 }
 

@@ -124,6 +124,10 @@ CasAkce BeziciProgram::klikni(const QString& jmeno) {
     return zmer([cil] { QTest::mouseClick(cil, Qt::LeftButton); });
 }
 
+CasAkce BeziciProgram::proved(const QString& prikaz) {
+    return zmer([&] { program().proved(prikaz); });
+}
+
 void BeziciProgram::nastavTempo(int pozice) {
     auto* posuvnik = qobject_cast<QSlider*>(program().okno().prvek(QStringLiteral("Slider1")));
     posuvnik->setValue(pozice);

@@ -50,6 +50,8 @@ public:
 
     /// Clicks a control of the main window.
     CasAkce klikni(const QString& jmeno);
+    /// Carries out a command of a menu.
+    CasAkce proved(const QString& prikaz);
     /// Moves the tempo slider to this position, -5 to 5.
     void nastavTempo(int pozice);
     /// Lets the tick of automatic stepping come that is due next; needs a clock that is turned by hand.

@@ -125,6 +125,25 @@ void zapis(benchmark::State& stav, BeziciProgram& program) {
     program.klikni(QStringLiteral("cmdEndEdit"));
 }
 
+/// Takes recorded grips back one by one.
+void zpet(benchmark::State& stav, BeziciProgram& program) {
+    const int hmatu = int(stav.range(0));
+    program.zalozPisen(dalsiNazev(), hmatu);
+    program.naRadek(hmatu);
+    program.klikni(QStringLiteral("cmdDalsi"));
+    for (const char* prvek : {"lbl(9)", "lbl(13)", "lbl(16)", "ImgBas(30)"})
+        program.klikni(QString::fromLatin1(prvek));
+    for (int i = 0; i < zapisu; ++i)
+        program.klikni(QStringLiteral("cmdTah"));
+    {
+        Vzorky vzorky(stav);
+        for (auto _ : stav)
+            vzorky.pridej(program.proved(QStringLiteral("mnuZpet")));
+    }
+    if (program.program().aktualniRadek() != hmatu + 1) stav.SkipWithError("grips are left");
+    program.klikni(QStringLiteral("cmdEndEdit"));
+}
+
 void otevreniPisne(benchmark::State& stav, BeziciProgram& program) {
     const QString nazev = dalsiNazev();
     program.zalozPisen(nazev, int(stav.range(0)));
@@ -170,6 +189,7 @@ void zaregistrujVse(BeziciProgram& program) {
     });
     zaregistruj("Timer1", kroku, [&program](benchmark::State& stav) { automat(stav, program); });
     zaregistruj("cmdTah", zapisu, [&program](benchmark::State& stav) { zapis(stav, program); });
+    zaregistruj("mnuZpet", zapisu, [&program](benchmark::State& stav) { zpet(stav, program); });
     zaregistruj("cmdEdit", otevreni, [&program](benchmark::State& stav) { otevreniPisne(stav, program); });
     zaregistruj("cmdEndEdit", otevreni, [&program](benchmark::State& stav) { konecPisne(stav, program); });
 }

@@ -38,6 +38,8 @@ public:
     QString vystraha;       ///< what the last command must not let pass unseen, one sentence
     QString zapsano;        ///< the grip that the last command has recorded, one sentence
     QString upozorneni;     ///< what the last command has to tell besides its boxes
+    QString krokZpet;       ///< the step that is taken back next, a label; "" where there is none
+    QString krokZnovu;      ///< the step that is done again next
     QString stav;           ///< status line: what to do next, warnings
     QString prstokladCeka;  ///< the fingers that wait for the next grip; "" where none does
     int zapsanychHmatu = 0; ///< grips recorded in this run

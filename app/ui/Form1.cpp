@@ -232,7 +232,8 @@ void Form1::pridejPolozku(QMenu& menu, const PolozkaMenu& polozka) {
     QAction* akce = menu.addAction(polozka.popisek);
     akce->setObjectName(polozka.jmeno);
     akce->setCheckable(polozka.zaskrtavaci);
-    akce->setShortcut(QKeySequence(polozka.zkratka));
+    akce->setShortcuts(QKeySequence::listFromString(polozka.zkratka));
+    akce->setAutoRepeat(false); // a key held down must not delete row after row
     akce->setEnabled(stavy_.povolen(polozka.jmeno));
     connect(akce, &QAction::triggered, this, [this, p = polozka.prikaz] {
         Q_EMIT prikaz(p);
@@ -257,6 +258,17 @@ void Form1::ukazPanel() {
     ukazVarovani();
     ukazListy();
     ukazBarvuKroku();
+    ukazKroky();
+}
+
+/// What would be taken back stands beside the entry's own caption.
+void Form1::ukazKroky() {
+    const auto popis = [](const char* popisek, const QString& krok) {
+        const QString text = QString::fromUtf8(popisek);
+        return krok.isEmpty() ? text : text + QStringLiteral(": ") + shownName(krok);
+    };
+    akce_[QStringLiteral("mnuZpet")]->setText(popis("Zpět", panel_.krokZpet));
+    akce_[QStringLiteral("mnuZnovu")]->setText(popis("Znovu", panel_.krokZnovu));
 }
 
 /// As wide as it is long, up to half of the line.

@@ -68,6 +68,7 @@ private:
     bool vejdeSeVedle(const QString& varovani) const;
     void ukazListy();
     void ukazBarvuKroku();
+    void ukazKroky();
     void ukazZaskrtnuti();
     void povol(const QString& jmeno, bool povolit);
 

@@ -24,10 +24,21 @@ void PoZapisu::ukazNovyRadek(int radek) {
     okoli_.panel.barvaKroku = tlak ? BarvaKroku::TlakPoZapisu : BarvaKroku::Tah;
 }
 
-void PoZapisu::oznamZapis(int radek, SmerMechu smer) {
-    okoli_.panel.zapsano = QStringLiteral("Hmat %1 je zapsán na %2.")
-                               .arg(radek)
-                               .arg(smer == SmerMechu::Tlak ? QStringLiteral("tlak") : QStringLiteral("tah"));
+void PoZapisu::oznamZapis(int radek, SmerMechu smer, bool smazan) {
+    const QString veta =
+        smazan ? QStringLiteral("Hmat %1 smazán: nic nebylo označeno, zapsán je jen %2. Ctrl+Z ho vrátí.")
+               : QStringLiteral("Hmat %1 je zapsán na %2.");
+    okoli_.panel.zapsano =
+        veta.arg(radek).arg(smer == SmerMechu::Tlak ? QStringLiteral("tlak") : QStringLiteral("tah"));
+}
+
+void PoZapisu::vyprazdneno(int radek, bool smazan) {
+    const VyrezPisne vyrez = pas_.ctiPoZmene();
+    zobrazeni_.ZobrazHmatPotichu(vyrez);
+    pas_.obnov(vyrez);
+    const QString veta = smazan ? QStringLiteral("Hmat %1 smazán, nic nebylo označeno. Ctrl+Z ho vrátí.")
+                                : QStringLiteral("Není co zapsat, hmat %1 zůstává prázdný.");
+    upozorni(veta.arg(radek));
 }
 
 void PoZapisu::upozorni(const QString& veta) {

@@ -18,8 +18,12 @@ public:
     /// Brings panel and strip up to date with the cursor.
     void obnovOkno();
     void zapocitejHmat() { ++okoli_.panel.zapsanychHmatu; }
-    /// Has it said that the grip of this row is recorded.
-    void oznamZapis(int radek, SmerMechu smer);
+    /// Has it said that the grip of this row is recorded; `smazan`: as one without tones and basses, in the
+    /// place of one that had some.
+    void oznamZapis(int radek, SmerMechu smer, bool smazan = false);
+    /// Nothing was recorded, and so the row, that of the cursor, is empty now; `smazan`: it was not. Shows
+    /// what is in it.
+    void vyprazdneno(int radek, bool smazan);
     /// Has it said besides, before what the shown row has to tell; nothing for "".
     void upozorni(const QString& veta);
 

@@ -1,6 +1,7 @@
 #include "playing/recording/ZapisHmatu.h"
 
 #include "platform/Contact.h"
+#include "playing/undo/ZapisRadku.h"
 #include "theory/NazvyTonu.h"
 
 namespace zvonika {
@@ -24,15 +25,20 @@ void ZapisHmatu::cmdTlak() {
 void ZapisHmatu::ZapisHmat() {
     SongSheet list(okoli_.pisen);
     const int radek = list.zacniZapis();
+    ZapisRadku zapis(okoli_.pisen, okoli_.kroky, radek);
     Grip hmat;
     zapisTony(list, radek, hmat);
     okoli_.basy.ZapisBasy(list, radek, hmat);
-    if (hmat.prazdny()) return; // an empty grip only empties its row
+    if (hmat.prazdny()) { // it only empties its row
+        okoli_.poZapisu.vyprazdneno(radek, zapis.dokonci(popisSmazani(radek)));
+        return;
+    }
 
     hmat.smer = textSmeru(mechTlak_ ? SmerMechu::Tlak : SmerMechu::Tah);
     hmat.prstoklad = okoli_.prstoklad.prstoklad();
     list.zapis(radek, hmat, {CastHmatu::Smer, CastHmatu::Prstoklad});
     okoli_.prstoklad.odeber();
+    zapis.dokonci(popisZapisu(radek));
     list.vyberRadek(radek);
     okoli_.poZapisu.naDalsiRadek();
     okoli_.poZapisu.zapocitejHmat();

@@ -5,6 +5,7 @@
 #include "playing/recording/PoZapisu.h"
 #include "playing/recording/Prstoklad.h"
 #include "playing/recording/ZapisBasu.h"
+#include "playing/undo/SeznamyKroku.h"
 #include "theory/Tonina.h"
 
 #include <utility>
@@ -18,6 +19,7 @@ struct OkoliZapisu {
     Prstoklad& prstoklad;
     ZapisBasu& basy;
     PoZapisu& poZapisu;
+    SeznamyKroku& kroky;
     const Tonina& tonina; ///< the key, caption of `cmdStupnice`
 
     /// What the row is told of the key: the caption, nothing for "Vyberte stupnici".

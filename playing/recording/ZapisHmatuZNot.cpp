@@ -1,6 +1,7 @@
 #include "playing/recording/ZapisHmatuZNot.h"
 
 #include "platform/Contact.h"
+#include "playing/undo/ZapisRadku.h"
 #include "theory/NazvyTonu.h"
 #include "theory/clsNotyZapis.h"
 
@@ -29,6 +30,7 @@ void ZapisHmatuZNot::ZapisHmatZNot(SmerMechu smer) {
     SongSheet list(okoli_.pisen);
     const int radek = list.zacniZapis();
     const QString nezapsane = vetaONevejitych();
+    ZapisRadku zapis(okoli_.pisen, okoli_.kroky, radek);
     Grip hmat;
     if (!zapisTony(list, radek, hmat)) return;
 
@@ -39,10 +41,11 @@ void ZapisHmatuZNot::ZapisHmatZNot(SmerMechu smer) {
     list.zapis(radek, hmat, {CastHmatu::Smer});
     SeradTonyHmatu(list, radek);
     okoli_.basy.ZapisBasy(list, radek, hmat);
+    const bool smazan = zapis.dokonci(popisZapisu(radek)) && hmat.prazdny();
     list.vyberRadek(radek);
     okoli_.poZapisu.naDalsiRadek();
     okoli_.poZapisu.obnovOkno();
-    okoli_.poZapisu.oznamZapis(radek, smer);
+    okoli_.poZapisu.oznamZapis(radek, smer, smazan);
     okoli_.poZapisu.upozorni(nezapsane);
 }
 

@@ -2,7 +2,7 @@
 
 #include "playing/stepping/Listy.h"
 #include "playing/stepping/PrikazyPisne.h"
-#include "theory/Toniny.h"
+#include "playing/stepping/RozdilTonin.h"
 
 namespace zvonika {
 
@@ -41,12 +41,7 @@ void PisenVOkne::ukazJmeno() {
 
 /// What is recorded next gets the key of the button, not that of the song.
 void PisenVOkne::pripomenToninu() {
-    const DurovaTonina* radku = najdiToninu(Key(okoli_.panel.lblStupnice));
-    const DurovaTonina* zvolena = najdiToninu(s_.tonina.stupnice());
-    if (!radku || radku == zvolena) return;
-    const QString veta =
-        zvolena ? QStringLiteral("Hmat je v %1, pro zápis je zvolena %2.").arg(radku->nazev, zvolena->nazev)
-                : QStringLiteral("Hmat je v %1, tónina pro zápis zvolena není.").arg(radku->nazev);
+    const QString veta = rozdilTonin(okoli_.panel.lblStupnice, s_.tonina.stupnice());
     okoli_.panel.upozorneni = (okoli_.panel.upozorneni + u' ' + veta).trimmed();
 }
 
@@ -57,6 +52,12 @@ void PisenVOkne::ukazNovou() {
     okoli_.panel.listy = QStringList{okoli_.panel.lblLadeni};
     list_.VyberBunkuB();
     s_.navigace.ukazOdKurzoru();
+    s_.kroky.zapomen(okoli_.pisen.plneJmeno);
+}
+
+void PisenVOkne::ukazKopii() {
+    s_.kroky.zapomen(okoli_.pisen.plneJmeno);
+    ukazOtevrenou();
 }
 
 void PisenVOkne::ukazRadekListu() {

@@ -2,6 +2,7 @@
 
 #include "playing/song/Zvuk.h"
 #include "playing/stepping/Navigace.h"
+#include "playing/undo/SeznamyKroku.h"
 #include "theory/Tonina.h"
 
 namespace zvonika {
@@ -18,6 +19,7 @@ public:
         PasPisne& pas;
         Navigace& navigace;
         Zvuk& zvuk;
+        SeznamyKroku& kroky;
         const Tonina& tonina;            ///< the key that is chosen for recording
         std::function<void()> uvolniVse; ///< releases the whole board
     };
@@ -29,6 +31,8 @@ public:
     /// AutomationError.
     void ukazOtevrenou();
     void ukazNovou();
+    /// The same of a copy that has been made of a song: nothing of its steps can be taken back.
+    void ukazKopii();
     /// Another sheet of it is active: the cursor's row on the side of its direction. Throws AutomationError.
     void ukazRadekListu();
 

@@ -4,8 +4,8 @@ namespace zvonika {
 
 ZivotPisne::ZivotPisne(const OkoliPisne& okoli, Drive& drive,
                        const PisenVOkne::Spolupracovnici& spolupracovnici)
-    : okoli_(okoli), drive_(drive), list_(okoli.pisen), vOkne_(okoli, spolupracovnici),
-      zalozeni_(okoli, drive, vOkne_), konec_(okoli, vOkne_) {}
+    : okoli_(okoli), drive_(drive), list_(okoli.pisen), kroky_(spolupracovnici.kroky),
+      vOkne_(okoli, spolupracovnici), zalozeni_(okoli, drive, vOkne_), konec_(okoli, vOkne_) {}
 
 void ZivotPisne::cmdEdit() {
     SpreadsheetApplication& excel = okoli_.pisen.excel();
@@ -42,10 +42,11 @@ void ZivotPisne::oznamJenKeCteni() {
 }
 
 void ZivotPisne::prevezmiPisen() {
-    if (okoli_.pisen.AktivujPisen()) vOkne_.ukazOtevrenou();
+    if (okoli_.pisen.AktivujPisen()) vOkne_.ukazKopii();
 }
 
 void ZivotPisne::prejmenujPisen(const QString& nazev, const QString& plneJmeno) {
+    kroky_.prejmenuj(plneJmeno);
     okoli_.pisen.aktualniPisen = nazev;
     okoli_.pisen.plneJmeno = plneJmeno;
     vOkne_.ukazJmeno();

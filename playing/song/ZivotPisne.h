@@ -39,6 +39,7 @@ private:
     OkoliPisne okoli_;
     const Drive& drive_;
     SongSheet list_;
+    SeznamyKroku& kroky_;
     PisenVOkne vOkne_;
     ZalozeniPisne zalozeni_;
     KonecPisne konec_;

@@ -11,9 +11,10 @@ constexpr std::array prikazyZpet{"cmdPredchozi", "cmdPredTlak", "cmdPredTah", "c
 // The backward commands stand between these two lists.
 constexpr std::array prikazyPredZpet{"cmdTah",      "cmdTlak",    "cmdTahNoty", "cmdTlakNoty", "cmdReadTah",
                                      "cmdReadTlak", "cmdEndEdit", "cmdPrvni",   "cmdDalsi"};
-constexpr std::array prikazyPoZpet{"cmdPosledni", "cmdDalsiTlak",  "cmdDalsiTah",
-                                   "cmdJakDal",   "cmdJakDalZpet", "cmdTimer",
-                                   "Slider1",     "lblTempo",      "mnuKonecPisne"};
+constexpr std::array prikazyPoZpet{"cmdPosledni",   "cmdDalsiTlak",   "cmdDalsiTah",   "cmdJakDal",
+                                   "cmdJakDalZpet", "cmdTimer",       "Slider1",       "lblTempo",
+                                   "mnuKonecPisne", "mnuPrevzitHmat", "mnuVlozitHmat", "mnuSmazatHmat"};
+constexpr std::array krokyPisne{"mnuZpet", "mnuZnovu"};
 constexpr std::array tlacitkaZvuku{"cmdZvuk(0)", "cmdZvuk(1)", "cmdZvuk(2)"};
 constexpr std::array prikazyZahajeni{"cmdEdit", "mnuOtevrit", "mnuNovaPisen", "cmdNovaSkladba"};
 
@@ -43,6 +44,7 @@ void ZakazPrikazyPisne(CommandStates& prikazy) {
     prepni(prikazy, prikazyPredZpet, false);
     ZakazZpet(prikazy);
     prepni(prikazy, prikazyPoZpet, false);
+    prepni(prikazy, krokyPisne, false);
     prepni(prikazy, tlacitkaZvuku, false);
 }
 

@@ -21,6 +21,7 @@ FLOORS = {
     "song": 3,
     "board": 3,
     "playing/stepping": 4,
+    "playing/undo": 4,
     "playing/intervals": 4,
     "playing/recording": 4,
     "playing/song": 4,
@@ -39,8 +40,9 @@ NEIGHBOURS = {
     "spreadsheet/journal": {"spreadsheet"},
     "spreadsheet/embedded": {"spreadsheet", "spreadsheet/journal", "spreadsheet/xls"},
     "spreadsheet/libreoffice": {"spreadsheet"},
-    "playing/recording": {"playing/stepping"},
-    "playing/song": {"playing/stepping"},
+    "playing/undo": {"playing/stepping"},
+    "playing/recording": {"playing/stepping", "playing/undo"},
+    "playing/song": {"playing/stepping", "playing/undo"},
 }
 
 # What is denied although it lies lower.

@@ -91,7 +91,8 @@ protected:
     PasPisne pasPisne{pisen, pas};
     Navigace navigace{okoli, zobrazeni, pasPisne, diskant, uvolniVse};
     Zvuk zvuk{okoli, drive, media};
-    ZivotPisne zivot{okoli, drive, {zobrazeni, pasPisne, navigace, zvuk, tonina, uvolniVse}};
+    SeznamyKroku kroky{pisen, drive};
+    ZivotPisne zivot{okoli, drive, {zobrazeni, pasPisne, navigace, zvuk, kroky, tonina, uvolniVse}};
 };
 
 } // namespace zvonika::testing

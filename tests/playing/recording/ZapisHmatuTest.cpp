@@ -93,8 +93,30 @@ TEST_F(ZapisHmatuTest, AnEmptyGripOnlyEmptiesItsRow) {
     EXPECT_EQ(s(excel->activeAddress()), "$B$2");
     EXPECT_EQ(s(prstoklad.prstoklad()), "l3;5\\");
     EXPECT_EQ(panel.zapsanychHmatu, 0);
-    EXPECT_FALSE(pas.viditelny);
+    EXPECT_EQ(s(panel.upozorneni), "Hmat 2 smazán, nic nebylo označeno. Ctrl+Z ho vrátí. Prstoklad ve "
+                                   "sloupci V není platný.");
     EXPECT_EQ(dialogs.count, 0);
+    zapis.cmdTah();
+    EXPECT_TRUE(panel.upozorneni.startsWith("Není co zapsat, hmat 2 zůstává prázdný.")) << "it was empty";
+}
+
+TEST_F(ZapisHmatuTest, AnEmptiedGripIsSeenAtOnce) {
+    excel->put("A1", "la");
+    excel->put("B1", "c1,");
+    excel->put("I1", "Tlak");
+    excel->put("M1", "C");
+    zobrazeni.cmdReadTlak();
+    panel.barvaKroku = BarvaKroku::Tlak;
+    ASSERT_EQ(diskant.stav(9), StavKnofliku::Tlak);
+    zapis.cmdTah();
+    EXPECT_EQ(diskant.stav(9), StavKnofliku::Volny);
+    EXPECT_EQ(basy.stav(30), StavBasu::Volny);
+    EXPECT_EQ(s(panel.lblTony + panel.lblBasy), "");
+    EXPECT_EQ(s(panel.lblSlabika[2]), "la");
+    EXPECT_TRUE(pas.pozice[0].tony.isEmpty());
+    EXPECT_EQ(panel.barvaKroku, BarvaKroku::Tlak);
+    EXPECT_TRUE(zobrazeni.zobrazenTlak());
+    EXPECT_EQ(s(panel.zapsano), "");
 }
 
 TEST_F(ZapisHmatuTest, TheNextGripIsShownByItsDirection) {

@@ -67,7 +67,8 @@ protected:
     ZobrazeniHmatu zobrazeni{pisen, {diskant, basy, tabulka, zobrazovaci, panel}, [](const QString&) {}};
     PasPisne pasPisne{pisen, pas};
     PoZapisu poZapisu{{pisen, dialogs, panel, prikazy}, zobrazeni, pasPisne};
-    OkoliZapisu okoli{pisen, dialogs, prstoklad, zapisBasu, poZapisu, tonina};
+    SeznamyKroku kroky{pisen, drive};
+    OkoliZapisu okoli{pisen, dialogs, prstoklad, zapisBasu, poZapisu, kroky, tonina};
     ZapisHmatu zapis{okoli, diskant};
     ZapisHmatuZNot zapisZNot{okoli, osnova, noty, diskant};
 };
