@@ -63,6 +63,7 @@ public:
         if (const pid_t office = world_.office(); office > 0) ::kill(office, SIGKILL);
         EXPECT_TRUE(
             QTest::qWaitFor([&] { return raised([&] { application->activeWorkbookName(); }) == 91; }, 30000));
+        application->endStep(); // the program lives on
     }
     void willBeOffered(const QString& words, bool takesBack) override {
         world_.dialogs.expect(jmenoCalcu, words, takesBack ? Answer::Yes : Answer::No);
