@@ -57,8 +57,7 @@ QString ZapisHmatuZNot::vetaONevejitych() const {
         if (!osnova_.slotTonu(CisloTonu(n)))
             tony << nazevTonu(CisloTonu(n), okoli_.tonina.stupnice()).nazev.bezCarky();
     if (tony.isEmpty()) return {};
-    return QStringLiteral(
-               "Osnova má jen pět not, nezapsáno: %1. Všechny označené knoflíky zapíše F7 nebo F8.")
+    return QStringLiteral("Osnova má jen pět not, nezapsáno: %1. Celý hmat zapíše z hmatníku F7 nebo F8.")
         .arg(tony.join(QStringLiteral(", ")));
 }
 

@@ -186,7 +186,8 @@ TEST(Vzhled, oznacenaKlavesaJeCisteCervenaAJejiZnakJeVidetIBezBarvy) {
         for (const QSize velikost : {QSize(93, 15), QSize(58, 12), QSize(116, 24)}) {
             QImage plocha(velikost, QImage::Format_RGB32);
             QPainter painter(&plocha);
-            nakresliKlavesu(painter, plocha.rect(), {.tvar = tvar, .vyznam = VyznamPrvku::Oznaceny});
+            nakresliKlavesu(painter, plocha.rect(),
+                            {.tvar = tvar, .vyznam = VyznamPrvku::Oznaceny, .velikost = {}});
             painter.end();
             int cervenych = 0, bilych = 0;
             for (int bod = 0; bod < velikost.width() * velikost.height(); ++bod) {

@@ -60,7 +60,7 @@ TEST_F(ZapisHmatuZNotTest, TonesForWhichTheStaffHasNoPlaceAreNamed) {
     zapisZNot.cmdTahNoty();
     EXPECT_EQ(s(bunky(2, u'B', u'H')), "f, a, c1, e1, g1, - -");
     EXPECT_EQ(s(panel.upozorneni),
-              "Osnova má jen pět not, nezapsáno: ges, c2. Všechny označené knoflíky zapíše F7 nebo F8.");
+              "Osnova má jen pět not, nezapsáno: ges, c2. Celý hmat zapíše z hmatníku F7 nebo F8.");
 }
 
 TEST_F(ZapisHmatuZNotTest, ANoteThatIsNoToneEndsTheRecordingAtOnce) {
