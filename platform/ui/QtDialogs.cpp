@@ -1,6 +1,7 @@
 #include "platform/ui/QtDialogs.h"
 
 #include "platform/ShownText.h"
+#include "platform/ui/PedalPress.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -13,7 +14,6 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QShortcut>
 #include <QSpacerItem>
 #include <QStyledItemDelegate>
 #include <QTreeView>
@@ -90,14 +90,6 @@ void addButtons(QMessageBox& box, const Message& message) {
     }
     // The last one is what the close box answers: Storno, else Ne, else OK.
     box.setEscapeButton(box.button(buttonText(answers.back()).button));
-}
-
-void addPedal(QMessageBox& box) {
-    for (const Qt::Key key : {Qt::Key_PageDown, Qt::Key_PageUp}) {
-        auto* pedal = new QShortcut(key, &box);
-        pedal->setAutoRepeat(false); // the press that has brought the box may still be held
-        QObject::connect(pedal, &QShortcut::activated, box.defaultButton(), &QPushButton::click);
-    }
 }
 
 // A message box takes its width from its layout, not from a minimum size of its own.
@@ -255,7 +247,8 @@ Answer QtDialogs::message(const Message& message) {
     box.setIcon(iconOf(message.icon));
     addButtons(box, message);
     if (message.text.size() > longText) widen(box);
-    if (message.pedal) addPedal(box);
+    std::optional<PedalPress> pedal;
+    if (message.pedal) pedal.emplace([&box] { box.defaultButton()->click(); });
     return answerOf(box.exec());
 }
 

@@ -21,44 +21,54 @@ QStringList rozdel(const QString& prstoklad) {
 } // namespace
 
 void Prstoklad::pridej(QChar druh, int knoflik, const QString& prst) {
-    const QString ci = druh + QString::number(knoflik) + u';';
-    zmen(bezPrevzateho(ci) + QStringList{ci + prst + konecZaznamu});
-}
-
-QStringList Prstoklad::bezPrevzateho(const QString& knoflik) {
-    QStringList prevzate = zaznamy_.first(prevzato_);
-    prevzate.removeIf([&knoflik](const QString& zaznam) { return zaznam.startsWith(knoflik); });
-    const QStringList zadane = zaznamy_.sliced(prevzato_);
-    prevzato_ = prevzate.size();
-    return prevzate + zadane;
+    predtim_.push_back(stav_);
+    const QString kNemu = druh + QString::number(knoflik) + u';';
+    Stav stav = stav_;
+    QStringList prevzate = stav.zaznamy.first(stav.prevzatych);
+    prevzate.removeIf([&](const QString& zaznam) { return zaznam.startsWith(kNemu); });
+    stav.zaznamy = prevzate + stav.zaznamy.sliced(stav.prevzatych) + QStringList{kNemu + prst + konecZaznamu};
+    stav.prevzatych = prevzate.size();
+    zmen(stav);
 }
 
 void Prstoklad::odeberPosledni() {
-    if (!prazdny()) zmen(zaznamy_.first(zaznamy_.size() - 1));
+    if (prazdny()) return;
+    Stav stav;
+    if (predtim_.empty()) {
+        stav.zaznamy = stav_.zaznamy.first(stav_.zaznamy.size() - 1);
+        stav.prevzatych = std::min(stav_.prevzatych, stav.zaznamy.size());
+    } else {
+        stav = predtim_.back();
+        predtim_.pop_back();
+    }
+    zmen(stav);
 }
 
 QString Prstoklad::odeber() {
     const QString prstoklad = this->prstoklad();
-    zmen({});
+    zacniZnovu({});
     return prstoklad;
 }
 
 void Prstoklad::nastav(const QString& prstoklad) {
     // An answer with a backslash in it is one entry as long as it waits here.
-    if (prstoklad != this->prstoklad()) zmen(rozdel(prstoklad));
-    prevzato_ = 0;
+    if (prstoklad != this->prstoklad()) zacniZnovu({rozdel(prstoklad), 0});
 }
 
 void Prstoklad::prevezmi(const QString& prstoklad) {
-    nastav(prstoklad);
-    prevzato_ = zaznamy_.size();
+    const QStringList zaznamy = rozdel(prstoklad);
+    zacniZnovu({zaznamy, zaznamy.size()});
 }
 
-void Prstoklad::zmen(const QStringList& zaznamy) {
-    prevzato_ = std::min(prevzato_, zaznamy.size());
-    if (zaznamy == zaznamy_) return;
-    zaznamy_ = zaznamy;
-    Q_EMIT zmeneno();
+void Prstoklad::zacniZnovu(const Stav& stav) {
+    predtim_.clear();
+    zmen(stav);
+}
+
+void Prstoklad::zmen(const Stav& stav) {
+    const bool jine = stav.zaznamy != stav_.zaznamy;
+    stav_ = stav;
+    if (jine) Q_EMIT zmeneno();
 }
 
 } // namespace zvonika

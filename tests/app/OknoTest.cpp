@@ -106,10 +106,12 @@ TEST_F(OknoSPisni, AClickOnTheStripGoesToThatGrip) {
         klikni("cmdDalsi"); // the strip has been redrawn from a row further down
     const int prvni = program->modely().pas.prvniRadekPasu;
     ASSERT_GT(prvni, 1);
+    klikni("lbl(40)");
     QWidget* pas = prvek("pas");
     QTest::mouseClick(pas, Qt::LeftButton, {}, prvek("lblSlabika2(3)")->mapTo(pas, QPoint(4, 4)));
     EXPECT_EQ(program->aktualniRadek(), prvni + 2);
     EXPECT_EQ(program->modely().pas.poziceVPasu, 3);
+    EXPECT_FALSE(program->modely().diskant.oznacen(40)) << "as by every step";
 }
 
 TEST_F(OknoSPisni, TheStatusLineFollowsWhatIsDone) {

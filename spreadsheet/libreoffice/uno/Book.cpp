@@ -38,9 +38,9 @@ Book::Book(const Ref<css::frame::XModel>& model, const Ref<css::sheet::XSpreadsh
            CalcObserver& observer, const Ref<css::frame::XDispatchHelper>& dispatcher, Keeper& keeper)
     : observer_(observer), keeper_(keeper), dispatcher_(dispatcher), model_(model),
       identity_(model, css::uno::UNO_QUERY), sheets_(sheets), controller_(model->getCurrentController()),
-      view_(controller_, css::uno::UNO_QUERY_THROW), frame_(controller_->getFrame()),
-      values_(as<css::util::XNumberFormatsSupplier>(model)->getNumberFormats(), keeper), entry_(frame_),
-      steps_(model_), events_(new UserEvents(observer, keeper)) {
+      steps_(model_, keeper), view_(controller_, css::uno::UNO_QUERY_THROW), frame_(controller_->getFrame()),
+      values_(as<css::util::XNumberFormatsSupplier>(model)->getNumberFormats(), keeper, steps_),
+      entry_(frame_), events_(new UserEvents(observer, keeper)) {
     events_->listenTo(model_, controller_);
 }
 

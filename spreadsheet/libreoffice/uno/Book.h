@@ -86,6 +86,7 @@ private:
     std::vector<sal_Int32> visibleSheets() const;
     void commitEntry();
     void commitEntryIn(const CellRange& written);
+    void takeOver(const CellRange& range);
     QString title() const;
 
     int id_ = 0;
@@ -96,12 +97,12 @@ private:
     Ref<css::uno::XInterface> identity_;
     Ref<css::sheet::XSpreadsheets> sheets_;
     Ref<css::frame::XController> controller_;
+    UsersSteps steps_;
     Ref<css::sheet::XSpreadsheetView> view_;
     Ref<css::frame::XFrame> frame_;
     Ref<css::sheet::XSpreadsheet> held_;
     Values values_;
     Entry entry_;
-    UsersSteps steps_;
     std::chrono::steady_clock::time_point noEntry_; ///< when the user was last seen not typing
     rtl::Reference<UserEvents> events_;
 };

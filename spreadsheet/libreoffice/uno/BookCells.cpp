@@ -162,9 +162,14 @@ void Book::commitEntryIn(const CellRange& written) {
     if (std::chrono::steady_clock::now() - noEntry_ > moment && written.contains(cursor())) commitEntry();
 }
 
+/// The cells are the program's from now on.
+void Book::takeOver(const CellRange& range) {
+    commitEntryIn(range);
+    steps_.makeWay(range);
+}
+
 void Book::write(CellPosition first, const CellBlock& block) {
-    commitEntryIn(sized(first, static_cast<int>(block.size()), static_cast<int>(block.first().size())));
-    const UsersSteps::Aside aside(steps_);
+    takeOver(sized(first, static_cast<int>(block.size()), static_cast<int>(block.first().size())));
     values_.write(sheet(), first, block);
 }
 
@@ -179,8 +184,7 @@ bool Book::holdSheet() {
 void Book::writeHeld(const QVector<PlacedBlock>& blocks) {
     const auto target = held_.is() ? held_ : sheet();
     for (const auto& [first, cells] : blocks) {
-        commitEntryIn(sized(first, static_cast<int>(cells.size()), static_cast<int>(cells.first().size())));
-        const UsersSteps::Aside aside(steps_);
+        takeOver(sized(first, static_cast<int>(cells.size()), static_cast<int>(cells.first().size())));
         values_.write(target, first, cells);
     }
 }
@@ -205,7 +209,7 @@ void Book::moveRows(int row, bool down) {
 }
 
 void Book::clear(const CellRange& range) {
-    commitEntryIn(range);
+    takeOver(range);
     const UsersSteps::Aside aside(steps_);
     namespace flags = css::sheet::CellFlags;
     as<css::sheet::XSheetOperation>(cellsOf(sheet(), range, keeper_))

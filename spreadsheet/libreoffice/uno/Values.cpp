@@ -97,21 +97,30 @@ CellValue Values::read(const Ref<css::sheet::XSpreadsheet>& sheet, CellPosition 
 void Values::write(const Ref<css::sheet::XSpreadsheet>& sheet, CellPosition first, const CellBlock& block) {
     const int rows = static_cast<int>(block.size()), columns = static_cast<int>(block.first().size());
     if (const auto* text = std::get_if<QString>(&block.first().first()); text && rows * columns == 1) {
+        const UsersSteps::Aside aside(steps_);
         // Calc takes one text for a cell faster than a block of one.
         as<css::text::XTextRange>(cellAt(sheet, first))->setString(toUno(*text));
         return;
     }
-    const CellRange range{first, {first.row + rows - 1, first.column + columns - 1}};
-    as<css::sheet::XCellRangeData>(cellsOf(sheet, range, keeper_))->setDataArray(dataOf(block));
+    writeData(sheet, {first, {first.row + rows - 1, first.column + columns - 1}}, block);
     for (int row = 0; row < rows; ++row)
         for (int column = 0; column < columns; ++column)
             finish(sheet, {first.row + row, first.column + column}, block[row][column]);
 }
 
+void Values::writeData(const Ref<css::sheet::XSpreadsheet>& sheet, const CellRange& range,
+                       const CellBlock& block) {
+    const auto cells = as<css::sheet::XCellRangeData>(cellsOf(sheet, range, keeper_));
+    const UsersSteps::Aside aside(steps_);
+    cells->setDataArray(dataOf(block));
+}
+
 // The number format decides between numbers and truth values, and a cell may have one from an earlier value.
 void Values::finish(const Ref<css::sheet::XSpreadsheet>& sheet, CellPosition cell, const CellValue& value) {
     if (const auto* error = std::get_if<CellError>(&value)) {
-        cellAt(sheet, cell)->setFormula(toUno(QLatin1Char('=') + errorShown(error->text)));
+        const auto target = cellAt(sheet, cell);
+        const UsersSteps::Aside aside(steps_);
+        target->setFormula(toUno(QLatin1Char('=') + errorShown(error->text)));
         return;
     }
     const auto* number = std::get_if<double>(&value);
@@ -122,7 +131,9 @@ void Values::finish(const Ref<css::sheet::XSpreadsheet>& sheet, CellPosition cel
     const sal_Int16 type = truth ? css::util::NumberFormat::LOGICAL : css::util::NumberFormat::NUMBER;
     const sal_Int32 format =
         as<css::util::XNumberFormatTypes>(formats_)->getStandardFormat(type, css::lang::Locale());
-    as<css::beans::XPropertySet>(target)->setPropertyValue(numberFormat, css::uno::Any(format));
+    const auto properties = as<css::beans::XPropertySet>(target);
+    const UsersSteps::Aside aside(steps_);
+    properties->setPropertyValue(numberFormat, css::uno::Any(format));
 }
 
 } // namespace zvonika

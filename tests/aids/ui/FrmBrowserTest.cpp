@@ -55,15 +55,9 @@ TEST_P(FrmBrowserTest, AnAddressIsTypedOrChosenFromThoseVisited) {
     klavesa(Qt::Key_Down);
     cekejTitulek("Příručka");
     EXPECT_EQ(cboAddress()->currentText(), cesta("Tamík.htm"));
-    // Enter reaches the list as a whole or its line, by who has put the focus there.
-    for (QWidget* kde :
-         {static_cast<QWidget*>(cboAddress()), static_cast<QWidget*>(cboAddress()->lineEdit())})
-        for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter}) {
-            cboAddress()->setEditText("b.htm");
-            QTest::keyClick(kde, enter);
-            cekejTitulek("Druhá");
-            jdi("Tamík.htm", "Příručka");
-        }
+    cboAddress()->setEditText("b.htm");
+    QTest::keyClick(cboAddress(), Qt::Key_Enter); // to the list as a whole
+    cekejTitulek("Druhá");
 }
 
 TEST_P(FrmBrowserTest, APageChangedOnTheDiskIsReadAgain) {

@@ -40,9 +40,6 @@ TEST_F(ZadaniPrstuTest, EntriesGrowInTheOrderOfEnteringAsTyped) {
     dvojklik(14, true);
     dvojklik(1);
     EXPECT_EQ(prstoklad.prstoklad(), QStringLiteral("l12;1\\s14;4\\l1;9;x\\\\"));
-    EXPECT_EQ(dialogs.lastPrompt,
-              QStringLiteral("Zadejte číslo prstu, kterým má být mačkán tento knoflík. 1 = palec "
-                             "až 5 = malíček."));
     dialogs.expectInput(oznaceni, "");
     dvojklik(5);
     EXPECT_EQ(prstoklad.odeber(), QStringLiteral("l12;1\\s14;4\\l1;9;x\\\\"))
@@ -74,15 +71,24 @@ TEST_F(ZadaniPrstuTest, ADoubleClickOnAMarkedButtonChangesNothingElseAndAsksNoth
     EXPECT_TRUE(diskant.oznacen(2));
 }
 
+TEST_F(ZadaniPrstuTest, AFingerTakesThePlaceOfTheOneTakenOverUntilItIsTakenBack) {
+    prstoklad.prevezmi("l12;1\\l9;2\\s12;3\\");
+    prstoklad.pridej(u'l', 12, "5");
+    EXPECT_EQ(prstoklad.prstoklad(), "l9;2\\s12;3\\l12;5\\");
+    prstoklad.odeberPosledni();
+    EXPECT_EQ(prstoklad.prstoklad(), "l12;1\\l9;2\\s12;3\\");
+    prstoklad.odeberPosledni();
+    EXPECT_EQ(prstoklad.prstoklad(), "l12;1\\l9;2\\");
+}
+
 TEST_F(ZadaniPrstuTest, WhatWaitsIsListedWithTheButtonsThatAreNotMarked) {
-    QStringList seznamy;
-    QObject::connect(&prstoklad, &Prstoklad::zmeneno, [&] { seznamy << ceka(); });
+    int zmen = 0;
+    QObject::connect(&prstoklad, &Prstoklad::zmeneno, [&] { ++zmen; });
     oznacTony({12, 14});
     prstoklad.pridej(u'l', 12, "1");
     prstoklad.pridej(u's', 14, "4");
+    EXPECT_EQ(ceka(), "Prstoklad čeká: 12 = 1, pomocný 14 = 4.");
     prstoklad.pridej(u'l', 5, "x\\");
-    EXPECT_EQ(seznamy, (QStringList{"Prstoklad čeká: 12 = 1.", "Prstoklad čeká: 12 = 1, pomocný 14 = 4.",
-                                    "Prstoklad čeká: 12 = 1, pomocný 14 = 4, 5 = x\\. Neoznačeno: 5."}));
     diskant.uvolniDiskant();
     EXPECT_EQ(ceka(), "Prstoklad čeká: 12 = 1, pomocný 14 = 4, 5 = x\\. Neoznačeno: 12, 14, 5.");
     prstoklad.odeberPosledni();
@@ -95,7 +101,7 @@ TEST_F(ZadaniPrstuTest, WhatWaitsIsListedWithTheButtonsThatAreNotMarked) {
     EXPECT_EQ(ceka(), "") << "recorded";
     EXPECT_EQ(excel->text("V1"), "l9;2\\s1;3\\cizi\\l60;1");
     prstoklad.odeberPosledni(); // where none waits
-    EXPECT_EQ(seznamy.size(), 6) << "of each change once";
+    EXPECT_EQ(zmen, 6);
 }
 
 class ZobrazeniPrstokladuTest : public ::testing::Test {

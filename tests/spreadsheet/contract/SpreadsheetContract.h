@@ -19,6 +19,17 @@
 
 namespace zvonika::testing {
 
+/// What a listener hears, for rigs.
+struct RigListener : SpreadsheetListener {
+    void cursorMoved() override {}
+    void cellsEdited() override { ++edited; }
+    void workbookRenamed(const QString& before, const QString& now, const QString& fullName) override {
+        renamed << before << now << fullName;
+    }
+    int edited = 0;
+    QStringList renamed;
+};
+
 /// What the suite needs of a back end beside the port.
 class SpreadsheetRig {
 public:

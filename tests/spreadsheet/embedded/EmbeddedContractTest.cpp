@@ -35,19 +35,12 @@ public:
             .type(parseAddress(cell).value().first, text);
     }
     QStringList userSavesAs(SpreadsheetApplication& application, const QString& nativePath) override {
-        struct : SpreadsheetListener {
-            void cursorMoved() override {}
-            void cellsEdited() override {}
-            void workbookRenamed(const QString& before, const QString& now, const QString& full) override {
-                heard << before << now << full;
-            }
-            QStringList heard;
-        } listener;
+        RigListener listener;
         world_.dialogs.expectFile(QStringLiteral("Uložit"), nativePath);
         application.setListener(&listener);
         commands(application).saveAs();
         application.setListener(nullptr);
-        return listener.heard;
+        return listener.renamed;
     }
     void kill(std::unique_ptr<SpreadsheetApplication> application) override { application.reset(); }
     void willBeOffered(const QString& words, bool takesBack) override {

@@ -63,24 +63,16 @@ public:
         if (const pid_t office = world_.office(); office > 0) ::kill(office, SIGKILL);
         EXPECT_TRUE(
             QTest::qWaitFor([&] { return raised([&] { application->activeWorkbookName(); }) == 91; }, 30000));
+        application->endStep(); // the program lives on
     }
     void willBeOffered(const QString& words, bool takesBack) override {
         world_.dialogs.expect(jmenoCalcu, words, takesBack ? Answer::Yes : Answer::No);
     }
 
 private:
-    struct Listener : SpreadsheetListener {
-        void cursorMoved() override {}
-        void cellsEdited() override { ++edited; }
-        void workbookRenamed(const QString& before, const QString& now, const QString& fullName) override {
-            renamed << before << now << fullName;
-        }
-        QStringList renamed;
-        int edited = 0;
-    };
     CalcWorld world_;
     QTemporaryDir journals_;
-    Listener listener_;
+    RigListener listener_;
 };
 
 std::unique_ptr<SpreadsheetRig> makeCalcRig() {

@@ -139,6 +139,59 @@ TEST_F(CalcUser, ASyllableIsToldOfWhenAStepTakesItOver) {
     EXPECT_TRUE(comes([&] { return heard.edited == 1; }));
 }
 
+// Ctrl+Z comes when the program has written, and once more; then x is typed into Z9, which nothing follows.
+TEST_F(CalcUser, TakingBackInCalcReachesWhatTheUserDidAndNothingElse) {
+    const CellBlock grip{{QString("c,"), QString("e,"), {}, 1.0, true, QString("Tah")}};
+    const struct {
+        const char* name;
+        const char* typedInto;
+        std::function<void()> writes;
+        const char* row; ///< what A5:G5 holds in the end
+    } cases[] = {
+        {"a grip", "A5", [&] { calc->writeBlock("B5", grip); }, "|c,|e,||1|True|Tah"},
+        {"a grip cell by cell", "A5",
+         [&] {
+             calc->selectRange("B5");
+             calc->setActiveCellValue(QString("c,"));
+             calc->setValue("C5", 1.0);
+             calc->setValue("D5", QString("e,"));
+         },
+         "|c,|1|e,|x|x|x"},
+        {"an emptied row", "A5", [&] { calc->clearContents("B5:G5"); }, "||||||"},
+        {"another name for the sheet", "A5", [&] { calc->renameActiveSheet("Tonavox"); }, "|x|x|x|x|x|x"},
+        {"a row more", "A4", [&] { calc->insertRow(2); }, "psa||||||"},
+        {"a row less", "A6", [&] { calc->deleteRow(2); }, "psa||||||"},
+        {"a grip over what was typed", "C5", [&] { calc->writeBlock("B5", grip); }, "|c,|e,||1|True|Tah"},
+    };
+    for (const auto& [name, typedInto, writes, row] : cases) {
+        calc->clearContents("A1:Z9");
+        calc->setValue("B5:G5", QString("x"));
+        const bool rows = QString(name).startsWith("a row");
+        if (rows) {
+            calc->clearContents("B5:G5");
+            for (const char* moving : {"A3", "A7"})
+                calc->setValue(moving, QString("y"));
+        }
+        calc->selectRange(typedInto);
+        ASSERT_TRUE(VirtualScreen::type(pisen, "psa") && press({"Return"}));
+        ASSERT_TRUE(comes([&, cell = QString(typedInto)] { return text(cell) == "psa"; }));
+        writes();
+        calc->finishWriting();
+        calc->selectRange("Z9");
+        ASSERT_TRUE(press({"ctrl+z"}) && press({"ctrl+z"}));
+        calc->selectRange("Z9");
+        ASSERT_TRUE(press({"x", "Return"}));
+        ASSERT_TRUE(comes([&] { return text("Z9") == "x"; }));
+        QStringList held;
+        const auto cells = calc->readBlock("A5:G5").first();
+        for (const CellValue& value : cells)
+            held << cellText(value);
+        EXPECT_EQ(held.join('|'), QString(row)) << name;
+        EXPECT_EQ(text("A4") + text("A6"), QString(rows ? "y" : "")) << name;
+    }
+    EXPECT_EQ(calc->activeSheetName(), "Tonavox");
+}
+
 TEST_F(CalcUser, AWorkbookClosedInCalcIsGoneWhenTheUserHasAnswered) {
     calc->setValue("B1", QString("c"));
     calc->finishWriting();

@@ -142,6 +142,25 @@ TEST_F(SheetEditing, TypingStaysInItsWorkbookAndOnItsSheet) {
     application.quit();
 }
 
+TEST_F(SheetEditing, UndoAndRedoAskTheKeeperOfTheWorkbook) {
+    QString heard;
+    Keeper keeper(heard);
+    keeper.kept = application.activeWorkbookName();
+    application.setStepKeeper(&keeper);
+    EXPECT_FALSE(action("akceZpet").isEnabled());
+    EXPECT_TRUE(action("akceZnovu").text().endsWith(QStringLiteral(": Hmat 2")));
+    click("A1");
+    type("pes");
+    press(Qt::Key_Return);
+    application.stepsChanged();
+    EXPECT_TRUE(action("akceZpet").text().endsWith(QStringLiteral(": Hmat 1")));
+    type("ryba");
+    action("akceZpet").trigger();
+    press(Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(heard, QStringLiteral("hhzv")) << "what was being typed comes first";
+    application.setStepKeeper(nullptr);
+}
+
 TEST_F(SheetEditing, UndoAndRedoSayWhatTheyDo) {
     EXPECT_FALSE(action("akceZpet").isEnabled());
     click("A1");
