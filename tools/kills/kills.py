@@ -158,7 +158,7 @@ def main():
         print(f"{songs} songs, {tally['grips']} grips recorded, {tally['checked']} times looked at, {tally['offered']} boxes")
         print(f"lost {tally['lost']}, doubled {tally['doubled']}, foreign {tally['foreign']}; under way when killed: "
               f"{tally['whole, not told']} came back whole, {tally['in part']} in part")
-    return 1 if tally["lost"] or tally["doubled"] or tally["foreign"] else 0
+    return 1 if tally["lost"] or tally["doubled"] or tally["foreign"] or tally["in part"] else 0
 
 
 sys.exit(main())

@@ -3,13 +3,15 @@
 //     song_run embedded|calc STATE SONG FIRST
 //
 // Boxes are answered Yes. Opens SONG (makes it when it is not there), tells of all its rows, and records grip
-// after grip from row FIRST on, saving now and then. Lines on the standard output:
+// after grip from row FIRST on, each as one step, taking some back and doing them again, and saving now and
+// then. Lines on the standard output:
 //     row <number> <cells>     a row that holds something, cells from A on, ended by "|"
 //     ready                    after the last of them
 //     ack <row> <cells>        this grip is recorded
 //     end <number>             a call has failed with that error
 #include "platform/HomeDrive.h"
 #include "platform/SettingsStore.h"
+#include "playing/undo/ZapisRadku.h"
 #include "song/SongSheet.h"
 #include "spreadsheet/embedded/EmbeddedApplication.h"
 #include "spreadsheet/journal/JournalledSpreadsheet.h"
@@ -27,6 +29,7 @@ namespace {
 
 constexpr int lastGrip = 400;
 constexpr int gripsPerSave = 9;
+constexpr int gripsPerTurn = 3; ///< every third is taken back and done again
 
 void tell(const QString& line) {
     const QByteArray bytes = QString(line).replace(QLatin1Char('\n'), QLatin1Char(' ')).toUtf8() + '\n';
@@ -72,6 +75,7 @@ public:
             app.saveActiveWorkbookAs({song_});
         }
         pisen_.aktualniPisen = app.activeWorkbookName();
+        pisen_.plneJmeno = song_;
         const CellBlock cells = app.readBlock(QStringLiteral("A1:W500"));
         for (int row = 1; row <= cells.size(); ++row)
             if (const QString text = joined(cells.at(row - 1)); !text.isEmpty())
@@ -84,6 +88,7 @@ public:
         for (int row = first; row <= lastGrip; ++row) {
             sheet.vyberRadek(row);
             recordGrip(sheet, row);
+            if (row % gripsPerTurn == 0) turnBackAndAgain();
             QCoreApplication::processEvents(); // as between two commands
             tell(QStringLiteral("ack %1 %2")
                      .arg(row)
@@ -118,8 +123,9 @@ private:
     }
 
     /// No two grips of a song are alike.
-    static void recordGrip(SongSheet& sheet, int row) {
+    void recordGrip(SongSheet& sheet, int row) {
         const int list = sheet.zacniZapis();
+        ZapisRadku step(pisen_, kroky_, list);
         Grip grip;
         grip.tony = QStringList{QStringLiteral("c%1,").arg(row), QStringLiteral("e%1,").arg(row % 7)};
         grip.tonina = QStringLiteral("G dur");
@@ -129,6 +135,18 @@ private:
         grip.smer = row % 2 ? QStringLiteral("Tah") : QStringLiteral("Tlak");
         grip.prstoklad = QStringLiteral("l%1;1\\").arg(row % 49 + 1);
         sheet.zapis(list, grip, {CastHmatu::Smer, CastHmatu::Prstoklad});
+        step.dokonci(popisZapisu(list));
+    }
+
+    void turnBackAndAgain() {
+        SeznamKroku& steps = *kroky_.otevrene();
+        for (const SmerKroku way : {SmerKroku::Zpet, SmerKroku::Znovu}) {
+            QCoreApplication::processEvents();
+            ProvedeniKroku turn(pisen_.excel(), steps.dalsi(way)->krok, way);
+            const JedenKrok whole(pisen_.excel());
+            turn.proved();
+            steps.proveden(way, turn.provedeno());
+        }
     }
 
     static QString joined(const QVector<CellValue>& row) {
@@ -143,6 +161,7 @@ private:
     AlwaysYes dialogs_;
     NoSettings settings_;
     Pisen pisen_;
+    SeznamyKroku kroky_{pisen_, drive_};
 };
 
 int run(const QStringList& words) {
