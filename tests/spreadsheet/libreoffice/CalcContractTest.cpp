@@ -97,6 +97,7 @@ TEST(CalcRecovery, WhatTheUserGaveUpInCalcIsNotOffered) {
         ASSERT_TRUE(VirtualScreen::press("Save Document", {"alt+n"}));
         EXPECT_TRUE(
             QTest::qWaitFor([&] { return raised([&] { app->activateWindow("Kočka.xls"); }) != 0; }, 30000));
+        QCoreApplication::processEvents(); // what Calc has told of it
         rig.kill(std::move(app));
         app = rig.launch();
         app->openWorkbook(song);
