@@ -6,6 +6,7 @@
 #include "conversion/Konverze.h"
 #include "conversion/ui/FrmKonverze.h"
 #include "playing/song/ZivotPisne.h"
+#include "song/RadaPoChybe.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -32,13 +33,22 @@ std::function<void()> zpracovaniZprav() {
 
 void mnuKonverze(QWidget& okno, Modely& modely, ZivotPisne& zivotPisne, const Prostredi& prostredi) {
     // The main window's events wait until the dialog is closed, so the dialog catches its failures itself.
-    ObsluhaUdalosti udalosti(prostredi.dialogs, prostredi.shell);
-    const auto udalost = [&](const std::function<void()>& procedura) { udalosti.proved(procedura); };
+    const auto ukazPricinu = [&modely](const QString& pricina) {
+        modely.panel.vystraha = pricina;
+        modely.panel.oznamZmenu();
+    };
+    ObsluhaUdalosti udalosti(prostredi.dialogs, prostredi.shell, [&](const RuntimeError& chyba) {
+        ukazPricinu(radaPoChybe(modely.pisen, chyba));
+    });
+    const auto udalost = [&](const std::function<void()>& procedura) {
+        if (!modely.panel.vystraha.isEmpty()) ukazPricinu({}); // of the one before
+        udalosti.proved(procedura);
+    };
     StavKonverze stav;
     Konverze konverze(modely.pisen, prostredi.dialogs, prostredi.drive, stav, zpracovaniZprav());
     konverze.Form_Load();
     FrmKonverze(konverze, stav, udalost, &okno).exec();
-    udalost([&] { konverze.Form_Unload(); });
+    udalosti.proved([&] { konverze.Form_Unload(); });
     okno.raise();
     okno.activateWindow(); // not the sheet's, which has come up too
     if (konverze.predanaKopie()) zivotPisne.prevezmiPisen();

@@ -20,10 +20,17 @@ void JournalledSpreadsheet::selectNextSheet() {
     live_->selectNextSheet();
 }
 
+QString JournalledSpreadsheet::activeSheetName() const {
+    if (!isPlaceKnown()) return live_->activeSheetName();
+    if (sheetName_.isEmpty()) sheetName_ = live_->activeSheetName();
+    return sheetName_;
+}
+
 void JournalledSpreadsheet::renameActiveSheet(const QString& name) {
     RecordedWorkbook* workbook = active();
     const int sheet = place_.sheet;
     endStep();
+    sheetName_.clear();
     live_->renameActiveSheet(name);
     if (workbook) workbook->renamed(sheet, name);
 }

@@ -99,8 +99,7 @@ void JournalledSpreadsheet::closeActiveWorkbook() {
 
 // A run says for every cell which workbook it means; asking for the place each time would part its writes.
 void JournalledSpreadsheet::activateWindow(const QString& name) {
-    const bool known = placeKnown_ && live_->acts() == placeActs_;
-    const RecordedWorkbook* here = known ? find(place_.workbook) : nullptr;
+    const RecordedWorkbook* here = isPlaceKnown() ? find(place_.workbook) : nullptr;
     live_->activateWindow(name);
     if (!here || here->image().name != name) forgetPlace();
 }
@@ -108,9 +107,10 @@ void JournalledSpreadsheet::activateWindow(const QString& name) {
 // --- the records ---
 
 LiveSpreadsheet::Place JournalledSpreadsheet::place() {
+    if (isPlaceKnown()) return place_;
     const unsigned acts = live_->acts();
-    if (placeKnown_ && acts == placeActs_) return place_;
     place_ = live_->place();
+    sheetName_.clear();
     placeActs_ = acts;
     placeKnown_ = true;
     return place_;

@@ -45,7 +45,7 @@ public:
     bool activeWorkbookModified() const override { return live_->activeWorkbookModified(); }
     void activateWindow(const QString& name) override;
 
-    QString activeSheetName() const override { return live_->activeSheetName(); }
+    QString activeSheetName() const override;
     void renameActiveSheet(const QString& name) override;
     int activeSheetIndex() const override { return live_->activeSheetIndex(); }
     int sheetCount() const override { return live_->sheetCount(); }
@@ -88,6 +88,7 @@ private:
     void workbookSettled(int workbook) override;
 
     LiveSpreadsheet::Place place();
+    bool isPlaceKnown() const { return placeKnown_ && live_->acts() == placeActs_; }
     void forgetPlace() { placeKnown_ = false; }
     RecordedWorkbook* find(int workbook);
     /// The active workbook's record, begun when there is none; nullptr without a workbook.
@@ -112,7 +113,8 @@ private:
     LiveSpreadsheet::Place place_;
     unsigned placeActs_ = 0;
     bool placeKnown_ = false;
-    QObject later_; ///< with it goes what is still to be told
+    mutable QString sheetName_; ///< of the place that is known; "" until it was asked for
+    QObject later_;             ///< with it goes what is still to be told
     std::vector<std::unique_ptr<RecordedWorkbook>> workbooks_;
 };
 

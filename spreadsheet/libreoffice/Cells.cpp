@@ -45,6 +45,14 @@ bool isKeptAsItIs(const CellValue& value) {
     return text && std::none_of(text->begin(), text->end(), isControl);
 }
 
+/// Those cells of the ones that were read at `piece`.
+CellBlock part(const CellBlock& cells, const CellRange& piece, const CellRange& range) {
+    CellBlock block = cells.mid(range.first.row - piece.first.row, range.rows());
+    for (auto& row : block)
+        row = row.mid(range.first.column - piece.first.column, range.columns());
+    return block;
+}
+
 CellValue plain(const CellValue& value) {
     return isEmpty(value) ? CellValue() : value;
 }
@@ -73,10 +81,14 @@ CellValue Cells::at(CellPosition cell) {
     const unsigned acts = calls_.acts();
     if (const auto seen = seen_.value(cell, acts)) return *seen;
     const CellRange piece = seen_.pieceWith(cell);
-    const auto [found, plain] = calls_.askAside(
+    return readAhead(piece, acts).at(cell.row - piece.first.row).at(cell.column - piece.first.column);
+}
+
+CellBlock Cells::readAhead(const CellRange& piece, unsigned acts) {
+    auto [found, plain] = calls_.askAside(
         [piece](CalcEngine& calc) { return std::pair(calc.read(piece), !calc.hasFormulas()); });
     seen_.learnCells(piece, found, plain, acts);
-    return found.at(cell.row - piece.first.row).at(cell.column - piece.first.column);
+    return found;
 }
 
 /// Takes a row of texts behind the program's back; false when it has to be written at once.
@@ -136,9 +148,16 @@ void Cells::findAndActivate(const FindArguments& arguments) {
     if (!found) refuseNothingFound();
 }
 
+/// A row or two are soon asked for again, and so are those behind them.
 CellBlock Cells::read(const QString& address) {
-    return calls_.askAside(
-        [range = handedOver(cellsAt(address))](CalcEngine& calc) { return calc.read(range); });
+    calls_.requireRunning();
+    const CellRange range = handedOver(cellsAt(address));
+    const unsigned acts = calls_.acts();
+    if (auto seen = seen_.block(range, acts)) return *seen;
+    const CellRange piece = seen_.pieceWith(range.first);
+    if (!piece.contains(range.last))
+        return calls_.askAside([range](CalcEngine& calc) { return calc.read(range); });
+    return part(readAhead(piece, acts), piece, range);
 }
 
 void Cells::write(const QString& address, const CellBlock& block) {

@@ -31,6 +31,7 @@ public:
 
 private:
     CellValue at(CellPosition cell);
+    CellBlock readAhead(const CellRange& piece, unsigned acts);
     bool keep(CellPosition first, const CellBlock& block);
     void writeSame(const CellRange& range, const CellValue& value);
     void clear(const CellRange& range);

@@ -37,6 +37,16 @@ std::optional<CellValue> ReadAhead::value(CellPosition cell, unsigned acts) cons
     return cells_.at(cell.row - piece_.first.row).at(cell.column - piece_.first.column);
 }
 
+std::optional<CellBlock> ReadAhead::block(const CellRange& range, unsigned acts) const {
+    const bool known = piece_.contains(range.first) && piece_.contains(range.last);
+    if (cells_.isEmpty() || !known || !fresh(acts)) return std::nullopt;
+    CellBlock block;
+    for (int row = range.first.row; row <= range.last.row; ++row)
+        block << cells_.at(row - piece_.first.row)
+                     .mid(range.first.column - piece_.first.column, range.columns());
+    return block;
+}
+
 bool ReadAhead::isActive(const QString& workbook, unsigned acts) const {
     return fresh(acts) && !workbook_.isEmpty() && workbook_ == workbook;
 }

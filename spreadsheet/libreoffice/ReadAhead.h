@@ -24,6 +24,7 @@ public:
     /// as at the time of reading.
     std::optional<CellPosition> cursor(unsigned acts) const;
     std::optional<CellValue> value(CellPosition cell, unsigned acts) const;
+    std::optional<CellBlock> block(const CellRange& range, unsigned acts) const; ///< all of it, or nothing
     bool isActive(const QString& workbook, unsigned acts) const; ///< false when that is not known
     std::optional<bool> takesBlocks(unsigned acts) const;        ///< as `CalcEngine::holdSheet` has told
 

@@ -59,6 +59,16 @@ TEST_F(PrevodTest, TheWindowShowsTheCopyAndWhatWasLost) {
     ocekavejStavBezPisne();
 }
 
+TEST_F(PrevodTest, WhyACopyWasRefusedStandsOutUntilTheNextCommand) {
+    pripravPisen();
+    excel->setDefaultFilePath("C:\\Neni");
+    dialogs.expect("Neočekávaná chyba !", "neexistuje");
+    preved("optStupnice(6)");
+    EXPECT_TRUE(napis("lblVarovani").contains("neexistuje")) << napis("lblVarovani").toStdString();
+    klikni("cmdDalsi");
+    EXPECT_EQ(napis("lblVarovani"), "");
+}
+
 TEST_F(PrevodTest, ASongOfNoWindowIsConvertedAndClosed) {
     pripravPisen();
     klikni("cmdEndEdit");
