@@ -150,7 +150,7 @@ protected:
     QString text, list, soubor;
 
 private:
-    const Watch watch_;
+    const Watch watch_{};
 };
 
 INSTANTIATE_TEST_SUITE_P(All, CiziTextyTest, ::testing::ValuesIn(texty), [](const auto& info) {
