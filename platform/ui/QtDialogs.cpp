@@ -204,7 +204,9 @@ private:
 };
 
 void setUp(QFileDialog& dialog, const QString& filter, const QString& folder) {
-    dialog.setOption(QFileDialog::DontUseNativeDialog, ownBox);
+    // Said to the box itself, it has its parts at once.
+    const bool own = ownBox || QCoreApplication::testAttribute(Qt::AA_DontUseNativeDialogs);
+    dialog.setOption(QFileDialog::DontUseNativeDialog, own);
     dialog.setNameFilter(qtFilter(filter));
     dialog.setDirectory(nearestExistingFolder(folder));
     dialog.setViewMode(QFileDialog::Detail);

@@ -68,7 +68,8 @@ QString jmenoListu(QString text) {
 /// On the disk.
 QString jmenoSouboru(QString text) {
     for (int i = 0; i < text.size(); ++i)
-        if (text[i] == u'/' || !forbiddenName(text[i]).isEmpty()) text[i] = u'_';
+        if (text[i] == u'/' || !forbiddenName(text[i]).isEmpty() || (!Watch::counts && text[i].isSurrogate()))
+            text[i] = u'_'; // half a character is no name where names are no bytes
     return text.left(60).toUtf8().left(180) + ".xls";
 }
 
@@ -150,7 +151,7 @@ protected:
     QString text, list, soubor;
 
 private:
-    const Watch watch_;
+    const Watch watch_{};
 };
 
 INSTANTIATE_TEST_SUITE_P(All, CiziTextyTest, ::testing::ValuesIn(texty), [](const auto& info) {

@@ -44,7 +44,7 @@ TEST_F(ObnovaTest, SongsWithUnsavedChangesAreNamedAndOfferedAtTheStart) {
     spadni();
     QFile::remove(pisen("Valčík.xls"));
     QFile::remove(pisen("Polka.xls"));
-    ocekavej("ve složce „" + pracovni() + "“ už není; přejmenovanou");
+    ocekavej("ve složce „" + QDir::toNativeSeparators(pracovni()) + "“ už není; přejmenovanou");
     spust();
 }
 
@@ -56,7 +56,9 @@ TEST_F(ObnovaTest, ChangesThatAreNotSafeAreSaidFirstInTheStatusLine) {
     zapisHmat({"lbl(9)"}, true);
     EXPECT_TRUE(prvek("lblVarovani")->isVisible());
     EXPECT_TRUE(napis("lblVarovani").startsWith("Změny nejsou zajištěny proti výpadku: "));
+#ifndef Q_OS_WIN // shorter names and other letters
     EXPECT_FALSE(prvek("lblStav")->isVisible()) << "no room for both";
+#endif
     klikni("cmdPrvni");
     EXPECT_TRUE(prvek("lblVarovani")->isVisible()) << "for as long as it is so";
     vCeste.remove();

@@ -21,7 +21,7 @@ class NeighboursTest : public ::testing::TestWithParam<Neighbour> {
 protected:
     QString put(const QString& name) const {
         const QString path = folder.filePath(name);
-        EXPECT_TRUE(GetParam().put(QFile::encodeName(path)));
+        EXPECT_TRUE(GetParam().put(path));
         return path;
     }
     QTemporaryDir folder;

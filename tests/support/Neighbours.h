@@ -19,17 +19,22 @@ namespace zvonika::testing {
 /// as if it were a file waits or reads for ever.
 struct Neighbour {
     const char* what;
-    bool (*put)(const QByteArray& path);
+    bool (*make)(const QByteArray& utf8Path);
+    bool put(const QString& path) const;
 };
+
+inline bool Neighbour::put(const QString& path) const {
+    return make(path.toUtf8());
+}
 
 namespace neighbour {
 
 inline bool folder(const QByteArray& path) {
-    return QDir().mkdir(QFile::decodeName(path));
+    return QDir().mkdir(QString::fromUtf8(path));
 }
 inline bool threeGigabytes(const QByteArray& path) {
-    return QFile(QFile::decodeName(path)).open(QIODevice::WriteOnly) &&
-           QFile::resize(QFile::decodeName(path), qint64{3} << 30);
+    return QFile(QString::fromUtf8(path)).open(QIODevice::WriteOnly) &&
+           QFile::resize(QString::fromUtf8(path), qint64{3} << 30);
 }
 
 #ifndef Q_OS_WIN

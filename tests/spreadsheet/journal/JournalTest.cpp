@@ -206,7 +206,7 @@ TEST_F(JournalTest, OnlyTheUsersOwnRegularFilesAreJournals) {
     for (const Neighbour& neighbour : neighbours) {
         SCOPED_TRACE(neighbour.what);
         QFile::remove(file);
-        ASSERT_TRUE(neighbour.put(QFile::encodeName(file)));
+        ASSERT_TRUE(neighbour.put(file));
         EXPECT_FALSE(JournalFile::open(file));
         EXPECT_TRUE(journals.pending(song).empty());
         crash(1, base());

@@ -6,6 +6,7 @@
 
 #include <QAbstractButton>
 #include <QImage>
+#include <QMouseEvent>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -201,7 +202,9 @@ TEST_F(ZapisovaciOsnovaTest, ItsOwnKeysComeBeforeShortcutsOfTheWindow) {
 
 TEST_F(ZapisovaciOsnovaTest, HoveringShowsANoteThatIsNotThere) {
     const QImage predtim = widget.grab().toImage();
-    QTest::mouseMove(&widget, bod(2, 900));
+    const QPoint misto = bod(2, 900); // the pointer itself stays: it is not over every window that is tested
+    QMouseEvent pohyb(QEvent::MouseMove, misto, widget.mapToGlobal(misto), Qt::NoButton, {}, {});
+    QApplication::sendEvent(&widget, &pohyb);
     const QImage nad = widget.grab().toImage();
     EXPECT_NE(nad, predtim);
     const QRect slot0 = widget.mista().slot(0).toAlignedRect();
