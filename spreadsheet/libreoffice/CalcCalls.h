@@ -1,8 +1,8 @@
 #pragma once
 
+#include "platform/waiting/PatientCalls.h"
 #include "spreadsheet/libreoffice/CalcEngine.h"
 #include "spreadsheet/libreoffice/Patience.h"
-#include "platform/waiting/PatientCalls.h"
 #include "spreadsheet/libreoffice/UserNotices.h"
 
 #include <QScopeGuard>
