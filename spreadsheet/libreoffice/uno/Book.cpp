@@ -85,6 +85,10 @@ WorkbookFormat Book::format() const {
     return old ? WorkbookFormat::OldXls : WorkbookFormat::Other;
 }
 
+bool Book::isReadOnly() const {
+    return as<css::frame::XStorable>(model_)->isReadonly();
+}
+
 bool Book::isEncrypted() const {
     return argument("EncryptionData").hasValue() || argument("Password").hasValue();
 }

@@ -39,6 +39,7 @@ public:
     bool is(const Ref<css::uno::XInterface>& document) const { return identity_ == document; }
     OpenWorkbook description() const;
     WorkbookFormat format() const;
+    bool isReadOnly() const; ///< Calc lets nobody write to it
     WorkbookImage image();
     void saveAs(const QString& nativePath);
     void save();

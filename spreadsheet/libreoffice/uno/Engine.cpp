@@ -175,12 +175,14 @@ bool Engine::quit() {
     });
 }
 
-// Calc sets the window of a further workbook off from the last one, under the main window for instance.
+// Calc sets the window of a further workbook off from the last one, under the main window for instance, and
+// that of a first one that may only be read off the screen.
 void Engine::makeActive() {
     dropClosed();
     const Book* before = find(activeId_);
     activeId_ = lastId_;
-    if (Book* now = find(activeId_); visible_ && before && now && before != now) now->standWhere(*before);
+    Book* now = find(activeId_);
+    if (visible_ && now && before != now) now->standWhere(before ? *before : *now);
 }
 
 void Engine::add() {

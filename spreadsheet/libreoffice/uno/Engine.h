@@ -95,6 +95,12 @@ auto Engine::onBook(Calls calls) {
         } catch (const css::lang::DisposedException&) {
             book->markClosed();
             throw;
+        } catch (const css::uno::Exception& failure) {
+            if (!book->isReadOnly()) throw;
+            logFailure(failure);
+            refuse(
+                QStringLiteral("V LibreOffice Calc je sešit otevřený jen pro čtení. Uložte ho v okně Calcu "
+                               "pod jiným jménem (Soubor / Uložit jako) a zkuste to znovu."));
         }
     });
 }
