@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <optional>
 #include <variant>
 #include <vector>
 
@@ -25,6 +26,8 @@ struct RowMoved {
     int row = 1;
     bool inserted = true;
     std::vector<CellTurned> contents; ///< of the row taken out; their `after` is empty
+    /// What stands in its place as long as it is not there, likewise; nothing where that is not known.
+    std::optional<std::vector<CellTurned>> without = {};
     friend bool operator==(const RowMoved&, const RowMoved&) = default;
 };
 

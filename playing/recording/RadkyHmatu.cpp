@@ -97,10 +97,12 @@ RowMoved RadkyHmatu::posun(bool vlozit, const QString& list, int radek) {
     excel.selectSheet(list);
     RowMoved posun{list, radek, vlozit, {}};
     if (vlozit) {
+        posun.without = obsahRadku(excel, list, radek);
         excel.insertRow(radek);
     } else {
         posun.contents = obsahRadku(excel, list, radek);
         excel.deleteRow(radek);
+        posun.without = obsahRadku(excel, list, radek);
     }
     return posun;
 }

@@ -25,12 +25,12 @@ Obraty obraty(std::vector<CellTurned> bunky, SmerKroku smer) {
     return obraty;
 }
 
-/// The whole row as it is to be when it is taken out.
-Obraty obratyRadku(const RowMoved& radek) {
+/// The whole row as it is to be when it is taken out, or another one put in its place.
+Obraty obratyRadku(const RowMoved& radek, const std::vector<CellTurned>& obsah) {
     Obraty obraty;
     for (int sloupec = 1; sloupec <= lastColumn; ++sloupec)
         obraty.ma[{radek.row, sloupec}] = CellValue();
-    for (const CellTurned& bunka : radek.contents)
+    for (const CellTurned& bunka : obsah)
         obraty.ma[{radek.row, bunka.cell.column}] = bunka.before;
     obraty.dostane = obraty.ma;
     return obraty;
@@ -86,8 +86,11 @@ QStringList ProvedeniKroku::zmeneneBunky() {
 
 void ProvedeniKroku::pridejZmenene(Usek& usek, QStringList& zmenene) {
     vyber(usek.list);
-    if (usek.radek && vlozi(*usek.radek)) return;
-    const Obraty cekane = usek.radek ? obratyRadku(*usek.radek) : obraty(usek.bunky, smer_);
+    const bool vklada = usek.radek && vlozi(*usek.radek);
+    if (vklada && !usek.radek->without) return;
+    const Obraty cekane = usek.radek
+                              ? obratyRadku(*usek.radek, vklada ? *usek.radek->without : usek.radek->contents)
+                              : obraty(usek.bunky, smer_);
     usek.ted = cti(cekane.ma);
     for (const auto& [bunka, hodnota] : usek.ted) {
         if (stejne(hodnota, cekane.ma.at(bunka)) || stejne(hodnota, cekane.dostane.at(bunka))) continue;

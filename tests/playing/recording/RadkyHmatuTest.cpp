@@ -144,6 +144,18 @@ TEST_F(RadkyHmatuTest, WhatWasWrittenIntoAnInsertedRowIsAskedAbout) {
     EXPECT_EQ(s(excel->text("A3")), "slabika");
 }
 
+TEST_F(RadkyHmatuTest, ARowThatIsToGoBackAmongOtherOnesIsAskedAbout) {
+    for (const bool vlozit : {true, false}) {
+        vlozit ? radky.mnuVlozitHmat() : radky.mnuSmazatHmat();
+        if (vlozit) vraceni.mnuZpet();
+        excel->put("A3", "cizí");
+        const QString predtim = oba();
+        dialogs.expect(vlozit ? "Znovu" : "Zpět", "Tonavox XII!A3", Answer::No);
+        vlozit ? vraceni.mnuZnovu() : vraceni.mnuZpet();
+        EXPECT_EQ(s(oba()), s(predtim)) << vlozit;
+    }
+}
+
 TEST_F(RadkyHmatuTest, TheSheetsOwnStepsAreOfTheSameList) {
     const QString predtim = oba();
     excel->userTypes("A2", "psáno");
