@@ -69,6 +69,33 @@ TEST_F(OknoSPisni, KeysRecordAGripOnceAndStepByTheBellows) {
     stiskni(Qt::Key_PageDown);
 }
 
+TEST_F(OknoSPisni, StepsAreTakenBackByMenuKeysAndFromTheSheet) {
+    EXPECT_FALSE(povolen("mnuZpet"));
+    novaPisen();
+    klikni("lbl(9)");
+    stiskni(Qt::Key_F7);
+    EXPECT_TRUE(povolen("mnuZpet"));
+    for (const auto& znovu : {QKeySequence("Ctrl+Y"), QKeySequence("Ctrl+Shift+Z")}) {
+        QTest::keySequence(&program->okno(), QKeySequence("Ctrl+Z"));
+        EXPECT_EQ(excel->text("B1"), "");
+        EXPECT_FALSE(povolen("mnuZpet"));
+        EXPECT_TRUE(povolen("mnuZnovu"));
+        QTest::keySequence(&program->okno(), znovu);
+        EXPECT_EQ(excel->text("B1"), "c1,");
+    }
+    const auto zTabulky = [this] { excel->app().commands().undo(); };
+    dialogs.whileUp = zTabulky;
+    dialogs.expect("Neprovedeno.", "chybí informace o směru tahu měchu");
+    excel->selectRange("B2");
+    stiskni(Qt::Key_PageDown);
+    EXPECT_EQ(excel->text("B1"), "c1,") << "not while a procedure waits for its box";
+    dialogs.whileUp = [] {};
+    zTabulky();
+    EXPECT_EQ(excel->text("B1"), "");
+    klikni("cmdEndEdit");
+    EXPECT_FALSE(povolen("mnuZnovu"));
+}
+
 TEST_F(OknoSPisni, KeysOfDisabledCommandsDoNothing) {
     klikni("lbl(9)");
     for (const Qt::Key klavesa : {Qt::Key_F7, Qt::Key_F8, Qt::Key_F9, Qt::Key_PageDown, Qt::Key_PageUp})

@@ -139,9 +139,13 @@ TEST_F(RadkyHmatuTest, AStepOverMoreSheetsThatFailsHalfWayIsTwoHalves) {
 TEST_F(RadkyHmatuTest, WhatWasWrittenIntoAnInsertedRowIsAskedAbout) {
     radky.mnuVlozitHmat();
     excel->put("A3", "slabika");
+    excel->selectSheet(2);
     dialogs.expect("Zpět", "Tonavox XII!A3", Answer::No);
     vraceni.mnuZpet();
-    EXPECT_EQ(s(excel->text("A3")), "slabika");
+    EXPECT_EQ(s(excel->activeSheetName()), "G dur");
+    dialogs.expect("Zpět", "Tonavox XII!A3", Answer::Yes);
+    vraceni.mnuZpet();
+    EXPECT_EQ(s(kdeStoji()), "G dur $B$3") << "a step of all sheets is seen in the one in front";
 }
 
 TEST_F(RadkyHmatuTest, ARowThatIsToGoBackAmongOtherOnesIsAskedAbout) {

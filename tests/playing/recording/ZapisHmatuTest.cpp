@@ -98,6 +98,10 @@ TEST_F(ZapisHmatuTest, AnEmptyGripOnlyEmptiesItsRow) {
     EXPECT_EQ(dialogs.count, 0);
     zapis.cmdTah();
     EXPECT_TRUE(panel.upozorneni.startsWith("Není co zapsat, hmat 2 zůstává prázdný.")) << "it was empty";
+    zvolToninu("Vyberte stupnici");
+    zapis.cmdTah();
+    EXPECT_EQ(s(excel->text("W2")), "");
+    EXPECT_TRUE(panel.upozorneni.startsWith("Není co zapsat")) << "a key is no grip";
 }
 
 TEST_F(ZapisHmatuTest, AnEmptiedGripIsSeenAtOnce) {

@@ -88,6 +88,24 @@ TEST_F(ZivotPisneTest, AnExistingSongIsReplacedOnlyOnYes) {
     EXPECT_EQ(pisen.aktualniPisen, "Polka.xls");
 }
 
+TEST_F(ZivotPisneTest, StepsGoWithTheSongUnderAnotherNameAndNotWithAnotherSongUnderItsName) {
+    const auto krok = [this] {
+        kroky.pridej({{QStringLiteral("Krok"), {CellTurned{QStringLiteral("L"), {1, 1}, {}, {}}}}, true});
+    };
+    otevriPolku(2);
+    krok();
+    zivot.cmdEndEdit();
+    zadejNazev("Polka");
+    dialogs.expect("Tato skladba již existuje!", "nahradit ji novou ?", Answer::Yes);
+    zivot.cmdNovaSkladba();
+    EXPECT_EQ(kroky.popis(SmerKroku::Zpet), "") << "of the song that it has replaced";
+    krok();
+    zivot.prejmenujPisen(pisen.aktualniPisen, slozkaPisni + "Jiná.xls");
+    EXPECT_EQ(kroky.popis(SmerKroku::Zpet), "Krok");
+    zivot.prevezmiPisen();
+    EXPECT_EQ(kroky.popis(SmerKroku::Zpet), "") << "a copy starts anew";
+}
+
 TEST_F(ZivotPisneTest, AFailureAnywhereInANewSongLeavesNoSongAndTheOneItWasToReplace) {
     for (const char* krok : {"addWorkbook", "saveActiveWorkbookAs", "activeWorkbookName", "renameActiveSheet",
                              "activeSheetName", "readBlock"})

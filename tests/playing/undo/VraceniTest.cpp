@@ -79,7 +79,9 @@ TEST_F(VraceniTest, EveryRecordingIsAStepAndTheListIsOneOrderWithTheSheet) {
 TEST_F(VraceniTest, TheWindowShowsTheRowOfTheStep) {
     zapisHmat("B2", {9});
     excel->selectRange("B5");
+    excel->addWorkbook(); // in front of the song
     vraceni.mnuZpet();
+    EXPECT_EQ(excel->activeWorkbookName(), pisen.aktualniPisen);
     EXPECT_EQ(s(excel->activeAddress()), "$B$2");
     EXPECT_EQ(s(panel.upozorneni), "Vráceno: Zápis hmatu 2.");
     EXPECT_EQ(s(panel.lblTon), "2");
@@ -103,6 +105,7 @@ TEST_F(VraceniTest, WhatStandsThereNowIsAskedAbout) {
     vraceni.mnuZpet();
     EXPECT_EQ(s(bunky(1, u'B', u'C')), "c1, moje");
     EXPECT_EQ(s(panel.krokZpet), "Zápis hmatu 1");
+    EXPECT_EQ(dialogs.last.defaultAnswer, Answer::No) << "what would be lost stays by itself";
     dotaz(Answer::Yes, "!C1");
     vraceni.mnuZpet();
     EXPECT_EQ(s(bunky(1, u'B', u'I')), "- - - - - - - -");
@@ -151,11 +154,15 @@ TEST_F(VraceniTest, AFailureHalfWayLeavesTheRestToBeTakenBack) {
     const CellBlock predtim = bunkyListu();
     zapisHmat("B1", {});
     ASSERT_NE(bunkyListu(), predtim);
-    log.fail("putBack", 1004);
-    EXPECT_EQ(testing::raised([this] { vraceni.mnuZpet(); }), 1004);
-    EXPECT_EQ(s(panel.krokZpet), "Smazání hmatu 1");
+    for (const char* operace : {"putBack", "finishWriting"}) {
+        log.fail(operace, 1004);
+        EXPECT_EQ(testing::raised([this] { vraceni.mnuZpet(); }), 1004) << operace;
+        EXPECT_EQ(s(panel.krokZpet), "Smazání hmatu 1");
+    }
+    log.calls.clear();
     vraceni.mnuZpet();
     EXPECT_EQ(bunkyListu(), predtim);
+    EXPECT_FALSE(log.calls.contains("putBack")) << "all cells have their values already";
     // Of a step in more places what was done can be done again.
     hracNapise("A3", "x");
     vraceni.done({QStringLiteral("Dva listy"),
@@ -164,6 +171,19 @@ TEST_F(VraceniTest, AFailureHalfWayLeavesTheRestToBeTakenBack) {
     vraceni.mnuZpet();
     EXPECT_TRUE(panel.upozorneni.contains("už vrátit nejde"));
     EXPECT_EQ(s(panel.krokZpet), "Psaní") << "a step of a sheet that is no more goes";
+}
+
+TEST_F(VraceniTest, ACellThatAStepTurnsTwiceGoesBackToWhatItWasAtFirst) {
+    const QString list = excel->activeSheetName();
+    excel->put("A3", "y");
+    vraceni.done({QStringLiteral("Dvakrát"),
+                  {CellTurned{list, {3, 1}, QStringLiteral("w"), QStringLiteral("x")},
+                   CellTurned{list, {3, 1}, QStringLiteral("x"), QStringLiteral("y")}}});
+    vraceni.mnuZpet();
+    EXPECT_EQ(s(excel->text("A3")), "w");
+    vraceni.mnuZnovu();
+    EXPECT_EQ(s(excel->text("A3")), "y");
+    EXPECT_EQ(dialogs.count, 0);
 }
 
 TEST_F(VraceniTest, ARecordingThatFailsHalfWayIsAStepToo) {
