@@ -47,11 +47,13 @@ ObsluhyPrikazu prikazyPisne(const CastiProgramu& c) {
     };
 }
 
-void mnuVzitPrst(Prstoklad& prstoklad, SongPanel& panel) {
-    if (prstoklad.prazdny()) return;
-    panel.upozorneni = QStringLiteral("Vzato zpět: %1. Tento prst se nezapíše.")
-                           .arg(slovyPrst(prstoklad.zaznamy().constLast()));
-    prstoklad.odeberPosledni();
+void mnuVzitPrst(Modely& modely) {
+    const std::vector<int> hmat = modely.diskant.oznacene();
+    const QStringList prsty = modely.prstoklad.zaznamy(hmat);
+    if (prsty.isEmpty()) return;
+    modely.panel.upozorneni =
+        QStringLiteral("Vzato zpět: %1. Tento prst se nezapíše.").arg(slovyPrst(prsty.constLast()));
+    modely.prstoklad.odeberPosledni(hmat);
 }
 
 ObsluhyPrikazu prikazyZapisu(const CastiProgramu& c) {
@@ -60,7 +62,7 @@ ObsluhyPrikazu prikazyZapisu(const CastiProgramu& c) {
         {"cmdStupnice", [c] { cmdStupnice(c.okno, c.konverzace.pomucky().volbaStupnice, c.modely.tonina); }},
         {"cmdTah", [k] { k.zapisHmatu.cmdTah(); }},
         {"cmdTlak", [k] { k.zapisHmatu.cmdTlak(); }},
-        {"mnuVzitPrst", [c] { mnuVzitPrst(c.modely.prstoklad, c.modely.panel); }},
+        {"mnuVzitPrst", [c] { mnuVzitPrst(c.modely); }},
         {"cmdTahNoty", [k] { k.zapisHmatuZNot.cmdTahNoty(); }},
         {"cmdTlakNoty", [k] { k.zapisHmatuZNot.cmdTlakNoty(); }},
         {"mnuPrevzitHmat", [k] { k.prevzeti.mnuPrevzitHmat(); }},
