@@ -49,15 +49,16 @@ PrevzetiHmatu::PrevzetiHmatu(const OkoliPisne& okoli, const ModelyHmatu& modely,
     : okoli_(okoli), list_(okoli.pisen), modely_(modely), tabulka_(tabulka), tonina_(tonina),
       polohy_(okoli.dialogs) {}
 
-void PrevzetiHmatu::mnuPrevzitHmat() {
+bool PrevzetiHmatu::mnuPrevzitHmat() {
     const int radek = list_.zacniZapis();
     const Grip hmat = list_.grip(radek);
     okoli_.panel.upozorneni = hmat.prazdny()
                                   ? QStringLiteral("Na řádku %1 žádný hmat není, není co převzít.").arg(radek)
-                                  : QStringList{rozdilTonin(hmat.tonina, tonina_.stupnice()),
+                                  : QStringList{ztrataToniny(hmat.tonina, tonina_.stupnice()),
                                                 vetaOPrevzeti(radek, smerMechu(hmat.smer)), prevezmi(hmat)}
                                         .join(u' ')
                                         .simplified();
+    return !hmat.prazdny();
 }
 
 /// What cannot be taken over, in a sentence; "" where all of it can.

@@ -82,8 +82,9 @@ TEST_F(PrevzetiHmatuTest, SaysWhatItCannotTakeAndWhatIsOtherThanChosen) {
         const char *zvolena, *tonina, *tony, *bas, *veta;
     } radky[] = {
         {"C dur", "G dur", "c1, d1, e1, f1, g1, a1, h1,", "C",
-         "Hmat je v G dur, pro zápis je zvolena C dur. Hmat 1 je převzat"},
-        {"Vyberte tóninu", "G dur", "c1,", "C", "Hmat je v G dur, tónina pro zápis zvolena není. Hmat 1"},
+         "Hmat je v G dur, zapíše se v C dur; G dur zvolíte Ctrl+T. Hmat 1 je převzat"},
+        {"Vyberte tóninu", "G dur", "c1,", "C",
+         "Hmat je v G dur, zapíše se bez tóniny; G dur zvolíte Ctrl+T. Hmat 1"},
         {"C dur", "Vyberte tóninu", "c1, prd c9,", "Žádný",
          "zapíše ho F7 na tah, F8 na tlak. Převzít nejde a zápisem zmizí: tón prd c9, bas Žádný, prst 12 = "
          "1."},
