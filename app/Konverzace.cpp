@@ -13,7 +13,8 @@ OkoliPisne okoliPisne(Modely& modely, Dialogs& dialogs) {
 Konverzace::Konverzace(Modely& modely, const Prostredi& prostredi, std::function<void()> otevriVyberStupnice)
     : modely_(modely), dialogs_(prostredi.dialogs), notyZapis_(modely.zapisovaciOsnova, prostredi.dialogs),
       zobrazeniPrstokladu_(modely.diskant, prostredi.dialogs),
-      uvolneni_(modely.diskant, modely.basy, modely.zapisovaciOsnova, modely.zobrazovaciOsnova),
+      uvolneni_(modely.diskant, modely.basy, modely.zapisovaciOsnova, modely.zobrazovaciOsnova,
+                modely.prstoklad),
       zobrazeniHmatu_(
           modely.pisen,
           {modely.diskant, modely.basy, modely.tabulkaBasu, modely.zobrazovaciOsnova, modely.panel},

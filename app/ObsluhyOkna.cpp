@@ -8,6 +8,7 @@
 #include "app/OknoNapovedy.h"
 #include "app/UdalostiOkna.h"
 #include "app/ui/Form1.h"
+#include "board/ui/Hmatnik.h"
 #include "playing/recording/CekajiciPrsty.h"
 #include "playing/stepping/Automat.h"
 
@@ -47,11 +48,30 @@ ObsluhyPrikazu prikazyPisne(const CastiProgramu& c) {
     };
 }
 
-void mnuVzitPrst(Prstoklad& prstoklad, SongPanel& panel) {
-    if (prstoklad.prazdny()) return;
-    panel.upozorneni = QStringLiteral("Vzato zpět: %1. Tento prst se nezapíše.")
-                           .arg(slovyPrst(prstoklad.zaznamy().constLast()));
-    prstoklad.odeberPosledni();
+void mnuVzitPrst(Modely& modely) {
+    const std::vector<int> hmat = modely.diskant.oznacene();
+    const QStringList prsty = modely.prstoklad.zaznamy(hmat);
+    if (prsty.isEmpty()) return;
+    modely.panel.upozorneni =
+        QStringLiteral("Vzato zpět: %1. Tento prst se nezapíše.").arg(slovyPrst(prsty.constLast()));
+    modely.prstoklad.odeberPosledni(hmat);
+}
+
+/// Where the player goes on: Space releases the first button of the grip, arrows lead to its neighbours. Who
+/// is in another window stays there.
+void jdiNaPrevzate(const CastiProgramu& c) {
+    QWidget* prvni = nullptr;
+    const auto zastav = [&](const char* pole, const std::vector<int>& oznacene) {
+        if (oznacene.empty()) return;
+        QWidget* prvek =
+            c.okno.prvek(QStringLiteral("%1(%2)").arg(QLatin1String(pole)).arg(oznacene.front()));
+        nastavZastavkuTab(prvek);
+        if (!prvni) prvni = prvek;
+    };
+    zastav("lbl", c.modely.diskant.oznacene());
+    zastav("cmdKlavesa", c.modely.diskant.oznacene());
+    zastav("ImgBas", c.modely.basy.oznacene());
+    if (prvni && c.okno.isActiveWindow()) prvni->setFocus(Qt::ShortcutFocusReason);
 }
 
 ObsluhyPrikazu prikazyZapisu(const CastiProgramu& c) {
@@ -60,10 +80,13 @@ ObsluhyPrikazu prikazyZapisu(const CastiProgramu& c) {
         {"cmdStupnice", [c] { cmdStupnice(c.okno, c.konverzace.pomucky().volbaStupnice, c.modely.tonina); }},
         {"cmdTah", [k] { k.zapisHmatu.cmdTah(); }},
         {"cmdTlak", [k] { k.zapisHmatu.cmdTlak(); }},
-        {"mnuVzitPrst", [c] { mnuVzitPrst(c.modely.prstoklad, c.modely.panel); }},
+        {"mnuVzitPrst", [c] { mnuVzitPrst(c.modely); }},
         {"cmdTahNoty", [k] { k.zapisHmatuZNot.cmdTahNoty(); }},
         {"cmdTlakNoty", [k] { k.zapisHmatuZNot.cmdTlakNoty(); }},
-        {"mnuPrevzitHmat", [k] { k.prevzeti.mnuPrevzitHmat(); }},
+        {"mnuPrevzitHmat",
+         [c, k] {
+             if (k.prevzeti.mnuPrevzitHmat()) jdiNaPrevzate(c);
+         }},
         {"mnuVlozitHmat", [k] { k.radky.mnuVlozitHmat(); }},
         {"mnuSmazatHmat", [k] { k.radky.mnuSmazatHmat(); }},
     };

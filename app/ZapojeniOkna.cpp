@@ -157,8 +157,8 @@ void ZapojeniOkna::ukazToninu() {
 }
 
 void ZapojeniOkna::ukazPrstoklad() {
-    c_.modely.stavy.povol(QStringLiteral("mnuVzitPrst"), !c_.modely.prstoklad.prazdny());
     const QString veta = cekajiciPrsty(c_.modely.prstoklad, c_.modely.diskant);
+    c_.modely.stavy.povol(QStringLiteral("mnuVzitPrst"), !veta.isEmpty());
     if (std::exchange(c_.modely.panel.prstokladCeka, veta) != veta) c_.modely.panel.oznamZmenu();
 }
 

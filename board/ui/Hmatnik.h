@@ -42,4 +42,8 @@ void vytvorKlaviaturu(QWidget* scena, const TrebleBoard& model, const ObsluhaDis
 /// Instrument body, buttons `ImgBas(n)` and the captions of their six runs.
 void vytvorBasy(QWidget* scena, const BassBoard& model, const ObsluhaBasu& obsluha, const Umisti& umisti);
 
+/// Makes the part the one that the Tab key leads to in its group, as if it had had the focus last. Nothing
+/// for what is no part of the instrument.
+void nastavZastavkuTab(QWidget* prvek);
+
 } // namespace zvonika

@@ -1,5 +1,6 @@
 #include "board/ui/Skupina.h"
 
+#include "board/ui/Hmatnik.h"
 #include "board/ui/StiskaciPrvek.h"
 
 namespace zvonika {
@@ -19,6 +20,10 @@ void popis(StiskaciPrvek* prvek, const char* pole, const QString& druh, const QS
 void pripojKlik(StiskaciPrvek* prvek, const std::function<void(int)>& klik) {
     if (!klik) return;
     QObject::connect(prvek, &QAbstractButton::clicked, prvek, [klik, n = prvek->cislo()] { klik(n); });
+}
+
+void nastavZastavkuTab(QWidget* prvek) {
+    if (auto* stiskaci = qobject_cast<StiskaciPrvek*>(prvek)) stiskaci->nastavZastavku();
 }
 
 } // namespace zvonika

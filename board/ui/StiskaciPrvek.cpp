@@ -114,8 +114,12 @@ void StiskaciPrvek::keyReleaseEvent(QKeyEvent* event) {
     event->ignore();
 }
 
-void StiskaciPrvek::focusInEvent(QFocusEvent* event) {
+void StiskaciPrvek::nastavZastavku() {
     if (ostrov_) ostrov_->vstup(this);
+}
+
+void StiskaciPrvek::focusInEvent(QFocusEvent* event) {
+    nastavZastavku();
     QAbstractButton::focusInEvent(event);
 }
 

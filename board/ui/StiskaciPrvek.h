@@ -23,6 +23,7 @@ public:
     int cislo() const { return cislo_; }
     /// The island must outlive the part's use of the keyboard.
     void vlozDoOstrova(std::shared_ptr<OstrovFokusu> ostrov);
+    void nastavZastavku(); ///< see `OstrovFokusu::vstup`
     QSize sizeHint() const override { return {40, 38}; }
 
 Q_SIGNALS:

@@ -7,14 +7,9 @@ namespace zvonika {
 
 namespace {
 
-/// 0 where the entry names no number.
-int cisloKnofliku(const QString& zaznam) {
-    return zaznam.mid(1, zaznam.indexOf(u';') - 1).toInt();
-}
-
-QString neoznacene(const Prstoklad& prstoklad, const TrebleBoard& diskant) {
+QString neoznacene(const QStringList& zaznamy, const TrebleBoard& diskant) {
     QStringList cisla;
-    for (const QString& zaznam : prstoklad.zaznamy()) {
+    for (const QString& zaznam : zaznamy) {
         const int n = cisloKnofliku(zaznam);
         const bool jeKnoflik = n >= 1 && n <= diskant.nastroj().pocetKnofliku();
         if (jeKnoflik && !diskant.oznacen(n)) cisla << QString::number(n);
@@ -36,12 +31,13 @@ QString slovyPrst(const QString& zaznam) {
 }
 
 QString cekajiciPrsty(const Prstoklad& prstoklad, const TrebleBoard& diskant) {
-    if (prstoklad.prazdny()) return {};
+    const QStringList zaznamy = prstoklad.zaznamy(diskant.oznacene());
+    if (zaznamy.isEmpty()) return {};
     QStringList prsty;
-    for (const QString& zaznam : prstoklad.zaznamy())
+    for (const QString& zaznam : zaznamy)
         prsty << slovyPrst(zaznam);
     return QStringLiteral("Prstoklad čeká: ") + prsty.join(QStringLiteral(", ")) + u'.' +
-           neoznacene(prstoklad, diskant);
+           neoznacene(zaznamy, diskant);
 }
 
 } // namespace zvonika

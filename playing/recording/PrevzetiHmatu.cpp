@@ -1,6 +1,7 @@
 #include "playing/recording/PrevzetiHmatu.h"
 
 #include "board/BassTable.h"
+#include "playing/recording/CekajiciPrsty.h"
 #include "playing/stepping/RozdilTonin.h"
 #include "theory/NazvyTonu.h"
 #include "theory/Tonina.h"
@@ -16,13 +17,15 @@ bool obsahuje(const std::vector<int>& cisla, int cislo) {
     return std::find(cisla.begin(), cisla.end(), cislo) != cisla.end();
 }
 
-QString vetaONeprevzatych(const QStringList& tony, const QStringList& basy) {
+QString vetaONeprevzatych(const QStringList& tony, const QStringList& basy, const QStringList& prsty) {
     QStringList co;
     if (!tony.isEmpty()) co.append(QStringLiteral("tón ") + tony.join(u' '));
     if (!basy.isEmpty()) co.append(QStringLiteral("bas ") + basy.join(u' '));
+    for (const QString& prst : prsty)
+        co.append(QStringLiteral("prst ") + slovyPrst(prst));
     return co.isEmpty()
                ? QString()
-               : QStringLiteral("Označit nejde a zápisem zmizí: %1.").arg(co.join(QStringLiteral(", ")));
+               : QStringLiteral("Převzít nejde a zápisem zmizí: %1.").arg(co.join(QStringLiteral(", ")));
 }
 
 QString vetaOPrevzeti(int radek, SmerMechu smer) {
@@ -46,25 +49,29 @@ PrevzetiHmatu::PrevzetiHmatu(const OkoliPisne& okoli, const ModelyHmatu& modely,
     : okoli_(okoli), list_(okoli.pisen), modely_(modely), tabulka_(tabulka), tonina_(tonina),
       polohy_(okoli.dialogs) {}
 
-void PrevzetiHmatu::mnuPrevzitHmat() {
+bool PrevzetiHmatu::mnuPrevzitHmat() {
     const int radek = list_.zacniZapis();
     const Grip hmat = list_.grip(radek);
     okoli_.panel.upozorneni = hmat.prazdny()
                                   ? QStringLiteral("Na řádku %1 žádný hmat není, není co převzít.").arg(radek)
-                                  : QStringList{rozdilTonin(hmat.tonina, tonina_.stupnice()),
+                                  : QStringList{ztrataToniny(hmat.tonina, tonina_.stupnice()),
                                                 vetaOPrevzeti(radek, smerMechu(hmat.smer)), prevezmi(hmat)}
                                         .join(u' ')
                                         .simplified();
+    return !hmat.prazdny();
 }
 
-/// What cannot be marked, in a sentence; "" where all of it can.
+/// What cannot be taken over, in a sentence; "" where all of it can.
 QString PrevzetiHmatu::prevezmi(const Grip& hmat) {
     QStringList ciziTony;
     QStringList ciziBasy;
     oznacTony(ocislujTony(hmat.tony, ciziTony));
     oznacBasy(ocislujBasy(hmat.basy, ciziBasy));
     modely_.prstoklad.prevezmi(hmat.prstoklad);
-    return vetaONeprevzatych(ciziTony, ciziBasy);
+    QStringList ciziPrsty = modely_.prstoklad.zaznamy();
+    const QStringList prevzate = modely_.prstoklad.zaznamy(modely_.diskant.oznacene());
+    ciziPrsty.removeIf([&](const QString& prst) { return prevzate.contains(prst); });
+    return vetaONeprevzatych(ciziTony, ciziBasy, ciziPrsty);
 }
 
 std::vector<int> PrevzetiHmatu::ocislujTony(const QStringList& tony, QStringList& cizi) {

@@ -18,10 +18,10 @@ public:
     PrevzetiHmatu(const OkoliPisne& okoli, const ModelyHmatu& modely, const BassTable& tabulka,
                   const Tonina& tonina);
 
-    /// Says first in the status line where the row is written in another key than the one chosen, and then
-    /// what of the row could not be marked. A row without a grip leaves the marks as they are. May throw
-    /// AutomationError.
-    void mnuPrevzitHmat();
+    /// Says first in the status line where the row is in another key than the one it will be recorded in, and
+    /// last what of the row cannot be taken over. False on a row without a grip, which leaves the marks as
+    /// they are. May throw AutomationError.
+    bool mnuPrevzitHmat();
 
 private:
     QString prevezmi(const Grip& hmat);

@@ -1,6 +1,7 @@
 #include "playing/recording/Prstoklad.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace zvonika {
 
@@ -31,17 +32,32 @@ void Prstoklad::pridej(QChar druh, int knoflik, const QString& prst) {
     zmen(stav);
 }
 
-void Prstoklad::odeberPosledni() {
-    if (prazdny()) return;
-    Stav stav;
-    if (predtim_.empty()) {
-        stav.zaznamy = stav_.zaznamy.first(stav_.zaznamy.size() - 1);
-        stav.prevzatych = std::min(stav_.prevzatych, stav.zaznamy.size());
-    } else {
+void Prstoklad::odeberPosledni(const std::vector<int>& hmat) {
+    Stav stav = stav_;
+    if (!predtim_.empty()) {
         stav = predtim_.back();
         predtim_.pop_back();
+    } else {
+        qsizetype posledni = stav.zaznamy.size() - 1;
+        while (posledni >= 0 && !zapiseSe(posledni, hmat))
+            --posledni;
+        if (posledni < 0) return;
+        stav.zaznamy.removeAt(posledni);
+        if (posledni < stav.prevzatych) --stav.prevzatych;
     }
     zmen(stav);
+}
+
+QStringList Prstoklad::zaznamy(const std::vector<int>& hmat) const {
+    QStringList zapisovane;
+    for (qsizetype i = 0; i < stav_.zaznamy.size(); ++i)
+        if (zapiseSe(i, hmat)) zapisovane << stav_.zaznamy[i];
+    return zapisovane;
+}
+
+bool Prstoklad::zapiseSe(qsizetype zaznam, const std::vector<int>& hmat) const {
+    return zaznam >= stav_.prevzatych ||
+           std::find(hmat.begin(), hmat.end(), cisloKnofliku(stav_.zaznamy[zaznam])) != hmat.end();
 }
 
 QString Prstoklad::odeber() {
@@ -60,6 +76,14 @@ void Prstoklad::prevezmi(const QString& prstoklad) {
     zacniZnovu({zaznamy, zaznamy.size()});
 }
 
+void Prstoklad::zapomenPrevzate() {
+    const auto zapomen = [](Stav& stav) { stav.zaznamy.remove(0, std::exchange(stav.prevzatych, 0)); };
+    std::for_each(predtim_.begin(), predtim_.end(), zapomen);
+    Stav stav = stav_;
+    zapomen(stav);
+    zmen(stav);
+}
+
 void Prstoklad::zacniZnovu(const Stav& stav) {
     predtim_.clear();
     zmen(stav);
@@ -69,6 +93,10 @@ void Prstoklad::zmen(const Stav& stav) {
     const bool jine = stav.zaznamy != stav_.zaznamy;
     stav_ = stav;
     if (jine) Q_EMIT zmeneno();
+}
+
+int cisloKnofliku(const QString& zaznam) {
+    return zaznam.mid(1, zaznam.indexOf(u';') - 1).toInt();
 }
 
 } // namespace zvonika

@@ -2,6 +2,7 @@
 
 #include "board/BassBoard.h"
 #include "board/TrebleBoard.h"
+#include "playing/recording/Prstoklad.h"
 #include "song/ZobrazovaciOsnova.h"
 #include "theory/NotovaOsnova.h"
 
@@ -58,6 +59,7 @@ void Uvolneni::UvolniDiskant() {
     diskant_.uvolniDiskant();
     diskant_.vyprazdniPopisy();
     zobrazovaci_.vyprazdni();
+    prstoklad_.zapomenPrevzate();
 }
 
 void Uvolneni::UvolniKlavesy() {

@@ -8,6 +8,7 @@ namespace zvonika {
 
 class BassBoard;
 class NotovaOsnova;
+class Prstoklad;
 class TrebleBoard;
 class ZobrazovaciOsnova;
 
@@ -22,19 +23,20 @@ struct PrikazUvolneni {
 };
 const std::vector<PrikazUvolneni>& prikazyUvolneni();
 
-/// Returns parts of the input board to their idle state. Song, fingering and bellows direction are not
-/// touched.
+/// Returns parts of the input board to their idle state. Song, bellows direction and the fingers that were
+/// typed are not touched.
 class Uvolneni {
 public:
-    Uvolneni(TrebleBoard& diskant, BassBoard& basy, NotovaOsnova& osnova, ZobrazovaciOsnova& zobrazovaci)
-        : diskant_(diskant), basy_(basy), osnova_(osnova), zobrazovaci_(zobrazovaci) {}
+    Uvolneni(TrebleBoard& diskant, BassBoard& basy, NotovaOsnova& osnova, ZobrazovaciOsnova& zobrazovaci,
+             Prstoklad& prstoklad)
+        : diskant_(diskant), basy_(basy), osnova_(osnova), zobrazovaci_(zobrazovaci), prstoklad_(prstoklad) {}
 
     /// Runs the command of this button or menu entry; false when it is no release command.
     bool proved(const QString& prikaz);
     void uvolniVse(); ///< cmdUvolKnofl
 
-    void UvolniDiskant();   ///< buttons with their finger digits, and the display staff
-    void UvolniKlavesy();   ///< piano keys and the names beside them
+    void UvolniDiskant(); ///< buttons with their finger digits and fingers taken over, and the display staff
+    void UvolniKlavesy(); ///< piano keys and the names beside them
     void UvolniIntervaly(); ///< the interval that is shown; what it covered on the board is seen again
     void UvolniBasy();
     void UvolniNoty();
@@ -48,6 +50,7 @@ private:
     BassBoard& basy_;
     NotovaOsnova& osnova_;
     ZobrazovaciOsnova& zobrazovaci_;
+    Prstoklad& prstoklad_;
 };
 
 } // namespace zvonika

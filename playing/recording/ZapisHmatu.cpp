@@ -35,7 +35,7 @@ void ZapisHmatu::ZapisHmat() {
     }
 
     hmat.smer = textSmeru(mechTlak_ ? SmerMechu::Tlak : SmerMechu::Tah);
-    hmat.prstoklad = okoli_.prstoklad.prstoklad();
+    hmat.prstoklad = okoli_.prstoklad.prstoklad(diskant_.oznacene());
     list.zapis(radek, hmat, {CastHmatu::Smer, CastHmatu::Prstoklad});
     okoli_.prstoklad.odeber();
     zapis.dokonci(popisZapisu(radek));

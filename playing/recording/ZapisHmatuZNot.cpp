@@ -34,7 +34,7 @@ void ZapisHmatuZNot::ZapisHmatZNot(SmerMechu smer) {
     Grip hmat;
     if (!zapisTony(list, radek, hmat)) return;
 
-    hmat.prstoklad = okoli_.prstoklad.prstoklad();
+    hmat.prstoklad = okoli_.prstoklad.prstoklad(tonyOsnovy());
     list.zapis(radek, hmat, {CastHmatu::Prstoklad});
     okoli_.prstoklad.odeber();
     hmat.smer = textSmeru(smer);
@@ -47,6 +47,13 @@ void ZapisHmatuZNot::ZapisHmatZNot(SmerMechu smer) {
     okoli_.poZapisu.obnovOkno();
     okoli_.poZapisu.oznamZapis(radek, smer, smazan);
     okoli_.poZapisu.upozorni(nezapsane);
+}
+
+std::vector<int> ZapisHmatuZNot::tonyOsnovy() const {
+    std::vector<int> tony;
+    for (const auto& nota : osnova_.noty())
+        if (nota) tony.push_back(nota->ton.hodnota());
+    return tony;
 }
 
 /// What is recorded here are the notes; a sixth marked button has none.

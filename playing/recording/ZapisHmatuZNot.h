@@ -2,6 +2,8 @@
 
 #include "playing/recording/ZapisHmatu.h"
 
+#include <vector>
+
 namespace zvonika {
 
 class NotovaOsnova;
@@ -27,6 +29,7 @@ private:
     /// False after a note that is no tone.
     bool zapisTony(SongSheet& list, int radek, Grip& hmat);
     bool pridejTon(QStringList& tony, int slot);
+    std::vector<int> tonyOsnovy() const;
     QString vetaONevejitych() const;
 
     OkoliZapisu okoli_;

@@ -32,6 +32,11 @@ void PisenVOkne::ukazOtevrenou() {
     NaplnListy();
     s_.navigace.ukazOdKurzoru();
     pripomenToninu();
+    if (!s_.kroky.probud()) pripomen(QStringLiteral("Soubor se od zavření změnil, kroky vrátit nejde."));
+}
+
+void PisenVOkne::pripomen(const QString& veta) {
+    okoli_.panel.upozorneni = (okoli_.panel.upozorneni + u' ' + veta).trimmed();
 }
 
 void PisenVOkne::ukazJmeno() {
@@ -41,8 +46,7 @@ void PisenVOkne::ukazJmeno() {
 
 /// What is recorded next gets the key of the button, not that of the song.
 void PisenVOkne::pripomenToninu() {
-    const QString veta = rozdilTonin(okoli_.panel.lblStupnice, s_.tonina.stupnice());
-    okoli_.panel.upozorneni = (okoli_.panel.upozorneni + u' ' + veta).trimmed();
+    pripomen(rozdilTonin(okoli_.panel.lblStupnice, s_.tonina.stupnice()));
 }
 
 void PisenVOkne::ukazNovou() {
@@ -76,6 +80,7 @@ void PisenVOkne::NaplnListy() {
 }
 
 void PisenVOkne::stavBezPisne() {
+    s_.kroky.uspi();
     okoli_.pisen.aktualniPisen.clear();
     okoli_.pisen.plneJmeno.clear();
     ZakazPrikazyPisne(okoli_.prikazy);

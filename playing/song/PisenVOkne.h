@@ -48,6 +48,7 @@ public:
 
 private:
     void NaplnListy(); ///< fills the list of Combo1 with the names of all sheets, in workbook order
+    void pripomen(const QString& veta);
     void pripomenToninu();
     void vyprazdniTexty();
 

@@ -22,6 +22,7 @@ public:
     static constexpr std::size_t nejvice = 1000;
 
     void pridej(KrokSeznamu krok);
+    bool prazdny() const { return provedene_.empty() && vracene_.empty(); }
     /// The step that comes next that way; nullptr where there is none.
     const KrokSeznamu* dalsi(SmerKroku smer) const;
     QString popis(SmerKroku smer) const; ///< its label; "" where there is none

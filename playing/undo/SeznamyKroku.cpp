@@ -1,10 +1,27 @@
 #include "playing/undo/SeznamyKroku.h"
 
-#include <QDir>
+#include "platform/files/RegularFile.h"
 
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+
+#include <limits>
 #include <utility>
 
 namespace zvonika {
+
+namespace {
+
+/// "" where the file cannot be read.
+QByteArray otisk(const QString& soubor) {
+    QFile file;
+    if (openRegular(file, soubor, Links::Follow, std::numeric_limits<qint64>::max())) return {};
+    QCryptographicHash otisk(QCryptographicHash::Sha1);
+    return otisk.addData(&file) ? otisk.result() : QByteArray();
+}
+
+} // namespace
 
 // One song has many names: "C:\...", the native one, and what leads over other folders.
 QString SeznamyKroku::klic(const QString& plneJmeno) const {
@@ -29,8 +46,23 @@ void SeznamyKroku::pridej(KrokSeznamu krok) {
     if (seznam && !krok.krok.parts.empty()) seznam->pridej(std::move(krok));
 }
 
+void SeznamyKroku::uspi() {
+    const SeznamKroku* seznam = otevrene();
+    if (seznam && !seznam->prazdny()) otisky_.insert(klicOtevrene(), otisk(klicOtevrene()));
+}
+
+bool SeznamyKroku::probud() {
+    const auto predtim = otisky_.find(klicOtevrene());
+    if (predtim == otisky_.end()) return true;
+    const bool stejny = *predtim == otisk(predtim.key());
+    otisky_.erase(predtim);
+    if (!stejny) seznamy_.remove(klicOtevrene());
+    return stejny;
+}
+
 void SeznamyKroku::zapomen(const QString& plneJmeno) {
     seznamy_.remove(klic(plneJmeno));
+    otisky_.remove(klic(plneJmeno));
 }
 
 void SeznamyKroku::prejmenuj(const QString& plneJmeno) {

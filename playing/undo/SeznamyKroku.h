@@ -4,6 +4,7 @@
 #include "playing/undo/SeznamKroku.h"
 #include "song/Pisen.h"
 
+#include <QByteArray>
 #include <QHash>
 
 namespace zvonika {
@@ -22,6 +23,12 @@ public:
     /// The open song has a step more. Nothing where no song is open or the step changes nothing.
     void pridej(KrokSeznamu krok);
 
+    /// The open song is closed: its list goes to sleep beside the file as it is on the disk now.
+    void uspi();
+    /// The song has been opened. False when its file is another than the list went to sleep with: cells could
+    /// be compared, but not where a row that was put in or taken out belongs, so the list is forgotten.
+    bool probud();
+
     /// The file of this full name is another song from now on.
     void zapomen(const QString& plneJmeno);
     /// The open song is about to get another full name, and takes its steps along.
@@ -34,6 +41,7 @@ private:
     const Pisen& pisen_;
     const Drive& drive_;
     QHash<QString, SeznamKroku> seznamy_;
+    QHash<QString, QByteArray> otisky_; ///< of the files of sleeping lists
 };
 
 } // namespace zvonika

@@ -206,6 +206,40 @@ TEST_F(OknoSPisni, EveryControlHasANameAndTheTabKeyReachesTheGroups) {
     }
 }
 
+TEST_F(OknoSPisni, AWrongToneIsPutRightFromTheKeyboardInFourActs) {
+    pisenSHmaty(2);
+    excel->put("M1", "D");
+    QWidget& okno = program->okno();
+    const auto stiskni = [&okno](Qt::Key klavesa) { QTest::keyClick(okno.windowHandle(), klavesa); };
+    const auto zamereny = [] { return QApplication::focusWidget()->objectName().toStdString(); };
+    klikni("cmdDalsi");
+    klikni("cmdPrvni");
+    prvek("cmdTlak")->setFocus();
+    stiskni(Qt::Key_F5);
+    EXPECT_EQ(zamereny(), "lbl(16)");
+    stiskni(Qt::Key_Space);
+    stiskni(Qt::Key_Left);
+    const QString spravny = QApplication::focusWidget()->accessibleName();
+    stiskni(Qt::Key_Space);
+    stiskni(Qt::Key_F7);
+    EXPECT_NE(excel->text("B1"), "g1,");
+    EXPECT_EQ(spravny.section(", ", -1) + ',', excel->text("B1"));
+    EXPECT_EQ(excel->text("I1") + excel->text("M1"), "TahD");
+    klikni("cmdPrvni");
+    stiskni(Qt::Key_F5);
+    stiskni(Qt::Key_Tab);
+    stiskni(Qt::Key_Tab);
+    EXPECT_EQ(zamereny(), "ImgBas(32)") << "the first bass is as near";
+
+    QWidget tabulka;
+    tabulka.show();
+    tabulka.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&tabulka));
+    prvek("cmdTlak")->setFocus();
+    akce("mnuPrevzitHmat")->trigger();
+    EXPECT_EQ(okno.focusWidget(), prvek("cmdTlak")) << "who is in the sheet stays there";
+}
+
 TEST(UdalostiOkna, TheCauseOfAFailureStandsBesideTheBoxAndUntilTheNextCommand) {
     zvonika::testing::ScriptedDialogs dialogs;
     zvonika::testing::ZaznamovyShell shell;

@@ -45,7 +45,8 @@ public:
         case 4:
             return radky_.mnuSmazatHmat();
         case 5:
-            return prevzeti_.mnuPrevzitHmat();
+            prevzeti_.mnuPrevzitHmat();
+            return;
         case 6:
             return vyprazdni();
         case 7:

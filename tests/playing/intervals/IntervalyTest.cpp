@@ -44,7 +44,7 @@ protected:
     int kroky = 2;
     Intervaly intervaly{
         {pisen, dialogs, panel, diskant, zobrazovaci, tonina, kroky, QStringLiteral(ZVONIKA_RESOURCES)}};
-    Uvolneni uvolneni{diskant, basy, osnova, zobrazovaci};
+    Uvolneni uvolneni{diskant, basy, osnova, zobrazovaci, prstoklad};
 };
 
 TEST_F(IntervalyTest, TheResultIsShownEverywhereAndTold) {

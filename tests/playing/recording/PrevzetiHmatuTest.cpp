@@ -61,15 +61,33 @@ TEST_F(PrevzetiHmatuTest, AFingerEnteredForATakenButtonTakesItsPlaceAndOthersSta
     EXPECT_EQ(s(prstoklad.prstoklad()), "s12;4\\l9;5\\l9;3\\");
 }
 
+TEST_F(PrevzetiHmatuTest, AToneThatIsPutRightLosesItsFingerInBothWaysOfRecording) {
+    zvolToninu("C dur");
+    KlikDiskantu klik{diskant, noty, tonina, dialogs, {[] {}, [](const QString&) {}}};
+    const std::function<void()> zapisy[] = {[&] { zapis.cmdTlak(); }, [&] { zapisZNot.cmdTlakNoty(); }};
+    for (const auto& zapis : zapisy) {
+        napis({{"B1", "f1,"}, {"C1", "g1,"}, {"V1", "l14;3\\l16;4\\s16;5\\"}});
+        excel->selectRange("B1");
+        prevzeti.mnuPrevzitHmat();
+        for (const int n : {14, 18, 16, 16}) // the last one by mistake
+            klik.klik(n);
+        zapis();
+        EXPECT_EQ(s(bunky(1, u'B', u'D') + ' ' + bunky(1, u'V', u'V')), "g1, a1, - l16;4\\s16;5\\");
+        EXPECT_TRUE(prstoklad.prazdny());
+    }
+}
+
 TEST_F(PrevzetiHmatuTest, SaysWhatItCannotTakeAndWhatIsOtherThanChosen) {
     const struct {
         const char *zvolena, *tonina, *tony, *bas, *veta;
     } radky[] = {
         {"C dur", "G dur", "c1, d1, e1, f1, g1, a1, h1,", "C",
-         "Hmat je v G dur, pro zápis je zvolena C dur. Hmat 1 je převzat"},
-        {"Vyberte tóninu", "G dur", "c1,", "C", "Hmat je v G dur, tónina pro zápis zvolena není. Hmat 1"},
+         "Hmat je v G dur, zapíše se v C dur; G dur zvolíte Ctrl+T. Hmat 1 je převzat"},
+        {"Vyberte tóninu", "G dur", "c1,", "C",
+         "Hmat je v G dur, zapíše se bez tóniny; G dur zvolíte Ctrl+T. Hmat 1"},
         {"C dur", "Vyberte tóninu", "c1, prd c9,", "Žádný",
-         "zapíše ho F7 na tah, F8 na tlak. Označit nejde a zápisem zmizí: tón prd c9, bas Žádný."},
+         "zapíše ho F7 na tah, F8 na tlak. Převzít nejde a zápisem zmizí: tón prd c9, bas Žádný, prst 12 = "
+         "1."},
     };
     for (const auto& [zvolena, toninaRadku, tony, bas, veta] : radky) {
         excel->put("A1:W1", "");
@@ -78,7 +96,7 @@ TEST_F(PrevzetiHmatuTest, SaysWhatItCannotTakeAndWhatIsOtherThanChosen) {
         int sloupec = sloupce::tony.prvni;
         for (const QString& ton : QString::fromUtf8(tony).split(u' '))
             excel->put(adresa(sloupec++, 1), ton);
-        napis({{"M1", bas}, {"W1", toninaRadku}});
+        napis({{"M1", bas}, {"V1", "l9;2\\l12;1\\"}, {"W1", toninaRadku}});
         prevzeti.mnuPrevzitHmat();
         EXPECT_TRUE(panel.upozorneni.contains(QString::fromUtf8(veta))) << s(panel.upozorneni);
     }

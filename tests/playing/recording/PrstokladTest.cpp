@@ -32,6 +32,7 @@ protected:
 
     KlikDiskantu klik{diskant, noty, tonina, dialogs, {[] {}, [](const QString&) {}}};
     ZadaniPrstu zadani{klik, prstoklad, dialogs};
+    Uvolneni uvolneni{diskant, basy, osnova, zobrazovaci, prstoklad};
 };
 
 TEST_F(ZadaniPrstuTest, EntriesGrowInTheOrderOfEnteringAsTyped) {
@@ -75,10 +76,37 @@ TEST_F(ZadaniPrstuTest, AFingerTakesThePlaceOfTheOneTakenOverUntilItIsTakenBack)
     prstoklad.prevezmi("l12;1\\l9;2\\s12;3\\");
     prstoklad.pridej(u'l', 12, "5");
     EXPECT_EQ(prstoklad.prstoklad(), "l9;2\\s12;3\\l12;5\\");
-    prstoklad.odeberPosledni();
+    prstoklad.odeberPosledni({9, 12});
     EXPECT_EQ(prstoklad.prstoklad(), "l12;1\\l9;2\\s12;3\\");
-    prstoklad.odeberPosledni();
-    EXPECT_EQ(prstoklad.prstoklad(), "l12;1\\l9;2\\");
+    prstoklad.odeberPosledni({9});
+    EXPECT_EQ(prstoklad.prstoklad(), "l12;1\\s12;3\\") << "the last of those that are listed";
+    prstoklad.odeberPosledni({});
+    EXPECT_EQ(prstoklad.prstoklad(), "l12;1\\s12;3\\");
+}
+
+TEST_F(ZadaniPrstuTest, AFingerTakenOverGoesWithItsButtonAndComesBackWithIt) {
+    prstoklad.prevezmi("l12;1\\l9;2\\s12;3\\");
+    prstoklad.pridej(u'l', 14, "4");
+    const struct {
+        std::vector<int> oznacene;
+        const char *ceka, *zapiseSe;
+    } radky[] = {
+        {{9, 12, 14}, "12 = 1, 9 = 2, pomocný 12 = 3, 14 = 4.", "l12;1\\l9;2\\s12;3\\l14;4\\"},
+        {{9, 14}, "9 = 2, 14 = 4.", "l9;2\\l14;4\\"},
+        {{12}, "12 = 1, pomocný 12 = 3, 14 = 4. Neoznačeno: 14.", "l12;1\\s12;3\\l14;4\\"},
+        {{}, "14 = 4. Neoznačeno: 14.", "l14;4\\"},
+    };
+    for (const auto& [oznacene, veta, zapiseSe] : radky) {
+        diskant.uvolniDiskant();
+        oznacTony(oznacene);
+        EXPECT_EQ(ceka(), QStringLiteral("Prstoklad čeká: ") + veta);
+        EXPECT_EQ(prstoklad.prstoklad(diskant.oznacene()), zapiseSe);
+    }
+    uvolneni.uvolniVse(); // as every step does
+    oznacTony({9});
+    EXPECT_EQ(ceka(), "Prstoklad čeká: 14 = 4. Neoznačeno: 14.") << "another grip begins";
+    prstoklad.odeberPosledni({9});
+    EXPECT_TRUE(prstoklad.prazdny());
 }
 
 TEST_F(ZadaniPrstuTest, WhatWaitsIsListedWithTheButtonsThatAreNotMarked) {
@@ -91,7 +119,7 @@ TEST_F(ZadaniPrstuTest, WhatWaitsIsListedWithTheButtonsThatAreNotMarked) {
     prstoklad.pridej(u'l', 5, "x\\");
     diskant.uvolniDiskant();
     EXPECT_EQ(ceka(), "Prstoklad čeká: 12 = 1, pomocný 14 = 4, 5 = x\\. Neoznačeno: 12, 14, 5.");
-    prstoklad.odeberPosledni();
+    prstoklad.odeberPosledni({});
     EXPECT_EQ(ceka(), "Prstoklad čeká: 12 = 1, pomocný 14 = 4. Neoznačeno: 12, 14.");
     prstoklad.nastav("l9;2\\s1;3\\cizi\\l60;1"); // of a stranger's song: nothing is dropped
     EXPECT_EQ(ceka(), "Prstoklad čeká: 9 = 2, pomocný 1 = 3, cizi\\, 60 = 1. Neoznačeno: 9, 1.");
@@ -100,7 +128,7 @@ TEST_F(ZadaniPrstuTest, WhatWaitsIsListedWithTheButtonsThatAreNotMarked) {
     zapis.cmdTah();
     EXPECT_EQ(ceka(), "") << "recorded";
     EXPECT_EQ(excel->text("V1"), "l9;2\\s1;3\\cizi\\l60;1");
-    prstoklad.odeberPosledni(); // where none waits
+    prstoklad.odeberPosledni({}); // where none waits
     EXPECT_EQ(zmen, 6);
 }
 

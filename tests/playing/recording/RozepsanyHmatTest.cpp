@@ -89,7 +89,7 @@ protected:
 
     KlikDiskantu klik{diskant, noty, tonina, dialogs, {[] {}, [](const QString&) {}}};
     ZapisNoty zapisNoty{osnova, klik};
-    Uvolneni uvolneni{diskant, basy, osnova, zobrazovaci};
+    Uvolneni uvolneni{diskant, basy, osnova, zobrazovaci, prstoklad};
     ModelyHmatu modely{diskant, basy, osnova, noty, prstoklad};
 };
 

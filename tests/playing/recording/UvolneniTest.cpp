@@ -42,7 +42,7 @@ protected:
         return stav;
     }
 
-    Uvolneni uvolneni{diskant, basy, osnova, zobrazovaci};
+    Uvolneni uvolneni{diskant, basy, osnova, zobrazovaci, prstoklad};
 };
 
 TEST_F(UvolneniTest, EachCommandResetsItsPartsAndNothingElse) {

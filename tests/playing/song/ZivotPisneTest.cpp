@@ -283,6 +283,23 @@ TEST_F(ZivotPisneTest, EndReportsASaveThatFailedAndForgetsTheSong) {
     }
 }
 
+TEST_F(ZivotPisneTest, TheStepsOfASongAreForgottenWhenItsFileHasBecomeAnother) {
+    for (const bool zmenena : {false, true}) {
+        otevriPolku(3);
+        excel->put("A1", "změna");
+        kroky.pridej({{"Smazání hmatu 2", {CellTurned{"Tonavox XII", {1, 1}, {}, {}}}}, false});
+        zivot.cmdEndEdit();
+        if (zmenena)
+            otevriPolku(2); // another program puts it there
+        else
+            otevri(polka);
+        EXPECT_EQ(kroky.popis(SmerKroku::Zpet), zmenena ? "" : "Smazání hmatu 2");
+        EXPECT_EQ(panel.upozorneni, zmenena ? "Soubor se od zavření změnil, kroky vrátit nejde." : "");
+        zivot.cmdEndEdit();
+        kroky.zapomen(polka);
+    }
+}
+
 TEST_F(ZivotPisneTest, ARefusedSaveOfASongThatWasOnlyReadIsNoError) {
     CellBlock gDur(4, QVector<CellValue>(22));
     gDur[0][8] = QStringLiteral("Tah");
