@@ -24,6 +24,11 @@ Message dotaz(SmerKroku smer, const QString& popis, const QStringList& bunky) {
             Icon::Exclamation, Buttons::YesNo, Answer::No};
 }
 
+/// A label as it stands behind a colon.
+QString vPrubehuVety(const QString& popis) {
+    return popis.left(1).toLower() + popis.mid(1);
+}
+
 QString bezListu(SmerKroku smer, const QString& popis) {
     const QString veta = smer == SmerKroku::Zpet ? QStringLiteral("Krok „%1“ už vrátit nejde")
                                                  : QStringLiteral("Krok „%1“ už znovu provést nejde");
@@ -68,7 +73,7 @@ void Vraceni::proved(SmerKroku smer, SeznamKroku& seznam, const KrokSeznamu& kro
     zapis(smer, seznam, provedeni);
     prejdi(krok, provedeni);
     oznam((smer == SmerKroku::Zpet ? QStringLiteral("Vráceno: %1.") : QStringLiteral("Znovu: %1."))
-              .arg(krok.krok.label));
+              .arg(vPrubehuVety(krok.krok.label)));
 }
 
 void Vraceni::zapis(SmerKroku smer, SeznamKroku& seznam, ProvedeniKroku& provedeni) {

@@ -83,14 +83,14 @@ TEST_F(VraceniTest, TheWindowShowsTheRowOfTheStep) {
     vraceni.mnuZpet();
     EXPECT_EQ(excel->activeWorkbookName(), pisen.aktualniPisen);
     EXPECT_EQ(s(excel->activeAddress()), "$B$2");
-    EXPECT_EQ(s(panel.upozorneni), "Vráceno: Zápis hmatu 2.");
+    EXPECT_EQ(s(panel.upozorneni), "Vráceno: zápis hmatu 2.");
     EXPECT_EQ(s(panel.lblTon), "2");
     EXPECT_EQ(s(panel.lblTony), "");
     EXPECT_EQ(s(panel.krokZpet + u'/' + panel.krokZnovu), "/Zápis hmatu 2");
     EXPECT_TRUE(prikazy.povolen("mnuZnovu"));
     EXPECT_FALSE(prikazy.povolen("mnuZpet"));
     vraceni.mnuZnovu();
-    EXPECT_EQ(s(panel.upozorneni), "Znovu: Zápis hmatu 2.");
+    EXPECT_EQ(s(panel.upozorneni), "Znovu: zápis hmatu 2.");
     EXPECT_EQ(s(panel.lblTony), "c1,");
     EXPECT_EQ(s(excel->activeAddress()), "$B$2");
     hracNapise("A7", "la");
