@@ -18,6 +18,8 @@ public:
     // --- what a test looks at and sets up ---
     EmbeddedApplication& app() { return *app_; }
     const EmbeddedApplication& app() const { return *app_; }
+    int steps = 0;     ///< begun by the program
+    int stepsTold = 0; ///< how often the list of steps was said to be another one
     bool running() const { return app_->session().state() == Session::State::Running; }
     int workbooks() const { return static_cast<int>(app_->session().documents().size()); }
     CellValue cell(const QString& address) const { return app_->value(address); }
@@ -95,10 +97,16 @@ public:
     void putBack(const QString& address, const CellBlock& block) override {
         on("putBack").putBack(address, block);
     }
-    void beginStep() override { app_->beginStep(); }
+    void beginStep() override {
+        ++steps;
+        app_->beginStep();
+    }
     void endStep() override { app_->endStep(); }
     void setStepKeeper(StepKeeper* keeper) override { app_->setStepKeeper(keeper); }
-    void stepsChanged() override { app_->stepsChanged(); }
+    void stepsChanged() override {
+        ++stepsTold;
+        app_->stepsChanged();
+    }
 
     void finishWriting() override { on("finishWriting").finishWriting(); }
     bool userIsTyping() const override { return on("userIsTyping").userIsTyping(); }

@@ -65,8 +65,10 @@ TEST_F(RadkyHmatuTest, WholeRowsGoInAllSheetsAsOneStep) {
     radky.mnuSmazatHmat();
     EXPECT_EQ(s(oba()), "ac1,|bd1,|df1,|||| ad1,|be1,|dg1,||||");
     EXPECT_EQ(s(panel.upozorneni), "Hmat 3 smazán ve 2 listech. Ctrl+Z ho vrátí.");
+    EXPECT_EQ(excel->steps, 1);
     EXPECT_EQ(s(kdeStoji() + u' ' + panel.lblTony), "Tonavox XII $B$3 f1,");
     tamAZpet(predtim);
+    EXPECT_EQ(excel->steps, 1 + 3) << "each is one step of the application";
     EXPECT_EQ(s(kdeStoji()), "Tonavox XII $B$3");
     radky.mnuVlozitHmat();
     EXPECT_EQ(s(oba()), "ac1,|bd1,||ce1,vpravokraj|df1,|| ad1,|be1,||cfis1,|dg1,||");
@@ -86,6 +88,8 @@ TEST_F(RadkyHmatuTest, SheetsWithoutTheSongStayAsTheyAre) {
     EXPECT_EQ(s(panel.upozorneni), "Hmat 3 smazán. Ctrl+Z ho vrátí.");
     tamAZpet(predtim);
     excel->selectSheet(2);
+    radky.mnuSmazatHmat(); // from where the song begins lower down
+    EXPECT_EQ(s(panel.upozorneni), "Hmat 1 smazán ve 2 listech. Ctrl+Z ho vrátí.");
     excel->put("B1:B4", "");
     radky.mnuVlozitHmat();
     EXPECT_EQ(s(panel.upozorneni), "Na tomto listu žádný hmat není, není před co vkládat.");
@@ -109,12 +113,17 @@ TEST_F(RadkyHmatuTest, ARowPutBeforeTheFirstOneCanBeTakenOutOfAllSheets) {
 TEST_F(RadkyHmatuTest, ARefusalInOneSheetLeavesThemAllAsTheyWere) {
     excel->selectSheet(2);
     excel->put("B65536", "konec");
-    excel->selectSheet(1);
     const QString predtim = oba();
-    EXPECT_EQ(testing::raised([this] { radky.mnuVlozitHmat(); }), 1004);
+    for (const char* duvod : {"a full sheet", "told late"}) {
+        EXPECT_EQ(testing::raised([this] { radky.mnuVlozitHmat(); }), 1004) << duvod;
+        EXPECT_EQ(s(oba()), s(predtim)) << duvod;
+        EXPECT_EQ(s(excel->activeSheetName()), "G dur") << duvod;
+        EXPECT_EQ(s(vraceni.undoLabel()), "") << duvod;
+        excel->put("B65536", "");
+        log.fail("finishWriting", 1004);
+    }
+    EXPECT_EQ(testing::raised([this] { radky.mnuSmazatHmat(); }), 1004);
     EXPECT_EQ(s(oba()), s(predtim));
-    EXPECT_EQ(s(excel->activeSheetName()), "Tonavox XII");
-    EXPECT_EQ(s(vraceni.undoLabel()), "");
 }
 
 TEST_F(RadkyHmatuTest, AStepOverMoreSheetsThatFailsHalfWayIsTwoHalves) {

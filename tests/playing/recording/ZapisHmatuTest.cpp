@@ -110,6 +110,8 @@ TEST_F(ZapisHmatuTest, AnEmptiedGripIsSeenAtOnce) {
     excel->put("I1", "Tlak");
     excel->put("M1", "C");
     zobrazeni.cmdReadTlak();
+    pasPisne.obnov(pasPisne.ctiPoZmene());
+    ASSERT_FALSE(pas.pozice[0].tony.isEmpty());
     panel.barvaKroku = BarvaKroku::Tlak;
     ASSERT_EQ(diskant.stav(9), StavKnofliku::Tlak);
     zapis.cmdTah();

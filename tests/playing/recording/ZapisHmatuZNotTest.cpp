@@ -37,6 +37,7 @@ TEST_F(ZapisHmatuZNotTest, AnEmptyStaffStillRecordsItsDirection) {
     excel->put("I2", "Tah");
     zapisZNot.cmdTahNoty();
     EXPECT_EQ(s(bunky(1, u'B', u'I')), "- - - - - - - Tah");
+    EXPECT_EQ(s(panel.zapsano), "Hmat 1 smazán: nic nebylo označeno, zapsán je jen tah. Ctrl+Z ho vrátí.");
     EXPECT_EQ(s(excel->activeAddress()), "$B$2");
     EXPECT_EQ(diskant.stav(9), StavKnofliku::Tah);
     EXPECT_EQ(panel.barvaKroku, BarvaKroku::Tah);
@@ -46,8 +47,10 @@ TEST_F(ZapisHmatuZNotTest, EmptySlotsAreSkippedAndMarksOfTheBoardIgnored) {
     polozTony({1, 9, 13});
     noty.odeberNotu(1);
     oznacTony({40});
+    excel->put("D1", "stary");
     zapisZNot.cmdTahNoty();
     EXPECT_EQ(s(bunky(1, u'B', u'E')), "e, e1, - -");
+    EXPECT_EQ(s(panel.zapsano), "Hmat 1 je zapsán na tah.") << "one tone less";
 }
 
 TEST_F(ZapisHmatuZNotTest, TonesForWhichTheStaffHasNoPlaceAreNamed) {
