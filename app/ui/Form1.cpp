@@ -97,11 +97,13 @@ void Form1::postavStavovyRadek() {
     statusBar()->setSizeGripEnabled(false);
 }
 
-// What a command has to tell may be longer than the window, which must not grow by it.
+// What a command has to tell may be longer than the window, which must not grow by it: it goes into two lines
+// of small letters then.
 ElidovanyPopisek* Form1::radekStavu(const QString& jmeno, int dil) {
     auto* radek = new ElidovanyPopisek(jmeno, this);
     radek->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    radek->setMinimumHeight(radek->fontMetrics().height());
+    radek->nastavDvaRadky();
+    radek->setMinimumHeight(radek->fontMetrics().height() * 7 / 4);
     statusBar()->addWidget(radek, dil);
     return radek;
 }
