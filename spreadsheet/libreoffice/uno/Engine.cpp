@@ -182,7 +182,12 @@ void Engine::makeActive() {
     const Book* before = find(activeId_);
     activeId_ = lastId_;
     Book* now = find(activeId_);
-    if (visible_ && now && before != now) now->standWhere(before ? *before : *now);
+    if (!visible_ || !now || before == now) return;
+    try {
+        now->standWhere(before ? *before : *now);
+    } catch (const css::uno::Exception& failure) { // its place is not worth the workbook
+        logFailure(failure);
+    }
 }
 
 void Engine::add() {
